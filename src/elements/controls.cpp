@@ -1,0 +1,49 @@
+#include "elements/controls.h"
+
+#include "elements/family.h"
+
+namespace veneerer {
+
+bool RowList::select(int row) {
+  if (!hasRow(row)) return false;
+  const Value old = get(Property::ListIndex);
+  store(Property::ListIndex, row);
+  // No Text notice: the text that a selection brings is not a change of the text.
+  store(Property::Text, row < 0 ? QString() : list().at(row));
+  notify(Property::ListIndex, old);
+  return true;
+}
+
+void RowList::setRows(const QStringList& rows) {
+  store(Property::ListIndex, -1);
+  store(Property::Text, QString());
+  set(Property::List, rows);
+}
+
+void RowList::addRow(const QString& row) {
+  set(Property::List, list() + QStringList{row});
+}
+
+bool RowList::accepts(Property property, const Value& value) const {
+  return property != Property::ListIndex || hasRow(std::get<std::int32_t>(value));
+}
+
+void RowList::stored(Property property) {
+  if (property == Property::Text)
+    store(Property::ListIndex, static_cast<std::int32_t>(list().indexOf(text())));
+  if (property == Property::ListIndex && listIndex() >= 0) store(Property::Text, list().at(listIndex()));
+}
+
+bool CheckBox::accepts(Property property, const Value& value) const {
+  if (property != Property::Value) return true;
+  const int number = std::get<std::int32_t>(value);
+  return number >= 0 && number <= 2;
+}
+
+void OptionButton::select() {
+  for (Element* member : family()->members())
+    if (member != this) member->set(Property::Value, 0);
+  set(Property::Value, 1);
+}
+
+}  // namespace veneerer

@@ -1,0 +1,89 @@
+#include "elements/element.h"
+
+#include <algorithm>
+
+#include "elements/family.h"
+#include "elements/kinds.h"
+#include "elements/require.h"
+#include "elements/window.h"
+
+namespace veneerer {
+
+Element::Element(Kind kind, Window& window, Family* family, int index)
+    : kind_(kind), index_(index), window_(window), family_(family) {
+  const auto defaults = propertiesOf(kind);
+  values_.reserve(defaults.size());
+  for (const PropertyDefault& d : defaults) values_.push_back(d.value);
+}
+
+QString Element::key() const {
+  if (!family_) return window_.name();
+  QString key = window_.name() + u'.' + family_->name();
+  if (index_ >= 0) key += u'(' + QString::number(index_) + u')';
+  return key;
+}
+
+int Element::offset(Property property) const {
+  return propertyOffset(kind_, property);
+}
+
+const Value& Element::get(Property property) const {
+  const int at = offset(property);
+  require(at >= 0, "the element has no such property");
+  return values_[static_cast<std::size_t>(at)];
+}
+
+bool Element::set(Property property, Value value) {
+  const int at = offset(property);
+  require(at >= 0, "the element has no such property");
+  Value& stored = values_[static_cast<std::size_t>(at)];
+  require(stored.index() == value.index(), "the value is not of the property's type");
+  if (stored == value || !accepts(property, value)) return false;
+  const Value old = std::exchange(stored, std::move(value));
+  this->stored(property);
+  notify(property, old);
+  return true;
+}
+
+void Element::place(float left, float top, float width, float height) {
+  setLeft(left);
+  setTop(top);
+  setWidth(width);
+  setHeight(height);
+}
+
+void Element::setContainer(Element& container) {
+  if (container_) std::erase(container_->children_, this);
+  container_ = &container;
+  container.children_.push_back(this);
+}
+
+void Element::bringToFront() {
+  if (!container_ || container_->children_.back() == this) return;
+  std::erase(container_->children_, this);
+  container_->children_.push_back(this);
+  notify(Property::StackOrder, Value(0));
+}
+
+void Element::sendToBack() {
+  if (!container_ || container_->children_.front() == this) return;
+  std::erase(container_->children_, this);
+  container_->children_.insert(container_->children_.begin(), this);
+  notify(Property::StackOrder, Value(0));
+}
+
+bool Element::accepts(Property, const Value&) const {
+  return true;
+}
+
+void Element::stored(Property) {}
+
+void Element::store(Property property, Value value) {
+  values_[static_cast<std::size_t>(offset(property))] = std::move(value);
+}
+
+void Element::notify(Property property, const Value& oldValue) {
+  window_.notices().send({*this, property, oldValue});
+}
+
+}  // namespace veneerer

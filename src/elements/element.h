@@ -1,0 +1,115 @@
+// The live element: the unit that a record line, a tool and the canvas work on. Elements are the document:
+// there is nothing between them and the files.
+//
+// An Element holds its properties as a small table of values, laid out by its kind. Subclasses (label.h,
+// button.h, controls.h) give them typed names and the rules of their kind; they hold no data of their own.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "elements/notices.h"
+#include "elements/property.h"
+#include "elements/value.h"
+
+namespace veneerer {
+
+class Family;
+class Window;
+
+enum class Kind : std::uint8_t {
+  Window,
+  Label,
+  Button,
+  PictureBox,
+  ImageBox,
+  AnimatedFrame,
+  AlphaImage,
+  ComboBox,
+  ListBox,
+  FileList,
+  FolderList,
+  TextBox,
+  CheckBox,
+  OptionButton,
+  CommandButton,
+};
+
+class Element {
+public:
+  Element(const Element&) = delete;
+  Element& operator=(const Element&) = delete;
+  virtual ~Element() = default;
+
+  Kind kind() const { return kind_; }
+  Window& window() const { return window_; }
+  /// Null for a window.
+  Family* family() const { return family_; }
+  /// The index within the array, -1 for a single control.
+  int index() const { return index_; }
+  /// The element's name among all windows: "Form1.Label16(3)".
+  QString key() const;
+
+  bool has(Property property) const { return offset(property) >= 0; }
+
+  /// The value of a property that this kind has; any other is an error of the program.
+  const Value& get(Property property) const;
+
+  /// The one gate for change: compares, stores, and gives notice. Returns false when the value is the same as
+  /// before or the element refuses it. The value's type must be the property's own.
+  bool set(Property property, Value value);
+
+  template <class T>
+  const T& as(Property property) const {
+    return std::get<T>(get(property));
+  }
+
+  float left() const { return as<float>(Property::Left); }
+  float top() const { return as<float>(Property::Top); }
+  float width() const { return as<float>(Property::Width); }
+  float height() const { return as<float>(Property::Height); }
+  bool isVisible() const { return as<bool>(Property::Visible); }
+  const QString& toolTipText() const { return as<QString>(Property::ToolTipText); }
+  void setLeft(float twips) { set(Property::Left, twips); }
+  void setTop(float twips) { set(Property::Top, twips); }
+  void setWidth(float twips) { set(Property::Width, twips); }
+  void setHeight(float twips) { set(Property::Height, twips); }
+  void setVisible(bool visible) { set(Property::Visible, visible); }
+  void setToolTipText(const QString& text) { set(Property::ToolTipText, text); }
+  /// Left, Top, Width and Height at once, in twips.
+  void place(float left, float top, float width, float height);
+
+  /// What holds the element: a picture box or the window; null for a window itself.
+  Element* container() const { return container_; }
+  /// Moves the element into another container, on top of what is there.
+  void setContainer(Element& container);
+  /// The elements inside, from the bottom of the stacking order to its top.
+  const std::vector<Element*>& children() const { return children_; }
+  void bringToFront();
+  void sendToBack();
+
+protected:
+  Element(Kind kind, Window& window, Family* family, int index);
+
+  /// A kind's own rule for a value; false refuses it, which leaves the property as it was.
+  virtual bool accepts(Property property, const Value& value) const;
+  /// A kind's own consequence of an accepted value, run before the notice is given.
+  virtual void stored(Property property);
+
+  /// Stores without comparing or giving notice.
+  void store(Property property, Value value);
+  void notify(Property property, const Value& oldValue);
+
+private:
+  int offset(Property property) const;
+
+  Kind kind_;
+  int index_;
+  Window& window_;
+  Family* family_;
+  Element* container_ = nullptr;
+  std::vector<Element*> children_;
+  std::vector<Value> values_;
+};
+
+}  // namespace veneerer

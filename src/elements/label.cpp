@@ -1,0 +1,29 @@
+#include "elements/label.h"
+
+namespace veneerer {
+
+FontChoice Label::font() const {
+  return {fontName(),
+          fontSize(),
+          as<bool>(Property::FontBold),
+          as<bool>(Property::FontItalic),
+          as<bool>(Property::FontUnderline),
+          as<bool>(Property::FontStrikethrough)};
+}
+
+void Label::setFont(const FontChoice& font) {
+  setFontName(font.name);
+  setFontSize(font.size);
+  set(Property::FontBold, font.bold);
+  set(Property::FontItalic, font.italic);
+  set(Property::FontUnderline, font.underline);
+  set(Property::FontStrikethrough, font.strikethrough);
+}
+
+bool Label::accepts(Property property, const Value& value) const {
+  if (property != Property::Alignment) return true;
+  const int alignment = std::get<std::int32_t>(value);
+  return alignment >= 0 && alignment <= 2;
+}
+
+}  // namespace veneerer

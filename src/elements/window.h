@@ -1,0 +1,40 @@
+// A window as an element: it owns families, in the window's own order, and holds elements.
+#pragma once
+
+#include <QHash>
+#include <vector>
+
+#include "elements/element.h"
+
+namespace veneerer {
+
+class Window : public Element {
+public:
+  Window(ChangeNotices& notices, const char* name);
+
+  const QString& name() const { return name_; }
+  ChangeNotices& notices() const { return notices_; }
+
+  /// The families in the order of their declaration, which is the window's own order.
+  const std::vector<Family*>& families() const { return families_; }
+  /// The family of that name, null when there is none.
+  Family* family(const QString& name) const { return byName_.value(name); }
+
+  const QString& caption() const { return as<QString>(Property::Caption); }
+  void setCaption(const QString& text) { set(Property::Caption, text); }
+  std::int32_t backColor() const { return as<std::int32_t>(Property::BackColor); }
+  void setBackColor(std::int32_t colour) { set(Property::BackColor, colour); }
+  const Picture& picture() const { return as<Picture>(Property::Picture); }
+  void setPicture(const Picture& picture) { set(Property::Picture, picture); }
+
+private:
+  friend class Family;
+  void add(Family& family);
+
+  QString name_;
+  ChangeNotices& notices_;
+  std::vector<Family*> families_;
+  QHash<QString, Family*> byName_;
+};
+
+}  // namespace veneerer

@@ -1,0 +1,43 @@
+// The whole state of the designer: every window with its elements, the image names, the globals. This is the
+// loaded Skin; the record files only hold it between runs.
+#pragma once
+
+#include "elements/notices.h"
+#include "elements/picture.h"
+#include "forms/form1.h"
+#include "forms/form2.h"
+#include "forms/form3.h"
+#include "forms/form4.h"
+#include "forms/form5.h"
+#include "forms/form6.h"
+#include "forms/globals.h"
+#include "forms/imagenames.h"
+#include "forms/splash.h"
+
+namespace veneerer {
+
+struct State {
+  State() = default;
+  State(const State&) = delete;
+  State& operator=(const State&) = delete;
+
+  ChangeNotices notices;
+  PictureStore pictures;
+  Form1 form1{notices};
+  Form2 form2{notices};
+  Form3 form3{notices};
+  Form4 form4{notices};
+  Form5 form5{notices};
+  Form6 form6{notices};
+  Splash frmSplash{notices};
+  ImageNames names{form1};
+  Globals globals;
+
+  std::vector<Window*> windows() { return {&form1, &form2, &form3, &form4, &form5, &form6, &frmSplash}; }
+
+  /// The element of that key ("Form1.Label16(3)", "Form4.Combo10", "Form1"), null when there is none. A
+  /// single control also answers to index 0.
+  Element* find(const QString& key);
+};
+
+}  // namespace veneerer

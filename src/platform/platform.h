@@ -1,0 +1,76 @@
+// The world outside the core: dialogs, the screen, the settings store and the program's own folder. The
+// windows give the real ones, the batch tool and the tests scripted ones.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <optional>
+
+#include "elements/label.h"
+
+namespace veneerer {
+
+/// Message boxes and the common dialogs.
+class Dialogs {
+public:
+  virtual ~Dialogs() = default;
+
+  /// A box that only informs.
+  virtual void inform(const QString& title, const QString& text) = 0;
+  /// A box with OK and Cancel; true for OK.
+  virtual bool ask(const QString& title, const QString& text) = 0;
+  /// A file dialog. The filter reads "Image Files|*.bmp;*.jpg". The full name of the chosen file, empty on
+  /// cancel.
+  virtual QString chooseFile(const QString& filter) = 0;
+  /// A colour dialog that opens on that plain colour (0x00BBGGRR); nothing on cancel. The table of custom
+  /// colours lasts as long as the program runs.
+  virtual std::optional<std::int32_t> chooseColour(std::int32_t initial) = 0;
+  /// A font dialog with effects; nothing on cancel.
+  virtual std::optional<FontChoice> chooseFont(const FontChoice& initial) = 0;
+};
+
+/// The screen that the program stands on.
+struct Screen {
+  int width = 1024;  ///< pixels
+  int height = 768;  ///< pixels
+  double dpiX = 96;  ///< dots per logical inch, across
+  double dpiY = 96;  ///< dots per logical inch, down
+
+  double twipsPerPixelX() const { return 1440 / dpiX; }
+  double twipsPerPixelY() const { return 1440 / dpiY; }
+};
+
+/// The user's settings, which the program reads and never writes.
+class Settings {
+public:
+  virtual ~Settings() = default;
+  /// The setting of that key, or the default when there is none.
+  virtual QString value(const QString& section, const QString& key, const QString& defaultValue) const = 0;
+};
+
+/// Told of progress by whatever takes long, so that a window can show it and stay alive.
+class Progress {
+public:
+  virtual ~Progress() = default;
+  /// Step done of total (0 of total at the start), with what is being worked on.
+  virtual void step(int done, int total, const QString& what) = 0;
+};
+
+/// Where the program stands.
+struct ProgramFolder {
+  QString path;  ///< holds "Skins" and "images"
+};
+
+/// Everything of the world that the core needs, given when a designer is made. It must outlive the designer.
+struct Platform {
+  Dialogs& dialogs;
+  Settings& settings;
+  Screen screen;
+  ProgramFolder folder;
+};
+
+/// Pixels in twips by the screen's dots per logical inch, rounded to the nearest whole number, halves to
+/// even. Direction 0 is across, any other down. Nothing when the result is beyond 32 bits.
+std::optional<std::int32_t> PixelsToTwips(const Screen& screen, double pixels, int direction);
+
+}  // namespace veneerer
