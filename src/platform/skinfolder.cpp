@@ -1,0 +1,93 @@
+#include "platform/skinfolder.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace veneerer {
+
+namespace {
+
+QStringList splitReference(QString reference) {
+  reference.replace(u'\\', u'/');
+  return reference.split(u'/', Qt::SkipEmptyParts);
+}
+
+}  // namespace
+
+SkinsRoot::SkinsRoot(const ProgramFolder& program) {
+  const QString first = program.path + QStringLiteral("/Skins");
+  const QString second = program.path + QStringLiteral("/skins");
+  path_ = !QFileInfo(first).isDir() && QFileInfo(second).isDir() ? second : first;
+}
+
+QStringList SkinsRoot::skins() const {
+  return QDir(path_).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+}
+
+SkinFolder::SkinFolder(const ProgramFolder& program, const QString& skinName)
+    : path_(SkinsRoot(program).path() + u'/' + skinName) {}
+
+bool SkinFolder::exists() const {
+  return QFileInfo(path_).isDir();
+}
+
+QString SkinFolder::file(const QString& name) const {
+  return path_ + u'/' + name;
+}
+
+QString SkinFolder::resolve(const QString& reference) const {
+  if (reference.isEmpty() || reference.contains(QChar::Null)) return {};
+  const QStringList parts = splitReference(reference);
+  if (parts.isEmpty()) return {};
+  const QString exact = path_ + u'/' + parts.join(u'/');
+  if (QFileInfo(exact).isFile()) return exact;
+  // A name that the grab leaves behind is a full path.
+  if (reference.startsWith(path_) && QFileInfo(reference).isFile()) return reference;
+  return findIgnoringCase(parts);
+}
+
+QString SkinFolder::findIgnoringCase(const QStringList& parts) const {
+  QString found = path_;
+  for (const QString& part : parts) {
+    const QString exact = found + u'/' + part;
+    if (part == u".." || part == u"." || QFileInfo::exists(exact)) {
+      found = exact;
+      continue;
+    }
+    const QStringList& names = listing(found);
+    const auto same = std::find_if(names.begin(), names.end(), [&](const QString& name) {
+      return name.compare(part, Qt::CaseInsensitive) == 0;
+    });
+    if (same == names.end()) return {};
+    found += u'/' + *same;
+  }
+  return QFileInfo(found).isFile() ? found : QString();
+}
+
+const QStringList& SkinFolder::listing(const QString& folder) const {
+  const auto known = listings_.constFind(folder);
+  if (known != listings_.constEnd()) return *known;
+  return *listings_.insert(folder,
+                           QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+}
+
+bool SkinFolder::contains(const QString& path) const {
+  const QString root = QFileInfo(path_).canonicalFilePath();
+  const QFileInfo info(path);
+  // A file that isn't there yet lies where its folder lies.
+  const QString real = info.exists() || info.isSymLink()
+                           ? info.canonicalFilePath()
+                           : QFileInfo(info.path()).canonicalFilePath() + u'/' + info.fileName();
+  return !root.isEmpty() && real.startsWith(root + u'/');
+}
+
+QStringList SkinFolder::coverFiles() const {
+  return QDir(path_).entryList({QStringLiteral("*.cov")}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+}
+
+QString bareFileName(const QString& path) {
+  const auto slash = std::max(path.lastIndexOf(u'/'), path.lastIndexOf(u'\\'));
+  return path.mid(slash + 1);
+}
+
+}  // namespace veneerer
