@@ -39,7 +39,7 @@ QString SkinFolder::resolve(const QString& reference) const {
   if (reference.isEmpty() || reference.contains(QChar::Null)) return {};
   const QStringList parts = splitReference(reference);
   if (parts.isEmpty()) return {};
-  const QString exact = path_ + u'/' + parts.join(u'/');
+  QString exact = path_ + u'/' + parts.join(u'/');
   if (QFileInfo(exact).isFile()) return exact;
   // A name that the grab leaves behind is a full path.
   if (reference.startsWith(path_) && QFileInfo(reference).isFile()) return reference;

@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Static analysis of the sources under src by the checks of .clang-tidy, every finding an error. Arguments are
+# regular expressions that choose files: tools/lint.sh src/records
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+source tools/setup.sh
+
+need_packages "${BUILD_PACKAGES[@]}" clang-tidy
+# Built first, because sources include files that the build generates.
+build release
+(($#)) || set -- "$PWD/src/"
+findings=$(mktemp)
+trap 'rm -f "$findings"' EXIT
+if ! run-clang-tidy -quiet -p build/release -j "$(nproc)" "$@" >"$findings" 2>&1; then
+  grep -E -A 4 '(error|warning): ' "$findings" || cat "$findings"
+  exit 1
+fi
