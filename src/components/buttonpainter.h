@@ -1,0 +1,34 @@
+// Paints lvButtons_H from its properties.
+#pragma once
+
+#include <QPainter>
+
+#include "components/pixels.h"
+#include "components/scaledimages.h"
+#include "components/textlayouts.h"
+#include "elements/button.h"
+
+namespace veneerer {
+
+/// What the pointer and the keyboard are doing to a button.
+struct ButtonState {
+  bool hover = false;
+  bool pressed = false;
+  bool focused = false;
+};
+
+class ButtonPainter {
+public:
+  /// The caches must outlive the painter.
+  ButtonPainter(TextLayouts& texts, ScaledImages& images) : texts_(texts), images_(images) {}
+
+  /// Paints the button over a rectangle; what lies outside the clip isn't touched. Both in pixels.
+  void paint(QPainter& painter, const Button& button, const QRectF& rect, const QRectF& clip,
+             const PixelScale& scale, const ButtonState& state);
+
+private:
+  TextLayouts& texts_;
+  ScaledImages& images_;
+};
+
+}  // namespace veneerer

@@ -1,0 +1,40 @@
+// Pictures in the size in which they are shown, made once.
+#pragma once
+
+#include <QCache>
+#include <QImage>
+#include <QPainter>
+
+namespace veneerer {
+
+/// The largest image that is kept ready made, in device pixels: a screen of 4096 by 2160.
+inline constexpr qint64 kLargestKeptImage = 4096LL * 2160;
+
+/// True for a size in device pixels that is worth an image of its own.
+bool isKeepable(QSize devicePixels);
+
+class ScaledImages {
+public:
+  ScaledImages();
+
+  /// The image smoothly scaled to exactly that size in device pixels, which must be keepable.
+  QImage scaled(const QImage& image, QSize devicePixels);
+
+private:
+  struct Key {
+    qint64 image;
+    int width;
+    int height;
+    bool operator==(const Key&) const = default;
+  };
+  friend size_t qHash(const Key& key, size_t seed) {
+    return qHashMulti(seed, key.image, key.width, key.height);
+  }
+  QCache<Key, QImage> made_;
+};
+
+/// Draws the image over the target, both in pixels of the painter, but only the part within the clip:
+/// however large the target is, the work is that of what can be seen.
+void drawWithin(QPainter& painter, const QRectF& target, const QImage& image, const QRectF& clip);
+
+}  // namespace veneerer
