@@ -6,12 +6,11 @@
 #include <memory>
 #include <vector>
 
+#include "canvas/mousebutton.h"
 #include "forms/state.h"
 #include "platform/platform.h"
 
 namespace veneerer {
-
-enum class MouseButton { None, Left, Right };
 
 class Designer {
 public:

@@ -1,0 +1,38 @@
+#include "canvas/buttonpicture.h"
+
+#include "platform/skinfolder.h"
+
+namespace veneerer {
+
+namespace {
+
+constexpr int kStretchedPicture = 3;
+
+void give(State& state, Element& element, const Picture& picture, const QString& reference) {
+  element.set(Property::Picture, picture);
+  if (StoredValue* name = state.names.of(element)) *name = reference;
+}
+
+}  // namespace
+
+bool takesChosenPicture(State& state, const Element& element) {
+  return (&element.window() == &state.form1 && element.kind() == Kind::Button) ||
+         element.family() == &state.form1.Picture17;
+}
+
+void choosePicture(State& state, Dialogs& dialogs, Element& element) {
+  const QString path = dialogs.chooseFile(QStringLiteral("Image Files|*.bmp;*.jpg;*.gif"));
+  if (path.isEmpty()) {
+    give(state, element, Picture(), QString());
+    return;
+  }
+  const Picture picture = state.pictures.load(path);
+  if (picture.image().isNull()) {
+    dialogs.inform(QStringLiteral("Image"), QStringLiteral("The image can't be read: ") + path);
+    return;
+  }
+  give(state, element, picture, u'\\' + bareFileName(path));
+  if (element.has(Property::PictureSize)) element.set(Property::PictureSize, kStretchedPicture);
+}
+
+}  // namespace veneerer

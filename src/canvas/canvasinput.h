@@ -1,0 +1,30 @@
+// The mouse on the canvas: the one way in for what an operator does there.
+#pragma once
+
+#include "canvas/dragging.h"
+#include "canvas/selection.h"
+#include "platform/platform.h"
+
+namespace veneerer {
+
+class CanvasInput {
+public:
+  CanvasInput(State& state, Dialogs& dialogs)
+      : state_(state), dialogs_(dialogs), selection_(state), dragging_(state) {}
+
+  /// The click event of an element of the canvas or a sample of Form6.
+  void click(Element& element) { selection_.click(element); }
+  /// The press event; x and y in twips in the element's own coordinates. The right button gives a button its
+  /// picture.
+  void press(Element& element, float x, float y, MouseButton button);
+  /// The move event; the button is the one held down.
+  void move(Element& element, float x, float y, MouseButton held) { dragging_.move(element, x, y, held); }
+
+private:
+  State& state_;
+  Dialogs& dialogs_;
+  Selection selection_;
+  Dragging dragging_;
+};
+
+}  // namespace veneerer

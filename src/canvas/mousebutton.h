@@ -1,0 +1,7 @@
+#pragma once
+
+namespace veneerer {
+
+enum class MouseButton { None, Left, Right };
+
+}  // namespace veneerer

@@ -1,0 +1,58 @@
+// The screens of the jukebox, one of which the canvas shows at a time.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "forms/state.h"
+
+namespace veneerer {
+
+/// The entries of the Edit Section list. The first 30 are the members of Picture1, the others are
+/// Picture12(0) and Picture23.
+inline constexpr std::array<std::u16string_view, 32> kScreenEntries = {
+    u"Main Screen",
+    u"History Screen",
+    u"Top20 Screen",
+    u"Search Screen",
+    u"Queue Screen",
+    u"Options Screen",
+    u"Decades Screen",
+    u"Playlist Screen",
+    u"Now Playing Screen",
+    u"Album View",
+    u"Track Listing Screen",
+    u"Search Results Screen",
+    u"Jump to letter",
+    u"Genre Selection Screen",
+    u"Search Choice Screen",
+    u"Play Options Screen",
+    u"Pin Entry Screen",
+    u"Decades Year Selection",
+    u"Decades CHART Selection",
+    u"Decades Month Selection",
+    u"Load Playlist Screen",
+    u"Save Playlist Screen",
+    u"No Search Results Found",
+    u"Request Track Screen",
+    u"My V-Quill Login Screen",
+    u"My V-Quill Home Screen",
+    u"Licence Agreement Screen",
+    u"Collections Screen",
+    u"Confimation Screen",
+    u"Free Credit Screen",
+    u"Genre Selection Bar",
+    u"Pop Up Menu",
+};
+
+/// The panel of an entry, 0 to 31.
+Element& screenOf(State& state, int entry);
+
+/// Hides every screen but the two that the Skin's properties keep shown.
+void hideAllScreens(State& state);
+
+/// Shows the screen of an entry alone and, where it is a member of Picture1, in front. No row (-1) shows
+/// nothing new. The current Section stays.
+void showScreen(State& state, int entry);
+
+}  // namespace veneerer

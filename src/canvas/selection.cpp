@@ -1,0 +1,77 @@
+#include "canvas/selection.h"
+
+#include <algorithm>
+
+#include "canvas/placeholders.h"
+#include "canvas/sections.h"
+#include "elements/numbers.h"
+
+namespace veneerer {
+
+namespace {
+
+constexpr int kGeneralButtons = 8;
+
+/// Labels whose font size the click doesn't show.
+constexpr int kWithoutFontSize[] = {11, 136, 153, 170, 171};
+
+/// Picture1, Picture30, Label53 and lvButtons_H56 show their place as well.
+constexpr int kWithPlace[] = {101, 173, 138, 137};
+
+bool contains(std::span<const int> sections, int number) {
+  return std::ranges::find(sections, number) != sections.end();
+}
+
+}  // namespace
+
+void Selection::click(Element& element) {
+  if (!element.family()) return;
+  const Section* section = findSection(sectionOf(state_, *element.family()));
+  if (!section) return;
+  state_.globals.SectionNumber = section->number;
+  if (element.family()->isArray()) state_.globals.ElementIndex = element.index();
+  if (section->clearsIndex) state_.globals.ElementIndex = 0;
+  putClickPlaceholder(state_, element);
+  fillFields(element);
+}
+
+void Selection::fillFields(Element& element) {
+  const int section = state_.globals.SectionNumber;
+  if (&element.window() == &state_.form6) {
+    // The font samples show nothing of themselves.
+    if (section == kGeneralButtons) fillSample(static_cast<Button&>(element));
+    return;
+  }
+  if (element.kind() == Kind::Button) fillButton(static_cast<Button&>(element));
+  fillSize(element);
+  if (element.kind() == Kind::Label && !contains(kWithoutFontSize, section))
+    fillLabel(static_cast<const Label&>(element));
+  if (contains(kWithPlace, section)) fillPlace(element);
+}
+
+void Selection::fillSample(Button& sample) {
+  state_.form6.Combo1->select(sample.buttonShape());
+  state_.form6.Combo2->select(sample.buttonStyle());
+  state_.form6.Combo4->select(sample.gradientMode());
+}
+
+void Selection::fillButton(Button& button) {
+  state_.form6.Text1->setText(button.caption());
+  fillSample(button);
+}
+
+void Selection::fillLabel(const Label& label) {
+  state_.form6.Text4->setText(singleText(label.fontSize()));
+}
+
+void Selection::fillSize(const Element& element) {
+  state_.form6.Text3[0].setText(singleText(element.height()));
+  state_.form6.Text3[1].setText(singleText(element.width()));
+}
+
+void Selection::fillPlace(const Element& element) {
+  state_.form6.Text9[0].setText(singleText(element.top()));
+  state_.form6.Text9[1].setText(singleText(element.left()));
+}
+
+}  // namespace veneerer

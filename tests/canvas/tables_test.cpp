@@ -1,0 +1,114 @@
+// The canvas' tables, checked as wholes: against the windows and against each other.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "canvas/draglimits.h"
+#include "canvas/screens.h"
+#include "canvas/sections.h"
+
+namespace veneerer {
+
+TEST(SectionTable, HasOneRowPerFamilyInTheOrderOfNumbers) {
+  State state;
+  std::set<const Family*> families;
+  int last = 0;
+  for (const Section& section : sections()) {
+    EXPECT_LT(last, section.number);
+    last = section.number;
+    const Family& family = section.family(state);
+    EXPECT_TRUE(families.insert(&family).second) << section.number;
+    EXPECT_EQ(sectionOf(state, family), section.number);
+    EXPECT_EQ(familyOfSection(state, section.number), &family);
+  }
+  // 154 families of the canvas and the three samples of Form6.
+  EXPECT_EQ(sections().size(), 157u);
+  EXPECT_EQ(last, 190);
+}
+
+TEST(SectionTable, NamesNothingUnderUnusedNumbers) {
+  State state;
+  for (int number : {-1, 0, 7, 15, 17, 27, 106, 109, 141, 148, 159, 164, 166, 169, 174, 178, 183, 188, 191})
+    EXPECT_EQ(familyOfSection(state, number), nullptr) << number;
+  for (const Family* family : std::initializer_list<Family*>{&state.form1.Picture9, &state.form1.Label29,
+                                                             &state.form1.lvButtons_H20, &state.form6.Text1})
+    EXPECT_EQ(sectionOf(state, *family), 0) << qPrintable(family->name());
+}
+
+TEST(SectionTable, ServesAFieldOnlyWhereTheElementHasItsProperty) {
+  const std::map<ToolField, Property> properties = {
+      {ToolField::Size, Property::Height},         {ToolField::Shape, Property::ButtonShape},
+      {ToolField::Style, Property::ButtonStyle},   {ToolField::Gradient, Property::GradientMode},
+      {ToolField::Alignment, Property::Alignment}, {ToolField::Colour, Property::BackColor},
+      {ToolField::FontSize, Property::FontSize},   {ToolField::FontName, Property::FontName},
+      {ToolField::FontDialog, Property::FontBold}, {ToolField::Caption, Property::Caption}};
+  State state;
+  for (const Section& section : sections())
+    for (const auto& [field, property] : properties)
+      if (section.serves(field)) {
+        EXPECT_TRUE(section.family(state).members().front()->has(property))
+            << section.number << ' ' << static_cast<char>(field);
+      }
+}
+
+TEST(SectionTable, ClearsTheIndexOnlyForSingleControls) {
+  State state;
+  std::set<int> clearing;
+  for (const Section& section : sections()) {
+    if (!section.clearsIndex) continue;
+    EXPECT_FALSE(section.family(state).isArray()) << section.number;
+    clearing.insert(section.number);
+  }
+  EXPECT_EQ(clearing, (std::set<int>{20, 45, 89, 96, 99, 118, 123, 139, 180, 182, 189, 190}));
+}
+
+TEST(DragTable, GivesEachFamilyAtMostOneRule) {
+  State state;
+  std::map<const Family*, int> rules;
+  for (const DragRule& rule : kDragRules)
+    for (FamilyRef family : rule.families) ++rules[&family(state)];
+  QStringList without;
+  for (const Family* family : state.form1.families()) {
+    EXPECT_LE(rules[family], 1) << qPrintable(family->name());
+    if (rules[family] == 0) without.append(family->name());
+  }
+  EXPECT_EQ(without,
+            QStringList({QStringLiteral("Picture9"), QStringLiteral("Picture21"), QStringLiteral("Picture22"),
+                         QStringLiteral("Image1"), QStringLiteral("lvButtons_H5"),
+                         QStringLiteral("lvButtons_H20"), QStringLiteral("lvButtons_H55")}));
+}
+
+TEST(DragTable, FindsTheOtherFamilyAtEveryIndex) {
+  State state;
+  for (const DragRule& rule : kDragRules)
+    for (FamilyRef other : {rule.leftOf, rule.topOf})
+      for (FamilyRef family : rule.families)
+        for (const Element* element : family(state).members()) {
+          if (!other) continue;
+          EXPECT_NE(other(state).find(element->index()), nullptr) << qPrintable(element->key());
+        }
+}
+
+TEST(Screens, ShowsOneEntryAndWhatTheSkinKeeps) {
+  State state;
+  for (Element* screen : state.form1.Picture1.members()) screen->setContainer(state.form1);
+  state.form4.Check9->setValue(1);
+  for (int entry = 0; entry < static_cast<int>(kScreenEntries.size()); ++entry) {
+    showScreen(state, entry);
+    for (int other = 0; other < static_cast<int>(kScreenEntries.size()); ++other)
+      EXPECT_EQ(screenOf(state, other).isVisible(), other == entry || other == 27) << entry << ' ' << other;
+    if (entry < 30) {
+      EXPECT_EQ(state.form1.children().back(), &screenOf(state, entry));
+    }
+  }
+  state.form4.Check9->setValue(0);
+  state.form4.Check12->setValue(1);
+  hideAllScreens(state);
+  EXPECT_FALSE(screenOf(state, 27).isVisible());
+  EXPECT_TRUE(screenOf(state, 13).isVisible());
+  showScreen(state, -1);
+  EXPECT_TRUE(screenOf(state, 13).isVisible());
+}
+
+}  // namespace veneerer
