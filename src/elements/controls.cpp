@@ -4,16 +4,6 @@
 
 namespace veneerer {
 
-bool RowList::select(int row) {
-  if (!hasRow(row)) return false;
-  const Value old = get(Property::ListIndex);
-  store(Property::ListIndex, row);
-  // No Text notice: the text that a selection brings is not a change of the text.
-  store(Property::Text, row < 0 ? QString() : list().at(row));
-  notify(Property::ListIndex, old);
-  return true;
-}
-
 void RowList::setRows(const QStringList& rows) {
   store(Property::ListIndex, -1);
   store(Property::Text, QString());
@@ -28,10 +18,16 @@ bool RowList::accepts(Property property, const Value& value) const {
   return property != Property::ListIndex || hasRow(std::get<std::int32_t>(value));
 }
 
+bool RowList::isEvent(Property property) const {
+  return property == Property::ListIndex || property == Property::List;
+}
+
 void RowList::stored(Property property) {
   if (property == Property::Text)
     store(Property::ListIndex, static_cast<std::int32_t>(list().indexOf(text())));
-  if (property == Property::ListIndex && listIndex() >= 0) store(Property::Text, list().at(listIndex()));
+  if (property == Property::ListIndex)
+    store(Property::Text, listIndex() < 0 ? QString() : list().at(listIndex()));
+  if (property == Property::List && listIndex() >= list().size()) store(Property::ListIndex, -1);
 }
 
 bool CheckBox::accepts(Property property, const Value& value) const {

@@ -57,22 +57,24 @@ public:
   const QStringList& list() const { return as<QStringList>(Property::List); }
 
   /// Chooses a row, or none with -1, and shows its text. Gives a ListIndex notice even when the row is the
-  /// same as before: setting a row always counts as the operator's selection. A row outside the list is
-  /// refused. A plain set of the property does the same.
-  bool select(int row);
+  /// same as before: setting a row always counts as the operator's selection. The text that it brings is no
+  /// change of the text and gives no notice. A row outside the list is refused. A plain set of the property
+  /// does the same.
+  bool select(int row) { return set(Property::ListIndex, row); }
   bool hasRow(int row) const { return row >= -1 && row < list().size(); }
 
   /// Shows a text; the row becomes that of the entry with exactly this text, or none. It is no selection: the
   /// only notice is that of Text, when the text differs from the one before.
   void setText(const QString& text) { set(Property::Text, text); }
 
-  /// Replaces the rows; none is chosen and no text shown afterwards.
+  /// Replaces the rows; none is chosen and no text shown afterwards. Always gives a List notice and no other.
   void setRows(const QStringList& rows);
   void addRow(const QString& row);
 
 protected:
   using Element::Element;
   bool accepts(Property property, const Value& value) const override;
+  bool isEvent(Property property) const override;
   void stored(Property property) override;
 };
 

@@ -38,7 +38,7 @@ bool Element::set(Property property, Value value) {
   require(at >= 0, "the element has no such property");
   Value& stored = values_[static_cast<std::size_t>(at)];
   require(stored.index() == value.index(), "the value is not of the property's type");
-  if (stored == value || !accepts(property, value)) return false;
+  if ((stored == value && !isEvent(property)) || !accepts(property, value)) return false;
   const Value old = std::exchange(stored, std::move(value));
   this->stored(property);
   notify(property, old);
@@ -74,6 +74,10 @@ void Element::sendToBack() {
 
 bool Element::accepts(Property, const Value&) const {
   return true;
+}
+
+bool Element::isEvent(Property) const {
+  return false;
 }
 
 void Element::stored(Property) {}

@@ -55,8 +55,8 @@ public:
   /// The value of a property that this kind has; any other is an error of the program.
   const Value& get(Property property) const;
 
-  /// The one gate for change: compares, stores, and gives notice. Returns false when the value is the same as
-  /// before or the element refuses it. The value's type must be the property's own.
+  /// The one gate for change: compares, stores, and gives notice. Returns false when there was no notice: the
+  /// value is the same as before or the element refuses it. The value's type must be the property's own.
   bool set(Property property, Value value);
 
   template <class T>
@@ -93,6 +93,8 @@ protected:
 
   /// A kind's own rule for a value; false refuses it, which leaves the property as it was.
   virtual bool accepts(Property property, const Value& value) const;
+  /// True where setting the property is an event of its own, told even when the value is the same as before.
+  virtual bool isEvent(Property property) const;
   /// A kind's own consequence of an accepted value, run before the notice is given.
   virtual void stored(Property property);
 

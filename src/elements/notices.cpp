@@ -1,7 +1,5 @@
 #include "elements/notices.h"
 
-#include <algorithm>
-
 namespace veneerer {
 
 int ChangeNotices::subscribe(Listener listener) {
@@ -14,7 +12,7 @@ void ChangeNotices::unsubscribe(int subscription) {
 }
 
 void ChangeNotices::send(const Change& change) const {
-  // By index: a listener may subscribe another one while it runs.
+  // By index, because a listener may subscribe another one while it runs.
   for (std::size_t i = 0; i < subscriptions_.size(); ++i) subscriptions_[i].listener(change);
 }
 

@@ -1,8 +1,8 @@
 // The one notice on which repaint, change handling and the panels hang.
 #pragma once
 
+#include <deque>
 #include <functional>
-#include <vector>
 
 #include "elements/property.h"
 #include "elements/value.h"
@@ -26,6 +26,7 @@ public:
 
   /// Returns a number for unsubscribe.
   int subscribe(Listener listener);
+  /// Not for a listener while it runs.
   void unsubscribe(int subscription);
 
   void send(const Change& change) const;
@@ -35,7 +36,8 @@ private:
     int number;
     Listener listener;
   };
-  std::vector<Subscription> subscriptions_;
+  /// A deque, because a running listener must stay in its place while it subscribes another one.
+  std::deque<Subscription> subscriptions_;
   int lastNumber_ = 0;
 };
 

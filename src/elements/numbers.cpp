@@ -1,10 +1,12 @@
 #include "elements/numbers.h"
 
 #include <array>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <limits>
 #include <string>
+#include <string_view>
 
 namespace veneerer {
 
@@ -96,6 +98,12 @@ std::string withoutBlanks(QStringView text) {
   return plain;
 }
 
+// A number too large for a double, or too near to zero.
+double beyondDouble(std::string_view text) {
+  const bool isTiny = text.find("E-") != std::string_view::npos || text.front() == '.';
+  return isTiny ? 0 : std::numeric_limits<double>::infinity();
+}
+
 }  // namespace
 
 QString singleText(float number) {
@@ -123,8 +131,8 @@ double leadingNumber(QStringView text) {
   if (first == last || !(std::isdigit(static_cast<unsigned char>(*first)) || *first == '.')) return 0;
   double number = 0;
   const auto result = std::from_chars(first, last, number);
-  if (result.ec == std::errc::result_out_of_range) return std::numeric_limits<double>::infinity();
-  if (result.ec != std::errc()) return 0;
+  if (result.ec == std::errc::invalid_argument) return 0;
+  if (result.ec == std::errc::result_out_of_range) number = beyondDouble({first, result.ptr});
   return isNegative ? -number : number;
 }
 

@@ -1,0 +1,106 @@
+#include "platform/skinfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "support/pictures.h"
+
+using namespace veneerer;
+
+namespace {
+
+struct SkinFolderTest : testing::Test {
+  SkinFolderTest() {
+    QDir().mkpath(at("Skins/Blue/images"));
+    for (const char* name :
+         {"Skins/Blue/images/Menu.bmp", "Skins/Blue/images/star 0.png", "Skins/Blue/menu.ini", "outside.bmp"})
+      test::writeBytes(at(name), "x");
+  }
+  QString at(const char* relative) { return root.filePath(QString::fromLatin1(relative)); }
+  SkinFolder blue() { return SkinFolder(ProgramFolder{root.path()}, QStringLiteral("Blue")); }
+  QString resolve(const char* reference) { return blue().resolve(QString::fromLatin1(reference)); }
+
+  QTemporaryDir root;
+};
+
+}  // namespace
+
+TEST_F(SkinFolderTest, ReferencesInEitherSlashAndAnyCase) {
+  const QString menu = at("Skins/Blue/images/Menu.bmp");
+  for (const char* reference :
+       {"\\images\\Menu.bmp", "/images/Menu.bmp", "images\\Menu.bmp", "\\Images\\MENU.BMP",
+        "\\\\images\\/menu.bmp", "\\images\\..\\IMAGES\\menu.bmp"})
+    EXPECT_EQ(QDir::cleanPath(resolve(reference)), menu) << reference;
+}
+
+TEST_F(SkinFolderTest, TheExactSpellingComesFirst) {
+  test::writeBytes(at("Skins/Blue/images/menu.bmp"), "y");
+  EXPECT_EQ(resolve("\\images\\menu.bmp"), at("Skins/Blue/images/menu.bmp"));
+  EXPECT_EQ(resolve("\\images\\Menu.bmp"), at("Skins/Blue/images/Menu.bmp"));
+}
+
+TEST_F(SkinFolderTest, OnlyAPlainFileIsFound) {
+  for (const char* reference :
+       {"", "\\", "\\images", "\\images\\none.bmp", "\\menu.ini\\Menu.bmp", "\\..\\.."})
+    EXPECT_EQ(resolve(reference), QString()) << reference;
+  EXPECT_EQ(blue().resolve(QString::fromLatin1("\\images\\Menu.bmp\0x", 18)), QString());
+}
+
+TEST_F(SkinFolderTest, AReferenceMayLeadOutOfTheFolder) {
+  EXPECT_EQ(QDir::cleanPath(resolve("\\..\\..\\outside.bmp")), at("outside.bmp"));
+  EXPECT_FALSE(blue().contains(resolve("\\..\\..\\outside.bmp")));
+}
+
+TEST_F(SkinFolderTest, AFullPathIntoTheFolderIsTaken) {
+  const QString full = at("Skins/Blue/images/Menu.bmp");
+  EXPECT_EQ(blue().resolve(full), full);
+  EXPECT_EQ(blue().resolve(at("outside.bmp")), QString());
+}
+
+TEST_F(SkinFolderTest, ContainsWhatLiesInsideWithLinksResolved) {
+  const SkinFolder skin = blue();
+  QDir().mkpath(at("Skins/Blue2"));
+  test::writeBytes(at("Skins/Blue2/a.bmp"), "x");
+  QFile::link(at("outside.bmp"), at("Skins/Blue/images/out.bmp"));
+  QFile::link(at("nowhere.bmp"), at("Skins/Blue/images/dangling.bmp"));
+  QFile::link(root.path(), at("Skins/Blue/up"));
+  for (const char* inside : {"Skins/Blue/images/Menu.bmp", "Skins/Blue/images/new.bmp",
+                             "Skins/Blue/images/../menu.ini", "Skins/Blue/up/Skins/Blue/menu.ini"})
+    EXPECT_TRUE(skin.contains(at(inside))) << inside;
+  for (const char* outside :
+       {"outside.bmp", "Skins/Blue", "Skins/Blue2/a.bmp", "Skins/Blue/../../outside.bmp",
+        "Skins/Blue/../new.bmp", "Skins/Blue/images/out.bmp", "Skins/Blue/images/dangling.bmp",
+        "Skins/Blue/up/outside.bmp", "Skins/Blue/none/new.bmp"})
+    EXPECT_FALSE(skin.contains(at(outside))) << outside;
+}
+
+TEST_F(SkinFolderTest, TheFolderOfSkinsUnderEitherName) {
+  const ProgramFolder program{root.path()};
+  QDir().mkpath(at("Skins/amber"));
+  EXPECT_EQ(SkinsRoot(program).skins(), (QStringList{u"amber"_qs, u"Blue"_qs}));
+  ASSERT_TRUE(QDir(root.path()).rename(u"Skins"_qs, u"skins"_qs));
+  EXPECT_EQ(SkinsRoot(program).path(), at("skins"));
+  EXPECT_TRUE(blue().exists());
+}
+
+TEST_F(SkinFolderTest, CoverFilesByNameWithoutRegardToCase) {
+  for (const char* name : {"Skins/Blue/b.cov", "Skins/Blue/A.COV", "Skins/Blue/c.cov.txt"})
+    test::writeBytes(at(name), "x");
+  EXPECT_EQ(blue().coverFiles(), (QStringList{u"A.COV"_qs, u"b.cov"_qs}));
+}
+
+TEST(BareFileName, EitherSlashSeparates) {
+  EXPECT_EQ(bareFileName(u"/skins/a\\b.bmp"_qs), u"b.bmp");
+  EXPECT_EQ(bareFileName(u"C:\\skins\\x/b.bmp"_qs), u"b.bmp");
+  EXPECT_EQ(bareFileName(u"b.bmp"_qs), u"b.bmp");
+}
+
+TEST(PixelsToTwips, EachDirectionHasItsResolution) {
+  Screen screen;
+  screen.dpiY = 120;
+  EXPECT_EQ(PixelsToTwips(screen, 1024, 0), 15360);
+  EXPECT_EQ(PixelsToTwips(screen, 1024, 1), 12288);
+  EXPECT_EQ(PixelsToTwips(screen, -1e12, 0), std::nullopt);
+}
