@@ -1,0 +1,126 @@
+// What belongs to the Skin as a whole rather than to one screen.
+#include "elements/numbers.h"
+#include "records/recordfiles.h"
+
+namespace veneerer {
+
+namespace {
+
+constexpr int kTrackRows = 20;
+constexpr int kCovers = 28;
+
+// The backdrop of row i: its thumbnail and the screen behind it. Rows 11 and 13 reach no canvas element, row
+// 12 is shown by no thumbnail and on another screen, row 13 has no thumbnail of its own.
+std::vector<Element*> backdropBoxes(State& state, int i) {
+  std::vector<Element*> boxes;
+  if (i != 12 && i != 13) boxes.push_back(&state.form5.Image1[i]);
+  if (i == 0) boxes.push_back(&state.form1);
+  if (i > 0 && i < 11) boxes.push_back(&state.form1.Picture1[i]);
+  if (i == 12) boxes.push_back(&state.form1.Picture1[14]);
+  return boxes;
+}
+
+void showCount(const Family& family, int count) {
+  for (Element* member : family.members())
+    if (member->index() < kTrackRows) member->setVisible(member->index() < count);
+}
+
+void showTrackRows(Loading& loading) {
+  Form1& form1 = loading.state.form1;
+  const int count = leadingWhole(loading.state.form4.Combo1->text());
+  for (const Family* family : std::initializer_list<const Family*>{&form1.Label1, &form1.Label3,
+                                                                   &form1.Label60, &form1.aicAlphaImage1})
+    showCount(*family, count);
+}
+
+// Fixed pictures that come from no record.
+void fillPlaceholders(Loading& loading) {
+  State& state = loading.state;
+  for (int i = 0; i < kCovers; ++i)
+    loading.show(QStringLiteral("\\images\\ImageNotFound.jpg"), state.form1.Image2[i]);
+  loading.show(QStringLiteral("\\images\\slider_back.bmp"), *state.form1.Picture6);
+  loading.show(QStringLiteral("\\images\\progress_slider_back.bmp"), *state.form1.Picture18);
+  loading.show(QStringLiteral("\\images\\menu.bmp"), *state.form5.Image6);
+  loading.show(QStringLiteral("\\images\\player.bmp"), *state.form5.Image3);
+}
+
+}  // namespace
+
+Layout skinFile(State& state) {
+  ImageTable& names = state.names.ImageName;
+  Layout file(state, "skin.ini");
+  file.resumeOnError();
+  file.literal("Merlane Skins File V2.4");
+  file.literal("----------------------");
+  for (int i = 0; i < 14; ++i) {
+    file.labelLine("", state.form5.Label3[i]);
+    file.reference(names[i], backdropBoxes(state, i));
+  }
+  // Entries 12 and 13 stand here a second time: on reading, these later lines win.
+  file.literal("Album Frame");
+  file.reference(names[12], {&*state.form5.Image2});
+  file.literal("Player Contols");
+  file.reference(names[13], {&*state.form5.Image3, &state.form1.Picture2[1]});
+  file.literal("Logo");
+  file.reference(names[14], {&*state.form5.Image4, &state.form1.Picture2[2]});
+  file.literal("Number of tracks shown");
+  file.value(RowKind::Text, *state.form4.Combo1, Property::Text);
+  file.then(showTrackRows);
+  file.optionalFromHere();
+  file.literal("Genre Icons");
+  file.literal("NULL");
+  file.block();
+  file.literal("Default Home Screen");
+  file.listIndex(*state.form4.Combo9);
+  file.atEnd(fillPlaceholders);
+  return file;
+}
+
+Layout resolutionFile(State& state) {
+  Layout file(state, "resolution.ini");
+  file.literal("Merlane Skins File V2");
+  file.literal("----------------------");
+  file.literal("Resolution");
+  file.value(RowKind::Text, state.form4.Text1[0], Property::Text);
+  file.value(RowKind::Text, state.form4.Text1[1], Property::Text);
+  file.atEnd([](Loading& loading) {
+    // The window's frame: 4 pixels across, 500 twips down.
+    Form4& form4 = loading.state.form4;
+    const auto width = PixelsToTwips(loading.screen, leadingNumber(form4.Text1[0].text()) + 4, 0);
+    const auto height = PixelsToTwips(loading.screen, leadingNumber(form4.Text1[1].text()), 1);
+    if (width) loading.state.form1.setWidth(static_cast<float>(*width));
+    if (height) loading.state.form1.setHeight(static_cast<float>(*height) + 500);
+  });
+  return file;
+}
+
+// Picture2(8) to (11) are left out: their own screens' files hold them.
+Layout mainFile(State& state) {
+  Form1& form1 = state.form1;
+  Layout file(state, "main.ini");
+  file.places(form1.Picture2, 0, 7);
+  file.places(form1.Picture1, 0, 13);
+  file.labels(form1.Label4, 0, 4);
+  file.labels(form1.Label27, 0, 1);
+  file.optionalFromHere();
+  file.labelRecord(*form1.Label41);
+  file.labels(form1.Label27, 2, 2);
+  file.places(form1.Picture2, 12, 13);
+  file.labels(form1.Label4, 5, 5);
+  file.reference(state.names.MainPanelName.value(), {&form1.Picture2[12]});
+  return file;
+}
+
+Layout fontFile(State& state) {
+  Layout file(state, "font.ini");
+  file.colours(*state.form6.Label5);
+  return file;
+}
+
+Layout keyHighlightFile(State& state) {
+  Layout file(state, "key_highlight.ini");
+  file.value(RowKind::Long, *state.form6.Picture1, Property::BackColor);
+  return file;
+}
+
+}  // namespace veneerer

@@ -1,0 +1,127 @@
+#include "records/recordfiles.h"
+
+namespace veneerer {
+
+Layout searchFile(State& state) {
+  Form1& form1 = state.form1;
+  Layout file(state, "search.ini");
+  file.placedButtons(form1.lvButtons_H6, 0, 27, "search Buttons ");
+  file.placedButtons(form1.lvButtons_H7, 0, 3);
+  file.placedButton(*form1.lvButtons_H9);
+  const std::size_t from = file.size();
+  file.colours(*form1.Label32);
+  file.placeQuad(*form1.Label32);
+  file.applyAboveMinusOneOnly(from, {Property::Top, Property::Left});
+  file.labels(form1.Label19, 0, 3);
+  file.placedButtons(form1.lvButtons_H36, 0, 9, "search Buttons ");
+  file.optionalFromHere();
+  file.places(form1.Picture27, 0, 3);
+  file.places(form1.Picture31, 0, 6);
+  file.labels(form1.Label19, 4, 11);
+  file.places(form1.Picture27, 4, 11);
+  file.labelRecord(*form1.Label39);
+  file.block();
+  file.alignment(*form1.Label39);
+  file.each(form1.Label19, 0, 11, [&](Label& label) { file.alignment(label); });
+  return file;
+}
+
+Layout searchResultsFile(State& state) {
+  Form1& form1 = state.form1;
+  Layout file(state, "search_res.ini");
+  file.reference(state.names.SearchResultsName.value(), {&form1.Picture1[11], &*state.form5.Image7});
+  file.labels(form1.Label14, 0, 6);
+  file.labels(form1.Label15, 0, 6);
+  file.labels(form1.Label16, 0, 6);
+  file.labels(form1.Label17, 0, 6);
+  file.labelRecord(*form1.Label18);
+  file.placedButtons(form1.lvButtons_H26, 0, 4, "search Results Buttons ");
+  file.placedButtons(form1.lvButtons_H28, 0, 1, "search Results Buttons ");
+  file.labelLine("search Results Buttons ", *form1.lvButtons_H27);
+  file.placedButton(*form1.lvButtons_H27);
+  file.each(form1.Picture7, 0, 6, [&](PictureBox& row) {
+    file.colours(row);
+    file.placeQuad(row);
+  });
+  file.optionalFromHere();
+  for (int i = 2; i <= 4; ++i) {
+    file.labelLine("search Results Buttons ", form1.lvButtons_H28[i]);
+    file.placedButton(form1.lvButtons_H28[i]);
+  }
+  file.labels(form1.Label16, 7, 13);
+  return file;
+}
+
+// lvButtons_H28 and lvButtons_H26 stand here the other way round than in the main file.
+Layout searchResultsV2File(State& state) {
+  Form1& form1 = state.form1;
+  Layout file(state, "search_res_v2.ini");
+  file.reference(state.names.SearchResultsName.value());
+  file.labels(form1.Label14, 0, 6);
+  file.labels(form1.Label15, 0, 6);
+  file.labels(form1.Label16, 0, 13);
+  file.labels(form1.Label17, 0, 6);
+  file.labelRecord(*form1.Label18);
+  file.placeImages(form1.lvButtons_H28, 0, 4);
+  file.placeImages(form1.lvButtons_H26, 0, 1);
+  file.labelLine("search Results Buttons ", *form1.lvButtons_H27);
+  file.placedButton(*form1.lvButtons_H27);
+  file.each(form1.Picture7, 0, 6, [&](PictureBox& row) {
+    file.colours(row);
+    file.placeQuad(row);
+  });
+  return file;
+}
+
+Layout searchChoiceFile(State& state) {
+  Form1& form1 = state.form1;
+  Layout file(state, "search_choice.ini");
+  file.reference(state.names.SearchChoiceName.value(), {&form1.Picture1[14], &state.form5.Image1[12]});
+  file.placeQuad(form1.Picture1[14]);
+  file.placedButtons(form1.lvButtons_H25, 0, 2, "search Buttons ");
+  file.labelRecord(*form1.Label39);
+  file.optionalFromHere();
+  file.labelLine("search Buttons ", *form1.lvButtons_H14);
+  file.placedButton(*form1.lvButtons_H14);
+  file.places(form1.Picture2, 11, 11);
+  file.atEnd([](Loading& loading) {
+    loading.show(QStringLiteral("\\images\\search choice.gif"), loading.state.form1.Picture1[14]);
+  });
+  return file;
+}
+
+Layout searchTabFile(State& state) {
+  Layout file(state, "search_tab.ini");
+  file.placedButtons(state.form1.lvButtons_H42, 0, 2, "Seachtab ");
+  const std::size_t fourth = file.size();
+  file.placedButtons(state.form1.lvButtons_H42, 3, 3, "Seachtab ");
+  file.writtenOnly(fourth, "four tabs are written and three are read: the last one keeps what it has");
+  return file;
+}
+
+Layout noSearchFile(State& state) {
+  Form1& form1 = state.form1;
+  Layout file(state, "nosearch.ini");
+  file.reference(state.names.NoSearchName.value(), {&form1.Picture1[22], &*state.form5.Image17});
+  file.alignedLabels(form1.Label51, 0, 1);
+  file.placedButtons(form1.lvButtons_H53, 0, 2);
+  file.placeQuad(form1.Picture1[22]);
+  file.optionalFromHere();
+  file.placeQuad(*form1.Picture29);
+  file.then([](Loading& loading) {
+    loading.show(QStringLiteral("\\images\\online_search.bmp"), *loading.state.form1.Picture29);
+  });
+  file.alignedLabels(form1.Label51, 2, 6);
+  file.placedButtons(form1.lvButtons_H53, 3, 4);
+  file.placedButtons(form1.lvButtons_H53, 5, 8);
+  return file;
+}
+
+Layout intelliFile(State& state) {
+  Layout file(state, "intelli.ini");
+  file.labelRecord(*state.form1.Label52);
+  file.alignment(*state.form1.Label52);
+  return file;
+}
+
+}  // namespace veneerer

@@ -1,0 +1,31 @@
+// The one error of a malformed or unwritable file. It is raised where the place is known and caught where the
+// operator is told.
+#pragma once
+
+#include <QString>
+#include <stdexcept>
+
+namespace veneerer {
+
+class RecordError : public std::runtime_error {
+public:
+  /// line counts from 1; 0 when no line is to blame. element and field may be empty.
+  RecordError(const QString& file, int line, const QString& element, const QString& field,
+              const QString& found);
+
+  const QString& file() const { return file_; }
+  int line() const { return line_; }
+  const QString& element() const { return element_; }
+  const QString& field() const { return field_; }
+  /// "menu.ini:12: Form1.lvButtons_H1(0) Height: a number is due here, but "abc" stands in its place"
+  QString message() const;
+
+private:
+  QString file_;
+  int line_;
+  QString element_;
+  QString field_;
+  QString found_;
+};
+
+}  // namespace veneerer

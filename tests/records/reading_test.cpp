@@ -1,0 +1,152 @@
+// Files read into elements: optional tails, failures with their place, and the rules of images.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "records/layoutreader.h"
+#include "records/layoutwriter.h"
+#include "records/recorderror.h"
+#include "records/recordfiles.h"
+
+namespace veneerer {
+namespace {
+
+class Reading : public testing::Test {
+protected:
+  Reading() {
+    state.form4.Combo10->setRows({QStringLiteral("a"), QStringLiteral("b")});
+    QDir(root.path()).mkpath(QStringLiteral("Skins/S/images"));
+    QImage(4, 4, QImage::Format_RGB32).save(root.path() + QStringLiteral("/Skins/S/images/Play.BMP"));
+  }
+
+  QByteArray composed(Layout (*make)(State&)) { return composeRecords(make(state)); }
+  /// The file's first lines only.
+  static QByteArray cut(const QByteArray& bytes, int lines) {
+    return bytes.split('\n').mid(0, lines).join('\n') + (lines > 0 ? "\n" : "");
+  }
+  static QByteArray withLine(const QByteArray& bytes, int line, const QByteArray& text) {
+    QList<QByteArray> lines = bytes.split('\n');
+    lines[line - 1] = text + '\r';
+    return lines.join('\n');
+  }
+  QString read(Layout (*make)(State&), const QByteArray& bytes) {
+    const SkinFolder folder(ProgramFolder{root.path()}, QStringLiteral("S"));
+    Loading loading{state, folder, Screen(), 0};
+    return readRecords(make(state), bytes, loading);
+  }
+  std::string failure(Layout (*make)(State&), const QByteArray& bytes) {
+    try {
+      read(make, bytes);
+    } catch (const RecordError& error) {
+      return error.message().toStdString();
+    }
+    return "";
+  }
+
+  QTemporaryDir root;
+  State state;
+};
+
+TEST_F(Reading, ErrorsNameFileLineElementAndField) {
+  const QByteArray menu = composed(menuFile);
+  EXPECT_EQ(failure(menuFile, withLine(menu, 8, "wide")),
+            "menu.ini:8: Form1.lvButtons_H1(0) ButtonStyle: a number is due here, but \"wide\" stands in its "
+            "place");
+  EXPECT_EQ(failure(menuFile, cut(menu, 20)),
+            "menu.ini:21: Form1.lvButtons_H1(1) ButtonStyle: the file ends where a value is due");
+  // A comma in the caption stands in the label line too and moves every later field by two places.
+  state.form1.lvButtons_H1[0].setCaption(QStringLiteral("Rock, Pop"));
+  EXPECT_NE(failure(menuFile, composed(menuFile)), "");
+  EXPECT_NE(failure(playerFile, withLine(composed(playerFile), 1, " 7 ")).find("the list has no row 7"),
+            std::string::npos);
+  EXPECT_NE(failure(fontFile, "99999999999\r\n 0 \r\n").find("out of the field's range"), std::string::npos);
+  EXPECT_NE(failure(intelliFile, withLine(composed(intelliFile), 9, " 3 ")), "");
+  EXPECT_NE(failure(lockedButtonFile, withLine(composed(lockedButtonFile), 36, "#NULL#")), "");
+}
+
+TEST_F(Reading, AFileMayEndAheadOfAnOptionalBlockAndNotInsideOne) {
+  const struct {
+    Layout (*make)(State&);
+    int end;     ///< loads with this many lines
+    int inside;  ///< fails with this many
+  } cases[] = {{menuFile, 121, 122},  {playerFile, 71, 72},    {navFile, 153, 155},
+               {tabFile, 40, -1},     {mainFile, 176, 170},    {trackListFile, 991, 993},
+               {genreFile, 226, 228}, {genreFile, 1484, 1431}, {playlistFile, 236, 238},
+               {framesFile, 12, 13},  {framesFile, 21, 11},    {optionsFile, 194, -1}};
+  for (const auto& c : cases) {
+    const QByteArray whole = composed(c.make);
+    EXPECT_EQ(failure(c.make, cut(whole, c.end)), "") << c.end;
+    if (c.inside >= 0) {
+      EXPECT_NE(failure(c.make, cut(whole, c.inside)), "") << c.inside;
+    }
+  }
+}
+
+TEST_F(Reading, AnOlderMenuKeepsThePlacesOfTheDesign) {
+  Button& first = state.form1.lvButtons_H1[0];
+  QList<QByteArray> lines = composed(menuFile).split('\n');
+  QByteArray older = "INI Version\r\n 1 \r\n";
+  for (int button = 0; button < 9; ++button)
+    for (int line = 0; line < 13; ++line)
+      if (line != 10 && line != 11) older += lines[4 + 13 * button + line] + '\n';
+  first.place(100, 200, 300, 400);
+  state.form1.Picture2[0].setHeight(77);
+  EXPECT_EQ(failure(menuFile, older), "");
+  EXPECT_EQ(first.left(), 100);
+  EXPECT_EQ(first.height(), 0) << "the size is in the older file too";
+  EXPECT_EQ(state.form1.Picture2[0].height(), 77);
+  EXPECT_TRUE(composed(menuFile).startsWith("INI Version\r\n 2 \r\n"));
+}
+
+TEST_F(Reading, TheImageRuleAppliesTheShapeAfterThePicture) {
+  Button& button = state.form1.lvButtons_H4[6];
+  const auto file = [](const char* shape, const char* image) {
+    return QByteArray("Spin\r\n ") + shape +
+           " \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 1 \r\n 2 \r\n 3 \r\n 4 \r\n" + image + "\r\n";
+  };
+  read(moreButtonFile, file("8", "\\images\\play.bmp"));
+  EXPECT_EQ(button.buttonShape(), 8);
+  EXPECT_EQ(button.picture().path(), root.path() + QStringLiteral("/Skins/S/images/Play.BMP"));
+  EXPECT_EQ(button.pictureSize(), 0) << "a shaped button's picture size is fixed";
+  read(moreButtonFile, file("8", "\\images\\gone.bmp"));
+  EXPECT_EQ(button.buttonShape(), 0) << "no picture, no custom outline";
+  EXPECT_TRUE(button.picture().isNull());
+  EXPECT_EQ(button.pictureSize(), 3);
+  EXPECT_TRUE(composed(moreButtonFile).endsWith("\\images\\gone.bmp\r\n")) << "the reference survives";
+  read(playerFile, composed(playerFile));
+}
+
+TEST_F(Reading, ValuesAtOrBelowMinusOneAreNotAppliedWhereGuarded) {
+  state.form1.Label34[0].place(10, 20, 30, 40);
+  QByteArray bytes = composed(playOptionsFile);
+  for (int line : {99, 100, 101, 102}) bytes = withLine(bytes, line, "-1 ");
+  bytes = withLine(bytes, 100, " 55 ");
+  read(playOptionsFile, bytes);
+  const Label& label = state.form1.Label34[0];
+  EXPECT_EQ(label.top(), 20);
+  EXPECT_EQ(label.left(), 55);
+  EXPECT_EQ(label.height(), 40);
+}
+
+TEST_F(Reading, SomeLoadersGoOnAfterAFailure) {
+  state.form1.Picture18->place(1, 2, 3, 4);
+  read(progressFile, " 10 \r\nwrong\r\n 30 \r\n");
+  EXPECT_EQ(state.form1.Picture18->top(), 10);
+  EXPECT_EQ(state.form1.Picture18->left(), 1);
+  EXPECT_EQ(state.form1.Picture18->width(), 30);
+  EXPECT_EQ(state.form1.Picture18->height(), 4);
+  EXPECT_EQ(read(optionsFile, "only\r\n").toStdString(), "Options screen load error");
+  read(skinFile, "a\r\nb\r\n");
+}
+
+TEST_F(Reading, CaptionsThatLookLikeNumbersComeBackPlain) {
+  read(moreButtonFile,
+       "007\r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 12 \r\n");
+  EXPECT_EQ(state.form1.lvButtons_H4[6].caption().toStdString(), "7");
+  EXPECT_TRUE(composed(moreButtonFile).endsWith(" 12 \r\n")) << "a stored number is written as one";
+}
+
+}  // namespace
+}  // namespace veneerer
