@@ -61,22 +61,32 @@ Decimal shortestDecimal(T magnitude, std::size_t maximum) {
   return decimal;
 }
 
+std::string zeros(int count) {
+  return std::string(static_cast<std::size_t>(count), '0');
+}
+
+std::string withExponent(const Decimal& decimal) {
+  std::string text = decimal.digits;
+  if (text.size() > 1) text.insert(1, 1, '.');
+  const std::string exponent = std::to_string(std::abs(decimal.exponent));
+  text += decimal.exponent < 0 ? "E-" : "E+";
+  if (exponent.size() < 2) text += '0';
+  return text += exponent;
+}
+
 // Without exponent while the digits fit into that many places before or behind the point.
 std::string layOut(const Decimal& decimal, int places) {
   const int count = static_cast<int>(decimal.digits.size());
   const int whole = decimal.exponent + 1;
+  std::string text = decimal.digits;
   if (whole > 0 && whole <= places) {
-    std::string text = decimal.digits;
-    if (count < whole) text.append(static_cast<std::size_t>(whole - count), '0');
-    if (count > whole) text.insert(static_cast<std::size_t>(whole), ".");
+    if (count < whole) text += zeros(whole - count);
+    if (count > whole) text.insert(static_cast<std::size_t>(whole), 1, '.');
     return text;
   }
-  if (whole <= 0 && count - whole <= places)
-    return "." + std::string(static_cast<std::size_t>(-whole), '0') + decimal.digits;
-  std::string text = decimal.digits.substr(0, 1);
-  if (count > 1) text += "." + decimal.digits.substr(1);
-  const std::string exponent = std::to_string(std::abs(decimal.exponent));
-  return text + (decimal.exponent < 0 ? "E-" : "E+") + (exponent.size() < 2 ? "0" : "") + exponent;
+  if (whole > 0 || count - whole > places) return withExponent(decimal);
+  text.insert(0, zeros(-whole));
+  return text.insert(0, 1, '.');
 }
 
 template <class T>
