@@ -1,8 +1,9 @@
-// Paints lvButtons_H from its properties.
+// Paints lvButtons_H from its properties: face, picture, caption.
 #pragma once
 
 #include <QPainter>
 
+#include "components/buttonface.h"
 #include "components/pixels.h"
 #include "components/scaledimages.h"
 #include "components/textlayouts.h"
@@ -22,13 +23,22 @@ public:
   /// The caches must outlive the painter.
   ButtonPainter(TextLayouts& texts, ScaledImages& images) : texts_(texts), images_(images) {}
 
-  /// Paints the button over a rectangle; what lies outside the clip isn't touched. Both in pixels.
+  /// Paints the button over a rectangle; what lies outside the clip isn't touched. Both in pixels. A face
+  /// that is too large to keep (see kLargestKeptImage) is painted as its plain colour.
   void paint(QPainter& painter, const Button& button, const QRectF& rect, const QRectF& clip,
              const PixelScale& scale, const ButtonState& state);
 
 private:
+  struct Task;
+
   TextLayouts& texts_;
   ScaledImages& images_;
+  ButtonFaces faces_;
+
+  void paintFace(const Task& task);
+  void paintContents(const Task& task);
+  const LaidOutText* layOut(const Task& task, double width);
+  void paintSmallPicture(const Task& task, const QImage& image, const QRectF& place);
 };
 
 }  // namespace veneerer

@@ -1,0 +1,138 @@
+#include "components/buttonface.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <algorithm>
+
+#include "components/buttonshape.h"
+#include "components/buttonstyle.h"
+#include "components/customoutline.h"
+#include "components/facecanvas.h"
+#include "elements/button.h"
+
+namespace veneerer {
+
+namespace {
+
+constexpr qsizetype kCachedKiB = 32 * 1024;
+constexpr QColor kDisabledVeil(128, 128, 128, 120);
+
+bool isCustom(const FaceLook& look, const QImage& picture) {
+  return look.shape >= Button::kFirstCustomShape && look.shape <= Button::kLastShape && !picture.isNull();
+}
+
+QRectF centred(QSizeF inner, QSizeF outer) {
+  return QRectF(QPointF((outer.width() - inner.width()) / 2, (outer.height() - inner.height()) / 2), inner);
+}
+
+// Where the picture of a custom shape or of a covering size lies, in device pixels.
+QRectF pictureRect(const FaceLook& look, QSize picture) {
+  const QSizeF face = look.size;
+  if (look.shape == Button::kLastShape) {
+    const QSizeF own = QSizeF(picture) * look.scale;
+    const bool fits = own.width() <= face.width() && own.height() <= face.height();
+    return centred(fits ? own : own.scaled(face, Qt::KeepAspectRatio), face);
+  }
+  if (look.shape < Button::kFirstCustomShape && look.pictureSize > kFirstCoveringSize)
+    return centred(QSizeF(picture).scaled(face, Qt::KeepAspectRatio), face);
+  return QRectF(QPointF(), face);
+}
+
+// Scaled ahead of painting: a painter's own scaling is coarse when it makes much smaller.
+QImage atSize(const QImage& image, QSizeF size) {
+  return image.scaled(size.toSize().expandedTo(QSize(1, 1)), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+QImage emptyFace(const FaceLook& look) {
+  QImage face(look.size, QImage::Format_ARGB32_Premultiplied);
+  face.fill(Qt::transparent);
+  return face;
+}
+
+QBrush faceBrush(const FaceLook& look) {
+  struct Way {
+    double fromX, fromY, toX, toY;
+  };
+  constexpr Way kWays[kGradientModeCount] = {
+      {0, 0, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}, {0, 0, 1, 1}, {0, 1, 1, 0}};
+  if (look.gradient <= 0 || look.gradient >= kGradientModeCount) return QColor(look.back);
+  const Way& way = kWays[look.gradient];
+  const double width = look.size.width();
+  const double height = look.size.height();
+  QLinearGradient gradient(way.fromX * width, way.fromY * height, way.toX * width, way.toY * height);
+  gradient.setColorAt(0, QColor(look.back));
+  gradient.setColorAt(1, QColor(look.second));
+  return gradient;
+}
+
+QImage plainBase(const FaceLook& look, double radius) {
+  QImage face = emptyFace(look);
+  QPainter painter(&face);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.fillPath(outlineOf(look.shape, look.size, radius), faceBrush(look));
+  return face;
+}
+
+QImage customBase(const FaceLook& look, const QImage& picture) {
+  const QRectF place = pictureRect(look, picture.size());
+  QImage face = emptyFace(look);
+  QPainter painter(&face);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(place, atSize(cutOut(picture), place.size()));
+  return face;
+}
+
+// On a face that a picture covers, the style's shading would never be seen; what tells the pointer's work is.
+void tellState(FaceCanvas& canvas, const FaceLook& look) {
+  if (look.pressed) canvas.fill(QColor(0, 0, 0, 60));
+  if (look.hover && !look.pressed) canvas.fill(QColor(255, 255, 255, 40));
+}
+
+QImage drawCustom(const FaceLook& look, const QImage& picture) {
+  FaceCanvas canvas(customBase(look, picture), look.scale);
+  tellState(canvas, look);
+  buttonStyle(look.style).edge(canvas, {look.hover, look.pressed});
+  if (!look.enabled) canvas.fill(kDisabledVeil);
+  return canvas.face();
+}
+
+QImage drawPlain(const FaceLook& look, const QImage& picture) {
+  const ButtonStyle& style = buttonStyle(look.style);
+  const StyleState state{look.hover, look.pressed};
+  const bool isCovered = look.pictureSize == kFirstCoveringSize && !picture.isNull();
+  FaceCanvas canvas(plainBase(look, style.radius * look.scale), look.scale);
+  if (!isCovered) style.shade(canvas, state);
+  if (!picture.isNull()) {
+    const QRectF place = pictureRect(look, picture.size());
+    canvas.draw(atSize(picture, place.size()), place);
+  }
+  if (isCovered)
+    tellState(canvas, look);
+  else
+    style.edge(canvas, state);
+  if (!look.enabled) canvas.fill(kDisabledVeil);
+  return canvas.face();
+}
+
+}  // namespace
+
+size_t qHash(const FaceLook& look, size_t seed) {
+  const int flags = (look.hover ? 1 : 0) | (look.pressed ? 2 : 0) | (look.enabled ? 4 : 0);
+  return qHashMulti(seed, look.size.width(), look.size.height(), look.scale, look.shape, look.style,
+                    look.gradient, look.back, look.second, look.pictureSize, look.pictureKey, flags);
+}
+
+QImage drawFace(const FaceLook& look, const QImage& picture) {
+  return isCustom(look, picture) ? drawCustom(look, picture) : drawPlain(look, picture);
+}
+
+ButtonFaces::ButtonFaces() : made_(kCachedKiB) {}
+
+QImage ButtonFaces::face(const FaceLook& look, const QImage& picture) {
+  if (const QImage* known = made_.object(look)) return *known;
+  const QImage made = drawFace(look, picture);
+  made_.insert(look, new QImage(made), 1 + made.sizeInBytes() / 1024);
+  return made;
+}
+
+}  // namespace veneerer

@@ -1,0 +1,30 @@
+// The eight looks of a button. A style shades the face and draws its edges in translucent light and shade, so
+// that the button's own colours and gradient come through in every style.
+#pragma once
+
+#include "components/facecanvas.h"
+
+namespace veneerer {
+
+/// What a style looks at besides the canvas.
+struct StyleState {
+  bool hover = false;
+  bool pressed = false;  ///< held down, or latched
+};
+
+struct ButtonStyle {
+  const char* name;
+  /// Rounding of the corners in pixels; a face's height is the most.
+  double radius;
+  /// Light and shade on the face, under a picture that covers it.
+  void (*shade)(FaceCanvas&, const StyleState&);
+  /// The edges, over all.
+  void (*edge)(FaceCanvas&, const StyleState&);
+};
+
+/// The style of that number; one outside 0 to 7 counts as 0.
+const ButtonStyle& buttonStyle(int number);
+
+inline constexpr int kButtonStyleCount = 8;
+
+}  // namespace veneerer

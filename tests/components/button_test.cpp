@@ -1,0 +1,182 @@
+#include <gtest/gtest.h>
+
+#include <QPainter>
+#include <QSet>
+
+#include "components/buttonface.h"
+#include "components/buttonpainter.h"
+#include "components/buttonsheet.h"
+#include "components/colours.h"
+#include "components/customoutline.h"
+#include "elements/family.h"
+#include "elements/window.h"
+
+namespace veneerer {
+namespace {
+
+constexpr QSize kSize(60, 30);
+
+// A red disc in the middle of white, without an alpha channel.
+QImage disc(QSize size = kSize) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Qt::red);
+  painter.drawEllipse(QRectF(QPointF(), size));
+  painter.fillRect(size.width() / 2 - 2, size.height() / 2 - 2, 4, 4, Qt::white);
+  return image;
+}
+
+class ButtonPainting : public testing::Test {
+protected:
+  ButtonPainting() {
+    button.setBackColor(0x00FF00);
+    button.setForeColor(0x0000FF);
+    button.setGradientColor(0xFF0000);
+  }
+
+  QImage paint(const ButtonState& state = {}) {
+    QImage image(kSize, QImage::Format_RGB32);
+    image.fill(Qt::magenta);
+    QPainter on(&image);
+    painter.paint(on, button, image.rect(), image.rect(), PixelScale(), state);
+    return image;
+  }
+
+  ChangeNotices notices;
+  Window window{notices, "Test"};
+  Single<Button> single{window, "Button"};
+  Button& button = *single;
+  TextLayouts texts;
+  ScaledImages images;
+  ButtonPainter painter{texts, images};
+};
+
+int count(const QImage& image, QColor colour) {
+  int found = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) found += image.pixelColor(x, y) == colour;
+  return found;
+}
+
+TEST_F(ButtonPainting, EveryShapeStyleAndGradientLooksDifferent) {
+  QSet<QByteArray> seen;
+  int looks = 0;
+  for (int shape = 0; shape < Button::kFirstCustomShape; ++shape)
+    for (int style = 0; style < 8; ++style)
+      for (int mode = 0; mode < kGradientModeCount; ++mode, ++looks) {
+        button.setButtonShape(shape);
+        button.setButtonStyle(style);
+        button.setGradientMode(mode);
+        const QImage image = paint();
+        seen.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
+      }
+  EXPECT_EQ(seen.size(), looks);
+}
+
+TEST_F(ButtonPainting, NumbersOutOfRangeCountAsZero) {
+  const QImage plain = paint();
+  button.setButtonStyle(99);
+  button.setGradientMode(-4);
+  button.set(Property::CaptionStyle, 77);
+  button.set(Property::PictureAlign, -1);
+  EXPECT_EQ(paint(), plain);
+}
+
+TEST_F(ButtonPainting, TheCaptionIsDrawnInItsColourAsItStands) {
+  button.setButtonStyle(2);
+  button.set(Property::FontSize, 10.0f);
+  button.set(Property::FontBold, true);
+  button.setCaption(QStringLiteral("II"));
+  const int withoutSign = count(paint(), Qt::red);
+  EXPECT_GT(withoutSign, 0);
+  button.setCaption(QStringLiteral("I&I"));
+  EXPECT_GT(count(paint(), Qt::red), withoutSign) << "the sign & must show";
+  button.setCaption(QStringLiteral("II||II"));
+  const QImage twoLines = paint();
+  EXPECT_GT(count(twoLines.copy(0, 0, 60, 15), Qt::red), 0);
+  EXPECT_GT(count(twoLines.copy(0, 15, 60, 15), Qt::red), 0);
+  EXPECT_GT(count(twoLines, Qt::green), 1000) << "the face keeps the back colour";
+}
+
+TEST_F(ButtonPainting, ACustomShapeFollowsItsPicture) {
+  button.setPicture(Picture::drawn(disc()));
+  button.setButtonShape(7);
+  button.setButtonStyle(2);
+  const QImage image = paint();
+  EXPECT_EQ(image.pixelColor(1, 1), Qt::magenta) << "outside of the outline";
+  EXPECT_EQ(image.pixelColor(20, 15), Qt::red);
+  EXPECT_EQ(image.pixelColor(30, 15), Qt::white)
+      << "inside, the background's colour is a part of the picture";
+
+  button.setPicture(Picture::drawn(disc(QSize(20, 20))));
+  EXPECT_EQ(paint().pixelColor(10, 15), Qt::red) << "stretched";
+  button.setButtonShape(8);
+  EXPECT_EQ(paint().pixelColor(10, 15), Qt::magenta) << "in its own size";
+  EXPECT_EQ(paint().pixelColor(24, 15), Qt::red);
+}
+
+TEST_F(ButtonPainting, PicturesFollowTheirSize) {
+  QImage blue(100, 100, QImage::Format_RGB32);
+  blue.fill(Qt::blue);
+  button.setPicture(Picture::drawn(blue));
+  int covered[5];
+  for (int size = 0; size < 5; ++size) {
+    button.setPictureSize(size);
+    covered[size] = count(paint(), Qt::blue);
+  }
+  EXPECT_EQ(covered[0], 16 * 16);
+  EXPECT_EQ(covered[1], 24 * 24);
+  EXPECT_EQ(covered[2], 26 * 26) << "no larger than the face has room for";
+  EXPECT_EQ(covered[3], 60 * 30);
+  EXPECT_GT(covered[4], 26 * 26);
+  EXPECT_LT(covered[4], covered[3]);
+}
+
+TEST_F(ButtonPainting, StatesShowAndNoFaceOutlivesItsProperties) {
+  button.setCaption(QStringLiteral("OK"));
+  const QImage plain = paint();
+  EXPECT_NE(paint({.pressed = true}), plain);
+  EXPECT_NE(paint({.hover = true}), plain);
+  EXPECT_EQ(paint(), plain);
+
+  button.set(Property::Mode, static_cast<int>(ButtonMode::CheckBox));
+  button.set(Property::Value, 1);
+  EXPECT_EQ(paint(), paint({.pressed = true})) << "a latched button looks pressed";
+  button.set(Property::Value, 0);
+  EXPECT_EQ(paint(), plain);
+
+  button.set(Property::Enabled, false);
+  EXPECT_EQ(paint({.hover = true}), paint()) << "a disabled button doesn't answer";
+  EXPECT_NE(paint(), plain);
+  button.set(Property::Enabled, true);
+  button.setBackColor(0x00FFFF);
+  EXPECT_NE(paint(), plain);
+}
+
+TEST_F(ButtonPainting, HoverColoursActUnlessTheyAreLocked) {
+  button.setButtonStyle(2);
+  button.set(Property::HoverBackColor, 0xFF0000);
+  const QImage locked = paint({.hover = true});
+  button.set(Property::HoverColorLocks, 1);
+  EXPECT_NE(paint({.hover = true}), locked);
+  EXPECT_EQ(paint().pixelColor(5, 15), Qt::green);
+}
+
+TEST(CustomOutline, CopesWithAnyPicture) {
+  QImage plain(3000, 5, QImage::Format_RGB32);
+  plain.fill(Qt::red);
+  const QImage nothingLeft = cutOut(plain);
+  EXPECT_LE(nothingLeft.width(), 1024);
+  EXPECT_EQ(nothingLeft.pixelColor(0, 0).alpha(), 0);
+  EXPECT_TRUE(cutOut(QImage()).isNull());
+  EXPECT_EQ(cutOut(QImage(1, 1, QImage::Format_Mono)).size(), QSize(1, 1));
+}
+
+TEST(ButtonSheet, IsDrawnAtEveryScale) {
+  EXPECT_EQ(buttonSheet(2).size(), buttonSheet(1).size() * 2);
+}
+
+}  // namespace
+}  // namespace veneerer
