@@ -1,0 +1,150 @@
+// The album view and the screen of what is playing.
+#include "canvas/design/screens.h"
+
+namespace veneerer::design {
+
+namespace {
+
+constexpr const char* kTabs[] = {"Audio", "Video", "Karaoke", "Most||Played", "Newly||Added"};
+constexpr const char* kQuickKeys[] = {"A", "B", "C", "D", "E", "F", "G", "H", "I", "J", "K", "L", "M", "N",
+                                      "O", "P", "Q", "R", "S", "T", "U", "V", "W", "X", "Y", "Z", "#"};
+constexpr int kCovers = 28;
+constexpr int kFeatured = 28;
+constexpr int kSpare = 29;  // the last cover and frame, which no layout uses
+constexpr int kColumns = 5;
+constexpr int kShownCovers = 10;
+
+// The four captions under a cover and the frame round it.
+void composeCover(Composer& c, Box cell, int i) {
+  Form1& f = c.form;
+  PictureBox& screen = f.Picture1[9];
+  const Ground& on = c.theme.screen;
+  const auto caption = [&](Label& label, const QString& text, std::int32_t ink, bool bold) {
+    const TextLook look{ink, 9, bold, Alignment::Center};
+    c.text(label, screen, cell.cutBottom(c.lineOf(look)), text, look);
+  };
+  const bool isFeatured = i == kFeatured;
+  caption(f.Label63[i], QStringLiteral("Genre:  %1").arg(i), on.muted, false);
+  caption(f.Label62[i], QStringLiteral("Released:  %1").arg(i), on.muted, false);
+  caption(f.Label10[i], isFeatured ? QStringLiteral("Featured 10") : QStringLiteral("Artist Name"), on.body,
+          false);
+  caption(f.Label9[i], isFeatured ? QStringLiteral("Featured 9") : QStringLiteral("Album Name"), on.heading,
+          true);
+  const int side = std::min(cell.w, cell.h - c.px(4));
+  const Box frame{cell.x + (cell.w - side) / 2, cell.bottom() - c.px(4) - side, side, side};
+  c.image(f.Image2[i], screen, frame.inset(c.px(6)));
+  f.Image2[i].setStretch(true);
+  c.image(f.ucAniGIF1[i], screen, frame);
+}
+
+void composeCovers(Composer& c, const Box& area) {
+  const Grid grid(area, kColumns, kShownCovers / kColumns, c.px(10), c.px(6));
+  // Covers beyond those shown wait behind the last ones, ready for a layout with more of them.
+  for (int i = kCovers; i >= 0; --i) composeCover(c, grid.cell(i < kShownCovers ? i : i % kShownCovers), i);
+  c.image(c.form.Image2[kSpare], c.form.Picture1[9], grid.cell(0).centred(c.px(48), c.px(48)));
+  c.image(c.form.ucAniGIF1[kSpare], c.form.Picture1[9], grid.cell(0).centred(c.px(48), c.px(48)));
+}
+
+void composeSlider(Composer& c, int i, const Box& place) {
+  Form1& f = c.form;
+  PictureBox& track = f.Picture13[i];
+  c.panel(track, f.Picture1[9], place, c.theme.track);
+  const int side = std::min(place.w, place.h);
+  const Box thumb = i == 0 ? Box{0, place.h / 3, side, 60} : Box{place.w / 3, 0, 80, side};
+  const Box bubble = i == 0 ? Box{0, 0, side, 28} : Box{0, 0, 36, side};
+  c.button(f.lvButtons_H55[i], track, bubble, QStringLiteral("A"), kNeutralButton);
+  c.button(f.lvButtons_H5[i], track, thumb, QStringLiteral("Slider"), c.theme.primary);
+}
+
+// One of five ways to jump to a letter is shown, so they share the bar at the foot.
+void composeNavigation(Composer& c, Box foot) {
+  Form1& f = c.form;
+  PictureBox& screen = f.Picture1[9];
+  c.button(f.lvButtons_H3[0], screen, foot.cutLeft(c.px(76), c.px(kGap)), QStringLiteral("Back"),
+           c.theme.plain);
+  c.button(f.lvButtons_H3[2], screen, foot.cutRight(c.px(76), c.px(kGap)), QStringLiteral("Forward"),
+           c.theme.plain);
+  const Box keys = foot;
+  composeSlider(c, 1, keys.centred(keys.w, c.px(32)));
+  c.buttons(f.lvButtons_H38, 0, screen, Grid(keys, 27, 1, c.px(1)), kQuickKeys, c.theme.key, 8);
+  c.button(f.lvButtons_H3[1], screen, foot.cutLeft(c.px(160), c.px(kGap)), QStringLiteral("Jump To Letter"),
+           c.theme.primary);
+  c.line(*f.Label5, screen, foot, QStringLiteral("Current Page: 0/0"),
+         {c.theme.screen.body, 11, false, Alignment::Right});
+}
+
+void composeTabs(Composer& c, Box header) {
+  Form1& f = c.form;
+  PictureBox& screen = f.Picture1[9];
+  const Grid grid(header, 8, 1, c.px(4));
+  c.buttons(f.lvButtons_H4, 0, screen, grid, kTabs, c.theme.tab);
+  c.button(f.lvButtons_H4[7], screen, grid.cell(5), QStringLiteral("Filter"), c.theme.tab);
+  c.button(f.lvButtons_H4[6], screen, grid.cell(6), QStringLiteral("More"), c.theme.tab);
+  c.button(f.lvButtons_H4[5], screen, grid.cell(7), QStringLiteral("SPIN||on THIS"), c.theme.primary);
+}
+
+void composeFilter(Composer& c, Box area) {
+  Form1& f = c.form;
+  PictureBox& screen = f.Picture1[9];
+  c.artwork(f.Picture31[7], screen, area.cutLeft(area.h, c.px(kGap)));
+  PictureBox& filter = *f.Picture24;
+  const Box place = area.cutLeft(c.px(220), c.px(kMargin));
+  c.panel(filter, screen, place, c.theme.row.back);
+  c.line(*f.Label54, filter, place.inside().inset(c.px(8), 0), QStringLiteral("Filter on: Genre"),
+         {c.theme.row.accent, 10});
+  c.line(f.Label27[2], screen, area, QStringLiteral("Status"),
+         {c.theme.screen.muted, 10, false, Alignment::Right});
+}
+
+void composePlayingPanel(Composer& c, const Box& place) {
+  Form1& f = c.form;
+  PictureBox& panel = *f.Picture17;
+  c.panel(panel, f.Picture1[8], place, kCard.back);
+  Box area = place.inside().inset(c.px(16));
+  c.artwork(f.Picture3[2], panel, area.cutBottom(c.px(92), c.px(10)).centred(c.px(92), c.px(92)));
+  const Grid rows(area, 1, 3, c.px(4));
+  constexpr TextLook kRows[] = {{kCard.heading, 16, true, Alignment::Center},
+                                {kCard.body, 13, false, Alignment::Center},
+                                {kCard.muted, 11, false, Alignment::Center}};
+  for (int i = 0; i < 3; ++i) {
+    const QString caption = i == 0 ? QStringLiteral("Now Playing ") : QStringLiteral("TEXT EXAMPLE");
+    c.line(f.Label7[i], panel, rows.cell(i), caption, kRows[i]);
+  }
+}
+
+}  // namespace
+
+void composeAlbumView(Composer& c) {
+  PictureBox& screen = c.form.Picture1[9];
+  auto [header, body] = partsOf(c, screen);
+  composeTabs(c, header.inset(0, c.px(2)));
+  const Box foot = body.cutBottom(c.px(kTouch), c.px(6));
+  composeFilter(c, body.cutTop(c.px(28), c.px(6)));
+  const Box upright = body.cutRight(c.px(34), c.px(8));
+  composeCovers(c, body);
+  composeSlider(c, 0, upright);
+  composeNavigation(c, foot);
+}
+
+void composeNowPlaying(Composer& c) {
+  Form1& f = c.form;
+  PictureBox& screen = f.Picture1[8];
+  const Ground& on = c.theme.screen;
+  auto [header, body] = partsOf(c, screen);
+  Box corner = header.inset(0, c.px(2));
+  const Box button = corner.cutRight(c.px(110), c.px(kMargin));
+  c.button(*f.lvButtons_H21, screen, button, QStringLiteral("Fullscreen"), c.theme.primary);
+  header.cutRight(button.w, c.px(kMargin));
+  c.panel(f.Picture3[3], screen, header.inset(0, c.px(4)), c.theme.header.back);
+  Box next = body.cutBottom(c.px(84), c.px(12));
+  c.panel(f.Picture3[1], screen, next.cutLeft(next.h, c.px(12)), kArtwork);
+  c.image(f.aicAlphaImage1[20], screen, next.cutRight(c.px(150), c.px(12)).centred(c.px(150), c.px(30)));
+  Box texts = next.centred(next.w, c.px(56));
+  c.line(f.Label6[0], screen, texts.cutTop(texts.h / 2), QStringLiteral("TEXT EXAMPLE"),
+         {on.heading, 13, true});
+  c.line(f.Label6[1], screen, texts, QStringLiteral("TEXT EXAMPLE"), {on.body, 11});
+  c.panel(f.Picture3[0], screen, body.cutLeft(body.h, c.px(14)), kArtwork);
+  composePlayingPanel(c, body);
+}
+
+}  // namespace veneerer::design

@@ -1,0 +1,59 @@
+#include "canvas/design/screens.h"
+
+namespace veneerer::design {
+
+namespace {
+
+constexpr int kFirstDialog = 14;
+constexpr int kPinScreen = 16;
+constexpr int kLicenceScreen = 26;
+constexpr int kConfirmScreen = 28;
+
+const Box& placeOf(const Plan& plan, int screen) {
+  if (screen == kPinScreen) return plan.pin;
+  if (screen == kConfirmScreen) return plan.confirm;
+  return screen < kFirstDialog || screen == kLicenceScreen ? plan.screen : plan.dialog;
+}
+
+}  // namespace
+
+void composeScreens(Composer& c) {
+  for (int i = 0; i < 30; ++i) c.panel(c.form.Picture1[i], c.form, placeOf(c.plan, i), c.theme.screen.back);
+  c.panel(c.form.Picture12[0], c.form, c.plan.genreBar, c.theme.bar.back);
+  c.panel(*c.form.Picture23, c.form, c.plan.popup, c.theme.bar.back);
+}
+
+void composeCanvas(Composer& c) {
+  constexpr void (*kComposers[])(Composer&) = {composeFrame,
+                                               composeScreens,
+                                               composeHistory,
+                                               composeTop20,
+                                               composeSearch,
+                                               composeQueue,
+                                               composeOptions,
+                                               composeDecades,
+                                               composePlaylist,
+                                               composeNowPlaying,
+                                               composeAlbumView,
+                                               composeTrackListing,
+                                               composeSearchResults,
+                                               composeJumpToLetter,
+                                               composeGenre,
+                                               composeSearchChoice,
+                                               composePlayOptions,
+                                               composePin,
+                                               composeDecadeSelectors,
+                                               composePlaylistDialogs,
+                                               composeNoSearchResults,
+                                               composeRequest,
+                                               composeLogin,
+                                               composeMemberHome,
+                                               composeLicence,
+                                               composeCollections,
+                                               composeConfirmation,
+                                               composeFreeCredit,
+                                               composePopup};
+  for (auto* compose : kComposers) compose(c);
+}
+
+}  // namespace veneerer::design

@@ -1,0 +1,62 @@
+// Colours and button looks of a composition. A theme is data; what stands where is the composers' business.
+#pragma once
+
+#include <cstdint>
+
+namespace veneerer::design {
+
+/// A colour in the form of the record files, 0x00BBGGRR.
+constexpr std::int32_t rgb(int red, int green, int blue) {
+  return red | green << 8 | blue << 16;
+}
+
+struct ButtonLook {
+  int shape = 0;
+  int style = 0;
+  std::int32_t back = 0;
+  std::int32_t fore = 0;
+  std::int32_t gradient = 0;
+  int mode = 0;
+};
+
+/// What texts look like on one kind of ground; every ink has a contrast of at least 4.5 to 1 on it.
+struct Ground {
+  std::int32_t back = 0;
+  std::int32_t heading = 0;
+  std::int32_t body = 0;
+  std::int32_t muted = 0;
+  std::int32_t accent = 0;
+};
+
+struct Theme {
+  Ground screen;  ///< the screens and dialogs
+  Ground header;  ///< the upper edge of a screen
+  Ground bar;     ///< menu, player and status bars
+  Ground row;     ///< a row of a list
+  Ground field;   ///< where a text is typed
+  ButtonLook menu;
+  ButtonLook transport;
+  ButtonLook plain;
+  ButtonLook primary;
+  ButtonLook tab;
+  ButtonLook key;
+  ButtonLook wideKey;      ///< the keys that do more than write a letter
+  std::int32_t track = 0;  ///< the ground of sliders
+};
+
+// No record holds the colours of these, so they look the same in every Skin: neutral darks that go with any
+// palette.
+
+/// Panels and placeholders of pictures.
+inline constexpr Ground kCard = {rgb(27, 31, 39), rgb(255, 255, 255), rgb(232, 236, 242), rgb(168, 177, 190),
+                                 rgb(120, 190, 255)};
+/// A picture that is still to come.
+inline constexpr std::int32_t kArtwork = rgb(46, 53, 66);
+/// Buttons that no record, or only another button's, brings back.
+inline constexpr ButtonLook kNeutralButton = {0, 0, rgb(58, 64, 76), rgb(255, 255, 255), rgb(38, 43, 53), 1};
+inline constexpr ButtonLook kDangerButton = {0, 0, rgb(150, 30, 38), rgb(255, 255, 255), rgb(104, 16, 24), 1};
+
+/// The theme of the built-in design.
+const Theme& blackAndBlue();
+
+}  // namespace veneerer::design
