@@ -3,21 +3,23 @@
 # they were put in; sources end theirs in LF.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+source tools/setup.sh
 
-tracked() { git -c safe.directory="$PWD" ls-files --eol -- "$@"; }
-
+need_packages git
+# A line reads: i/<ending in git> w/<ending on disk> attr/<attributes> <tab> <path>
+listing=$(git -c safe.directory="$PWD" ls-files --eol)
 status=0
-# Columns: i/<ending in git> w/<ending on disk> attr/<attributes> <path>
-if tracked Skins tests | grep -E $'\\.(ini|cov)$' | grep -v 'attr/-text'; then
-  echo "These record files lack the attribute -text (.gitattributes)." >&2
+
+# forbid WHAT CONDITION: lists the files for which the awk condition holds.
+forbid() {
+  local found
+  found=$(awk "$2" <<<"$listing")
+  [[ -z "$found" ]] && return
+  printf '%s:\n%s\n' "$1" "$found" >&2
   status=1
-fi
-if tracked Skins | awk '{ sub("i/", "", $1); sub("w/", "", $2) } $1 != $2' | grep .; then
-  echo "The line endings of these files differ between git and the disk." >&2
-  status=1
-fi
-if tracked src tests bench tools docs run test .ci '*.md' '*.txt' | grep -v 'attr/-text' | grep -E '^[iw]/(crlf|mixed)| w/(crlf|mixed)'; then
-  echo "These sources hold CR LF." >&2
-  status=1
-fi
+}
+
+forbid "Record files without the attribute -text (.gitattributes)" '/\.(ini|cov)$/ && !/attr\/-text/'
+forbid "Files of a Skin that git changed" '/\t(Skins|images)\// && substr($1, 3) != substr($2, 3)'
+forbid "Sources with CR LF" '!/attr\/-text/ && /[iw]\/(crlf|mixed)/'
 exit "$status"
