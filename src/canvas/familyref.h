@@ -11,6 +11,6 @@ template <auto Member>
 inline constexpr FamilyRef kCanvas = [](State& state) -> Family& { return state.form1.*Member; };
 
 template <auto Member>
-inline constexpr FamilyRef kSample = [](State& state) -> Family& { return state.form6.*Member; };
+inline constexpr FamilyRef kTools = [](State& state) -> Family& { return state.form6.*Member; };
 
 }  // namespace veneerer

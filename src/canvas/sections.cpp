@@ -13,9 +13,9 @@ constexpr Section kSections[] = {
     {2, kCanvas<&Form1::lvButtons_H2>, "CZSYGK"},
     {3, kCanvas<&Form1::lvButtons_H3>, "CZSYGK"},
     {4, kCanvas<&Form1::lvButtons_H4>, "CZSYGK"},
-    {5, kSample<&Form6::Label5>, "K"},
-    {6, kSample<&Form6::Label6>, "K"},
-    {8, kSample<&Form6::lvButtons_H5>, "ZSYK"},
+    {5, kTools<&Form6::Label5>, "K"},
+    {6, kTools<&Form6::Label6>, "K"},
+    {8, kTools<&Form6::lvButtons_H5>, "ZSYK"},
     {9, kCanvas<&Form1::lvButtons_H6>, "CZSYGK"},
     {10, kCanvas<&Form1::lvButtons_H7>, "CZSYK"},
     {11, kCanvas<&Form1::Label32>, "ZAKFND"},
@@ -194,6 +194,11 @@ Element* currentElement(State& state) {
   const Family* family = familyOfSection(state, state.globals.SectionNumber);
   if (!family) return nullptr;
   return family->find(family->isArray() ? state.globals.ElementIndex : 0);
+}
+
+Element* currentElement(State& state, ToolField field) {
+  const Section* section = findSection(state.globals.SectionNumber);
+  return section && section->serves(field) ? currentElement(state) : nullptr;
 }
 
 }  // namespace veneerer

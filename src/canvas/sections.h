@@ -50,4 +50,7 @@ Family* familyOfSection(State& state, int number);
 /// is none.
 Element* currentElement(State& state);
 
+/// The element in hand when that field serves the current Section, else null.
+Element* currentElement(State& state, ToolField field);
+
 }  // namespace veneerer

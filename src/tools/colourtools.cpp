@@ -1,0 +1,96 @@
+#include "tools/colourtools.h"
+
+#include <algorithm>
+#include <optional>
+#include <span>
+
+#include "canvas/sections.h"
+#include "tools/colourtables.h"
+#include "tools/colourtext.h"
+
+namespace veneerer {
+
+namespace {
+
+constexpr Property kOptions[] = {Property::ForeColor, Property::BackColor, Property::GradientColor};
+
+bool contains(std::span<const int> sections, int number) {
+  return std::ranges::find(sections, number) != sections.end();
+}
+
+std::optional<Property> chosenOption(const State& state) {
+  for (int k = 0; k < 3; ++k)
+    if (state.form6.Option1[k].isSelected()) return kOptions[k];
+  return std::nullopt;
+}
+
+/// A label or a picture has no gradient colour.
+void colour(Element& element, std::optional<Property> option, std::int32_t number) {
+  if (option && element.has(*option)) element.set(*option, number);
+}
+
+void colourCurrent(State& state) {
+  if (Element* element = currentElement(state, ToolField::Colour))
+    colour(*element, chosenOption(state), state.globals.CurrentColour);
+}
+
+std::int32_t chooseColour(Dialogs& dialogs) {
+  constexpr std::int32_t kBlack = 0;
+  return dialogs.chooseColour(kBlack).value_or(kBlack);
+}
+
+// The gradient mode is copied along whichever colour is chosen.
+void copyTo(State& state, const Family& family) {
+  state.globals.CurrentColour = colourNumber(state.form6.Text2->text());
+  const auto option = chosenOption(state);
+  const int gradient = state.form6.Combo4->listIndex();
+  const bool isMenu = &family == &state.form1.lvButtons_H1;
+  for (Element* element : family.members()) {
+    if (isMenu && element->index() > kLastColouredMenuButton) return;
+    colour(*element, option, state.globals.CurrentColour);
+    if (gradient >= 0 && element->has(Property::GradientMode)) element->set(Property::GradientMode, gradient);
+  }
+}
+
+}  // namespace
+
+void typeColour(State& state) {
+  if (!contains(kTypedColourSections, state.globals.SectionNumber)) return;
+  state.globals.CurrentColour = typedColour(state.form6.Text2->text());
+  colourCurrent(state);
+}
+
+void pickColour(State& state, Dialogs& dialogs) {
+  if (state.globals.SectionNumber == 0) return;
+  const std::int32_t number = chooseColour(dialogs);
+  state.globals.CurrentColour = number;
+  state.form6.Picture2->setBackColor(number);
+  state.form6.Text2->setText(QString::number(number));
+  colourCurrent(state);
+}
+
+void pickHighlightColour(State& state, Dialogs& dialogs) {
+  state.globals.CurrentColour = chooseColour(dialogs);
+  state.form6.Picture1->setBackColor(state.globals.CurrentColour);
+}
+
+void showColour(State& state) {
+  if (!contains(kShownColourSections, state.globals.SectionNumber)) return;
+  const Element* element = currentElement(state);
+  const auto option = chosenOption(state);
+  if (!element || !option || !element->has(*option)) return;
+  const auto number = element->as<std::int32_t>(*option);
+  state.form6.Text2->setText(QString::number(number));
+  state.form6.Picture2->setBackColor(number);
+}
+
+void copyColours(State& state) {
+  const int section = state.globals.SectionNumber;
+  if (contains(kCopiedColourSections, section)) copyTo(state, *familyOfSection(state, section));
+}
+
+void copyColoursGlobally(State& state) {
+  for (int section : kCopiedColourSections) copyTo(state, *familyOfSection(state, section));
+}
+
+}  // namespace veneerer

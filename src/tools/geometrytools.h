@@ -1,0 +1,36 @@
+// The commands of Form6 that line up a whole family at once: the family of the current Section, in the range
+// that geometrytables.h gives. Each reads its fields when it runs; a text that holds no number counts as 0.
+#pragma once
+
+#include "forms/state.h"
+
+namespace veneerer {
+
+enum class Axis { X = 0, Y = 1 };
+
+/// "Make Buttons Same Size": Height and Width from Text3.
+void makeSameSize(State& state);
+
+/// "Make Buttons Same Place": Top and Left of the screens from Text9.
+void makeSamePlace(State& state);
+
+/// "Shift X" and "Shift Y": Left or Top grows by Text5.
+void shift(State& state, Axis axis);
+
+/// "Align X" and "Align Y": Left or Top becomes that of the element clicked last.
+void align(State& state, Axis axis);
+
+/// "Space X" and "Space Y": each element is set behind its neighbour.
+void space(State& state, Axis axis);
+
+/// "Snap To Grid": towards zero, onto multiples of Text10, where values below 1 become "1".
+void snapToGrid(State& state);
+
+/// "Clear Button Images".
+void clearImages(State& state);
+
+/// "Copy Styles To All Buttons": shape and style from Combo1 and Combo2; a list without a chosen row is
+/// passed over.
+void copyStyles(State& state);
+
+}  // namespace veneerer

@@ -1,0 +1,38 @@
+// The Tools window at work: which field and which command starts which tool.
+#pragma once
+
+#include "forms/state.h"
+#include "platform/platform.h"
+
+namespace veneerer {
+
+/// Listens to the fields of Form6 for as long as it lives. A field counts as changed whoever changed it, the
+/// operator or a click that filled it.
+class ToolsPalette {
+public:
+  /// Both must outlive the palette.
+  ToolsPalette(State& state, Platform& platform);
+  ~ToolsPalette();
+  ToolsPalette(const ToolsPalette&) = delete;
+  ToolsPalette& operator=(const ToolsPalette&) = delete;
+
+  /// The click event of a command button, a colour sample or an option of Form6; any other element is left
+  /// alone.
+  void click(Element& element);
+
+  State& state() const { return state_; }
+  Platform& platform() const { return platform_; }
+
+  /// Shows the colour that Option1 stands for, without Text2 counting as typed into.
+  void showColour();
+
+private:
+  void changed(const Change& change);
+
+  State& state_;
+  Platform& platform_;
+  int subscription_;
+  bool isShowingColour_ = false;
+};
+
+}  // namespace veneerer
