@@ -1,0 +1,51 @@
+// Plays the animated pictures of a window. Only what is shown costs anything: frames on a hidden screen stand
+// still. Elements that show the same picture share one movie and move in step.
+#pragma once
+
+#include <QHash>
+#include <QImage>
+#include <QTimer>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "elements/controls.h"
+#include "elements/window.h"
+
+class QMovie;
+
+namespace veneerer {
+
+class ucAniGIF {
+public:
+  /// Told which element shows another frame than before.
+  using Repaint = std::function<void(const Element&)>;
+
+  /// The window must outlive the player. It needs the thread's event loop.
+  ucAniGIF(Window& window, Repaint repaint);
+  ~ucAniGIF();
+  ucAniGIF(const ucAniGIF&) = delete;
+  ucAniGIF& operator=(const ucAniGIF&) = delete;
+
+  /// The frame to show now; a null image for an element that isn't playing, whose picture shows its first.
+  QImage frame(const Element& element) const;
+
+  /// Starts what is shown and stops what isn't. It runs by itself, once the program comes to rest, after
+  /// anything was shown, hidden or given another picture.
+  void update();
+
+private:
+  struct Playing;
+
+  Window& window_;
+  Repaint repaint_;
+  int subscription_;
+  QTimer pending_;
+  std::vector<AnimatedFrame*> elements_;
+  QHash<quintptr, std::shared_ptr<Playing>> playing_;  // by the picture's id
+
+  std::shared_ptr<Playing> play(const Picture& picture);
+  void tell(const Playing& playing) const;
+};
+
+}  // namespace veneerer
