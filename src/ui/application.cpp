@@ -1,0 +1,42 @@
+#include "ui/application.h"
+
+#include <QMessageBox>
+#include <QTextStream>
+
+#include "records/recorderror.h"
+
+namespace veneerer {
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+  setApplicationName(QStringLiteral("veneerer"));
+  setApplicationDisplayName(QStringLiteral("Veneerer"));
+  setApplicationVersion(QStringLiteral("3.0"));
+  // No window is open for a moment between the splash and the others.
+  setQuitOnLastWindowClosed(false);
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+  try {
+    return QApplication::notify(receiver, event);
+  } catch (const RecordError& error) {
+    fail(error.message());
+  } catch (const std::exception& error) {
+    fail(QString::fromLocal8Bit(error.what()));
+  }
+  return true;
+}
+
+void Application::fail(const QString& message) {
+  if (std::exchange(failed_, true)) return;
+  QTextStream(stderr) << message << Qt::endl;
+  QMessageBox box(QMessageBox::Critical, QStringLiteral("Veneerer"), QString(), QMessageBox::Ok,
+                  activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.setText(message);
+  box.setInformativeText(
+      QStringLiteral("The program ends. Files that were written before stay as they are."));
+  box.exec();
+  exit(kFailureStatus);
+}
+
+}  // namespace veneerer

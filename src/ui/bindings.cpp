@@ -1,0 +1,243 @@
+#include "ui/bindings.h"
+
+#include <QGuiApplication>
+#include <QStyleHints>
+
+namespace veneerer {
+
+namespace {
+
+class FieldBinding : public Binding {
+public:
+  FieldBinding(const Ui& ui, TextBox& box, QLineEdit& widget)
+      : Binding(ui.bindings, box, widget), box_(box), widget_(widget) {
+    connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) { box_.setText(text); });
+    show(Property::Text);
+  }
+  void show(Property) override {
+    // Setting the text that stands there already would move the operator's cursor.
+    if (widget_.text() != box_.text()) widget_.setText(box_.text());
+  }
+
+private:
+  TextBox& box_;
+  QLineEdit& widget_;
+};
+
+class ComboBinding : public Binding {
+public:
+  ComboBinding(const Ui& ui, ComboBox& box, TextCombo& widget)
+      : Binding(ui.bindings, box, widget), box_(box), widget_(widget) {
+    connect(&widget, &QComboBox::activated, this, &ComboBinding::choose);
+    if (widget.isEditable())
+      connect(widget.lineEdit(), &QLineEdit::textEdited, this,
+              [this](const QString& text) { box_.setText(text); });
+    show(Property::List);
+  }
+  void show(Property) override { widget_.present(box_.list(), box_.listIndex(), box_.text()); }
+
+private:
+  void choose(int row) {
+    box_.select(row);
+    show(Property::ListIndex);
+  }
+  ComboBox& box_;
+  TextCombo& widget_;
+};
+
+class ListBinding : public Binding {
+public:
+  ListBinding(const Ui& ui, RowList& list, RowListView& widget)
+      : Binding(ui.bindings, list, widget), list_(list), widget_(widget) {
+    connect(&widget, &RowListView::chosen, this, &ListBinding::chosen);
+    ListBinding::show(Property::List);
+  }
+  void show(Property) override { widget_.present(list_.list(), list_.listIndex()); }
+
+protected:
+  virtual void chosen(int row) { choose(row); }
+  void choose(int row) {
+    list_.select(row);
+    show(Property::ListIndex);
+  }
+  RowList& list_;
+  RowListView& widget_;
+};
+
+// A click asks a question, a double click asks none: so a click waits for as long as it may still become the
+// first half of a double click.
+class FileListBinding : public ListBinding {
+public:
+  FileListBinding(const Ui& ui, FileList& list, RowListView& widget)
+      : ListBinding(ui, list, widget), hands_(ui.hands) {
+    wait_.setSingleShot(true);
+    connect(&wait_, &QTimer::timeout, this, [this] { choose(row_); });
+    connect(&widget, &RowListView::choseTwice, this, &FileListBinding::choseTwice);
+  }
+
+private:
+  void chosen(int row) override {
+    row_ = row;
+    wait_.start(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+  }
+  void choseTwice(int row) {
+    wait_.stop();
+    // The text brings the row with it and isn't a selection, which would ask.
+    if (list_.hasRow(row) && row >= 0) list_.setText(list_.list().at(row));
+    hands_.doubleClick(list_);
+    show(Property::ListIndex);
+  }
+  Operator& hands_;
+  QTimer wait_;
+  int row_ = -1;
+};
+
+class CheckBinding : public Binding {
+public:
+  CheckBinding(const Ui& ui, CheckBox& box, QCheckBox& widget)
+      : Binding(ui.bindings, box, widget), box_(box), widget_(widget) {
+    connect(&widget, &QCheckBox::clicked, this, [this] {
+      box_.setValue(box_.isTicked() ? 0 : 1);
+      show(Property::Value);
+    });
+    show(Property::Caption);
+    show(Property::Value);
+  }
+  void show(Property changed) override {
+    if (changed == Property::Caption) return widget_.setText(box_.caption());
+    constexpr Qt::CheckState kStates[] = {Qt::Unchecked, Qt::Checked, Qt::PartiallyChecked};
+    widget_.setCheckState(kStates[box_.value()]);
+  }
+
+private:
+  CheckBox& box_;
+  QCheckBox& widget_;
+};
+
+class OptionBinding : public Binding {
+public:
+  OptionBinding(const Ui& ui, OptionButton& option, QRadioButton& widget)
+      : Binding(ui.bindings, option, widget), option_(option), widget_(widget) {
+    connect(&widget, &QRadioButton::clicked, this, [this] { option_.select(); });
+    show(Property::Caption);
+    show(Property::Value);
+  }
+  void show(Property changed) override {
+    if (changed == Property::Caption) return widget_.setText(option_.caption());
+    // An exclusive widget refuses to be released while no other of its group is chosen.
+    widget_.setAutoExclusive(false);
+    widget_.setChecked(option_.isSelected());
+    widget_.setAutoExclusive(true);
+  }
+
+private:
+  OptionButton& option_;
+  QRadioButton& widget_;
+};
+
+class CommandBinding : public Binding {
+public:
+  CommandBinding(const Ui& ui, CommandButton& command, QPushButton& widget)
+      : Binding(ui.bindings, command, widget), command_(command), widget_(widget) {
+    connect(&widget, &QPushButton::clicked, this, [this, &hands = ui.hands] { hands.click(command_); });
+    show(Property::Caption);
+  }
+  void show(Property) override { widget_.setText(command_.caption()); }
+
+private:
+  CommandButton& command_;
+  QPushButton& widget_;
+};
+
+class CaptionBinding : public Binding {
+public:
+  CaptionBinding(const Ui& ui, Label& label, QLabel& widget)
+      : Binding(ui.bindings, label, widget), label_(label), widget_(widget) {
+    widget.setTextFormat(Qt::PlainText);
+    show(Property::Caption);
+  }
+  void show(Property) override { widget_.setText(label_.caption()); }
+
+private:
+  Label& label_;
+  QLabel& widget_;
+};
+
+class PaintedBinding : public Binding {
+public:
+  PaintedBinding(const Ui& ui, Element& element, QAbstractButton& widget)
+      : Binding(ui.bindings, element, widget), widget_(widget) {
+    connect(&widget, &QAbstractButton::clicked, this,
+            [&element, &hands = ui.hands] { hands.click(element); });
+  }
+  void show(Property changed) override {
+    if (changed == Property::Width || changed == Property::Height) widget_.updateGeometry();
+    widget_.update();
+  }
+
+private:
+  QAbstractButton& widget_;
+};
+
+// A control that has a tool tip of its own in the state shows it.
+template <class B, class W, class E>
+W* bound(const Ui& ui, E& element, W* widget) {
+  new B(ui, element, *widget);
+  if (!element.toolTipText().isEmpty()) widget->setToolTip(plainToolTip(element.toolTipText()));
+  return widget;
+}
+
+}  // namespace
+
+QLineEdit* makeField(const Ui& ui, TextBox& element) {
+  return bound<FieldBinding>(ui, element, new QLineEdit);
+}
+
+TextCombo* makeCombo(const Ui& ui, ComboBox& element) {
+  return bound<ComboBinding>(ui, element, new TextCombo);
+}
+
+TextCombo* makeEditableCombo(const Ui& ui, ComboBox& element) {
+  auto* combo = new TextCombo;
+  combo->setEditable(true);
+  combo->setCompleter(nullptr);
+  return bound<ComboBinding>(ui, element, combo);
+}
+
+RowListView* makeList(const Ui& ui, RowList& element) {
+  return bound<ListBinding>(ui, element, new RowListView);
+}
+
+RowListView* makeFileList(const Ui& ui, FileList& element) {
+  return bound<FileListBinding>(ui, element, new RowListView);
+}
+
+QCheckBox* makeCheck(const Ui& ui, CheckBox& element) {
+  return bound<CheckBinding>(ui, element, new QCheckBox);
+}
+
+QRadioButton* makeOption(const Ui& ui, OptionButton& element) {
+  return bound<OptionBinding>(ui, element, new QRadioButton);
+}
+
+QPushButton* makeCommand(const Ui& ui, CommandButton& element) {
+  auto* button = bound<CommandBinding>(ui, element, new QPushButton);
+  button->setAutoDefault(false);
+  return button;
+}
+
+QLabel* makeCaption(const Ui& ui, Label& element) {
+  return bound<CaptionBinding>(ui, element, new QLabel);
+}
+
+void bindPainted(const Ui& ui, Element& element, QAbstractButton& widget) {
+  widget.setFocusPolicy(Qt::TabFocus);
+  widget.setCursor(Qt::PointingHandCursor);
+  new PaintedBinding(ui, element, widget);
+}
+
+QString plainToolTip(const QString& text) {
+  return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+}
+
+}  // namespace veneerer

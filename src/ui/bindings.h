@@ -1,0 +1,49 @@
+// One binding for each kind of control, and the functions that make a control with its binding. What the
+// operator does goes to the element; what the element becomes, by whatever hand, comes back by its notices.
+#pragma once
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+
+#include "elements/controls.h"
+#include "elements/label.h"
+#include "ui/bindingtable.h"
+#include "ui/controls.h"
+#include "ui/operator.h"
+
+namespace veneerer {
+
+/// What every window is made with.
+struct Ui {
+  Operator& hands;
+  BindingTable& bindings;
+};
+
+// The caption of a window's control shows "&&" as "&". Element captions are never rich text.
+
+QLineEdit* makeField(const Ui& ui, TextBox& element);
+TextCombo* makeCombo(const Ui& ui, ComboBox& element);
+/// A combo box that can be typed into.
+TextCombo* makeEditableCombo(const Ui& ui, ComboBox& element);
+/// A list whose single choice is a click.
+RowListView* makeList(const Ui& ui, RowList& element);
+/// The list of cover files: a double click is an event of its own and spares the operator the click's
+/// question.
+RowListView* makeFileList(const Ui& ui, FileList& element);
+QCheckBox* makeCheck(const Ui& ui, CheckBox& element);
+QRadioButton* makeOption(const Ui& ui, OptionButton& element);
+QPushButton* makeCommand(const Ui& ui, CommandButton& element);
+QLabel* makeCaption(const Ui& ui, Label& element);
+
+/// For a control that paints its element itself: it is painted anew after each change, takes the focus by the
+/// tabulator, and a click on it is the click event of the element.
+void bindPainted(const Ui& ui, Element& element, QAbstractButton& widget);
+
+/// A text as it stands where a widget would otherwise take it for rich text.
+QString plainToolTip(const QString& text);
+
+}  // namespace veneerer

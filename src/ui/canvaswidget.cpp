@@ -1,0 +1,177 @@
+#include "ui/canvaswidget.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <cmath>
+
+#include "canvas/sections.h"
+#include "components/hittest.h"
+
+namespace veneerer {
+
+namespace {
+
+// Pixels; a hostile Skin can name any size.
+constexpr double kLargestSide = 16000;
+
+// How far around its line the outline is repainted, pixels.
+constexpr int kOutlineReach = 2;
+
+int sidePixels(double pixels) {
+  return std::isnan(pixels) ? 1 : static_cast<int>(std::clamp(std::ceil(pixels), 1.0, kLargestSide));
+}
+
+QRect reach(const QRect& outline) {
+  constexpr int r = kOutlineReach;
+  return outline.isNull() ? outline : outline.adjusted(-r, -r, r, r);
+}
+
+}  // namespace
+
+CanvasWidget::CanvasWidget(const Ui& ui)
+    : hands_(ui.hands),
+      state_(ui.hands.state()),
+      pixelsPerTwipX_(1 / ui.hands.screen().twipsPerPixelX()),
+      pixelsPerTwipY_(1 / ui.hands.screen().twipsPerPixelY()),
+      subscription_(state_.notices.subscribe([this](const Change& change) { changed(change); })),
+      dirty_(pixelsPerTwipX_, pixelsPerTwipY_),
+      frames_(state_.form1, [this](const Element& frame) {
+        dirty_.add(dirty_.pixelsOf(windowRect(frame)));
+        scheduleRepaint();
+      }) {
+  painter_.setFrameSource([this](const Element& frame) { return frames_.frame(frame); });
+  setObjectName(QStringLiteral("canvas"));
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(true);
+  setFocusPolicy(Qt::ClickFocus);
+  connect(&hands_, &Operator::acted, this, &CanvasWidget::scheduleRepaint);
+}
+
+CanvasWidget::~CanvasWidget() {
+  state_.notices.unsubscribe(subscription_);
+}
+
+QSize CanvasWidget::sizeHint() const {
+  return QSize(sidePixels(state_.form1.width() * pixelsPerTwipX_),
+               sidePixels(state_.form1.height() * pixelsPerTwipY_));
+}
+
+void CanvasWidget::changed(const Change& change) {
+  if (&change.element.window() != &state_.form1) return;
+  if (!change.element.family()) return windowChanged(change.property);
+  dirty_.add(change);
+  scheduleRepaint();
+}
+
+void CanvasWidget::windowChanged(Property property) {
+  dirty_.addAll();
+  scheduleRepaint();
+  if (property == Property::Width || property == Property::Height) Q_EMIT resized();
+}
+
+void CanvasWidget::scheduleRepaint() {
+  if (std::exchange(repaintScheduled_, true)) return;
+  QMetaObject::invokeMethod(this, &CanvasWidget::repaintDirty, Qt::QueuedConnection);
+}
+
+void CanvasWidget::repaintDirty() {
+  repaintScheduled_ = false;
+  QRegion region = dirty_.take();
+  const QRect outline = outlineRect();
+  if (outline != outline_) region = region + reach(outline_) + reach(outline);
+  outline_ = outline;
+  if (!region.isEmpty()) update(region);
+  if (pointed_) Q_EMIT pointed(isShown(*pointed_) ? pointed_ : nullptr);
+}
+
+void CanvasWidget::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  for (const QRect& exposed : event->region())
+    painter_.paint(painter, state_.form1, exposed, pixelsPerTwipX_, pixelsPerTwipY_);
+  paintOutline(painter);
+}
+
+QRect CanvasWidget::outlineRect() const {
+  const Element* element = currentElement(state_);
+  if (!element || &element->window() != &state_.form1 || !isShown(*element)) return QRect();
+  // Only what can be in sight: a dashed line around an absurd size would take for ever.
+  return dirty_.pixelsOf(windowRect(*element)) & reach(rect());
+}
+
+void CanvasWidget::paintOutline(QPainter& painter) const {
+  if (outline_.isNull()) return;
+  // Black and white side by side show on any Skin.
+  const QRect line = outline_.adjusted(0, 0, -1, -1);
+  painter.setPen(QPen(Qt::black, 1));
+  painter.drawRect(line);
+  QPen dashes(Qt::white, 1);
+  dashes.setDashPattern({4, 4});
+  painter.setPen(dashes);
+  painter.drawRect(line);
+}
+
+void CanvasWidget::mousePressEvent(QMouseEvent* event) {
+  Element* element = at(event->position());
+  if (!element) return;
+  const QPointF place = inside(*element, event->position());
+  const auto x = static_cast<float>(place.x());
+  const auto y = static_cast<float>(place.y());
+  if (event->button() == Qt::LeftButton) {
+    grabbed_ = element;
+    hands_.press(*element, x, y, MouseButton::Left);
+  } else if (event->button() == Qt::RightButton) {
+    hands_.press(*element, x, y, MouseButton::Right);
+  }
+}
+
+void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
+  if (!grabbed_ || !(event->buttons() & Qt::LeftButton)) return point(at(event->position()));
+  const QPointF place = inside(*grabbed_, event->position());
+  hands_.move(*grabbed_, static_cast<float>(place.x()), static_cast<float>(place.y()), MouseButton::Left);
+}
+
+void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !grabbed_) return;
+  Element* element = std::exchange(grabbed_, nullptr);
+  if (windowRect(*element).contains(toTwips(event->position()))) hands_.click(*element);
+}
+
+void CanvasWidget::leaveEvent(QEvent*) {
+  point(nullptr);
+}
+
+bool CanvasWidget::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  showToolTip(help->globalPos(), help->pos());
+  return true;
+}
+
+void CanvasWidget::showToolTip(const QPoint& global, const QPoint& place) {
+  const Element* element = at(place);
+  if (!element || element->toolTipText().isEmpty()) return QToolTip::hideText();
+  QToolTip::showText(global, plainToolTip(element->toolTipText()), this,
+                     dirty_.pixelsOf(windowRect(*element)) & rect());
+}
+
+void CanvasWidget::point(Element* element) {
+  if (std::exchange(pointed_, element) != element) Q_EMIT pointed(element);
+}
+
+QPointF CanvasWidget::toTwips(QPointF pixels) const {
+  return QPointF(pixels.x() / pixelsPerTwipX_, pixels.y() / pixelsPerTwipY_);
+}
+
+QPointF CanvasWidget::inside(const Element& element, QPointF pixels) const {
+  return toTwips(pixels) - windowRect(element).topLeft();
+}
+
+Element* CanvasWidget::at(QPointF pixels) const {
+  const QPointF twips = toTwips(pixels);
+  return elementAt(state_.form1, static_cast<float>(twips.x()), static_cast<float>(twips.y()));
+}
+
+}  // namespace veneerer

@@ -1,0 +1,67 @@
+// The design canvas: one painted widget for all elements of Form1.
+#pragma once
+
+#include <QWidget>
+
+#include "components/anigif.h"
+#include "components/canvaspainter.h"
+#include "ui/bindings.h"
+#include "ui/dirtyarea.h"
+
+namespace veneerer {
+
+/// Paints what has changed, and turns the mouse into clicks, presses and moves of the elements under it. An
+/// element that takes a press keeps the mouse until the button is released. A thin outline that isn't part of
+/// the Skin marks the element in hand.
+class CanvasWidget : public QWidget {
+  Q_OBJECT
+
+public:
+  explicit CanvasWidget(const Ui& ui);
+  ~CanvasWidget() override;
+
+  /// The canvas window's width and height in pixels, within what a screen could ever show.
+  QSize sizeHint() const override;
+
+Q_SIGNALS:
+  /// The pointer stands on another element, null for none, or its element has changed.
+  void pointed(const Element* element);
+  /// The size of the canvas window has changed.
+  void resized();
+
+protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+private:
+  void changed(const Change& change);
+  void windowChanged(Property property);
+  void scheduleRepaint();
+  void repaintDirty();
+  QRect outlineRect() const;
+  void paintOutline(QPainter& painter) const;
+  void point(Element* element);
+  void showToolTip(const QPoint& global, const QPoint& at);
+  QPointF toTwips(QPointF pixels) const;
+  QPointF inside(const Element& element, QPointF pixels) const;
+  Element* at(QPointF pixels) const;
+
+  Operator& hands_;
+  State& state_;
+  double pixelsPerTwipX_;
+  double pixelsPerTwipY_;
+  int subscription_;
+  CanvasPainter painter_;
+  DirtyArea dirty_;
+  bool repaintScheduled_ = false;
+  ucAniGIF frames_;
+  QRect outline_;
+  Element* grabbed_ = nullptr;
+  Element* pointed_ = nullptr;
+};
+
+}  // namespace veneerer

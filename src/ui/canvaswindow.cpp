@@ -1,0 +1,164 @@
+#include "ui/canvaswindow.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QScreen>
+#include <QStatusBar>
+
+#include "canvas/screens.h"
+#include "ui/description.h"
+
+namespace veneerer {
+
+namespace {
+
+// Ticks the entry of the Edit Section list that is chosen.
+class ScreenMenuBinding : public Binding {
+public:
+  ScreenMenuBinding(const Ui& ui, ComboBox& list, QMenu& menu)
+      : Binding(ui.bindings, list, menu), list_(list), menu_(menu) {
+    show(Property::ListIndex);
+  }
+  void show(Property) override {
+    const QList<QAction*> entries = menu_.actions();
+    for (int i = 0; i < entries.size(); ++i) entries[i]->setChecked(i == list_.listIndex());
+  }
+
+private:
+  ComboBox& list_;
+  QMenu& menu_;
+};
+
+QString plainMenuText(QString text) {
+  return text.replace(u'&', QStringLiteral("&&"));
+}
+
+}  // namespace
+
+CanvasWindow::CanvasWindow(const Ui& ui)
+    : ui_(ui),
+      state_(ui.hands.state()),
+      view_(new QScrollArea),
+      canvas_(new CanvasWidget(ui)),
+      status_(new QLabel) {
+  setWindowTitle(QStringLiteral("Veneerer"));
+  view_->setFrameShape(QFrame::NoFrame);
+  view_->setWidget(canvas_);
+  view_->setBackgroundRole(QPalette::Dark);
+  setCentralWidget(view_);
+  status_->setTextFormat(Qt::PlainText);
+  // However long the line is, the window needn't be as wide.
+  status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  statusBar()->addWidget(status_, 1);
+  connect(canvas_, &CanvasWidget::resized, this, &CanvasWindow::fitCanvas);
+  connect(canvas_, &CanvasWidget::pointed, this, &CanvasWindow::pointed);
+  addFileMenu();
+  addViewMenu();
+  addWindowMenu();
+  addHelpMenu();
+  fitCanvas();
+}
+
+QSize CanvasWindow::sizeHint() const {
+  const int bars = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
+  return canvas_->sizeHint() + QSize(0, bars);
+}
+
+QAction* CanvasWindow::addCommand(QMenu* menu, const QString& text, const QKeySequence& keys,
+                                  const QString& tip) {
+  QAction* action = menu->addAction(text);
+  action->setShortcut(keys);
+  // The keys work in every window of the program.
+  action->setShortcutContext(Qt::ApplicationShortcut);
+  action->setStatusTip(tip);
+  return action;
+}
+
+void CanvasWindow::addFileMenu() {
+  QMenu* menu = menuBar()->addMenu(QStringLiteral("&File"));
+  QAction* save = addCommand(menu, QStringLiteral("&Save Skin"), QKeySequence::Save,
+                             QStringLiteral("Write the record files of the Skin"));
+  connect(save, &QAction::triggered, this, [this] { ui_.hands.click(*state_.form4.Command4); });
+  menu->addSeparator();
+  QAction* quit = addCommand(menu, QStringLiteral("&Quit"), QKeySequence::Quit,
+                             QStringLiteral("End the program; nothing is saved"));
+  connect(quit, &QAction::triggered, this, &QWidget::close);
+}
+
+void CanvasWindow::addViewMenu() {
+  QMenu* menu = menuBar()->addMenu(QStringLiteral("&View"));
+  addScreenMenu(menu->addMenu(QStringLiteral("&Screen")));
+  menu->addSeparator();
+  QAction* next = addCommand(menu, QStringLiteral("&Next Screen"), QKeySequence(u"Ctrl+PgDown"_qs),
+                             QStringLiteral("Show the screen behind this one in the list"));
+  connect(next, &QAction::triggered, this, [this] { showScreen(1); });
+  QAction* previous = addCommand(menu, QStringLiteral("&Previous Screen"), QKeySequence(u"Ctrl+PgUp"_qs),
+                                 QStringLiteral("Show the screen ahead of this one in the list"));
+  connect(previous, &QAction::triggered, this, [this] { showScreen(-1); });
+}
+
+void CanvasWindow::addScreenMenu(QMenu* menu) {
+  for (int i = 0; i < static_cast<int>(kScreenEntries.size()); ++i) {
+    const QStringView text = kScreenEntries[static_cast<std::size_t>(i)];
+    QAction* entry = menu->addAction(plainMenuText(text.toString()));
+    entry->setCheckable(true);
+    connect(entry, &QAction::triggered, this, [this, i] { state_.form6.Combo6->select(i); });
+  }
+  new ScreenMenuBinding(ui_, *state_.form6.Combo6, *menu);
+}
+
+void CanvasWindow::showScreen(int step) {
+  ComboBox& screens = *state_.form6.Combo6;
+  const int row = screens.listIndex() + step;
+  if (row >= 0) screens.select(row);
+}
+
+void CanvasWindow::addWindowMenu() {
+  struct Entry {
+    const char* text;
+    Window* window;
+    int key;
+  };
+  const Entry entries[] = {
+      {"&Button Settings", &state_.form2, Qt::Key_F2},
+      {"&File Controls/Settings", &state_.form4, Qt::Key_F4},
+      {"Texture &Viewer", &state_.form5, Qt::Key_F5},
+      {"&Tools", &state_.form6, Qt::Key_F6},
+  };
+  QMenu* menu = menuBar()->addMenu(QStringLiteral("&Window"));
+  for (const Entry& entry : entries) {
+    QAction* action = addCommand(menu, QString::fromLatin1(entry.text), QKeySequence(entry.key),
+                                 QStringLiteral("Bring this window to the front"));
+    connect(action, &QAction::triggered, this, [this, window = entry.window] { Q_EMIT asked(window); });
+  }
+}
+
+void CanvasWindow::addHelpMenu() {
+  QMenu* menu = menuBar()->addMenu(QStringLiteral("&Help"));
+  connect(menu->addAction(QStringLiteral("&About")), &QAction::triggered, this, &CanvasWindow::about);
+}
+
+void CanvasWindow::about() {
+  const Splash& splash = state_.frmSplash;
+  QMessageBox box(this);
+  box.setWindowTitle(QStringLiteral("About"));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(splash.lblProductName->caption() + u'\n' + splash.lblPlatform->caption() + u'\n' +
+              splash.lblVersion->caption());
+  box.setInformativeText(splash.Label2->caption());
+  box.exec();
+}
+
+void CanvasWindow::fitCanvas() {
+  canvas_->resize(canvas_->sizeHint());
+  const QSize available = screen()->availableGeometry().size();
+  if (!isMaximized()) resize(sizeHint().boundedTo(available));
+}
+
+void CanvasWindow::pointed(const Element* element) {
+  status_->setText(element ? describe(state_, *element, ui_.hands.screen()) : QString());
+}
+
+}  // namespace veneerer

@@ -1,0 +1,44 @@
+// Form1's window: the canvas, the menus and the line that tells what is under the pointer.
+#pragma once
+
+#include <QActionGroup>
+#include <QMainWindow>
+#include <QScrollArea>
+
+#include "ui/canvaswidget.h"
+
+namespace veneerer {
+
+/// The canvas keeps Form1's size; sizing this window only opens or closes the view on it.
+class CanvasWindow : public QMainWindow {
+  Q_OBJECT
+
+public:
+  explicit CanvasWindow(const Ui& ui);
+
+  QSize sizeHint() const override;
+
+Q_SIGNALS:
+  /// The operator wants that window in front.
+  void asked(veneerer::Window* window);
+
+private:
+  void addFileMenu();
+  void addViewMenu();
+  void addScreenMenu(QMenu* view);
+  void addWindowMenu();
+  void addHelpMenu();
+  QAction* addCommand(QMenu* menu, const QString& text, const QKeySequence& keys, const QString& tip);
+  void showScreen(int step);
+  void fitCanvas();
+  void pointed(const Element* element);
+  void about();
+
+  Ui ui_;
+  State& state_;
+  QScrollArea* view_;
+  CanvasWidget* canvas_;
+  QLabel* status_;
+};
+
+}  // namespace veneerer

@@ -1,0 +1,89 @@
+#include "ui/controls.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QStylePainter>
+
+namespace veneerer {
+
+TextCombo::TextCombo(QWidget* parent) : QComboBox(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setInsertPolicy(NoInsert);
+  setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+  setMinimumContentsLength(6);
+}
+
+void TextCombo::present(const QStringList& rows, int row, const QString& text) {
+  const QSignalBlocker quiet(this);
+  if (rows != rows_) {
+    clear();
+    addItems(rows);
+    rows_ = rows;
+  }
+  setCurrentIndex(row);
+  // Setting the text that stands there already would move the operator's cursor.
+  if (isEditable() && lineEdit()->text() != text) lineEdit()->setText(text);
+  text_ = text;
+  update();
+}
+
+void TextCombo::paintEvent(QPaintEvent*) {
+  QStylePainter painter(this);
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  if (!isEditable()) option.currentText = text_;
+  painter.drawComplexControl(QStyle::CC_ComboBox, option);
+  if (!isEditable()) painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+void TextCombo::wheelEvent(QWheelEvent* event) {
+  if (hasFocus())
+    QComboBox::wheelEvent(event);
+  else
+    event->ignore();
+}
+
+RowListView::RowListView(QWidget* parent) : QListView(parent) {
+  setModel(&model_);
+  setUniformItemSizes(true);
+  setEditTriggers(NoEditTriggers);
+  setSelectionMode(SingleSelection);
+}
+
+void RowListView::present(const QStringList& rows, int row) {
+  if (rows != model_.stringList()) model_.setStringList(rows);
+  setCurrentIndex(row < 0 ? QModelIndex() : model_.index(row));
+  if (row < 0) clearSelection();
+}
+
+void RowListView::tell() {
+  if (currentIndex().isValid()) Q_EMIT chosen(currentIndex().row());
+}
+
+void RowListView::mousePressEvent(QMouseEvent* event) {
+  pressed_ = event->button() == Qt::LeftButton && indexAt(event->pos()).isValid();
+  QListView::mousePressEvent(event);
+}
+
+void RowListView::mouseReleaseEvent(QMouseEvent* event) {
+  QListView::mouseReleaseEvent(event);
+  if (std::exchange(pressed_, false)) tell();
+}
+
+void RowListView::mouseDoubleClickEvent(QMouseEvent* event) {
+  pressed_ = false;
+  QListView::mouseDoubleClickEvent(event);
+  const QModelIndex row = indexAt(event->pos());
+  if (event->button() == Qt::LeftButton && row.isValid()) Q_EMIT choseTwice(row.row());
+}
+
+void RowListView::keyPressEvent(QKeyEvent* event) {
+  const QModelIndex before = currentIndex();
+  QListView::keyPressEvent(event);
+  const int key = event->key();
+  const bool confirms = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+  if (confirms || (arrowsChoose_ && currentIndex() != before)) tell();
+}
+
+}  // namespace veneerer

@@ -1,0 +1,59 @@
+// The two stock controls that the windows need in a form of their own.
+#pragma once
+
+#include <QComboBox>
+#include <QListView>
+#include <QStringListModel>
+
+namespace veneerer {
+
+/// A combo box whose shown text need not be one of its rows, and that the mouse wheel leaves alone unless it
+/// has the focus: a row chosen by accident would restyle the Skin.
+class TextCombo : public QComboBox {
+public:
+  explicit TextCombo(QWidget* parent = nullptr);
+
+  /// Shows rows, the chosen one (-1 for none) and the text, without telling anybody.
+  void present(const QStringList& rows, int row, const QString& text);
+
+protected:
+  void paintEvent(QPaintEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+private:
+  QStringList rows_;
+  QString text_;
+};
+
+/// A list that knows a choice from a mere move of the highlight.
+class RowListView : public QListView {
+  Q_OBJECT
+
+public:
+  explicit RowListView(QWidget* parent = nullptr);
+
+  /// Shows rows and the chosen one, -1 for none, without telling anybody.
+  void present(const QStringList& rows, int row);
+  /// Whether the arrow keys choose as they go; else Enter or the space bar does.
+  void setArrowsChoose(bool choose) { arrowsChoose_ = choose; }
+
+Q_SIGNALS:
+  /// The operator chose that row, which may be the one chosen before.
+  void chosen(int row);
+  void choseTwice(int row);
+
+protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+private:
+  void tell();
+
+  QStringListModel model_;
+  bool pressed_ = false;
+  bool arrowsChoose_ = false;
+};
+
+}  // namespace veneerer

@@ -1,0 +1,62 @@
+#include "ui/description.h"
+
+#include "canvas/screens.h"
+#include "canvas/sections.h"
+#include "elements/numbers.h"
+
+namespace veneerer {
+
+namespace {
+
+const QString kGap = QStringLiteral("   ");
+
+QString placeText(const QString& left, const QString& top, const QString& width, const QString& height,
+                  const QString& unit) {
+  return QStringLiteral("%1, %2  %3 × %4 %5").arg(left, top, width, height, unit);
+}
+
+QString inTwips(const Element& e) {
+  return placeText(singleText(e.left()), singleText(e.top()), singleText(e.width()), singleText(e.height()),
+                   QStringLiteral("twips"));
+}
+
+QString inPixels(const Element& e, const Screen& screen) {
+  const auto across = [&](float twips) { return QString::number(qRound(twips / screen.twipsPerPixelX())); };
+  const auto down = [&](float twips) { return QString::number(qRound(twips / screen.twipsPerPixelY())); };
+  return placeText(across(e.left()), down(e.top()), across(e.width()), down(e.height()),
+                   QStringLiteral("px"));
+}
+
+QString entryText(int entry) {
+  return QStringView(kScreenEntries[static_cast<std::size_t>(entry)]).toString();
+}
+
+QString sectionText(State& state, const Element& element) {
+  const int number = element.family() ? sectionOf(state, *element.family()) : 0;
+  return number == 0 ? QStringLiteral("no Section") : QStringLiteral("Section %1").arg(number);
+}
+
+}  // namespace
+
+QString shortName(const Element& element) {
+  return element.key().section(u'.', -1);
+}
+
+QString screenName(State& state, const Element& element) {
+  for (const Element* e = &element; e; e = e->container())
+    for (int entry = 0; entry < static_cast<int>(kScreenEntries.size()); ++entry)
+      if (e == &screenOf(state, entry)) return entryText(entry);
+  return QStringLiteral("Frame");
+}
+
+QString describe(State& state, const Element& element, const Screen& screen) {
+  QString where = screenName(state, element);
+  const Element* holder = element.container();
+  if (holder && holder->family() && holder != &screenOf(state, 0) && holder->kind() == Kind::PictureBox)
+    where += QStringLiteral(", in %1").arg(shortName(*holder));
+  return QStringList{shortName(element), sectionText(state, element), where, inTwips(element),
+                     inPixels(element, screen)}
+      .join(kGap);
+}
+
+}  // namespace veneerer

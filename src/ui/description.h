@@ -1,0 +1,18 @@
+// Elements in words, for the status line.
+#pragma once
+
+#include "forms/state.h"
+#include "platform/platform.h"
+
+namespace veneerer {
+
+/// "Label16(3)", "lvButtons_H9".
+QString shortName(const Element& element);
+
+/// Where the element stands: the entry of its screen in the Edit Section list, or "Frame".
+QString screenName(State& state, const Element& element);
+
+/// One line: name, Section, screen, place and size within its container in twips and in pixels.
+QString describe(State& state, const Element& element, const Screen& screen);
+
+}  // namespace veneerer

@@ -1,0 +1,65 @@
+#include "ui/designerwindows.h"
+
+#include <QScreen>
+
+#include "ui/placement.h"
+
+namespace veneerer {
+
+namespace {
+
+// What a window's frame adds to it, about; the real one is known only when it is too late. Pixels.
+constexpr QSize kFrame(4, 30);
+
+}  // namespace
+
+DesignerWindows::DesignerWindows(Designer& designer)
+    : hands_(designer),
+      bindings_(designer.state().notices),
+      ui_{hands_, bindings_},
+      splash_(ui_),
+      chooser_(ui_),
+      canvas_(ui_),
+      tools_(ui_),
+      settings_(ui_),
+      textures_(ui_),
+      buttons_(ui_) {
+  State& state = designer.state();
+  bind(state.frmSplash, splash_, OnClose::Hide);
+  bind(state.form3, chooser_, OnClose::EndProgram);
+  bindBeside(state.form1, canvas_, OnClose::EndProgram);
+  bindBeside(state.form2, buttons_, OnClose::Hide);
+  bindBeside(state.form4, settings_, OnClose::Hide);
+  bindBeside(state.form5, textures_, OnClose::Hide);
+  bindBeside(state.form6, tools_, OnClose::Hide);
+}
+
+WindowBinding* DesignerWindows::bind(Window& element, QWidget& widget, OnClose onClose) {
+  return new WindowBinding(bindings_, element, widget, onClose);
+}
+
+void DesignerWindows::bindBeside(Window& element, QWidget& widget, OnClose onClose) {
+  bind(element, widget, onClose)->beforeFirstShow([this] { placeAll(); });
+  QObject::connect(&canvas_, &CanvasWindow::asked, &widget, [&](const Window* asked) {
+    if (asked != &element) return;
+    element.setVisible(true);
+    widget.raise();
+    widget.activateWindow();
+  });
+}
+
+void DesignerWindows::placeAll() {
+  if (std::exchange(placed_, true)) return;
+  const QRect available = canvas_.screen()->availableGeometry();
+  canvas_.move(available.topLeft());
+  QWidget* const windows[] = {&tools_, &settings_, &textures_, &buttons_};
+  QList<QSize> sizes;
+  for (QWidget* window : windows) sizes.append(window->sizeHint() + kFrame);
+  const QList<QRect> places = placeBeside(available, canvas_.size() + kFrame, sizes);
+  for (qsizetype i = 0; i < places.size(); ++i) {
+    windows[i]->move(places[i].topLeft());
+    windows[i]->resize(places[i].size() - kFrame);
+  }
+}
+
+}  // namespace veneerer

@@ -1,0 +1,31 @@
+// Small steps that every window's layout is made of.
+#pragma once
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+
+namespace veneerer {
+
+/// A titled frame around a layout.
+QGroupBox* makeFrame(const QString& title, QLayout* content);
+
+/// A label that leads to the control beside it.
+QLabel* makeLabel(const QString& text, QWidget* control);
+
+/// A label and its control in two cells of a row.
+void addField(QGridLayout* grid, int row, int column, const QString& label, QWidget* control);
+
+/// Narrow margins and gaps, so that a window fits beside the canvas.
+template <class L>
+L* compact(L* layout) {
+  layout->setContentsMargins(6, 4, 6, 6);
+  layout->setSpacing(4);
+  return layout;
+}
+
+/// Gives each label, box and button of a window without a mnemonic one of its own, as far as the letters go.
+/// The first letters of words go first.
+void assignMnemonics(QWidget& window);
+
+}  // namespace veneerer

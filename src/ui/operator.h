@@ -1,0 +1,35 @@
+// The operator's hands: the one way from the windows into the designer.
+#pragma once
+
+#include <QObject>
+
+#include "designer/designer.h"
+
+namespace veneerer {
+
+/// Passes on what the operator does to elements and tells the windows when it has been done.
+class Operator : public QObject {
+  Q_OBJECT
+
+public:
+  explicit Operator(Designer& designer) : designer_(designer) {}
+
+  State& state() { return designer_.state(); }
+  const Screen& screen() const { return designer_.platform().screen; }
+
+  void click(Element& element);
+  /// x and y in twips in the element's own coordinates.
+  void press(Element& element, float x, float y, MouseButton button);
+  /// As press; the button is the one held down.
+  void move(Element& element, float x, float y, MouseButton button);
+  void doubleClick(Element& element);
+
+Q_SIGNALS:
+  /// An action has ended: the element in hand may be another one.
+  void acted();
+
+private:
+  Designer& designer_;
+};
+
+}  // namespace veneerer

@@ -1,0 +1,108 @@
+#include "ui/qtplatform.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDialog>
+#include <QMessageBox>
+#include <QScreen>
+#include <QSettings>
+
+#include "components/colours.h"
+
+namespace veneerer {
+
+namespace {
+
+// What a dialog stands on: with nothing active it would end up under the splash.
+QWidget* dialogParent() {
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (window->isVisible()) return window;
+  return nullptr;
+}
+
+bool runBox(const QString& title, const QString& text, QMessageBox::Icon icon,
+            QMessageBox::StandardButtons buttons) {
+  QMessageBox box(icon, title, QString(), buttons, dialogParent());
+  // A Skin's name is part of some texts.
+  box.setTextFormat(Qt::PlainText);
+  box.setText(text);
+  return box.exec() == QMessageBox::Ok;
+}
+
+QFont toQFont(const FontChoice& choice) {
+  QFont font(choice.name);
+  if (choice.size > 0) font.setPointSizeF(choice.size);
+  font.setBold(choice.bold);
+  font.setItalic(choice.italic);
+  font.setUnderline(choice.underline);
+  font.setStrikeOut(choice.strikethrough);
+  return font;
+}
+
+FontChoice fromQFont(const QFont& font) {
+  return {font.family(),    static_cast<float>(font.pointSizeF()),
+          font.bold(),      font.italic(),
+          font.underline(), font.strikeOut()};
+}
+
+}  // namespace
+
+void QtDialogs::inform(const QString& title, const QString& text) {
+  runBox(title, text, QMessageBox::Information, QMessageBox::Ok);
+}
+
+bool QtDialogs::ask(const QString& title, const QString& text) {
+  return runBox(title, text, QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel);
+}
+
+QString QtDialogs::chooseFile(const QString& filter) {
+  const QString file = QFileDialog::getOpenFileName(dialogParent(), QString(), folder_, dialogFilter(filter));
+  if (!file.isEmpty()) folder_ = QFileInfo(file).path();
+  return file;
+}
+
+std::optional<std::int32_t> QtDialogs::chooseColour(std::int32_t initial) {
+  const QColor colour = QColorDialog::getColor(toQColor(initial), dialogParent());
+  if (!colour.isValid()) return std::nullopt;
+  return fromQColor(colour);
+}
+
+std::optional<FontChoice> QtDialogs::chooseFont(const FontChoice& initial) {
+  bool chosen = false;
+  const QFont font = QFontDialog::getFont(&chosen, toQFont(initial), dialogParent());
+  if (!chosen) return std::nullopt;
+  return fromQFont(font);
+}
+
+QString IniSettings::value(const QString& section, const QString& key, const QString& defaultValue) const {
+  const QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("V-Quill 8"));
+  const QVariant value = settings.value(section + u'/' + key, defaultValue);
+  // The store takes a comma outside quotes for the start of another entry.
+  return value.toStringList().join(QStringLiteral(", "));
+}
+
+QString dialogFilter(const QString& filter) {
+  const QStringList parts = filter.split(u'|');
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    const QStringList patterns = parts[i + 1].split(u';', Qt::SkipEmptyParts);
+    filters.append(QStringLiteral("%1 (%2)").arg(parts[i], patterns.join(u' ')));
+  }
+  return filters.join(QStringLiteral(";;"));
+}
+
+Screen primaryScreen() {
+  Screen screen;
+  const QScreen* primary = QGuiApplication::primaryScreen();
+  if (!primary) return screen;
+  screen.width = primary->size().width();
+  screen.height = primary->size().height();
+  screen.dpiX = qRound(primary->logicalDotsPerInchX());
+  screen.dpiY = qRound(primary->logicalDotsPerInchY());
+  return screen;
+}
+
+}  // namespace veneerer

@@ -1,0 +1,36 @@
+// The real world: message boxes, the common dialogs, the settings store and the screen.
+#pragma once
+
+#include "platform/platform.h"
+
+namespace veneerer {
+
+class QtDialogs : public Dialogs {
+public:
+  /// The first file dialog opens in that folder, later ones where a file was chosen last.
+  explicit QtDialogs(const QString& folder) : folder_(folder) {}
+
+  void inform(const QString& title, const QString& text) override;
+  bool ask(const QString& title, const QString& text) override;
+  QString chooseFile(const QString& filter) override;
+  std::optional<std::int32_t> chooseColour(std::int32_t initial) override;
+  std::optional<FontChoice> chooseFont(const FontChoice& initial) override;
+
+private:
+  QString folder_;
+};
+
+/// One file of the user's configuration folder, "V-Quill 8.ini".
+class IniSettings : public Settings {
+public:
+  QString value(const QString& section, const QString& key, const QString& defaultValue) const override;
+};
+
+/// "Image Files|*.bmp;*.jpg" as the toolkit's file dialog takes it: "Image Files (*.bmp *.jpg)".
+/// Further pairs of name and patterns become further filters.
+QString dialogFilter(const QString& filter);
+
+/// The primary screen, in device-independent pixels.
+Screen primaryScreen();
+
+}  // namespace veneerer

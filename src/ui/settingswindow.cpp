@@ -1,0 +1,126 @@
+#include "ui/settingswindow.h"
+
+#include <QHBoxLayout>
+
+#include "ui/layouts.h"
+
+namespace veneerer {
+
+namespace {
+
+struct ListRow {
+  const char* label;
+  ComboBox* list;
+};
+
+QGroupBox* fileFrame(const Ui& ui, Form4& form) {
+  auto* row = compact(new QHBoxLayout);
+  TextCombo* skin = makeCombo(ui, *form.Combo3);
+  skin->setToolTip(QStringLiteral("The Skin that is loaded; choosing another one loads it"));
+  row->addWidget(makeLabel(QStringLiteral("Loaded Skin:"), skin));
+  row->addWidget(skin, 1);
+  row->addWidget(makeCommand(ui, *form.Command4));
+  return makeFrame(QStringLiteral("File Options"), row);
+}
+
+// Two columns of lists, read down the left one first.
+void addLists(QGridLayout* grid, const Ui& ui, Form4& form) {
+  const ListRow rows[] = {
+      {"Default Screen:", &*form.Combo8},
+      {"Default HOME Screen:", &*form.Combo9},
+      {"Player Style:", &*form.Combo10},
+      {"Navigation Style:", &*form.Combo6},
+      {"Jump To Letter:", &*form.Combo2},
+      {"Genre Style:", &*form.Combo5},
+      {"Genre Nav:", &*form.Combo11},
+      {"Number of genres shown:", &*form.Combo7},
+      {"Number of tracks shown:", &*form.Combo1},
+      {"Other Albums:", &*form.Combo12},
+  };
+  int row = 0;
+  for (const ListRow& entry : rows) {
+    addField(grid, row % 5, row < 5 ? 0 : 2, QString::fromLatin1(entry.label), makeCombo(ui, *entry.list));
+    ++row;
+  }
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(3, 1);
+}
+
+QGroupBox* skinFrame(const Ui& ui, Form4& form) {
+  auto* grid = compact(new QGridLayout);
+  addLists(grid, ui, form);
+  CheckBox* const boxes[] = {&*form.Check2,  &*form.Check8,  &*form.Check9,
+                             &*form.Check10, &*form.Check12, &*form.Check11};
+  int place = 0;
+  for (CheckBox* box : boxes) {
+    grid->addWidget(makeCheck(ui, *box), 5 + place / 2, place % 2 == 0 ? 0 : 2, 1, 2);
+    ++place;
+  }
+  return makeFrame(QStringLiteral("Main Skin Properties"), grid);
+}
+
+QGroupBox* resolutionFrame(const Ui& ui, Form4& form) {
+  auto* grid = compact(new QGridLayout);
+  const QString tip = QStringLiteral("Pixels; sizes the canvas window and moves no element");
+  for (int i = 0; i < 2; ++i) {
+    QLineEdit* field = makeField(ui, form.Text1[i]);
+    field->setToolTip(tip);
+    addField(grid, 0, 2 * i, i == 0 ? QStringLiteral("X:") : QStringLiteral("Y:"), field);
+  }
+  return makeFrame(QStringLiteral("Skin Resolution"), grid);
+}
+
+QLayout* coverFileLayout(const Ui& ui, Form4& form) {
+  auto* column = new QVBoxLayout;
+  RowListView* files = makeFileList(ui, *form.File1);
+  files->setToolTip(
+      QStringLiteral("Click to load a cover layout; double-click to load it without a question"));
+  files->setMinimumHeight(90);
+  column->addWidget(makeLabel(QStringLiteral("Cover files:"), files));
+  column->addWidget(files, 1);
+  auto* name = new QHBoxLayout;
+  QLineEdit* field = makeField(ui, *form.Text2);
+  name->addWidget(makeLabel(QStringLiteral("File name:"), field));
+  name->addWidget(field, 1);
+  column->addLayout(name);
+  column->addWidget(makeCommand(ui, *form.Command1));
+  return column;
+}
+
+QLayout* coverOptionsLayout(const Ui& ui, Form4& form) {
+  auto* column = new QVBoxLayout;
+  auto* count = new QHBoxLayout;
+  TextCombo* covers = makeEditableCombo(ui, *form.Combo4);
+  count->addWidget(makeLabel(QStringLiteral("N.o Covers"), covers));
+  count->addWidget(covers, 1);
+  column->addLayout(count);
+  CheckBox* const boxes[] = {&*form.Check1, &*form.Check3, &*form.Check4,
+                             &*form.Check5, &*form.Check6, &*form.Check7};
+  for (CheckBox* box : boxes) column->addWidget(makeCheck(ui, *box));
+  column->addStretch();
+  return column;
+}
+
+QGroupBox* coversFrame(const Ui& ui, Form4& form) {
+  auto* row = compact(new QHBoxLayout);
+  row->addLayout(coverFileLayout(ui, form), 1);
+  row->addSpacing(8);
+  row->addLayout(coverOptionsLayout(ui, form), 1);
+  return makeFrame(QStringLiteral("Covers File"), row);
+}
+
+}  // namespace
+
+SettingsWindow::SettingsWindow(const Ui& ui) {
+  Form4& form = ui.hands.state().form4;
+  setWindowTitle(QStringLiteral("File Controls/Settings"));
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(8, 8, 8, 8);
+  column->addWidget(fileFrame(ui, form));
+  column->addWidget(skinFrame(ui, form));
+  column->addWidget(resolutionFrame(ui, form));
+  column->addWidget(coversFrame(ui, form), 1);
+  assignMnemonics(*this);
+}
+
+}  // namespace veneerer

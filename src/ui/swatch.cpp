@@ -1,0 +1,70 @@
+#include "ui/swatch.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+#include "canvas/sections.h"
+#include "components/colours.h"
+
+namespace veneerer {
+
+namespace {
+
+// A sample without a size of its own, and the most that one takes in its window; pixels.
+constexpr QSizeF kPlainSample(112, 28);
+constexpr QSizeF kLargestSample(160, 48);
+constexpr QSize kSwatch(44, 24);
+
+void paintFocus(QPainter& painter, const QWidget& widget) {
+  if (!widget.hasFocus()) return;
+  QStyleOptionFocusRect option;
+  option.initFrom(&widget);
+  option.backgroundColor = widget.palette().color(QPalette::Window);
+  widget.style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, &widget);
+}
+
+}  // namespace
+
+Swatch::Swatch(const Ui& ui, PictureBox& box) : box_(box) {
+  bindPainted(ui, box, *this);
+}
+
+QSize Swatch::sizeHint() const {
+  return kSwatch;
+}
+
+void Swatch::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
+  painter.setBrush(toQColor(box_.backColor()));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+Sample::Sample(const Ui& ui, Element& element) : hands_(ui.hands), element_(element) {
+  bindPainted(ui, element, *this);
+  connect(&ui.hands, &Operator::acted, this, qOverload<>(&QWidget::update));
+}
+
+QSizeF Sample::elementPixels() const {
+  const double width = element_.width() / hands_.screen().twipsPerPixelX();
+  const double height = element_.height() / hands_.screen().twipsPerPixelY();
+  return QSizeF(width > 0 ? width : kPlainSample.width(), height > 0 ? height : kPlainSample.height());
+}
+
+QSize Sample::sizeHint() const {
+  return elementPixels().boundedTo(kLargestSample).expandedTo(QSizeF(16, 16)).toSize();
+}
+
+void Sample::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const double scale = 1 / hands_.screen().twipsPerPixelX();
+  const QSizeF size = elementPixels().boundedTo(QSizeF(width(), height()));
+  painter_.paintElement(painter, element_, QRectF(QPointF(), size), scale);
+  if (currentElement(hands_.state()) == &element_) {
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(QRectF(QPointF(), size).adjusted(0, 0, -1, -1));
+  }
+  paintFocus(painter, *this);
+}
+
+}  // namespace veneerer

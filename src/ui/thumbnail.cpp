@@ -1,0 +1,71 @@
+#include "ui/thumbnail.h"
+
+#include <QPainter>
+#include <QStyleOption>
+#include <QtConcurrentRun>
+
+namespace veneerer {
+
+namespace {
+
+constexpr QSize kThumbnail(80, 60);
+
+QImage scaledImage(const Picture& picture, QSize largest) {
+  const QImage& image = picture.image();
+  if (image.isNull()) return QImage();
+  const QSize size = image.size().scaled(largest, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+  return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+}  // namespace
+
+Thumbnail::Thumbnail(const Ui& ui, Element& element) : element_(element) {
+  bindPainted(ui, element, *this);
+  connect(&watcher_, &QFutureWatcherBase::finished, this, &Thumbnail::fetched);
+}
+
+QSize Thumbnail::sizeHint() const {
+  return kThumbnail;
+}
+
+QSize Thumbnail::minimumSizeHint() const {
+  return kThumbnail / 2;
+}
+
+const Picture& Thumbnail::picture() const {
+  return element_.as<Picture>(Property::Picture);
+}
+
+QSize Thumbnail::devicePixels() const {
+  return (size() - QSize(4, 4)) * devicePixelRatioF();
+}
+
+void Thumbnail::paintEvent(QPaintEvent*) {
+  if (picture().id() != fetchedId_ || devicePixels() != fetchedSize_) fetch();
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().color(QPalette::Base));
+  if (shownId_ == picture().id() && !shown_.isNull()) {
+    QRectF target(QPointF(), QSizeF(shown_.size()) / devicePixelRatioF());
+    target.moveCenter(QRectF(rect()).center());
+    painter.drawImage(target, shown_);
+  }
+  const bool stressed = hasFocus() || (underMouse() && isEnabled());
+  painter.setPen(palette().color(stressed ? QPalette::Highlight : QPalette::Mid));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void Thumbnail::fetch() {
+  fetchedId_ = picture().id();
+  fetchedSize_ = devicePixels();
+  if (picture().isNull()) return;
+  watcher_.setFuture(QtConcurrent::run(scaledImage, picture(), fetchedSize_));
+}
+
+void Thumbnail::fetched() {
+  // Another picture may have been asked for meanwhile; the watcher tells of the last one only.
+  shown_ = watcher_.result();
+  shownId_ = fetchedId_;
+  update();
+}
+
+}  // namespace veneerer

@@ -1,0 +1,31 @@
+#include "ui/windowbinding.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+namespace veneerer {
+
+WindowBinding::WindowBinding(BindingTable& table, Window& element, QWidget& widget, OnClose onClose)
+    : Binding(table, element, widget), window_(element), widget_(widget), onClose_(onClose) {
+  widget.installEventFilter(this);
+  if (!element.caption().isEmpty()) show(Property::Caption);
+}
+
+void WindowBinding::show(Property changed) {
+  if (changed == Property::Visible) showOrHide();
+  if (changed == Property::Caption) widget_.setWindowTitle(window_.caption());
+}
+
+void WindowBinding::showOrHide() {
+  if (window_.isVisible() && beforeFirstShow_) std::exchange(beforeFirstShow_, nullptr)();
+  widget_.setVisible(window_.isVisible());
+}
+
+bool WindowBinding::eventFilter(QObject*, QEvent* event) {
+  if (event->type() != QEvent::Close) return false;
+  window_.setVisible(false);
+  if (onClose_ == OnClose::EndProgram) QCoreApplication::exit(0);
+  return false;
+}
+
+}  // namespace veneerer

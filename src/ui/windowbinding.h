@@ -1,0 +1,35 @@
+// Ties a window element to the window on the screen: whether it is shown, and its title.
+#pragma once
+
+#include <functional>
+
+#include "elements/window.h"
+#include "ui/bindingtable.h"
+
+namespace veneerer {
+
+/// What the close button of a window means.
+enum class OnClose { Hide, EndProgram };
+
+class WindowBinding : public Binding {
+public:
+  WindowBinding(BindingTable& table, Window& element, QWidget& widget, OnClose onClose);
+
+  /// Called once, before the window is shown for the first time.
+  void beforeFirstShow(std::function<void()> action) { beforeFirstShow_ = std::move(action); }
+
+  void show(Property changed) override;
+
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+  void showOrHide();
+
+  Window& window_;
+  QWidget& widget_;
+  OnClose onClose_;
+  std::function<void()> beforeFirstShow_;
+};
+
+}  // namespace veneerer
