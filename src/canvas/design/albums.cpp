@@ -21,7 +21,8 @@ void composeCover(Composer& c, Box cell, int i) {
   const Ground& on = c.theme.screen;
   const auto caption = [&](Label& label, const QString& text, std::int32_t ink, bool bold) {
     const TextLook look{ink, 9, bold, Alignment::Center};
-    c.text(label, screen, cell.cutBottom(c.lineOf(look)), text, look);
+    c.field(label, screen, cell.cutBottom(c.lineOf(look)), text, look);
+    label.setBackColor(c.theme.row.back);
   };
   const bool isFeatured = i == kFeatured;
   caption(f.Label63[i], QStringLiteral("Genre:  %1").arg(i), on.muted, false);
@@ -57,20 +58,13 @@ void composeSlider(Composer& c, int i, const Box& place) {
 }
 
 // One of five ways to jump to a letter is shown, so they share the bar at the foot.
-void composeNavigation(Composer& c, Box foot) {
+void composeJump(Composer& c, Box foot) {
   Form1& f = c.form;
   PictureBox& screen = f.Picture1[9];
-  c.button(f.lvButtons_H3[0], screen, foot.cutLeft(c.px(76), c.px(kGap)), QStringLiteral("Back"),
-           c.theme.plain);
-  c.button(f.lvButtons_H3[2], screen, foot.cutRight(c.px(76), c.px(kGap)), QStringLiteral("Forward"),
-           c.theme.plain);
-  const Box keys = foot;
-  composeSlider(c, 1, keys.centred(keys.w, c.px(32)));
-  c.buttons(f.lvButtons_H38, 0, screen, Grid(keys, 27, 1, c.px(1)), kQuickKeys, c.theme.key, 8);
-  c.button(f.lvButtons_H3[1], screen, foot.cutLeft(c.px(160), c.px(kGap)), QStringLiteral("Jump To Letter"),
+  composeSlider(c, 1, foot.centred(foot.w, c.px(32)));
+  c.buttons(f.lvButtons_H38, 0, screen, Grid(foot, 27, 1, c.px(2)), kQuickKeys, c.theme.key, 8);
+  c.button(f.lvButtons_H3[1], screen, foot.centred(c.px(200), foot.h), QStringLiteral("Jump To Letter"),
            c.theme.primary);
-  c.line(*f.Label5, screen, foot, QStringLiteral("Current Page: 0/0"),
-         {c.theme.screen.body, 11, false, Alignment::Right});
 }
 
 void composeTabs(Composer& c, Box header) {
@@ -92,7 +86,10 @@ void composeFilter(Composer& c, Box area) {
   c.panel(filter, screen, place, c.theme.row.back);
   c.line(*f.Label54, filter, place.inside().inset(c.px(8), 0), QStringLiteral("Filter on: Genre"),
          {c.theme.row.accent, 10});
-  c.line(f.Label27[2], screen, area, QStringLiteral("Status"),
+  const Grid texts(area, 2, 1, c.px(kGap));
+  c.line(*f.Label5, screen, texts.cell(1), QStringLiteral("Current Page: 0/0"),
+         {c.theme.screen.body, 10, false, Alignment::Right});
+  c.line(f.Label27[2], screen, texts.cell(0), QStringLiteral("Status"),
          {c.theme.screen.muted, 10, false, Alignment::Right});
 }
 
@@ -115,15 +112,21 @@ void composePlayingPanel(Composer& c, const Box& place) {
 }  // namespace
 
 void composeAlbumView(Composer& c) {
-  PictureBox& screen = c.form.Picture1[9];
+  Form1& f = c.form;
+  PictureBox& screen = f.Picture1[9];
   auto [header, body] = partsOf(c, screen);
   composeTabs(c, header.inset(0, c.px(2)));
   const Box foot = body.cutBottom(c.px(kTouch), c.px(6));
   composeFilter(c, body.cutTop(c.px(28), c.px(6)));
-  const Box upright = body.cutRight(c.px(34), c.px(8));
+  const Box back = body.cutLeft(c.px(52), c.px(8));
+  const Box forward = body.cutRight(c.px(52), c.px(8));
+  const Box slider = Box(body).cutRight(c.px(34));
+  if (c.plan.sliderUpright) body.cutRight(slider.w, c.px(8));
+  c.button(f.lvButtons_H3[0], screen, back, QStringLiteral("Back"), c.theme.plain);
   composeCovers(c, body);
-  composeSlider(c, 0, upright);
-  composeNavigation(c, foot);
+  c.button(f.lvButtons_H3[2], screen, forward, QStringLiteral("For-||ward"), c.theme.plain);
+  composeSlider(c, 0, slider);
+  composeJump(c, foot);
 }
 
 void composeNowPlaying(Composer& c) {
@@ -135,7 +138,7 @@ void composeNowPlaying(Composer& c) {
   const Box button = corner.cutRight(c.px(110), c.px(kMargin));
   c.button(*f.lvButtons_H21, screen, button, QStringLiteral("Fullscreen"), c.theme.primary);
   header.cutRight(button.w, c.px(kMargin));
-  c.panel(f.Picture3[3], screen, header.inset(0, c.px(4)), c.theme.header.back);
+  c.panel(f.Picture3[3], screen, header.inset(0, c.px(4)), kCard.back);
   Box next = body.cutBottom(c.px(84), c.px(12));
   c.panel(f.Picture3[1], screen, next.cutLeft(next.h, c.px(12)), kArtwork);
   c.image(f.aicAlphaImage1[20], screen, next.cutRight(c.px(150), c.px(12)).centred(c.px(150), c.px(30)));

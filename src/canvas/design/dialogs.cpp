@@ -12,8 +12,11 @@ constexpr const char* kPopup[] = {"History",     "Top 20",      "Search",       
                                   "My||V-Quill", "Collections", "Request||Track", "Close"};
 
 constexpr const char* kLicence =
+    "LICENCE AGREEMENT\n\n"
     "This jukebox is licensed for use in public places. The music that it plays remains the property of its "
-    "owners. Copying, recording or broadcasting it without their consent is not permitted.";
+    "owners.\n\n"
+    "Copying, recording or broadcasting the music without the consent of its owners is not permitted.\n\n"
+    "Credits are good for the songs that are chosen on this jukebox. They can't be paid out.";
 
 void composeKeypad(Composer& c, const Box& area) {
   PictureBox& screen = c.form.Picture1[16];

@@ -36,18 +36,28 @@ void composeTile(Composer& c, const Box& tile, int i) {
   c.text(f.Label59[i], screen, counted, QStringLiteral("() Album(s)"), count);
 }
 
-void composeNavigation(Composer& c, Box foot) {
+// The title's picture, the steps through the pages, and what the tiles stand for.
+void composeHeader(Composer& c, Box header) {
   Form1& f = c.form;
   PictureBox& screen = f.Picture1[13];
-  c.button(f.lvButtons_H35[2], screen, foot.cutLeft(c.px(64), c.px(kGap)), QStringLiteral("<"), c.theme.plain,
-           14);
-  c.button(f.lvButtons_H35[0], screen, foot.cutRight(c.px(64), c.px(kGap)), QStringLiteral(">"),
-           c.theme.plain, 14);
-  c.button(f.lvButtons_H35[1], screen, foot.cutRight(c.px(76), c.px(kGap)), QStringLiteral("Back"),
-           c.theme.plain);
-  // Either the one button or the letters are shown.
-  c.buttons(f.lvButtons_H35, 4, screen, Grid(foot, 27, 1, c.px(1)), kLetterKeys, c.theme.key, 8);
-  c.button(f.lvButtons_H35[3], screen, foot, QStringLiteral("Jump To Letter"), c.theme.primary);
+  const Box tabs = header.cutRight(3 * c.px(80) + 2 * c.px(4), c.px(kMargin)).inset(0, c.px(2));
+  const Box steps = header.cutRight(3 * c.px(56) + 2 * c.px(4), c.px(kMargin)).inset(0, c.px(2));
+  c.buttons(f.lvButtons_H46, 0, screen, Grid(tabs, 3, 1, c.px(4)),
+            std::to_array<const char*>({"GENRES", "ARTISTS", "YEARS"}), c.theme.tab);
+  const Grid step(steps, 3, 1, c.px(4));
+  c.button(f.lvButtons_H35[2], screen, step.cell(0), QStringLiteral("<"), c.theme.plain, 14);
+  c.button(f.lvButtons_H35[1], screen, step.cell(1), QStringLiteral("Back"), c.theme.plain);
+  c.button(f.lvButtons_H35[0], screen, step.cell(2), QStringLiteral(">"), c.theme.plain, 14);
+  c.panel(f.Picture2[9], screen, header.inset(0, c.px(4)), kCard.back);
+}
+
+// Either the one button or the letters are shown.
+void composeJump(Composer& c, const Box& foot) {
+  Form1& f = c.form;
+  PictureBox& screen = f.Picture1[13];
+  c.buttons(f.lvButtons_H35, 4, screen, Grid(foot, 27, 1, c.px(2)), kLetterKeys, c.theme.key, 8);
+  c.button(f.lvButtons_H35[3], screen, foot.centred(c.px(200), foot.h), QStringLiteral("Jump To Letter"),
+           c.theme.primary);
 }
 
 void composeBar(Composer& c) {
@@ -60,15 +70,9 @@ void composeBar(Composer& c) {
 }  // namespace
 
 void composeGenre(Composer& c) {
-  Form1& f = c.form;
-  PictureBox& screen = f.Picture1[13];
-  auto [header, body] = partsOf(c, screen);
-  const Grid tabs(header.inset(0, c.px(2)).cutRight(3 * c.px(96) + 2 * c.px(kGap)), 3, 1, c.px(kGap));
-  c.buttons(f.lvButtons_H46, 0, screen, tabs, std::to_array<const char*>({"GENRES", "ARTISTS", "YEARS"}),
-            c.theme.tab);
-  header.cutRight(3 * c.px(96) + 2 * c.px(kGap), c.px(kMargin));
-  c.panel(f.Picture2[9], screen, header.inset(0, c.px(4)), c.theme.header.back);
-  composeNavigation(c, body.cutBottom(c.px(kTouch), c.px(6)));
+  auto [header, body] = partsOf(c, c.form.Picture1[13]);
+  composeHeader(c, header);
+  composeJump(c, body.cutBottom(c.px(kTouch), c.px(6)));
   const Grid tiles(body, 7, 4, c.px(6));
   for (int i = 0; i < 28; ++i) composeTile(c, tiles.cell(i), i);
   composeBar(c);

@@ -5,6 +5,7 @@ namespace veneerer::design {
 Plan builtInPlan() {
   Plan plan;
   plan.logo = {0, 0, 160, 80};
+  plan.name = {8, 0, 144, 80};
   plan.menu = {0, 80, 160, 520};
   plan.menuColumns = 2;
   plan.player = {160, 0, 640, 80};

@@ -15,6 +15,7 @@ struct Plan {
   Box menu;
   int menuColumns = 1;
   Box logo;
+  Box name;  ///< the jukebox's name
   Box player;
   Box status;   ///< the bar of credits, messages and the navigation of the main screen
   Box stage;    ///< the panel that the main screen shows where no other screen stands
@@ -27,7 +28,7 @@ struct Plan {
   Box genreBar;
   bool genreBarUpright = false;
 
-  bool coversOnOneRow = false;  ///< albums side by side, overlapping towards the middle one
+  bool sliderUpright = false;  ///< keeps a column of the album view free for the vertical slider
 };
 
 /// The places of the built-in design, for a screen of 800 by 600 pixels.

@@ -79,6 +79,8 @@ void composeSearch(Composer& c) {
   PictureBox& screen = c.form.Picture1[3];
   auto [header, body] = partsOf(c, screen);
   header.cutLeft(kFixedColumn);
+  const Box back = header.cutRight(c.px(84), c.px(kMargin)).inset(0, c.px(2));
+  c.button(*c.form.lvButtons_H9, screen, back, QStringLiteral("Back"), c.theme.plain);
   c.button(*c.form.lvButtons_H20, screen, kClearPlace, QStringLiteral("Clear"), kNeutralButton);
   c.line(*c.form.Label52, screen, header.cutRight(c.px(150), c.px(kMargin)), QStringLiteral("Intelli Search"),
          {c.theme.header.accent, 11, false, Alignment::Right});
@@ -90,9 +92,8 @@ void composeSearch(Composer& c) {
           searched);
   composeQuickResults(c, body);
   Box left = keys;
-  const Grid actions(left.cutRight(c.px(116), c.px(kMargin)), 1, 5, c.px(4));
-  c.buttons(c.form.lvButtons_H7, 0, screen, actions, kSearchBy, c.theme.primary, 8);
-  c.button(*c.form.lvButtons_H9, screen, actions.cell(4), QStringLiteral("Back"), c.theme.plain);
+  const Grid actions(left.cutRight(c.px(116), c.px(kMargin)), 1, 4, c.px(4));
+  c.buttons(c.form.lvButtons_H7, 0, screen, actions, kSearchBy, c.theme.primary);
   composeSearchKeys(c, left);
 }
 

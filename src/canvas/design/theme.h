@@ -53,8 +53,8 @@ inline constexpr Ground kCard = {rgb(27, 31, 39), rgb(255, 255, 255), rgb(232, 2
 /// A picture that is still to come.
 inline constexpr std::int32_t kArtwork = rgb(46, 53, 66);
 /// Buttons that no record, or only another button's, brings back.
-inline constexpr ButtonLook kNeutralButton = {0, 0, rgb(58, 64, 76), rgb(255, 255, 255), rgb(38, 43, 53), 1};
-inline constexpr ButtonLook kDangerButton = {0, 0, rgb(150, 30, 38), rgb(255, 255, 255), rgb(104, 16, 24), 1};
+inline constexpr ButtonLook kNeutralButton = {0, 6, rgb(58, 64, 76), rgb(255, 255, 255), rgb(38, 43, 53), 2};
+inline constexpr ButtonLook kDangerButton = {0, 6, rgb(150, 30, 38), rgb(255, 255, 255), rgb(104, 16, 24), 2};
 
 /// The theme of the built-in design.
 const Theme& blackAndBlue();

@@ -38,7 +38,7 @@ void composeTrackRow(Composer& c, Box row, int i) {
   f.aicAlphaImage1[i].setToolTipText(QStringLiteral("Star Rating %1").arg(i));
   c.line(f.Label60[i], screen, row.cutRight(c.px(78), c.px(4)), QStringLiteral("Play Count:  %1").arg(i),
          {kCard.muted, 8, false, Alignment::Right});
-  c.line(f.Label3[i], screen, row.cutLeft(c.px(48), c.px(4)), QStringLiteral("Track  %1").arg(i),
+  c.line(f.Label3[i], screen, row.cutLeft(c.px(56), c.px(4)), QStringLiteral("Track  %1").arg(i),
          {kCard.accent, 9});
   c.line(f.Label1[i], screen, row, QStringLiteral("Track Listing  %1").arg(i), {kCard.body, 9});
 }
