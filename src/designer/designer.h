@@ -2,35 +2,48 @@
 // an operator does. The windows and the batch tool are two thin shells around it.
 #pragma once
 
-#include <functional>
 #include <memory>
-#include <vector>
 
 #include "canvas/mousebutton.h"
 #include "forms/state.h"
 #include "platform/platform.h"
+#include "platform/skinfolder.h"
 
 namespace veneerer {
 
 class Designer {
 public:
-  /// Makes every element, on the built-in design, and fills the lists. The platform must outlive the
-  /// designer.
+  /// Makes every element, on the built-in design. The platform must outlive the designer.
   explicit Designer(Platform& platform);
   ~Designer();
+  Designer(const Designer&) = delete;
+  Designer& operator=(const Designer&) = delete;
 
   State& state();
   const Platform& platform() const;
 
-  /// Start-up: the splash's progress texts, the current Skin's name from the settings, the question whether
-  /// to load it. True when it was answered OK and the Skin has been loaded; on false the chooser Form3 is
-  /// visible. Throws RecordError for a malformed file.
+  // The calls below, and a change of an element that stands for an operator's choice, throw RecordError when
+  // a file is malformed or can't be written. Such an error is fatal: the shell shows it and ends the program.
+
+  /// Start-up: the splash's progress texts, the lists, the current Skin's name from the settings, the
+  /// question whether to load it. True when it was answered OK and the Skin has been loaded; on false the
+  /// chooser Form3 is visible.
   bool startUp();
 
-  /// Full load of the Skin named by Form4.Combo3. Throws RecordError.
-  void load();
-  /// Save Skin, with its questions. Throws RecordError when a file can't be written.
+  /// Opens the chooser Form3 and hides the canvas. A choice in Form3.List1 runs the full load.
+  void openChooser();
+
+  /// Picks another Skin of the same root, as a choice in Form4.Combo3 does: runs the reload.
+  void reload(const QString& skinName);
+
+  /// Save Skin into the Skin's own folder, with its questions.
   void save();
+  /// Save Skin into another folder, which must be there.
+  void saveTo(const SkinFolder& folder);
+
+  /// Fills the list of fonts, Form6.List1. It grows slow with the user's fonts, so a shell asks for it when
+  /// its first paint is done or the list is needed.
+  void fillFonts();
 
   // What an operator does. Typing, ticking and choosing are changes of the elements themselves
   // (TextBox::setText, CheckBox::setValue, OptionButton::select, RowList::select), which act by their
@@ -44,10 +57,8 @@ public:
   void move(Element& element, float x, float y, MouseButton button);
   /// The second event of the cover list Form4.File1, on its chosen row.
   void doubleClick(Element& element);
-  /// The operator sizes the canvas window; twips.
+  /// The operator sizes the canvas window; twips. The elements keep their places.
   void resizeCanvas(float width, float height);
-
-  /// Which windows stand open is the state's business: a window is shown while its element is Visible.
 
 private:
   struct Parts;

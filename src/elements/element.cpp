@@ -72,6 +72,19 @@ void Element::sendToBack() {
   notify(Property::StackOrder, Value(0));
 }
 
+void Element::stackAbove(Element& sibling) { restack(sibling, 1); }
+
+void Element::stackBelow(Element& sibling) { restack(sibling, 0); }
+
+void Element::restack(Element& sibling, int shift) {
+  require(container_ && sibling.container_ == container_ && &sibling != this,
+          "elements are stacked among their siblings");
+  std::vector<Element*>& order = container_->children_;
+  std::erase(order, this);
+  order.insert(std::find(order.begin(), order.end(), &sibling) + shift, this);
+  notify(Property::StackOrder, Value(0));
+}
+
 bool Element::accepts(Property, const Value&) const {
   return true;
 }

@@ -87,6 +87,9 @@ public:
   const std::vector<Element*>& children() const { return children_; }
   void bringToFront();
   void sendToBack();
+  /// Moves the element directly above, or below, another one of the same container.
+  void stackAbove(Element& sibling);
+  void stackBelow(Element& sibling);
 
 protected:
   Element(Kind kind, Window& window, Family* family, int index);
@@ -103,6 +106,7 @@ protected:
   void notify(Property property, const Value& oldValue);
 
 private:
+  void restack(Element& sibling, int shift);
   int offset(Property property) const;
 
   Kind kind_;

@@ -58,7 +58,8 @@ public:
 
 /// Where the program stands.
 struct ProgramFolder {
-  QString path;  ///< holds "Skins" and "images"
+  QString path;            ///< holds "Skins" and "images"
+  QString skinsRoot = {};  ///< the folder of the Skins where it isn't "Skins" beside the program; else empty
 };
 
 /// Everything of the world that the core needs, given when a designer is made. It must outlive the designer.

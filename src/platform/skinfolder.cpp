@@ -5,16 +5,8 @@
 
 namespace veneerer {
 
-namespace {
-
-QStringList splitReference(QString reference) {
-  reference.replace(u'\\', u'/');
-  return reference.split(u'/', Qt::SkipEmptyParts);
-}
-
-}  // namespace
-
-SkinsRoot::SkinsRoot(const ProgramFolder& program) {
+SkinsRoot::SkinsRoot(const ProgramFolder& program) : path_(program.skinsRoot) {
+  if (!path_.isEmpty()) return;
   const QString first = program.path + QStringLiteral("/Skins");
   const QString second = program.path + QStringLiteral("/skins");
   path_ = !QFileInfo(first).isDir() && QFileInfo(second).isDir() ? second : first;
@@ -37,13 +29,11 @@ QString SkinFolder::file(const QString& name) const {
 
 QString SkinFolder::resolve(const QString& reference) const {
   if (reference.isEmpty() || reference.contains(QChar::Null)) return {};
-  const QStringList parts = splitReference(reference);
-  if (parts.isEmpty()) return {};
-  QString exact = path_ + u'/' + parts.join(u'/');
+  QString plain = reference;
+  plain.replace(u'\\', u'/');
+  const QString exact = path_ + plain;
   if (QFileInfo(exact).isFile()) return exact;
-  // A name that the grab leaves behind is a full path.
-  if (reference.startsWith(path_) && QFileInfo(reference).isFile()) return reference;
-  return findIgnoringCase(parts);
+  return plain.startsWith(u'/') ? findIgnoringCase(plain.split(u'/', Qt::SkipEmptyParts)) : QString();
 }
 
 QString SkinFolder::findIgnoringCase(const QStringList& parts) const {

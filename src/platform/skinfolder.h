@@ -29,6 +29,8 @@ private:
 class SkinFolder {
 public:
   SkinFolder(const ProgramFolder& program, const QString& skinName);
+  /// The Skin's folder at a path of its own.
+  explicit SkinFolder(const QString& path) : path_(path) {}
 
   const QString& path() const { return path_; }
   bool exists() const;

@@ -60,6 +60,13 @@ void Layout::reference(StoredValue& kept, const std::vector<Element*>& boxes) {
   add(std::move(row));
 }
 
+void Layout::global(int& number) {
+  Row row;
+  row.kind = RowKind::Global;
+  row.global = &number;
+  add(std::move(row));
+}
+
 void Layout::buttonRecord(Button& button) {
   const std::size_t first = size();
   plainButtonRecord(button);

@@ -30,6 +30,7 @@ enum class RowKind : std::uint8_t {
   FontSize,   ///< a Single of whole points, read as a whole line
   HeldShape,  ///< ButtonShape: kept aside on reading while the shape is 0, until the image row applies it
   Stored,     ///< an image reference, kept as read
+  Global,     ///< an Integer of the state that no element holds
 };
 
 /// A property of one element.
@@ -51,6 +52,7 @@ struct Row {
   Slot from;                          ///< what the writer takes; the same as into in nearly every row
   StoredValue* storedInto = nullptr;  ///< Stored: where the reader keeps the reference
   StoredValue* storedFrom = nullptr;  ///< Stored: where the writer takes it
+  int* global = nullptr;              ///< Global
   Shown shown;                        ///< Stored
   QString text;                       ///< Literal, and the prefix of a LabelLine
   std::int32_t number = 0;            ///< Version
@@ -86,7 +88,8 @@ class Layout {
 public:
   using Step = std::function<void(Loading&)>;
 
-  Layout(State& state, const char* fileName) : state_(state), fileName_(QString::fromLatin1(fileName)) {}
+  Layout(State& state, const QString& fileName) : state_(state), fileName_(fileName) {}
+  Layout(State& state, const char* fileName) : Layout(state, QString::fromLatin1(fileName)) {}
 
   const QString& fileName() const { return fileName_; }
   const std::vector<Row>& rows() const { return rows_; }
@@ -118,6 +121,7 @@ public:
   void colours(Element& element);
   /// BackColor, ForeColor, Top, Left, Height, Width, font name, font size.
   void labelRecord(Label& label);
+  void global(int& number);
   void alignment(Label& label) { value(RowKind::Integer, label, Property::Alignment); }
   void listIndex(RowList& list) { value(RowKind::Integer, list, Property::ListIndex); }
   void checkValue(CheckBox& box) { value(RowKind::Integer, box, Property::Value); }

@@ -90,6 +90,7 @@ private:
 
   static QString elementOf(const Row& row) {
     if (row.into.element) return row.into.element->key();
+    if (row.kind == RowKind::Global) return QStringLiteral("LastCoverIndex");
     return row.kind == RowKind::Stored ? QStringLiteral("image reference") : QStringLiteral("label line");
   }
 
@@ -106,6 +107,9 @@ private:
         return;
       case RowKind::FontSize:
         row.into.element->set(row.into.property, asSingle(leadingNumber(reader_.readLine())));
+        return;
+      case RowKind::Global:
+        *row.global = asWhole(asNumber(reader_.readValue()), RowKind::Integer);
         return;
       case RowKind::Stored:
         takeReference(row, asStored(reader_.readValue()));

@@ -36,6 +36,8 @@ void writeRow(const Row& row, RecordWriter& out) {
       return out.writeWhole(withoutFraction(from.element->as<float>(from.property)));
     case RowKind::FontSize:
       return out.writeSingle(std::trunc(from.element->as<float>(from.property)));
+    case RowKind::Global:
+      return out.writeWhole(*row.global);
     case RowKind::Stored:
       return out.writeStored(*row.storedFrom);
   }

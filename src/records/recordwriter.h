@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "forms/imagenames.h"
+#include "platform/skinfolder.h"
 
 namespace veneerer {
 
@@ -28,8 +29,9 @@ private:
   QByteArray bytes_;
 };
 
-/// Writes the whole file at once: nothing is touched before the bytes are complete. Throws RecordError when
-/// the file can't be opened or written.
-void writeRecordFile(const QString& path, const QByteArray& bytes);
+/// Writes the whole file of that name at once: nothing is touched before the bytes are complete. Throws
+/// RecordError when the file can't be opened or written, when it is a link that leads out of the folder, or when
+/// it is no plain file.
+void writeRecordFile(const SkinFolder& folder, const QString& name, const QByteArray& bytes);
 
 }  // namespace veneerer

@@ -33,7 +33,8 @@ protected:
   }
   QString read(Layout (*make)(State&), const QByteArray& bytes) {
     const SkinFolder folder(ProgramFolder{root.path()}, QStringLiteral("S"));
-    Loading loading{state, folder, Screen(), 0};
+    const Screen screen;
+    Loading loading{state, folder, screen};
     return readRecords(make(state), bytes, loading);
   }
   std::string failure(Layout (*make)(State&), const QByteArray& bytes) {

@@ -1,0 +1,136 @@
+#include "designer/designer.h"
+
+#include <QFontDatabase>
+
+#include "canvas/canvasinput.h"
+#include "canvas/design.h"
+#include "properties/coverlayout.h"
+#include "properties/skinproperties.h"
+#include "properties/textureviewer.h"
+#include "skin/skinloader.h"
+#include "skin/skinsaver.h"
+#include "skin/startup.h"
+#include "tools/toolspalette.h"
+
+namespace veneerer {
+
+namespace {
+
+// The design comes before anything listens: giving an element its first values is no choice of the
+// operator's.
+std::unique_ptr<State> makeState() {
+  auto state = std::make_unique<State>();
+  applyBuiltInDesign(*state);
+  for (Window* window : state->windows()) window->setVisible(false);
+  return state;
+}
+
+}  // namespace
+
+struct Designer::Parts {
+  explicit Parts(Platform& world) : platform(world) {
+    subscription = state->notices.subscribe([this](const Change& change) { listChosen(change); });
+  }
+  ~Parts() { state->notices.unsubscribe(subscription); }
+
+  void listChosen(const Change& change) {
+    if (change.property != Property::ListIndex) return;
+    if (&change.element == &*state->form4.Combo3 && state->form4.Combo3->listIndex() >= 0) loader.reload();
+    if (&change.element == &*state->form3.List1 && state->form3.List1->listIndex() >= 0)
+      chooseSkin(*state, state->form3.List1->text(), loader);
+  }
+
+  void save(const SkinFolder& folder) {
+    saveRecords(*state, folder);
+    covers.offerSave(folder);
+  }
+
+  SkinFolder skinFolder() const { return SkinFolder(platform.folder, state->form4.Combo3->text()); }
+
+  Platform& platform;
+  std::unique_ptr<State> state = makeState();
+  SkinProperties properties{*state, platform.screen};
+  CoverLayouts covers{*state, platform, properties};
+  TextureViewer textures{*state, platform};
+  CanvasInput canvas{*state, platform.dialogs};
+  ToolsPalette tools{*state, platform};
+  SkinLoader loader{*state, platform, covers};
+  int subscription = 0;
+};
+
+Designer::Designer(Platform& platform) : parts_(std::make_unique<Parts>(platform)) {}
+
+Designer::~Designer() = default;
+
+State& Designer::state() {
+  return *parts_->state;
+}
+
+const Platform& Designer::platform() const {
+  return parts_->platform;
+}
+
+bool Designer::startUp() {
+  return veneerer::startUp(*parts_->state, parts_->platform, parts_->loader);
+}
+
+void Designer::openChooser() {
+  veneerer::openChooser(*parts_->state, parts_->platform);
+}
+
+void Designer::reload(const QString& skinName) {
+  parts_->state->form4.Combo3->setText(skinName);
+  parts_->loader.reload();
+}
+
+void Designer::save() {
+  parts_->save(parts_->skinFolder());
+}
+
+void Designer::saveTo(const SkinFolder& folder) {
+  parts_->save(folder);
+}
+
+void Designer::fillFonts() {
+  ListBox& fonts = *parts_->state->form6.List1;
+  if (fonts.list().isEmpty()) fonts.setRows(QFontDatabase::families());
+}
+
+void Designer::click(Element& element) {
+  State& state = *parts_->state;
+  Window& window = element.window();
+  if (&window == &state.form1)
+    parts_->canvas.click(element);
+  else if (&window == &state.form5)
+    parts_->textures.click(element);
+  else if (&element == &*state.form4.Command4)
+    save();
+  else if (&element == &*state.form4.Command1)
+    parts_->covers.saveNamed();
+  else if (&element == &*state.form2.Command1)
+    saveLockedButtons(state, parts_->skinFolder());
+  else if (&window == &state.form6) {
+    // A sample sets its Section; everything else of the window belongs to the tools.
+    parts_->canvas.click(element);
+    parts_->tools.click(element);
+  }
+}
+
+void Designer::press(Element& element, float x, float y, MouseButton button) {
+  if (&element.window() == &parts_->state->form1) parts_->canvas.press(element, x, y, button);
+}
+
+void Designer::move(Element& element, float x, float y, MouseButton button) {
+  if (&element.window() == &parts_->state->form1) parts_->canvas.move(element, x, y, button);
+}
+
+void Designer::doubleClick(Element& element) {
+  if (&element == &*parts_->state->form4.File1) parts_->covers.loadChosen();
+}
+
+void Designer::resizeCanvas(float width, float height) {
+  parts_->state->form1.setWidth(width);
+  parts_->state->form1.setHeight(height);
+}
+
+}  // namespace veneerer

@@ -1,0 +1,138 @@
+#include "properties/coverlayout.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+
+#include "properties/coverfile.h"
+#include "records/layoutreader.h"
+#include "records/layoutwriter.h"
+#include "records/recordfiles.h"
+#include "records/recordreader.h"
+#include "records/recordwriter.h"
+
+namespace veneerer {
+
+namespace {
+
+constexpr int kLastCover = 27;
+
+/// The index of the last cover that a cover file speaks of, -1 when its second value is no number.
+int lastCoverOf(const QByteArray& bytes) {
+  RecordReader reader(bytes);
+  if (!reader.atEnd()) reader.readValue();
+  if (reader.atEnd()) return -1;
+  const RecordValue value = reader.readValue();
+  const auto* number = std::get_if<double>(&value);
+  return number ? static_cast<int>(std::clamp(std::nearbyint(*number), -1.0, double(kLastCover))) : -1;
+}
+
+}  // namespace
+
+CoverLayouts::CoverLayouts(State& state, const Platform& platform, SkinProperties& properties)
+    : state_(state), platform_(platform), properties_(properties) {
+  subscription_ = state.notices.subscribe([this](const Change& change) {
+    if (&change.element == &*state_.form4.File1 && change.property == Property::ListIndex) askToLoad();
+  });
+}
+
+CoverLayouts::~CoverLayouts() {
+  state_.notices.unsubscribe(subscription_);
+}
+
+SkinFolder CoverLayouts::folder() const {
+  return SkinFolder(platform_.folder, state_.form4.Combo3->text());
+}
+
+void CoverLayouts::load(const QString& path) {
+  if (!QFileInfo(path).isFile()) return;
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return;
+  const QByteArray bytes = file.readAll();
+  const SkinFolder skin = folder();
+  Loading loading{state_, skin, platform_.screen};
+  readRecords(coverFile(state_, QFileInfo(path).fileName(), lastCoverOf(bytes)), bytes, loading);
+  showCount();
+  applyBoxes();
+}
+
+// Counts as a change of the text even when the number is the one shown before.
+void CoverLayouts::showCount() {
+  const QString count = QString::number(state_.globals.LastCoverIndex + 1);
+  const bool isSame = state_.form4.Combo4->text() == count;
+  state_.form4.Combo4->setText(count);
+  if (isSame) properties_.coverTextChanged();
+}
+
+// With the labels' box ticked the captions of the covers in use let the backdrop through; without the frames'
+// box no frame of theirs is shown.
+void CoverLayouts::applyBoxes() {
+  Form1& form1 = state_.form1;
+  const bool isOpaque = !state_.form4.Check3->isTicked();
+  const int last = std::min(state_.globals.LastCoverIndex, kLastCover);
+  for (int i = 0; i <= last; ++i) {
+    form1.Label9[i].setOpaque(isOpaque);
+    form1.Label10[i].setOpaque(isOpaque);
+    if (!state_.form4.Check5->isTicked()) form1.ucAniGIF1[i].setVisible(false);
+  }
+}
+
+void CoverLayouts::save(const SkinFolder& target, const QString& name) {
+  writeRecordFile(target, name, composeRecords(coverFile(state_, name, state_.globals.LastCoverIndex)));
+}
+
+void CoverLayouts::listFiles() {
+  state_.form4.File1->setRows(folder().coverFiles());
+}
+
+QString CoverLayouts::firstFile() const {
+  return state_.form4.File1->list().value(0);
+}
+
+bool CoverLayouts::mayWrite(const SkinFolder& target, const QString& name) const {
+  const QString title = QStringLiteral("Save Cover File");
+  if (name.isEmpty() || name.contains(u'/') || name.contains(u'\\')) {
+    platform_.dialogs.inform(title, QStringLiteral("Type a plain file name for the cover layout first."));
+    return false;
+  }
+  return !QFileInfo::exists(target.file(name)) ||
+         platform_.dialogs.ask(title, QStringLiteral("Do You want to overwrite this cover file?"));
+}
+
+void CoverLayouts::saveNamed() {
+  const SkinFolder target = folder();
+  const QString name = state_.form4.Text2->text();
+  if (!mayWrite(target, name)) return;
+  save(target, name);
+  const Layout frames = framesFile(state_);
+  writeRecordFile(target, frames.fileName(), composeRecords(frames));
+  listFiles();
+}
+
+void CoverLayouts::loadChosen() {
+  const QString name = state_.form4.File1->text();
+  if (name.isEmpty()) return;
+  load(folder().file(name));
+  state_.form4.Text2->setText(name);
+}
+
+void CoverLayouts::offerSave(const SkinFolder& target) {
+  if (!platform_.dialogs.ask(QStringLiteral("Warning"),
+                             QStringLiteral("Do you want to save the COVER Layout Too?")))
+    return;
+  const QString name = state_.form4.Text2->text();
+  if (!mayWrite(target, name)) return;
+  save(target, name);
+  listFiles();
+}
+
+void CoverLayouts::askToLoad() {
+  const QString name = state_.form4.File1->text();
+  if (state_.form4.File1->listIndex() < 0) return;
+  if (platform_.dialogs.ask(
+          QStringLiteral("Load Cover File"),
+          QStringLiteral("Are you sure you want to load COV File, existing layout will be lost.")))
+    load(folder().file(name));
+}
+
+}  // namespace veneerer

@@ -1,0 +1,70 @@
+#include "skin/skinloader.h"
+
+#include "records/layoutreader.h"
+
+namespace veneerer {
+
+SkinLoader::SkinLoader(State& state, const Platform& platform, CoverLayouts& covers)
+    : state_(state), platform_(platform), covers_(covers) {}
+
+SkinFolder SkinLoader::folder() const {
+  return SkinFolder(platform_.folder, state_.form4.Combo3->text());
+}
+
+void SkinLoader::load() {
+  const SkinFolder skin = folder();
+  covers_.listFiles();
+  if (!covers_.firstFile().isEmpty()) covers_.load(skin.file(covers_.firstFile()));
+  loadStars(skin);
+  read(loadOrder(), true);
+  tell("Loading...(MENU IMAGES)");
+  showMenuPictures(skin);
+  state_.form1.Picture1[0].setVisible(true);
+  showWindows();
+}
+
+void SkinLoader::reload() {
+  read(reloadOrder(), false);
+  showMenuPictures(folder());
+  covers_.listFiles();
+}
+
+void SkinLoader::read(const std::vector<const CatalogueEntry*>& order, bool tellsProgress) {
+  const SkinFolder skin = folder();
+  Loading loading{state_, skin, platform_.screen};
+  for (const CatalogueEntry* entry : order) {
+    if (tellsProgress && entry->progress) tell(entry->progress);
+    const Layout layout = entry->layout(state_);
+    const QString failure = readRecordFile(layout, skin.file(layout.fileName()), loading);
+    if (!failure.isEmpty()) platform_.dialogs.inform(QStringLiteral("Veneerer"), failure);
+  }
+}
+
+// A Skin without a star of its own takes the one beside the program.
+void SkinLoader::loadStars(const SkinFolder& skin) {
+  QString path = skin.resolve(QStringLiteral("\\images\\star 0.png"));
+  if (path.isEmpty())
+    path = SkinFolder(platform_.folder.path).resolve(QStringLiteral("\\images\\star 0.png"));
+  const Picture star = state_.pictures.load(path);
+  if (star.isNull()) return;
+  for (Element* element : state_.form1.aicAlphaImage1.members()) element->set(Property::Picture, star);
+}
+
+void SkinLoader::showMenuPictures(const SkinFolder& skin) {
+  const Loading loading{state_, skin, platform_.screen};
+  loading.show(QStringLiteral("\\images\\Menu.bmp"), state_.form1.Picture2[0]);
+  loading.show(QStringLiteral("\\images\\Menupopup.bmp"), *state_.form1.Picture23);
+}
+
+void SkinLoader::showWindows() {
+  for (Window* window : std::initializer_list<Window*>{&state_.form4, &state_.form5, &state_.form6,
+                                                       &state_.form1, &state_.form2})
+    window->setVisible(true);
+  state_.frmSplash.setVisible(false);
+}
+
+void SkinLoader::tell(const char* progress) {
+  state_.frmSplash.Label3->setCaption(QString::fromLatin1(progress));
+}
+
+}  // namespace veneerer
