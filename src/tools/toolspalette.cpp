@@ -91,6 +91,7 @@ constexpr ClickAction kOnClick[] = {
     {kTools<&Form6::Command7>, [](ToolsPalette& p, Element&) { clearImages(p.state()); }},
     {kTools<&Form6::Command8>, [](ToolsPalette& p, Element& c) { align(p.state(), axisOf(c)); }},
     {kTools<&Form6::Command9>, [](ToolsPalette& p, Element& c) { space(p.state(), axisOf(c)); }},
+    {kTools<&Form6::Command10>, [](ToolsPalette& p, Element&) { p.rescale().run(); }},
     {kTools<&Form6::Command11>, [](ToolsPalette& p, Element&) { copyAlignment(p.state()); }},
     {kTools<&Form6::Command12>, [](ToolsPalette& p, Element&) { makeSamePlace(p.state()); }},
     {kTools<&Form6::Command13>, [](ToolsPalette& p, Element&) { snapToGrid(p.state()); }},
@@ -100,9 +101,10 @@ constexpr ClickAction kOnClick[] = {
 
 }  // namespace
 
-ToolsPalette::ToolsPalette(State& state, Platform& platform)
+ToolsPalette::ToolsPalette(State& state, Platform& platform, Progress* progress)
     : state_(state),
       platform_(platform),
+      rescale_(state, platform, progress),
       subscription_(state.notices.subscribe([this](const Change& change) { changed(change); })) {}
 
 ToolsPalette::~ToolsPalette() {

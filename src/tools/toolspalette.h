@@ -3,6 +3,7 @@
 
 #include "forms/state.h"
 #include "platform/platform.h"
+#include "tools/rescale.h"
 
 namespace veneerer {
 
@@ -10,8 +11,8 @@ namespace veneerer {
 /// operator or a click that filled it.
 class ToolsPalette {
 public:
-  /// Both must outlive the palette.
-  ToolsPalette(State& state, Platform& platform);
+  /// All must outlive the palette. The progress is told of a rescale's images; it may be null.
+  ToolsPalette(State& state, Platform& platform, Progress* progress = nullptr);
   ~ToolsPalette();
   ToolsPalette(const ToolsPalette&) = delete;
   ToolsPalette& operator=(const ToolsPalette&) = delete;
@@ -22,6 +23,7 @@ public:
 
   State& state() const { return state_; }
   Platform& platform() const { return platform_; }
+  Rescale& rescale() { return rescale_; }
 
   /// Shows the colour that Option1 stands for, without Text2 counting as typed into.
   void showColour();
@@ -31,6 +33,7 @@ private:
 
   State& state_;
   Platform& platform_;
+  Rescale rescale_;
   int subscription_;
   bool isShowingColour_ = false;
 };

@@ -1,0 +1,53 @@
+#include "tools/imagestep.h"
+
+#include <QSaveFile>
+
+#include "components/cimage.h"
+#include "components/cjpeg.h"
+#include "elements/picture.h"
+
+namespace veneerer {
+
+namespace {
+
+constexpr int kQuality = 90;
+
+JpegResult encode(const cImage& image) {
+  cJpeg jpeg;
+  jpeg.setQuality(kQuality);
+  jpeg.SetSamplingFrequencies(2, 2, 1, 1, 1, 1);
+  jpeg.SampleImage(image);
+  return jpeg.encode();
+}
+
+QString replaceFile(const QString& path, const QByteArray& bytes) {
+  QSaveFile file(path);
+  if (!file.open(QIODevice::WriteOnly)) return file.errorString();
+  file.write(bytes);
+  return file.commit() ? QString() : file.errorString();
+}
+
+QString resample(const QString& path, QSize size) {
+  // A store of its own: the job runs beside others, and the file may have changed since the last size.
+  PictureStore store;
+  const Picture picture = store.load(path);
+  cImage source;
+  if (!source.CopyPicture(picture.image())) return QStringLiteral("the image can't be read");
+  const cImage target = source.stretched(size);
+  if (target.isEmpty())
+    return QStringLiteral("no image can have %1 by %2 pixels").arg(size.width()).arg(size.height());
+  const JpegResult jpeg = encode(target);
+  return jpeg.isOk() ? replaceFile(path, jpeg.bytes) : jpeg.error;
+}
+
+}  // namespace
+
+QString resampleFile(const ImageJob& job) {
+  for (const QSize size : job.sizes) {
+    const QString error = resample(job.path, size);
+    if (!error.isEmpty()) return error;
+  }
+  return {};
+}
+
+}  // namespace veneerer

@@ -1,0 +1,45 @@
+// "Rescale SKIN": fits the loaded Skin to another resolution, its placements and fonts in memory and, on
+// request, its backdrops on disk. The record files follow only with Save Skin.
+#pragma once
+
+#include <QStringList>
+#include <vector>
+
+#include "components/resizer.h"
+#include "forms/state.h"
+#include "platform/platform.h"
+#include "tools/imagestep.h"
+
+namespace veneerer {
+
+class Rescale {
+public:
+  /// All must outlive the tool; the progress may be null.
+  Rescale(State& state, Platform& platform, Progress* progress)
+      : state_(state), platform_(platform), progress_(progress) {}
+
+  /// Text7 and Text8 of Form6 give the new size in pixels. An empty field gives a window of no size. When the
+  /// scale can't be computed the command tells so and stops; what it moved stays. A call that comes in
+  /// while the images are being resampled does nothing.
+  void run();
+
+private:
+  void scaleElements();
+  void resizeWindow(Property edge, const TextBox& field, int direction);
+  void resampleImages();
+  std::vector<ImageJob> collectJobs();
+  void measure(const Element& target);
+  QSize measuredPixels() const;
+  QStringList runJobs(const std::vector<ImageJob>& jobs);
+  void report(int done, int total, const QString& what);
+  void showAnew(const std::vector<ImageJob>& jobs);
+  void inform(const QString& text);
+
+  State& state_;
+  Platform& platform_;
+  Progress* progress_;
+  Resizer resizer_;
+  bool isRunning_ = false;
+};
+
+}  // namespace veneerer

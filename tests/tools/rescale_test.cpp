@@ -1,0 +1,142 @@
+// The rescale: elements by the change of the window's size, backdrops on disk.
+#include <QDir>
+#include <QFile>
+#include <QImageReader>
+#include <QTemporaryDir>
+#include <set>
+
+#include "tools/rescaletables.h"
+#include "toolsfixture.h"
+
+namespace veneerer {
+
+class RescaleTest : public ToolsTest {
+protected:
+  RescaleTest() {
+    world.platform.folder.path = program.path();
+    EXPECT_TRUE(QDir().mkpath(skin() + QStringLiteral("/images")));
+    form1.place(0, 0, 15360, 11520);
+    form6.Check2->setValue(1);
+    form4.Combo3->setText(QStringLiteral("Blue"));
+  }
+
+  QString skin() const { return program.filePath(QStringLiteral("Skins/Blue")); }
+  QString file(const char* name) const { return skin() + QLatin1String(name); }
+  void paint(const char* name, QColor colour = Qt::red) {
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(colour);
+    EXPECT_TRUE(image.save(file(name), "BMP"));
+  }
+  static QByteArray bytes(const QString& path) {
+    QFile in(path);
+    return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+  }
+  void rescale(const char* width, const char* height) {
+    type(*form6.Text7, width);
+    type(*form6.Text8, height);
+    palette.click(*form6.Command10);
+  }
+
+  QTemporaryDir program;
+  Form4& form4 = state.form4;
+};
+
+TEST_F(RescaleTest, TargetsHaveAnElementEach) {
+  std::set<const StoredValue*> names;
+  for (const RescaleTarget& target : kRescaleTargets) {
+    EXPECT_NE(target.family(state).find(target.index), nullptr);
+    EXPECT_TRUE(names.insert(&target.name(state.names)).second);
+  }
+  EXPECT_EQ(names.size(), 25u);
+}
+
+TEST_F(RescaleTest, ElementsFollowTheWindow) {
+  form6.Check2->setValue(0);
+  form1.Label1[0].place(100, 200, 300, 400);
+  form1.Label1[0].setFontSize(10);
+  rescale("2048", "384");
+  EXPECT_EQ(form1.width(), 30720);
+  EXPECT_EQ(form1.height(), 5760);
+  EXPECT_EQ(form1.Label1[0].left(), 200);
+  EXPECT_EQ(form1.Label1[0].top(), 100);
+  EXPECT_EQ(form1.Label1[0].width(), 600);
+  EXPECT_EQ(form1.Label1[0].height(), 200);
+  // Wider first: 10 * (2 + 1) / 2, then lower: times (1 + 0.5) / 2.
+  EXPECT_EQ(form1.Label1[0].fontSize(), 11.25f);
+  EXPECT_TRUE(world.dialogs.messages.isEmpty());
+  // Outside of the tool a change of the window's size moves nothing.
+  form1.setWidth(100);
+  EXPECT_EQ(form1.Label1[0].left(), 200);
+}
+
+TEST_F(RescaleTest, AWindowOfNoSizeIsSurvived) {
+  rescale("", "768");
+  EXPECT_EQ(form1.width(), 0);
+  EXPECT_EQ(form1.Label1[0].width(), 0);
+  rescale("99999999999", "0");
+  rescale("2000000000", "768");
+  EXPECT_FALSE(world.dialogs.messages.isEmpty());
+}
+
+TEST_F(RescaleTest, BackdropsTakeTheSizeOfTheirElement) {
+  paint("/history.bmp");
+  paint("/IMAGES.bmp", Qt::green);
+  state.names.ImageName[1] = QStringLiteral("\\history.bmp");
+  state.names.ImageName[2] = QStringLiteral("\\missing.bmp");
+  state.names.PlaylistLoadName = QStringLiteral("\\images.bmp");
+  form1.Picture1[1].place(0, 0, 1500, 3000);
+  form1.Picture1[20].place(0, 0, 600, 900);
+  form1.Picture1[1].setPicture(state.pictures.load(file("/history.bmp")));
+  ASSERT_EQ(form1.Picture1[1].picture().image().size(), QSize(40, 30));
+  rescale("1024", "768");
+  QImageReader history(file("/history.bmp"));
+  history.setDecideFormatFromContent(true);
+  EXPECT_EQ(history.format(), "jpeg");
+  EXPECT_EQ(history.size(), QSize(100, 200));
+  EXPECT_EQ(QImage(file("/IMAGES.bmp"), "JPEG").size(), QSize(40, 60));
+  EXPECT_LT(qAbs(qRed(QImage(file("/history.bmp"), "JPEG").pixel(50, 50)) - 255), 4);
+  EXPECT_EQ(form1.Picture1[1].picture().image().size(), QSize(100, 200));
+  EXPECT_EQ(form1.Picture21->width(), 600);
+  EXPECT_TRUE(form1.Picture21->isVisible());
+  ASSERT_EQ(world.dialogs.messages.size(), 2);
+  EXPECT_EQ(world.dialogs.messages[0].text, u"Now Resizing images Do not Loose Focus on main screen");
+  EXPECT_EQ(world.dialogs.messages[1].text, u"Images resized");
+  EXPECT_EQ(QDir(skin()).entryList(QDir::Files | QDir::Hidden).size(), 2) << "no file is left between";
+}
+
+TEST_F(RescaleTest, OneFileOfTwoTargetsEndsAtTheLaterSize) {
+  paint("/both.jpg");
+  state.names.GenreName = QStringLiteral("\\both.jpg");
+  state.names.ImageName[3] = QStringLiteral("\\both.jpg");
+  form1.Picture1[3].place(0, 0, 1500, 1500);
+  form1.Picture1[13].place(0, 0, 300, 450);
+  rescale("1024", "768");
+  EXPECT_EQ(QImage(file("/both.jpg")).size(), QSize(20, 30));
+}
+
+TEST_F(RescaleTest, WhatFailsStaysAsItWasAndTheOthersGoOn) {
+  paint("/good.bmp");
+  paint("/flat.bmp");
+  paint("/../outside.bmp");
+  QFile broken(file("/broken.bmp"));
+  ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+  broken.write("BM no picture");
+  broken.close();
+  ASSERT_TRUE(QFile::link(file("/../outside.bmp"), file("/link.bmp")));
+  const char* names[] = {"\\broken.bmp", "\\flat.bmp", "\\..\\outside.bmp", "\\link.bmp", "\\good.bmp"};
+  for (int i = 0; i < 5; ++i) state.names.ImageName[i] = QString::fromLatin1(names[i]);
+  form1.Picture1[1].setWidth(-3e38f);
+  form1.Picture1[4].place(0, 0, 150, 150);
+  const QByteArray outside = bytes(file("/../outside.bmp"));
+  const QByteArray flat = bytes(file("/flat.bmp"));
+  rescale("1024", "768");
+  EXPECT_EQ(QImage(file("/good.bmp"), "JPEG").size(), QSize(10, 10));
+  EXPECT_EQ(bytes(file("/broken.bmp")), "BM no picture");
+  EXPECT_EQ(bytes(file("/flat.bmp")), flat);
+  EXPECT_EQ(bytes(file("/../outside.bmp")), outside);
+  ASSERT_EQ(world.dialogs.messages.size(), 3);
+  for (const char* name : {"broken.bmp", "flat.bmp", "..\\outside.bmp"})
+    EXPECT_TRUE(world.dialogs.messages[2].text.contains(QLatin1String(name))) << name;
+}
+
+}  // namespace veneerer
