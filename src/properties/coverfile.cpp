@@ -1,8 +1,10 @@
 #include "properties/coverfile.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "elements/numbers.h"
+#include "records/recordreader.h"
 
 namespace veneerer {
 
@@ -64,6 +66,15 @@ void featuredAlbum(Layout& file, State& state) {
 }
 
 }  // namespace
+
+int lastCoverOf(const QByteArray& bytes) {
+  RecordReader reader(bytes);
+  if (!reader.atEnd()) reader.readValue();
+  if (reader.atEnd()) return -1;
+  const RecordValue value = reader.readValue();
+  const auto* number = std::get_if<double>(&value);
+  return number ? static_cast<int>(std::clamp(std::nearbyint(*number), -1.0, double(kLastCover))) : -1;
+}
 
 Layout coverFile(State& state, const QString& name, int lastCover) {
   Form1& form1 = state.form1;

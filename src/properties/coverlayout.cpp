@@ -8,7 +8,6 @@
 #include "records/layoutreader.h"
 #include "records/layoutwriter.h"
 #include "records/recordfiles.h"
-#include "records/recordreader.h"
 #include "records/recordwriter.h"
 
 namespace veneerer {
@@ -16,16 +15,6 @@ namespace veneerer {
 namespace {
 
 constexpr int kLastCover = 27;
-
-/// The index of the last cover that a cover file speaks of, -1 when its second value is no number.
-int lastCoverOf(const QByteArray& bytes) {
-  RecordReader reader(bytes);
-  if (!reader.atEnd()) reader.readValue();
-  if (reader.atEnd()) return -1;
-  const RecordValue value = reader.readValue();
-  const auto* number = std::get_if<double>(&value);
-  return number ? static_cast<int>(std::clamp(std::nearbyint(*number), -1.0, double(kLastCover))) : -1;
-}
 
 }  // namespace
 

@@ -182,6 +182,8 @@ public:
   /// Runs after the last line, or where an optional tail ended.
   void atEnd(Step step) { endSteps_.push_back(std::move(step)); }
 
+  /// Makes every failure a RecordError, for checks.
+  void failFatally() { onFailure_ = OnFailure::Fatal; }
   void resumeOnError() { onFailure_ = OnFailure::Resume; }
   void reportFailure(const char* message) {
     onFailure_ = OnFailure::Report;

@@ -1,17 +1,22 @@
 #include "records/recorderror.h"
 
+#include <QStringList>
+
 namespace veneerer {
 
 namespace {
 
+QString composePlace(const QString& element, const QString& field) {
+  QStringList words;
+  for (const QString& word : {element, field})
+    if (!word.isEmpty()) words.append(word);
+  return words.isEmpty() ? QString() : words.join(u' ') + QStringLiteral(": ");
+}
+
 QString compose(const QString& file, int line, const QString& element, const QString& field,
                 const QString& found) {
-  QString text = file;
-  if (line > 0) text += u':' + QString::number(line);
-  text += QStringLiteral(": ");
-  if (!element.isEmpty()) text += element + u' ';
-  if (!field.isEmpty()) text += field + QStringLiteral(": ");
-  return text + found;
+  const QString number = line > 0 ? u':' + QString::number(line) : QString();
+  return file + number + QStringLiteral(": ") + composePlace(element, field) + found;
 }
 
 }  // namespace
@@ -27,6 +32,10 @@ RecordError::RecordError(const QString& file, int line, const QString& element, 
 
 QString RecordError::message() const {
   return compose(file_, line_, element_, field_, found_);
+}
+
+QString RecordError::place() const {
+  return composePlace(element_, field_);
 }
 
 }  // namespace veneerer

@@ -17,6 +17,10 @@ public:
   int line() const { return line_; }
   const QString& element() const { return element_; }
   const QString& field() const { return field_; }
+  /// What is wrong, without the place.
+  const QString& found() const { return found_; }
+  /// "Form1.lvButtons_H1(0) Height: ", empty when neither element nor field is known.
+  QString place() const;
   /// "menu.ini:12: Form1.lvButtons_H1(0) Height: a number is due here, but "abc" stands in its place"
   QString message() const;
 

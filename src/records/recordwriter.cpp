@@ -36,10 +36,13 @@ void RecordWriter::writeNumber(const QString& digits) {
 void writeRecordFile(const SkinFolder& folder, const QString& name, const QByteArray& bytes) {
   const QString path = folder.file(name);
   const auto fail = [&](const QString& what) { throw RecordError(name, 0, {}, {}, what); };
-  // A stranger's folder may hold a link to elsewhere, or a pipe that never lets go, under a record file's name.
-  if (!folder.contains(path)) fail(QStringLiteral("the file lies outside the Skin's folder and isn't written"));
+  // A stranger's folder may hold a link to elsewhere, or a pipe that never lets go, under a record file's
+  // name.
+  if (!folder.contains(path))
+    fail(QStringLiteral("the file lies outside the Skin's folder and isn't written"));
   const QFileInfo info(path);
-  if (info.exists() && !info.isFile()) fail(QStringLiteral("there is something under this name that is no file"));
+  if (info.exists() && !info.isFile())
+    fail(QStringLiteral("there is something under this name that is no file"));
   QFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(bytes) != bytes.size())
     fail(QStringLiteral("the file can't be written: ") + file.errorString());

@@ -30,8 +30,8 @@ private:
 };
 
 /// Writes the whole file of that name at once: nothing is touched before the bytes are complete. Throws
-/// RecordError when the file can't be opened or written, when it is a link that leads out of the folder, or when
-/// it is no plain file.
+/// RecordError when the file can't be opened or written, when it is a link that leads out of the folder, or
+/// when it is no plain file.
 void writeRecordFile(const SkinFolder& folder, const QString& name, const QByteArray& bytes);
 
 }  // namespace veneerer

@@ -1,0 +1,36 @@
+// The command line of the batch tool.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <stdexcept>
+
+#include "platform/platform.h"
+
+namespace veneerer {
+
+/// Wrong use of the command line; the text says what is wrong.
+class UsageError : public std::runtime_error {
+public:
+  explicit UsageError(const QString& what) : std::runtime_error(what.toStdString()) {}
+};
+
+enum class Command { Dump, Save, Render, Check, Sheet };
+
+struct Arguments {
+  Command command = Command::Dump;
+  QStringList skins;  ///< paths of Skin folders; one but for check, none for sheet
+  QString to;         ///< save, render, sheet: the target
+  QString cover;      ///< save: the cover file's name, empty to leave the covers out
+  QStringList only;   ///< render: the entries to render, empty for all
+  QString script;     ///< a script to play after the load, "-" for standard input, empty for none
+  bool reload = false;
+  Screen screen;
+};
+
+/// Throws UsageError.
+Arguments parseArguments(const QStringList& arguments);
+
+QString usageText();
+
+}  // namespace veneerer

@@ -1,0 +1,13 @@
+// The batch tool as a function, so that tests run it without a process of its own.
+#pragma once
+
+#include <QStringList>
+#include <cstdio>
+
+namespace veneerer {
+
+/// Runs one command line (the program's name first). Returns the exit status: 0 done; 1 the Skin or the
+/// script failed, or a check found an error; 2 wrong use. Output goes to the two files.
+int runBatch(const QStringList& arguments, std::FILE* out, std::FILE* err);
+
+}  // namespace veneerer

@@ -1,0 +1,145 @@
+#include "skintool/statejson.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <charconv>
+#include <span>
+
+#include "elements/family.h"
+
+namespace veneerer {
+
+namespace {
+
+using P = Property;
+
+constexpr P kPlace[] = {P::Left, P::Top, P::Width, P::Height, P::Visible, P::ToolTipText};
+constexpr P kLabel[] = {P::Caption,    P::BackColor,     P::ForeColor,        P::BackStyle,
+                        P::Alignment,  P::FontName,      P::FontSize,         P::FontBold,
+                        P::FontItalic, P::FontUnderline, P::FontStrikethrough};
+constexpr P kButton[] = {P::Caption,       P::ButtonShape,  P::ButtonStyle, P::BackColor, P::ForeColor,
+                         P::GradientColor, P::GradientMode, P::PictureSize, P::Picture};
+constexpr P kPictureBox[] = {P::BackColor, P::ForeColor, P::Picture};
+constexpr P kPicture[] = {P::Picture};
+constexpr P kRows[] = {P::Text, P::ListIndex, P::List};
+constexpr P kText[] = {P::Text};
+constexpr P kState[] = {P::Value};
+
+std::span<const P> ownProperties(Kind kind) {
+  switch (kind) {
+    case Kind::Label:
+      return kLabel;
+    case Kind::Button:
+      return kButton;
+    case Kind::PictureBox:
+      return kPictureBox;
+    case Kind::Window:
+    case Kind::ImageBox:
+    case Kind::AnimatedFrame:
+    case Kind::AlphaImage:
+      return kPicture;
+    case Kind::ComboBox:
+    case Kind::ListBox:
+    case Kind::FileList:
+    case Kind::FolderList:
+      return kRows;
+    case Kind::TextBox:
+      return kText;
+    case Kind::CheckBox:
+    case Kind::OptionButton:
+      return kState;
+    case Kind::CommandButton:
+      return {};
+  }
+  return {};
+}
+
+// The double whose shortest form is the Single's shortest form, so that the text brings the same Single back.
+double asShortestDouble(float number) {
+  char text[64];
+  const auto end = std::to_chars(text, text + sizeof text, number).ptr;
+  double shortest = 0;
+  std::from_chars(text, end, shortest);
+  return shortest;
+}
+
+QString pictureName(const Picture& picture, const QString& skinPath) {
+  if (picture.isNull()) return {};
+  if (picture.isDrawn()) return QStringLiteral("(drawn)");
+  const QString path = picture.path();
+  return path.startsWith(skinPath + u'/') ? path.mid(skinPath.size()) : path;
+}
+
+QJsonValue asJson(const Value& value, const QString& skinPath) {
+  if (const auto* truth = std::get_if<bool>(&value)) return *truth;
+  if (const auto* whole = std::get_if<std::int32_t>(&value)) return *whole;
+  if (const auto* single = std::get_if<float>(&value)) return asShortestDouble(*single);
+  if (const auto* text = std::get_if<QString>(&value)) return *text;
+  if (const auto* list = std::get_if<QStringList>(&value)) return QJsonArray::fromStringList(*list);
+  return pictureName(std::get<Picture>(value), skinPath);
+}
+
+QJsonObject elementAsJson(const Element& element, const QString& skinPath) {
+  QJsonObject object;
+  object.insert(u"Container", element.container() ? element.container()->key() : QString());
+  for (std::span<const P> properties : {std::span<const P>(kPlace), ownProperties(element.kind())})
+    for (P property : properties)
+      object.insert(propertyName(property), asJson(element.get(property), skinPath));
+  return object;
+}
+
+QJsonObject elementsAsJson(State& state, const QString& skinPath) {
+  QJsonObject elements;
+  for (Window* window : state.windows()) {
+    elements.insert(window->key(), elementAsJson(*window, skinPath));
+    for (const Family* family : window->families())
+      for (const Element* element : family->members())
+        elements.insert(element->key(), elementAsJson(*element, skinPath));
+  }
+  return elements;
+}
+
+QJsonObject globalsAsJson(const Globals& globals) {
+  return {{QStringLiteral("SectionNumber"), globals.SectionNumber},
+          {QStringLiteral("ElementIndex"), globals.ElementIndex},
+          {QStringLiteral("DragAnchorX"), asShortestDouble(globals.DragAnchorX)},
+          {QStringLiteral("DragAnchorY"), asShortestDouble(globals.DragAnchorY)},
+          {QStringLiteral("CurrentColour"), globals.CurrentColour},
+          {QStringLiteral("LastCoverIndex"), globals.LastCoverIndex},
+          {QStringLiteral("CoverScale"), asShortestDouble(globals.CoverScale)}};
+}
+
+QJsonObject tablesAsJson(const ImageNames& names) {
+  QJsonObject tables;
+  for (const ImageTable* table : names.all()) {
+    QJsonArray entries;
+    for (int i = 0; i < table->count(); ++i) entries.append((*table)[i].text());
+    tables.insert(table->name(), table->isArray() ? QJsonValue(entries) : entries.first());
+  }
+  return tables;
+}
+
+QJsonArray messagesAsJson(const QList<BatchDialogs::Message>& messages) {
+  QJsonArray array;
+  for (const BatchDialogs::Message& message : messages)
+    array.append(QJsonObject{{QStringLiteral("title"), message.title},
+                             {QStringLiteral("text"), message.text},
+                             {QStringLiteral("answer"), message.answer}});
+  return array;
+}
+
+}  // namespace
+
+QByteArray stateAsJson(Designer& designer, const QList<BatchDialogs::Message>& messages) {
+  State& state = designer.state();
+  designer.fillFonts();
+  const SkinFolder skin(designer.platform().folder, state.form4.Combo3->text());
+  const QJsonObject root{{QStringLiteral("globals"), globalsAsJson(state.globals)},
+                         {QStringLiteral("elements"), elementsAsJson(state, skin.path())},
+                         {QStringLiteral("tables"), tablesAsJson(state.names)},
+                         {QStringLiteral("messages"), messagesAsJson(messages)}};
+  return QJsonDocument(root).toJson();
+}
+
+}  // namespace veneerer
