@@ -1,4 +1,5 @@
 // The album view and the screen of what is playing.
+#include "canvas/design/covers.h"
 #include "canvas/design/screens.h"
 
 namespace veneerer::design {
@@ -8,43 +9,6 @@ namespace {
 constexpr const char* kTabs[] = {"Audio", "Video", "Karaoke", "Most||Played", "Newly||Added"};
 constexpr const char* kQuickKeys[] = {"A", "B", "C", "D", "E", "F", "G", "H", "I", "J", "K", "L", "M", "N",
                                       "O", "P", "Q", "R", "S", "T", "U", "V", "W", "X", "Y", "Z", "#"};
-constexpr int kCovers = 28;
-constexpr int kFeatured = 28;
-constexpr int kSpare = 29;  // the last cover and frame, which no layout uses
-constexpr int kColumns = 5;
-constexpr int kShownCovers = 10;
-
-// The four captions under a cover and the frame round it.
-void composeCover(Composer& c, Box cell, int i) {
-  Form1& f = c.form;
-  PictureBox& screen = f.Picture1[9];
-  const Ground& on = c.theme.screen;
-  const auto caption = [&](Label& label, const QString& text, std::int32_t ink, bool bold) {
-    const TextLook look{ink, 9, bold, Alignment::Center};
-    c.field(label, screen, cell.cutBottom(c.lineOf(look)), text, look);
-    label.setBackColor(c.theme.row.back);
-  };
-  const bool isFeatured = i == kFeatured;
-  caption(f.Label63[i], QStringLiteral("Genre:  %1").arg(i), on.muted, false);
-  caption(f.Label62[i], QStringLiteral("Released:  %1").arg(i), on.muted, false);
-  caption(f.Label10[i], isFeatured ? QStringLiteral("Featured 10") : QStringLiteral("Artist Name"), on.body,
-          false);
-  caption(f.Label9[i], isFeatured ? QStringLiteral("Featured 9") : QStringLiteral("Album Name"), on.heading,
-          true);
-  const int side = std::min(cell.w, cell.h - c.px(4));
-  const Box frame{cell.x + (cell.w - side) / 2, cell.bottom() - c.px(4) - side, side, side};
-  c.image(f.Image2[i], screen, frame.inset(c.px(6)));
-  f.Image2[i].setStretch(true);
-  c.image(f.ucAniGIF1[i], screen, frame);
-}
-
-void composeCovers(Composer& c, const Box& area) {
-  const Grid grid(area, kColumns, kShownCovers / kColumns, c.px(10), c.px(6));
-  // Covers beyond those shown wait behind the last ones, ready for a layout with more of them.
-  for (int i = kCovers; i >= 0; --i) composeCover(c, grid.cell(i < kShownCovers ? i : i % kShownCovers), i);
-  c.image(c.form.Image2[kSpare], c.form.Picture1[9], grid.cell(0).centred(c.px(48), c.px(48)));
-  c.image(c.form.ucAniGIF1[kSpare], c.form.Picture1[9], grid.cell(0).centred(c.px(48), c.px(48)));
-}
 
 void composeSlider(Composer& c, int i, const Box& place) {
   Form1& f = c.form;
@@ -118,14 +82,11 @@ void composeAlbumView(Composer& c) {
   composeTabs(c, header.inset(0, c.px(2)));
   const Box foot = body.cutBottom(c.px(kTouch), c.px(6));
   composeFilter(c, body.cutTop(c.px(28), c.px(6)));
-  const Box back = body.cutLeft(c.px(52), c.px(8));
-  const Box forward = body.cutRight(c.px(52), c.px(8));
-  const Box slider = Box(body).cutRight(c.px(34));
-  if (c.plan.sliderUpright) body.cutRight(slider.w, c.px(8));
-  c.button(f.lvButtons_H3[0], screen, back, QStringLiteral("Back"), c.theme.plain);
-  composeCovers(c, body);
-  c.button(f.lvButtons_H3[2], screen, forward, QStringLiteral("For-||ward"), c.theme.plain);
-  composeSlider(c, 0, slider);
+  c.button(f.lvButtons_H3[0], screen, body.cutLeft(c.px(52), c.px(8)), QStringLiteral("Back"), c.theme.plain);
+  c.button(f.lvButtons_H3[2], screen, body.cutRight(c.px(52), c.px(8)), QStringLiteral("For-||ward"),
+           c.theme.plain);
+  composeCovers(c, coverArea(c), CoverLayout());
+  composeSlider(c, 0, body.cutRight(c.px(34)));
   composeJump(c, foot);
 }
 

@@ -8,6 +8,8 @@ namespace {
 constexpr const char* kMenu[] = {
     "History", "Search", "Queue",        "Top 20",      "Options",     "Decades",        "Playlist",
     "Genres",  "Albums", "Now||Playing", "My||V-Quill", "Collections", "Request||Track", "Pop Up||Menu"};
+// No record holds the colour of the bar behind the status texts.
+constexpr std::int32_t kBar = rgb(14, 20, 31);
 constexpr const char* kTransport[] = {"<<", "l l", ">>"};
 
 void composeMenu(Composer& c) {
@@ -87,7 +89,8 @@ void composeStatusTexts(Composer& c, const Box& area) {
 
 void composeStatus(Composer& c) {
   Form1& f = c.form;
-  c.panel(f.Picture2[3], f, c.plan.status, c.theme.bar.back);
+  const Box rule{c.plan.status.x, c.plan.status.y, c.plan.status.w, 2};
+  c.panel(f.Picture2[3], f, c.plan.statusOnBackdrop ? rule : c.plan.status, kBar);
   Box area = c.plan.status.inset(c.px(10), c.px(4));
   const auto next = [&](int index, const char* caption, const ButtonLook& look) {
     const Box at = area.cutRight(c.px(66), c.px(5));

@@ -17,11 +17,12 @@ struct Plan {
   Box logo;
   Box name;  ///< the jukebox's name
   Box player;
-  Box status;   ///< the bar of credits, messages and the navigation of the main screen
-  Box stage;    ///< the panel that the main screen shows where no other screen stands
-  Box screen;   ///< each of the full screens
-  Box dialog;   ///< each of the panels
-  Box confirm;  ///< the confirmation
+  Box status;                     ///< the bar of credits, messages and the navigation of the main screen
+  bool statusOnBackdrop = false;  ///< the status bar is a part of the backdrop, only a line parts it off
+  Box stage;                      ///< the panel that the main screen shows where no other screen stands
+  Box screen;                     ///< each of the full screens
+  Box dialog;                     ///< each of the panels
+  Box confirm;                    ///< the confirmation
   Box pin;
   Box popup;
   int popupColumns = 2;

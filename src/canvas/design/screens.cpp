@@ -19,7 +19,7 @@ const Box& placeOf(const Plan& plan, int screen) {
 
 void composeScreens(Composer& c) {
   for (int i = 0; i < 30; ++i) c.panel(c.form.Picture1[i], c.form, placeOf(c.plan, i), c.theme.screen.back);
-  c.panel(c.form.Picture12[0], c.form, c.plan.genreBar, c.theme.bar.back);
+  c.panel(c.form.Picture12[0], c.form, c.plan.genreBar, kCard.back);
   c.panel(*c.form.Picture23, c.form, c.plan.popup, c.theme.bar.back);
 }
 
