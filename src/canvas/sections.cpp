@@ -190,6 +190,10 @@ Family* familyOfSection(State& state, int number) {
   return section ? &section->family(state) : nullptr;
 }
 
+bool contains(std::span<const int> numbers, int number) {
+  return std::ranges::find(numbers, number) != numbers.end();
+}
+
 Element* currentElement(State& state) {
   const Family* family = familyOfSection(state, state.globals.SectionNumber);
   if (!family) return nullptr;

@@ -46,6 +46,9 @@ int sectionOf(State& state, const Family& family);
 /// The family of that Section, null when the number names nothing.
 Family* familyOfSection(State& state, int number);
 
+/// Whether the number stands in a list of Sections.
+bool contains(std::span<const int> numbers, int number);
+
 /// The element in hand: the current Section's member at ElementIndex, or its single control. Null when there
 /// is none.
 Element* currentElement(State& state);

@@ -1,7 +1,5 @@
 #include "canvas/selection.h"
 
-#include <algorithm>
-
 #include "canvas/placeholders.h"
 #include "canvas/sections.h"
 #include "elements/numbers.h"
@@ -17,10 +15,6 @@ constexpr int kWithoutFontSize[] = {11, 136, 153, 170, 171};
 
 /// Picture1, Picture30, Label53 and lvButtons_H56 show their place as well.
 constexpr int kWithPlace[] = {101, 173, 138, 137};
-
-bool contains(std::span<const int> sections, int number) {
-  return std::ranges::find(sections, number) != sections.end();
-}
 
 }  // namespace
 

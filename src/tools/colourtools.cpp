@@ -1,6 +1,5 @@
 #include "tools/colourtools.h"
 
-#include <algorithm>
 #include <optional>
 #include <span>
 
@@ -13,10 +12,6 @@ namespace veneerer {
 namespace {
 
 constexpr Property kOptions[] = {Property::ForeColor, Property::BackColor, Property::GradientColor};
-
-bool contains(std::span<const int> sections, int number) {
-  return std::ranges::find(sections, number) != sections.end();
-}
 
 std::optional<Property> chosenOption(const State& state) {
   for (int k = 0; k < 3; ++k)

@@ -104,6 +104,26 @@ TEST_F(RescaleTest, BackdropsTakeTheSizeOfTheirElement) {
   EXPECT_EQ(QDir(skin()).entryList(QDir::Files | QDir::Hidden).size(), 2) << "no file is left between";
 }
 
+TEST_F(RescaleTest, ProgressCannotStartASecondRescale) {
+  struct Impatient : Progress {
+    Rescale* tool = nullptr;
+    QStringList steps;
+    void step(int done, int total, const QString& what) override {
+      steps.append(QStringLiteral("%1/%2 %3").arg(done).arg(total).arg(what));
+      tool->run();
+    }
+  } progress;
+  Rescale tool(state, world.platform, &progress);
+  progress.tool = &tool;
+  paint("/one.bmp");
+  state.names.ImageName[4] = QStringLiteral("\\one.bmp");
+  type(*form6.Text7, "1024");
+  type(*form6.Text8, "768");
+  tool.run();
+  EXPECT_EQ(progress.steps, QStringList({QStringLiteral("0/1 \\one.bmp"), QStringLiteral("1/1 ")}));
+  EXPECT_EQ(world.dialogs.messages.size(), 2);
+}
+
 TEST_F(RescaleTest, OneFileOfTwoTargetsEndsAtTheLaterSize) {
   paint("/both.jpg");
   state.names.GenreName = QStringLiteral("\\both.jpg");
