@@ -36,7 +36,7 @@ void placeAndStyle(Layout& file, Label& label) {
 // over the one before, behind it each lies under.
 void stack(Form1& form1, int cover, int lastCover) {
   if (cover == 0) return;
-  if (cover < lastCover / 2 + 1)
+  if (cover < lastCover / 2.0 + 1)
     form1.Image2[cover].stackAbove(form1.Image2[cover - 1]);
   else
     form1.Image2[cover].stackBelow(form1.Image2[cover - 1]);

@@ -1,0 +1,115 @@
+// Cover layouts, from file to canvas and back.
+#include <gtest/gtest.h>
+
+#include "designer/skinfixture.h"
+#include "records/recorderror.h"
+
+namespace veneerer {
+namespace {
+
+class Covers : public test::SkinFixture {
+protected:
+  Covers() {
+    start();
+    form4().Check5->setValue(1);
+  }
+
+  void chooseCount(int covers) { form4().Combo4->select(covers - 1); }
+  void saveAs(const char* name) {
+    form4().Text2->setText(QString::fromLatin1(name));
+    designer->click(*form4().Command1);
+  }
+  void load(const char* name) {
+    form4().File1->setText(QString::fromLatin1(name));
+    designer->doubleClick(*form4().File1);
+  }
+};
+
+TEST_F(Covers, LayoutsOfDifferentLengthComeBackWhole) {
+  form1().Image2[3].place(100.75f, -20.5f, 300, 400);
+  form1().Label9[9].setFontName(QStringLiteral("Verdana"));
+  chooseCount(10);
+  saveAs("ten.cov");
+  EXPECT_EQ(bytes(QStringLiteral("ten.cov")).count("\r\n"), 5 + 10 * 44 + 7 + 4 + 4 + 18 + 2 + 2);
+  form1().Image2[3].setLeft(7);
+  form1().Label9[9].setFontName(QStringLiteral("Arial"));
+  chooseCount(28);
+  saveAs("all.cov");
+  EXPECT_EQ(form4().File1->list(), (QStringList{QStringLiteral("all.cov"), QStringLiteral("ten.cov")}));
+  load("ten.cov");
+  EXPECT_EQ(form1().Image2[3].left(), 100) << "the fraction is dropped, not rounded";
+  EXPECT_EQ(form1().Image2[3].top(), -20);
+  EXPECT_EQ(form1().Label9[9].fontName().toStdString(), "Verdana");
+  EXPECT_EQ(state().globals.LastCoverIndex, 9);
+  EXPECT_EQ(form4().Combo4->text().toStdString(), "10");
+  EXPECT_TRUE(form1().Image2[9].isVisible());
+  EXPECT_FALSE(form1().Image2[10].isVisible());
+  EXPECT_EQ(form4().Text2->text().toStdString(), "ten.cov");
+  load("all.cov");
+  EXPECT_EQ(form1().Image2[3].left(), 7);
+  EXPECT_TRUE(form1().Label10[27].isVisible());
+}
+
+TEST_F(Covers, ConfirmBeforeOverwritingAndBeforeLoading) {
+  chooseCount(5);
+  saveAs("five.cov");
+  EXPECT_EQ(files().count(QStringLiteral("frames.ini")), 1) << "the frames are saved with the covers";
+  const QByteArray before = bytes(QStringLiteral("five.cov"));
+  chooseCount(6);
+  world.dialogs.answers.enqueue(false);
+  saveAs("five.cov");
+  EXPECT_EQ(bytes(QStringLiteral("five.cov")), before);
+  EXPECT_EQ(world.dialogs.messages.last().title.toStdString(), "Save Cover File");
+  world.dialogs.answers.enqueue(false);
+  form4().File1->select(0);
+  EXPECT_EQ(state().globals.LastCoverIndex, 5);
+  world.dialogs.answers.enqueue(true);
+  form4().File1->select(0);
+  EXPECT_EQ(state().globals.LastCoverIndex, 4);
+  saveAs("../outside.cov");
+  EXPECT_FALSE(QFile::exists(root.path() + QStringLiteral("/Skins/outside.cov")));
+}
+
+TEST_F(Covers, AnOlderFileLeavesTheCaptionsAlone) {
+  chooseCount(3);
+  saveAs("old.cov");
+  const QList<QByteArray> lines = bytes(QStringLiteral("old.cov")).split('\n');
+  write(QStringLiteral("old.cov"), lines.mid(0, 5 + 3 * 8).join('\n') + '\n');
+  form1().Label9[0].setLeft(4321);
+  load("old.cov");
+  EXPECT_EQ(form1().Label9[0].left(), 4321);
+  write(QStringLiteral("old.cov"), lines.mid(0, 5 + 3 * 8 + 2).join('\n') + '\n');
+  EXPECT_THROW(load("old.cov"), RecordError);
+}
+
+TEST_F(Covers, BoxesOfTheFileActOnTheCoversInUse) {
+  form4().Check3->setValue(1);
+  form4().Check5->setValue(0);
+  chooseCount(4);
+  saveAs("plain.cov");
+  form4().Check3->setValue(0);
+  for (int i : {2, 20}) form1().Label9[i].setOpaque(true);
+  load("plain.cov");
+  EXPECT_FALSE(form1().Label9[2].isOpaque());
+  EXPECT_TRUE(form1().Label9[20].isOpaque());
+  EXPECT_FALSE(form1().ucAniGIF1[2].isVisible());
+  const auto& order = form1().Picture1[9].children();
+  const auto place = [&](int i) {
+    return std::find(order.begin(), order.end(), &form1().Image2[i]) - order.begin();
+  };
+  EXPECT_LT(place(0), place(1));
+  EXPECT_LT(place(1), place(2));
+  EXPECT_LT(place(3), place(2)) << "behind the middle the covers stack downward";
+}
+
+TEST_F(Covers, AHostileCountIsKeptInBounds) {
+  write(QStringLiteral("bad.cov"), " 0 \r\n 32000 \r\nAlbum Covers\r\n");
+  EXPECT_THROW(load("bad.cov"), RecordError);
+  write(QStringLiteral("worse.cov"), " 0 \r\n-7 \r\nAlbum Covers\r\nAlbum Frames\r\nAlbum Title\r\n");
+  load("worse.cov");
+  EXPECT_FALSE(form1().Image2[0].isVisible());
+  saveAs("again.cov");
+}
+
+}  // namespace
+}  // namespace veneerer

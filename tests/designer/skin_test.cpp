@@ -1,0 +1,119 @@
+// Whole Skins: start-up, load, reload, save.
+#include <gtest/gtest.h>
+
+#include "designer/skinfixture.h"
+#include "records/recorderror.h"
+#include "skin/catalogue.h"
+
+namespace veneerer {
+namespace {
+
+using test::SkinFixture;
+using Skin = SkinFixture;
+
+TEST(Catalogue, CarriesThreeOrders) {
+  EXPECT_EQ(saveOrder().size(), 59u);
+  EXPECT_EQ(loadOrder().size(), 51u);
+  EXPECT_EQ(reloadOrder().size(), 48u);
+  State state;
+  const auto nameAt = [&](const std::vector<const CatalogueEntry*>& order, std::size_t i) {
+    return order[i]->layout(state).fileName().toStdString();
+  };
+  EXPECT_EQ(nameAt(loadOrder(), 0), "locked_button.ini");
+  EXPECT_EQ(nameAt(loadOrder(), 13), "progress.ini");
+  EXPECT_EQ(nameAt(reloadOrder(), 9), "progress.ini");
+  EXPECT_EQ(nameAt(reloadOrder(), 47), "collections.ini");
+  EXPECT_EQ(nameAt(saveOrder(), 58), "locked_button.ini");
+}
+
+TEST_F(Skin, StartsFromTheSettingsAndFallsBackToTheDefault) {
+  world.settings.values.clear();
+  start();
+  EXPECT_EQ(form4().Combo3->text().toStdString(), "Black_and_Blue_gif_V8.0(800x600)");
+  EXPECT_EQ(world.dialogs.messages.first().title.toStdString(), "Load Current Skin");
+  EXPECT_TRUE(form1().isVisible());
+  EXPECT_FALSE(state().frmSplash.isVisible());
+  EXPECT_EQ(state().frmSplash.Label3->caption().toStdString(), "Loading...(MENU IMAGES)");
+  EXPECT_EQ(form4().Combo12->list().first().toStdString(), " 1 Albums");
+  EXPECT_EQ(state().form6.Combo1->list().last().toStdString(), "Style  8");
+  EXPECT_EQ(form1().Picture20[3].toolTipText().toStdString(), "Genre Icon  3");
+}
+
+TEST_F(Skin, CancelShowsTheChooserAndLoadsNothingUntilAnEntryIsChosen) {
+  makeSkin(QStringLiteral("Other"));
+  world.dialogs.answers.enqueue(false);
+  EXPECT_FALSE(designer->startUp());
+  EXPECT_TRUE(state().form3.isVisible());
+  EXPECT_FALSE(form1().isVisible());
+  EXPECT_EQ(state().form3.List1->list(), (QStringList{QStringLiteral("Other"), QStringLiteral("S")}));
+  EXPECT_EQ(form4().Combo3->list(), state().form3.List1->list());
+  state().form3.List1->select(0);
+  EXPECT_TRUE(form1().isVisible());
+  EXPECT_EQ(form4().Combo3->text().toStdString(), "Other");
+}
+
+TEST_F(Skin, SaveWritesExactlyTheCatalogueAndComesBackByteForByte) {
+  start();
+  form4().Combo7->setText(QStringLiteral("12"));
+  form1().Label16[3].setBackColor(static_cast<std::int32_t>(0x8000000F));
+  form1().Label16[3].setLeft(0.5f);
+  form1().Label16[3].setTop(-0.25f);
+  form1().Label16[3].setWidth(1.234567e-2f);
+  form1().lvButtons_H1[2].setCaption(QStringLiteral("H\u00f6rproben"));
+  state().names.ofButtons(form1().lvButtons_H1)[2] = QStringLiteral("\\images\\gone.bmp");
+  world.dialogs.answers.enqueue(false);
+  designer->save();
+  EXPECT_EQ(files().size(), 59);
+  EXPECT_TRUE(files().contains(QStringLiteral("search_Choice.ini")));
+  EXPECT_FALSE(files().contains(QStringLiteral("search_choice.ini")));
+  EXPECT_FALSE(files().contains(QStringLiteral("back.ini")));
+  EXPECT_EQ(world.dialogs.messages.last().text.toStdString(), "Do you want to save the COVER Layout Too?");
+
+  QMap<QString, QByteArray> saved;
+  for (const QString& name : files()) saved.insert(name, bytes(name));
+  designer = std::make_unique<Designer>(world.platform);
+  start();
+  EXPECT_EQ(form1().Label16[3].top(), -0.25f);
+  world.dialogs.answers.enqueue(false);
+  designer->save();
+  for (const QString& name : files()) EXPECT_EQ(bytes(name), saved.value(name)) << name.toStdString();
+}
+
+TEST_F(Skin, AReloadKeepsWhatItDoesNotRead) {
+  start();
+  designer->saveTo(SkinFolder(root.path() + QStringLiteral("/Skins/S")));
+  form1().Label38[2].setLeft(1111);
+  form1().Label38[0].setLeft(2222);
+  state().form2.Check1[0].setValue(1);
+  designer->reload(QStringLiteral("S"));
+  EXPECT_EQ(form1().Label38[2].left(), 1111) << "confirm.ini isn't read";
+  EXPECT_NE(form1().Label38[0].left(), 2222) << "pin_screen.ini is";
+  EXPECT_EQ(state().form2.Check1[0].value(), 1);
+}
+
+TEST_F(Skin, AMalformedFileIsFatalAndWritesNothing) {
+  write(QStringLiteral("menu.ini"), "INI Version\r\n 2 \r\nhigh\r\n");
+  world.dialogs.answers.enqueue(true);
+  EXPECT_THROW(designer->startUp(), RecordError);
+  EXPECT_EQ(files(), QStringList{QStringLiteral("menu.ini")});
+}
+
+TEST_F(Skin, TheOptionsFileReportsItsFailureAndTheLoadGoesOn) {
+  write(QStringLiteral("options.ini"), "x\r\n");
+  write(QStringLiteral("key_highlight.ini"), " 255 \r\n");
+  start();
+  EXPECT_EQ(world.dialogs.messages.last().text.toStdString(), "Options screen load error");
+  EXPECT_EQ(state().form6.Picture1->backColor(), 255);
+}
+
+TEST_F(Skin, AFileIsNeverWrittenThroughALinkThatLeadsOut) {
+  start();
+  const QString outside = root.path() + QStringLiteral("/precious");
+  QFile(outside).open(QIODevice::WriteOnly);
+  QFile::link(outside, path(QStringLiteral("menu.ini")));
+  EXPECT_THROW(designer->save(), RecordError);
+  EXPECT_EQ(QFile(outside).size(), 0);
+}
+
+}  // namespace
+}  // namespace veneerer
