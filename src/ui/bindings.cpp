@@ -118,7 +118,10 @@ class OptionBinding : public Binding {
 public:
   OptionBinding(const Ui& ui, OptionButton& option, QRadioButton& widget)
       : Binding(ui.bindings, option, widget), option_(option), widget_(widget) {
-    connect(&widget, &QRadioButton::clicked, this, [this] { option_.select(); });
+    connect(&widget, &QRadioButton::clicked, this, [this, &hands = ui.hands] {
+      hands.click(option_);
+      show(Property::Value);
+    });
     show(Property::Caption);
     show(Property::Value);
   }
@@ -221,7 +224,7 @@ QRadioButton* makeOption(const Ui& ui, OptionButton& element) {
 }
 
 QPushButton* makeCommand(const Ui& ui, CommandButton& element) {
-  auto* button = bound<CommandBinding>(ui, element, new QPushButton);
+  QPushButton* button = bound<CommandBinding>(ui, element, new TightButton);
   button->setAutoDefault(false);
   return button;
 }

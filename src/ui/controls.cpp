@@ -1,9 +1,12 @@
 #include "ui/controls.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStylePainter>
+#include <QToolTip>
 
 namespace veneerer {
 
@@ -28,13 +31,27 @@ void TextCombo::present(const QStringList& rows, int row, const QString& text) {
   update();
 }
 
+void TextCombo::showPopup() {
+  view()->setMinimumWidth(view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width());
+  QComboBox::showPopup();
+}
+
 void TextCombo::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
   QStyleOptionComboBox option;
   initStyleOption(&option);
-  if (!isEditable()) option.currentText = text_;
+  const QRect field =
+      style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+  option.currentText = fontMetrics().elidedText(text_, Qt::ElideRight, field.width());
   painter.drawComplexControl(QStyle::CC_ComboBox, option);
   if (!isEditable()) painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+bool TextCombo::event(QEvent* event) {
+  const bool says = event->type() == QEvent::ToolTip && toolTip().isEmpty() && !text_.isEmpty();
+  if (!says) return QComboBox::event(event);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text_.toHtmlEscaped(), this);
+  return true;
 }
 
 void TextCombo::wheelEvent(QWheelEvent* event) {
@@ -42,6 +59,12 @@ void TextCombo::wheelEvent(QWheelEvent* event) {
     QComboBox::wheelEvent(event);
   else
     event->ignore();
+}
+
+QSize TightButton::sizeHint() const {
+  const QSize usual = QPushButton::sizeHint();
+  const int text = fontMetrics().size(Qt::TextShowMnemonic, this->text()).width();
+  return QSize(std::min(usual.width(), text + usual.height() * 2 / 3), usual.height());
 }
 
 RowListView::RowListView(QWidget* parent) : QListView(parent) {

@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QListView>
+#include <QPushButton>
 #include <QStringListModel>
 
 namespace veneerer {
@@ -16,13 +17,25 @@ public:
   /// Shows rows, the chosen one (-1 for none) and the text, without telling anybody.
   void present(const QStringList& rows, int row, const QString& text);
 
+  /// Rows are shown in full, however narrow the box is.
+  void showPopup() override;
+
 protected:
+  /// Without a tool tip of its own it tells its text, which may be too long for it.
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
 private:
   QStringList rows_;
   QString text_;
+};
+
+/// A push button no wider than its text asks for.
+class TightButton : public QPushButton {
+public:
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
 /// A list that knows a choice from a mere move of the highlight.
@@ -36,6 +49,8 @@ public:
   void present(const QStringList& rows, int row);
   /// Whether the arrow keys choose as they go; else Enter or the space bar does.
   void setArrowsChoose(bool choose) { arrowsChoose_ = choose; }
+
+  QSize sizeHint() const override { return QSize(120, 90); }
 
 Q_SIGNALS:
   /// The operator chose that row, which may be the one chosen before.

@@ -22,4 +22,8 @@ void Operator::doubleClick(Element& element) {
   Q_EMIT acted();
 }
 
+void Operator::fillFonts() {
+  designer_.fillFonts();
+}
+
 }  // namespace veneerer

@@ -23,6 +23,8 @@ public:
   /// As press; the button is the one held down.
   void move(Element& element, float x, float y, MouseButton button);
   void doubleClick(Element& element);
+  /// Fills the list of fonts; slow.
+  void fillFonts();
 
 Q_SIGNALS:
   /// An action has ended: the element in hand may be another one.

@@ -23,40 +23,44 @@ QGroupBox* fileFrame(const Ui& ui, Form4& form) {
   return makeFrame(QStringLiteral("File Options"), row);
 }
 
-// Two columns of lists, read down the left one first.
-void addLists(QGridLayout* grid, const Ui& ui, Form4& form) {
-  const ListRow rows[] = {
-      {"Default Screen:", &*form.Combo8},
-      {"Default HOME Screen:", &*form.Combo9},
-      {"Player Style:", &*form.Combo10},
-      {"Navigation Style:", &*form.Combo6},
-      {"Jump To Letter:", &*form.Combo2},
-      {"Genre Style:", &*form.Combo5},
-      {"Genre Nav:", &*form.Combo11},
-      {"Number of genres shown:", &*form.Combo7},
-      {"Number of tracks shown:", &*form.Combo1},
-      {"Other Albums:", &*form.Combo12},
-  };
+// One list to a row, each behind its label.
+QGridLayout* listsLayout(const Ui& ui, std::initializer_list<ListRow> rows) {
+  auto* grid = new QGridLayout;
+  grid->setSpacing(4);
   int row = 0;
-  for (const ListRow& entry : rows) {
-    addField(grid, row % 5, row < 5 ? 0 : 2, QString::fromLatin1(entry.label), makeCombo(ui, *entry.list));
-    ++row;
-  }
+  for (const ListRow& entry : rows)
+    addField(grid, row++, 0, QString::fromLatin1(entry.label), makeCombo(ui, *entry.list));
   grid->setColumnStretch(1, 1);
-  grid->setColumnStretch(3, 1);
+  return grid;
+}
+
+QLayout* stylesLayout(const Ui& ui, Form4& form) {
+  return listsLayout(ui, {{"Default Screen:", &*form.Combo8},
+                          {"Default HOME Screen:", &*form.Combo9},
+                          {"Player Style:", &*form.Combo10},
+                          {"Navigation Style:", &*form.Combo6},
+                          {"Jump To Letter:", &*form.Combo2},
+                          {"Genre Style:", &*form.Combo5},
+                          {"Genre Nav:", &*form.Combo11},
+                          {"Other Albums:", &*form.Combo12}});
+}
+
+QLayout* countsAndBoxesLayout(const Ui& ui, Form4& form) {
+  CheckBox* const boxes[] = {&*form.Check2,  &*form.Check8,  &*form.Check9,
+                             &*form.Check12, &*form.Check10, &*form.Check11};
+  auto* column = new QVBoxLayout;
+  column->addLayout(listsLayout(
+      ui, {{"Number of genres shown:", &*form.Combo7}, {"Number of tracks shown:", &*form.Combo1}}));
+  for (CheckBox* box : boxes) column->addWidget(makeCheck(ui, *box));
+  return column;
 }
 
 QGroupBox* skinFrame(const Ui& ui, Form4& form) {
-  auto* grid = compact(new QGridLayout);
-  addLists(grid, ui, form);
-  CheckBox* const boxes[] = {&*form.Check2,  &*form.Check8,  &*form.Check9,
-                             &*form.Check10, &*form.Check12, &*form.Check11};
-  int place = 0;
-  for (CheckBox* box : boxes) {
-    grid->addWidget(makeCheck(ui, *box), 5 + place / 2, place % 2 == 0 ? 0 : 2, 1, 2);
-    ++place;
-  }
-  return makeFrame(QStringLiteral("Main Skin Properties"), grid);
+  auto* row = compact(new QHBoxLayout);
+  row->addLayout(stylesLayout(ui, form), 1);
+  row->addSpacing(8);
+  row->addLayout(countsAndBoxesLayout(ui, form));
+  return makeFrame(QStringLiteral("Main Skin Properties"), row);
 }
 
 QGroupBox* resolutionFrame(const Ui& ui, Form4& form) {
@@ -75,7 +79,6 @@ QLayout* coverFileLayout(const Ui& ui, Form4& form) {
   RowListView* files = makeFileList(ui, *form.File1);
   files->setToolTip(
       QStringLiteral("Click to load a cover layout; double-click to load it without a question"));
-  files->setMinimumHeight(90);
   column->addWidget(makeLabel(QStringLiteral("Cover files:"), files));
   column->addWidget(files, 1);
   auto* name = new QHBoxLayout;

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QPainter>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -46,6 +47,7 @@ QLabel* makeLine(const Ui& ui, Label& element, double size, bool bold = false) {
 SplashWindow::SplashWindow(const Ui& ui) : QWidget(nullptr, Qt::SplashScreen) {
   Splash& splash = ui.hands.state().frmSplash;
   setFixedSize(460, 260);
+  move(screen()->availableGeometry().center() - rect().center());
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(28, 24, 28, 20);
   column->addWidget(makeLine(ui, *splash.Label1, 1));

@@ -13,8 +13,8 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kColumns = 6;
-constexpr QSize kPreview(96, 72);
+constexpr int kColumns = 5;
+constexpr QSize kPreview(92, 69);
 
 // The frame that the list below addresses, running.
 class FramePreview : public QAbstractButton {
@@ -69,6 +69,11 @@ QLayout* slotLayout(const Ui& ui, Form5& form, const Slot& slot) {
   thumbnail->setAccessibleName(form.Label3[slot.caption].caption());
   QLabel* caption = makeCaption(ui, form.Label3[slot.caption]);
   caption->setAlignment(Qt::AlignHCenter);
+  // A caption of a Skin may be of any length.
+  caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  QFont font = caption->font();
+  font.setPointSizeF(font.pointSizeF() * 0.85);
+  caption->setFont(font);
   column->addWidget(thumbnail, 1);
   column->addWidget(caption);
   return column;
@@ -77,6 +82,7 @@ QLayout* slotLayout(const Ui& ui, Form5& form, const Slot& slot) {
 QLayout* gridLayout(const Ui& ui, Form5& form) {
   auto* grid = new QGridLayout;
   grid->setSpacing(4);
+  for (int column = 0; column < kColumns; ++column) grid->setColumnStretch(column, 1);
   int place = 0;
   for (const Slot& slot : slotsOf(form)) {
     grid->addLayout(slotLayout(ui, form, slot), place / kColumns, place % kColumns);

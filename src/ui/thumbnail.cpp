@@ -8,7 +8,7 @@ namespace veneerer {
 
 namespace {
 
-constexpr QSize kThumbnail(80, 60);
+constexpr QSize kThumbnail(100, 60);
 
 QImage scaledImage(const Picture& picture, QSize largest) {
   const QImage& image = picture.image();
@@ -48,6 +48,9 @@ void Thumbnail::paintEvent(QPaintEvent*) {
     QRectF target(QPointF(), QSizeF(shown_.size()) / devicePixelRatioF());
     target.moveCenter(QRectF(rect()).center());
     painter.drawImage(target, shown_);
+  } else if (picture().isNull()) {
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("No picture"));
   }
   const bool stressed = hasFocus() || (underMouse() && isEnabled());
   painter.setPen(palette().color(stressed ? QPalette::Highlight : QPalette::Mid));

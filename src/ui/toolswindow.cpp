@@ -1,6 +1,5 @@
 #include "ui/toolswindow.h"
 
-#include <QFontDatabase>
 #include <QHBoxLayout>
 
 #include "ui/layouts.h"
@@ -10,20 +9,31 @@ namespace veneerer {
 
 namespace {
 
-// Two text boxes with their labels in one row, and what acts on them behind.
-struct PairRow {
-  const char* first;
-  const char* second;
-  const Array<TextBox>* fields;
-  QList<CommandButton*> commands;
-};
+// A field for a number of twips, pixels or points asks for no more room than that.
+QLineEdit* makeNumberField(const Ui& ui, TextBox& element) {
+  QLineEdit* field = makeField(ui, element);
+  field->setMinimumWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("0000.00")));
+  field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  return field;
+}
 
-void addPair(QGridLayout* grid, int row, const Ui& ui, const PairRow& pair) {
-  addField(grid, row, 0, QString::fromLatin1(pair.first), makeField(ui, (*pair.fields)[0]));
-  addField(grid, row, 2, QString::fromLatin1(pair.second), makeField(ui, (*pair.fields)[1]));
-  auto* commands = new QHBoxLayout;
-  for (CommandButton* command : pair.commands) commands->addWidget(makeCommand(ui, *command));
-  grid->addLayout(commands, row, 4);
+// Two number fields with their labels in one row of four columns.
+void addPair(QGridLayout* grid, int row, const Ui& ui, const char* first, TextBox& firstBox,
+             const char* second, TextBox& secondBox, const QString& tip) {
+  int column = 0;
+  for (const auto& [label, box] : {std::pair(first, &firstBox), std::pair(second, &secondBox)}) {
+    QLineEdit* field = makeNumberField(ui, *box);
+    field->setToolTip(tip);
+    addField(grid, row, column, QString::fromLatin1(label), field);
+    column += 2;
+  }
+}
+
+// Command buttons that share a row evenly.
+void addCommands(QGridLayout* grid, int row, const Ui& ui, const QList<CommandButton*>& commands) {
+  auto* line = new QHBoxLayout;
+  for (CommandButton* command : commands) line->addWidget(makeCommand(ui, *command));
+  grid->addLayout(line, row, 0, 1, -1);
 }
 
 QLayout* screenLayout(const Ui& ui, Form6& form) {
@@ -39,31 +49,30 @@ QLayout* screenLayout(const Ui& ui, Form6& form) {
 QGroupBox* elementFrame(const Ui& ui, Form6& form) {
   auto* grid = compact(new QGridLayout);
   QLineEdit* caption = makeField(ui, *form.Text1);
+  caption->setMinimumWidth(60);
   grid->addWidget(makeLabel(QStringLiteral("Button Caption:"), caption), 0, 0, 1, 2);
-  grid->addWidget(caption, 0, 2, 1, 3);
-  const PairRow pairs[] = {
-      {"Height:", "Width:", &form.Text3, {&*form.Command5}},
-      {"Top:", "Left:", &form.Text9, {&*form.Command12}},
-      {"X Shift:", "Y Shift:", &form.Text5, {&form.Command6[0], &form.Command6[1]}},
-      {"X Space:", "Y Space:", &form.Text6, {&form.Command9[0], &form.Command9[1]}},
-      {"X Grid:", "Y Grid:", &form.Text10, {&*form.Command13}},
-  };
-  int row = 1;
-  for (const PairRow& pair : pairs) addPair(grid, row++, ui, pair);
-  auto* align = new QHBoxLayout;
-  align->addWidget(makeCommand(ui, form.Command8[0]));
-  align->addWidget(makeCommand(ui, form.Command8[1]));
-  grid->addWidget(new QLabel(QStringLiteral("To the element clicked last:")), row, 0, 1, 4);
-  grid->addLayout(align, row, 4);
+  grid->addWidget(caption, 0, 2, 1, 2);
+  const QString twips = QStringLiteral("Twips: 1440 to the inch");
+  addPair(grid, 1, ui, "Height:", form.Text3[0], "Width:", form.Text3[1], twips);
+  addCommands(grid, 2, ui, {&*form.Command5});
+  addPair(grid, 3, ui, "Top:", form.Text9[0], "Left:", form.Text9[1], twips);
+  addCommands(grid, 4, ui, {&*form.Command12});
+  addPair(grid, 5, ui, "X Shift:", form.Text5[0], "Y Shift:", form.Text5[1], twips);
+  addPair(grid, 6, ui, "X Space:", form.Text6[0], "Y Space:", form.Text6[1], twips);
+  addPair(grid, 7, ui, "X Grid:", form.Text10[0], "Y Grid:", form.Text10[1], twips);
+  for (int axis = 0; axis < 2; ++axis)
+    addCommands(grid, 8 + axis, ui, {&form.Command6[axis], &form.Command9[axis], &form.Command8[axis]});
+  addCommands(grid, 10, ui, {&*form.Command13});
   return makeFrame(QStringLiteral("Place and Size"), grid);
 }
 
 QGroupBox* buttonFrame(const Ui& ui, Form6& form) {
   auto* grid = compact(new QGridLayout);
   addField(grid, 0, 0, QStringLiteral("Shape:"), makeCombo(ui, *form.Combo1));
-  addField(grid, 0, 2, QStringLiteral("Style:"), makeCombo(ui, *form.Combo2));
-  grid->addWidget(makeCommand(ui, *form.Command3), 1, 0, 1, 2);
-  grid->addWidget(makeCommand(ui, *form.Command7), 1, 2, 1, 2);
+  addField(grid, 1, 0, QStringLiteral("Style:"), makeCombo(ui, *form.Combo2));
+  addCommands(grid, 2, ui, {&*form.Command3});
+  addCommands(grid, 3, ui, {&*form.Command7});
+  grid->setColumnStretch(1, 1);
   return makeFrame(QStringLiteral("Button Style"), grid);
 }
 
@@ -76,38 +85,39 @@ QGroupBox* samplesFrame(const Ui& ui, Form6& form) {
 
 QGroupBox* rescaleFrame(const Ui& ui, Form6& form) {
   auto* grid = compact(new QGridLayout);
-  addField(grid, 0, 0, QStringLiteral("New width:"), makeField(ui, *form.Text7));
-  addField(grid, 0, 2, QStringLiteral("New height:"), makeField(ui, *form.Text8));
-  grid->addWidget(makeCheck(ui, *form.Check2), 1, 0, 1, 2);
-  grid->addWidget(makeCommand(ui, *form.Command10), 1, 2, 1, 2);
+  addPair(grid, 0, ui, "Width:", *form.Text7, "Height:", *form.Text8, QStringLiteral("Pixels"));
+  grid->addWidget(makeCheck(ui, *form.Check2), 1, 0, 1, -1);
+  addCommands(grid, 2, ui, {&*form.Command10});
   return makeFrame(QStringLiteral("Re-Scale Skin"), grid);
 }
 
-QLayout* swatchLayout(const Ui& ui, const char* label, PictureBox& box, QWidget* beside) {
-  auto* row = new QHBoxLayout;
+Swatch* makeSwatch(const Ui& ui, PictureBox& box) {
   auto* swatch = new Swatch(ui, box);
   swatch->setToolTip(QStringLiteral("Click to choose a colour"));
-  row->addWidget(makeLabel(QString::fromLatin1(label), swatch), 1);
-  row->addWidget(swatch);
-  if (beside) row->addWidget(beside, 1);
-  return row;
+  return swatch;
+}
+
+QLayout* colourInHandLayout(const Ui& ui, Form6& form) {
+  auto* grid = new QGridLayout;
+  grid->setSpacing(4);
+  Swatch* swatch = makeSwatch(ui, *form.Picture2);
+  grid->addWidget(makeLabel(QStringLiteral("Selected Colour:"), swatch), 0, 0, 1, 2);
+  grid->addWidget(swatch, 1, 0);
+  QLineEdit* text = makeField(ui, *form.Text2);
+  text->setToolTip(QStringLiteral("A number, &H and hexadecimal digits, or # and six of them"));
+  text->setAccessibleName(QStringLiteral("Colour"));
+  text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  grid->addWidget(text, 1, 1);
+  return grid;
 }
 
 QGroupBox* colourFrame(const Ui& ui, Form6& form) {
   auto* grid = compact(new QGridLayout);
   for (int i = 0; i < 3; ++i) grid->addWidget(makeOption(ui, form.Option1[i]), i, 0);
-  QLineEdit* text = makeField(ui, *form.Text2);
-  text->setToolTip(QStringLiteral("A number, &H and hexadecimal digits, or # and six of them"));
-  grid->addLayout(swatchLayout(ui, "Selected Colour:", *form.Picture2, nullptr), 0, 1);
-  grid->addWidget(text, 1, 1);
-  auto* gradient = new QHBoxLayout;
-  TextCombo* styles = makeCombo(ui, *form.Combo4);
-  gradient->addWidget(makeLabel(QStringLiteral("Gradient Style:"), styles));
-  gradient->addWidget(styles, 1);
-  grid->addLayout(gradient, 2, 1);
-  grid->addLayout(swatchLayout(ui, "Key Highlight Colour:", *form.Picture1, nullptr), 3, 0, 1, 2);
-  grid->addWidget(makeCommand(ui, form.Command2[0]), 4, 0);
-  grid->addWidget(makeCommand(ui, form.Command2[1]), 4, 1);
+  grid->addLayout(colourInHandLayout(ui, form), 0, 1, 3, 1, Qt::AlignVCenter);
+  addField(grid, 3, 0, QStringLiteral("Gradient Style:"), makeCombo(ui, *form.Combo4));
+  addField(grid, 4, 0, QStringLiteral("Key Highlight Colour:"), makeSwatch(ui, *form.Picture1));
+  addCommands(grid, 5, ui, {&form.Command2[0], &form.Command2[1]});
   grid->setColumnStretch(1, 1);
   return makeFrame(QStringLiteral("Colour Settings"), grid);
 }
@@ -117,10 +127,9 @@ QGroupBox* fontFrame(const Ui& ui, Form6& form) {
   RowListView* fonts = makeList(ui, *form.List1);
   fonts->setArrowsChoose(true);
   fonts->setAccessibleName(QStringLiteral("Fonts"));
-  fonts->setMinimumHeight(70);
   grid->addWidget(fonts, 0, 0, 1, 3);
   grid->setRowStretch(0, 1);
-  addField(grid, 1, 0, QStringLiteral("Font Size:"), makeField(ui, *form.Text4));
+  addField(grid, 1, 0, QStringLiteral("Font Size:"), makeNumberField(ui, *form.Text4));
   grid->addWidget(makeCommand(ui, *form.Command14), 1, 2);
   CommandButton* const commands[] = {&form.Command1[0], &form.Command1[1], &form.Command4[0],
                                      &form.Command4[1]};
@@ -151,7 +160,7 @@ QGroupBox* previewFrame(const Ui& ui, Form6& form) {
 
 }  // namespace
 
-ToolsWindow::ToolsWindow(const Ui& ui) : fonts_(*ui.hands.state().form6.List1) {
+ToolsWindow::ToolsWindow(const Ui& ui) : hands_(ui.hands) {
   Form6& form = ui.hands.state().form6;
   setWindowTitle(QStringLiteral("Tools"));
   auto* left = new QVBoxLayout;
@@ -175,11 +184,7 @@ ToolsWindow::ToolsWindow(const Ui& ui) : fonts_(*ui.hands.state().form6.List1) {
 
 // The list takes long to get, so the first paint doesn't wait for it.
 void ToolsWindow::paintEvent(QPaintEvent*) {
-  if (!std::exchange(fontsAsked_, true)) QTimer::singleShot(0, this, &ToolsWindow::fillFonts);
-}
-
-void ToolsWindow::fillFonts() {
-  if (fonts_.list().isEmpty()) fonts_.setRows(QFontDatabase::families());
+  if (!std::exchange(fontsAsked_, true)) QTimer::singleShot(0, &hands_, &Operator::fillFonts);
 }
 
 }  // namespace veneerer

@@ -15,9 +15,7 @@ protected:
   void paintEvent(QPaintEvent* event) override;
 
 private:
-  void fillFonts();
-
-  ListBox& fonts_;
+  Operator& hands_;
   bool fontsAsked_ = false;
 };
 
