@@ -105,7 +105,7 @@ FaceLook lookOf(int style) {
 
 void drawnFace(benchmark::State& state) {
   const FaceLook look = lookOf(static_cast<int>(state.range(0)));
-  for (auto _ : state) benchmark::DoNotOptimize(drawFace(look, QImage()));
+  for (auto _ : state) benchmark::DoNotOptimize(drawFace(look, QImage(), QSize()));
 }
 BENCHMARK(drawnFace)->DenseRange(0, 7)->Unit(benchmark::kMicrosecond);
 

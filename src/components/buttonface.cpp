@@ -15,10 +15,11 @@ namespace veneerer {
 namespace {
 
 constexpr qsizetype kCachedKiB = 32 * 1024;
+constexpr qsizetype kCachedCutOutsKiB = 12 * 1024;
 constexpr QColor kDisabledVeil(128, 128, 128, 120);
 
-bool isCustom(const FaceLook& look, const QImage& picture) {
-  return look.shape >= Button::kFirstCustomShape && look.shape <= Button::kLastShape && !picture.isNull();
+qsizetype kibOf(const QImage& image) {
+  return 1 + image.sizeInBytes() / 1024;
 }
 
 QRectF centred(QSizeF inner, QSizeF outer) {
@@ -73,12 +74,12 @@ QImage plainBase(const FaceLook& look, double radius) {
   return face;
 }
 
-QImage customBase(const FaceLook& look, const QImage& picture) {
-  const QRectF place = pictureRect(look, picture.size());
+QImage cutBase(const FaceLook& look, const QImage& cut, QSize pictureSize) {
+  const QRectF place = pictureRect(look, pictureSize);
   QImage face = emptyFace(look);
   QPainter painter(&face);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.drawImage(place, atSize(cutOut(picture), place.size()));
+  painter.drawImage(place, atSize(cut, place.size()));
   return face;
 }
 
@@ -88,8 +89,8 @@ void tellState(FaceCanvas& canvas, const FaceLook& look) {
   if (look.hover && !look.pressed) canvas.fill(QColor(255, 255, 255, 40));
 }
 
-QImage drawCustom(const FaceLook& look, const QImage& picture) {
-  FaceCanvas canvas(customBase(look, picture), look.scale);
+QImage drawCut(const FaceLook& look, const QImage& cut, QSize pictureSize) {
+  FaceCanvas canvas(cutBase(look, cut, pictureSize), look.scale);
   tellState(canvas, look);
   buttonStyle(look.style).edge(canvas, {look.hover, look.pressed});
   if (!look.enabled) canvas.fill(kDisabledVeil);
@@ -122,16 +123,27 @@ size_t qHash(const FaceLook& look, size_t seed) {
                     look.gradient, look.back, look.second, look.pictureSize, look.pictureKey, flags);
 }
 
-QImage drawFace(const FaceLook& look, const QImage& picture) {
-  return isCustom(look, picture) ? drawCustom(look, picture) : drawPlain(look, picture);
+bool isCutOut(const FaceLook& look) {
+  return look.shape >= Button::kFirstCustomShape && look.shape <= Button::kLastShape && look.pictureKey != 0;
 }
 
-ButtonFaces::ButtonFaces() : made_(kCachedKiB) {}
+QImage drawFace(const FaceLook& look, const QImage& picture, QSize pictureSize) {
+  return isCutOut(look) ? drawCut(look, picture, pictureSize) : drawPlain(look, picture);
+}
+
+ButtonFaces::ButtonFaces() : made_(kCachedKiB), cutOuts_(kCachedCutOutsKiB) {}
 
 QImage ButtonFaces::face(const FaceLook& look, const QImage& picture) {
   if (const QImage* known = made_.object(look)) return *known;
-  const QImage made = drawFace(look, picture);
-  made_.insert(look, new QImage(made), 1 + made.sizeInBytes() / 1024);
+  const QImage made = drawFace(look, isCutOut(look) ? cutOutOf(picture) : picture, picture.size());
+  made_.insert(look, new QImage(made), kibOf(made));
+  return made;
+}
+
+QImage ButtonFaces::cutOutOf(const QImage& picture) {
+  if (const QImage* known = cutOuts_.object(picture.cacheKey())) return *known;
+  const QImage made = cutOut(picture);
+  cutOuts_.insert(picture.cacheKey(), new QImage(made), kibOf(made));
   return made;
 }
 

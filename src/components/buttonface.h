@@ -37,10 +37,13 @@ struct FaceLook {
 
 size_t qHash(const FaceLook& look, size_t seed = 0);
 
+/// True for a face that is cut from its picture.
+bool isCutOut(const FaceLook& look);
+
 /// Draws a face of a keepable size. Shape 7 is cut from the picture stretched over the face, shape 8 from the
 /// picture in its own size in the middle, made smaller where it doesn't fit. Without a picture both are
-/// rectangles.
-QImage drawFace(const FaceLook& look, const QImage& picture);
+/// rectangles. The picture comes with its own size and, for a cut face, as cutOut() has left it.
+QImage drawFace(const FaceLook& look, const QImage& picture, QSize pictureSize);
 
 class ButtonFaces {
 public:
@@ -51,6 +54,9 @@ public:
 
 private:
   QCache<FaceLook, QImage> made_;
+  QCache<qint64, QImage> cutOuts_;  // by the picture's key
+
+  QImage cutOutOf(const QImage& picture);
 };
 
 }  // namespace veneerer

@@ -9,10 +9,11 @@ namespace veneerer {
 namespace {
 
 // All in pixels.
-constexpr double kEdge = 4;        // between a face's left and right edge and its contents
-constexpr double kLevel = 2;       // the same at the top and bottom
-constexpr double kGap = 4;         // between picture and caption side by side
-constexpr double kStackedGap = 1;  // the same above each other
+constexpr double kEdge = 4;            // between a face's left and right edge and its contents
+constexpr double kLevel = 2;           // the same at the top and bottom
+constexpr double kGap = 4;             // between picture and caption side by side
+constexpr double kStackedGap = 1;      // the same above each other
+constexpr int kLongestCaption = 2048;  // characters
 constexpr int kPictureSides[] = {16, 24, 32};
 
 PictureAlign alignOf(const Button& button) {
@@ -108,7 +109,7 @@ int captionAlignment(const Button& button) {
 }
 
 QString drawnCaption(const QString& caption) {
-  QString drawn = caption;
+  QString drawn = caption.left(kLongestCaption);
   return drawn.replace(QStringLiteral("||"), QStringLiteral("\n"));
 }
 

@@ -116,27 +116,30 @@ void ButtonPainter::paintFace(const Task& task) {
   }
   const Button& button = task.button;
   const QImage picture = coversFace(button) ? button.picture().image() : QImage();
-  const FaceLook look{.size = size,
-                      .scale = task.scale.device,
-                      .shape = button.buttonShape(),
-                      .style = button.buttonStyle(),
-                      .gradient = button.gradientMode(),
-                      .back = back.rgb(),
-                      .second = toQColor(button.gradientColor()).rgb(),
-                      .pictureSize = picture.isNull() ? 0 : button.pictureSize(),
-                      .pictureKey = picture.isNull() ? 0 : picture.cacheKey(),
-                      .hover = task.state.hover,
-                      .pressed = task.isDown,
-                      .enabled = task.isEnabled};
+  FaceLook look{.size = size,
+                .scale = task.scale.device,
+                .shape = button.buttonShape(),
+                .style = button.buttonStyle(),
+                .gradient = button.gradientMode(),
+                .back = back.rgb(),
+                .second = toQColor(button.gradientColor()).rgb(),
+                .pictureSize = picture.isNull() ? 0 : button.pictureSize(),
+                .pictureKey = picture.isNull() ? 0 : picture.cacheKey(),
+                .hover = task.state.hover,
+                .pressed = task.isDown,
+                .enabled = task.isEnabled};
+  // Colours that a picture hides would only make more faces of one.
+  if (isCutOut(look)) look.gradient = 0, look.back = 0, look.second = 0;
   drawWithin(task.painter, task.rect, faces_.face(look, picture), task.clip);
 }
 
-const LaidOutText* ButtonPainter::layOut(const Task& task, double width) {
+const LaidOutText* ButtonPainter::layOut(const Task& task, QSizeF room) {
   const Button& button = task.button;
   const int height = fontPixels(button.as<float>(Property::FontSize), task.scale.y);
   if (button.caption().isEmpty() || height == 0) return nullptr;
   return &texts_.of({drawnCaption(button.caption()), button.as<QString>(Property::FontName), height,
-                     fontFlags(button), static_cast<int>(std::ceil(width)), captionAlignment(button)});
+                     fontFlags(button), static_cast<int>(std::ceil(room.width())),
+                     static_cast<int>(std::ceil(room.height())), captionAlignment(button)});
 }
 
 void ButtonPainter::paintContents(const Task& task) {
@@ -146,7 +149,7 @@ void ButtonPainter::paintContents(const Task& task) {
   const QSizeF picture =
       image.isNull() ? QSizeF() : smallPictureSize(button.pictureSize(), image.size(), contents.size());
   const QRectF room = captionRoom(button, contents, picture);
-  const LaidOutText* text = layOut(task, room.width());
+  const LaidOutText* text = layOut(task, room.size());
   const QSizeF textSize = text ? QSizeF(text->width, text->height) : QSizeF(0, 0);
   const ButtonPlaces places = placeContents(button, contents, picture, room, textSize);
   const QPointF nudge(task.nudge, task.nudge);

@@ -37,7 +37,7 @@ private:
 
   void paintFace(const Task& task);
   void paintContents(const Task& task);
-  const LaidOutText* layOut(const Task& task, double width);
+  const LaidOutText* layOut(const Task& task, QSizeF room);
   void paintSmallPicture(const Task& task, const QImage& image, const QRectF& place);
 };
 

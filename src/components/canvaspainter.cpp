@@ -109,7 +109,8 @@ void CanvasPainter::paintLabel(QPainter& painter, const Label& label, const QRec
   const int height = fontPixels(label.fontSize(), scale_.y);
   if (label.caption().isEmpty() || height == 0) return;
   const LaidOutText& text = texts_.of({label.caption(), label.fontName(), height, fontFlags(label),
-                                       static_cast<int>(std::ceil(rect.width())), label.alignment()});
+                                       static_cast<int>(std::ceil(rect.width())),
+                                       static_cast<int>(std::ceil(rect.height())), label.alignment()});
   painter.setPen(toQColor(label.foreColor()));
   drawTextWithin(painter, text, rect.topLeft(), shown);
 }

@@ -9,9 +9,11 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kLongestText = 4096;      // characters
+constexpr int kLongestText = 1024;      // characters
 constexpr int kCachedGlyphs = 200'000;  // about 5 MB
 constexpr int kOverhead = 16;           // what a layout costs besides its glyphs, in glyphs
+
+constexpr double kLean = 2;  // pixels
 
 constexpr int kBold = 1;
 constexpr int kItalic = 2;
@@ -30,7 +32,7 @@ QFont fontOf(const TextRequest& request) {
 
 // Hard line breaks as the text engine wants them.
 QString prepared(const QString& text) {
-  QString lines = text.left(kLongestText);
+  QString lines = text;
   lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
   lines.replace(u'\r', u'\n');
   lines.replace(u'\n', QChar::LineSeparator);
@@ -44,15 +46,24 @@ QTextOption optionOf(int alignment) {
   return option;
 }
 
-QRectF inkOf(const QGlyphRun& run) {
-  QRectF ink;
+// Drops the glyphs that could never be seen, so that the paint of a text is bounded by the room it is in. The
+// font's own measures bound a glyph well enough; asking for the ink of each would take longer than all the
+// rest.
+void prune(QGlyphRun& run, const QRectF& sight) {
   const QRawFont font = run.rawFont();
+  const double lean = font.pixelSize() / 4;
+  const QRectF box(-lean, -font.ascent(), font.maxCharWidth() + lean, font.ascent() + font.descent());
   const QList<quint32> glyphs = run.glyphIndexes();
   const QList<QPointF> places = run.positions();
-  for (qsizetype i = 0; i < glyphs.size(); ++i) ink |= font.boundingRect(glyphs[i]).translated(places[i]);
-  // The layout's own box holds the underline and the strike, the glyphs may lean out of it.
-  const bool isDecorated = run.underline() || run.strikeOut();
-  return (isDecorated ? ink | run.boundingRect() : ink).adjusted(-1, -1, 1, 1);
+  QList<quint32> keptGlyphs;
+  QList<QPointF> keptPlaces;
+  for (qsizetype i = 0; i < glyphs.size(); ++i) {
+    if (!box.translated(places[i]).intersects(sight)) continue;
+    keptGlyphs.append(glyphs[i]);
+    keptPlaces.append(places[i]);
+  }
+  run.setGlyphIndexes(keptGlyphs);
+  run.setPositions(keptPlaces);
 }
 
 void breakLines(QTextLayout& layout, const TextRequest& request, LaidOutText& made) {
@@ -61,9 +72,13 @@ void breakLines(QTextLayout& layout, const TextRequest& request, LaidOutText& ma
     line.setLineWidth(request.width);
     line.setPosition(QPointF(0, made.height));
     made.height += line.height();
+    made.ink |= line.naturalTextRect();
     made.width = std::max(made.width, line.naturalTextWidth());
+    if (made.height > request.height) break;
   }
   layout.endLayout();
+  // Glyphs may lean a little out of their line.
+  made.ink.adjust(-kLean, 0, kLean, 0);
 }
 
 int costOf(const LaidOutText& text) {
@@ -75,7 +90,7 @@ int costOf(const LaidOutText& text) {
 }  // namespace
 
 size_t qHash(const TextRequest& r, size_t seed) {
-  return qHashMulti(seed, r.text, r.fontName, r.fontPixels, r.fontFlags, r.width, r.alignment);
+  return qHashMulti(seed, r.text, r.fontName, r.fontPixels, r.fontFlags, r.width, r.height, r.alignment);
 }
 
 int fontFlags(const FontChoice& font) {
@@ -96,14 +111,17 @@ void LaidOutText::draw(QPainter& painter, QPointF at) const {
 
 TextLayouts::TextLayouts() : made_(kCachedGlyphs) {}
 
-const LaidOutText& TextLayouts::of(const TextRequest& request) {
+const LaidOutText& TextLayouts::of(TextRequest request) {
+  if (request.text.size() > kLongestText) request.text = request.text.left(kLongestText);
   if (const LaidOutText* known = made_.object(request)) return *known;
   QTextLayout layout(prepared(request.text), fontOf(request));
   layout.setTextOption(optionOf(request.alignment));
   auto* text = new LaidOutText;
   breakLines(layout, request, *text);
   text->runs = layout.glyphRuns();
-  for (const QGlyphRun& run : text->runs) text->ink |= inkOf(run);
+  // A room's own size on every side is left for what a button shows of its caption outside of it.
+  const QRectF sight(-request.width, -request.height, 3.0 * request.width, 3.0 * request.height);
+  for (QGlyphRun& run : text->runs) prune(run, sight);
   // A single text never costs as much as the whole cache, so it is always kept.
   made_.insert(request, text, costOf(*text));
   return *text;

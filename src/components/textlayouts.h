@@ -18,6 +18,7 @@ struct TextRequest {
   int fontPixels = 0;  ///< height of the font, pixels
   int fontFlags = 0;   ///< see fontFlags()
   int width = 0;       ///< where lines are broken, pixels
+  int height = 0;      ///< what comes below isn't laid out, pixels
   int alignment = 0;   ///< 0 left, 1 right, 2 centre
 
   bool operator==(const TextRequest&) const = default;
@@ -43,9 +44,9 @@ class TextLayouts {
 public:
   TextLayouts();
 
-  /// The layout of the text, broken between words. It stays valid until the next call. Texts of absurd
-  /// length are cut.
-  const LaidOutText& of(const TextRequest& request);
+  /// The layout of the text, broken between words. It stays valid until the next call. Texts are cut after
+  /// 1024 characters, and what lies far outside the width and height is left out.
+  const LaidOutText& of(TextRequest request);
 
 private:
   QCache<TextRequest, LaidOutText> made_;
