@@ -129,7 +129,11 @@ void ButtonPainter::paintFace(const Task& task) {
                 .pressed = task.isDown,
                 .enabled = task.isEnabled};
   // Colours that a picture hides would only make more faces of one.
-  if (isCutOut(look)) look.gradient = 0, look.back = 0, look.second = 0;
+  if (isCutOut(look)) {
+    look.gradient = 0;
+    look.back = 0;
+    look.second = 0;
+  }
   drawWithin(task.painter, task.rect, faces_.face(look, picture), task.clip);
 }
 

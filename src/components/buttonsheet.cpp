@@ -148,7 +148,10 @@ private:
   }
 
   void drawStates(int style, QPointF hover, QPointF pressed, QPointF disabled) {
-    const auto styled = [&](Button& button) { button.setButtonStyle(style), button.setGradientMode(2); };
+    const auto styled = [&](Button& button) {
+      button.setButtonStyle(style);
+      button.setGradientMode(2);
+    };
     sample(hover, QStringLiteral("Hover"), styled, {.hover = true});
     sample(pressed, QStringLiteral("Pressed"), styled, {.hover = true, .pressed = true});
     sample(disabled, QStringLiteral("Disabled"), [&](Button& button) {

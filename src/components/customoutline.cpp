@@ -37,8 +37,14 @@ public:
         background_(pixels_[0]) {}
 
   void run() {
-    for (int x = 0; x < width_; ++x) reach(x, 0), reach(x, height_ - 1);
-    for (int y = 0; y < height_; ++y) reach(0, y), reach(width_ - 1, y);
+    for (int x = 0; x < width_; ++x) {
+      reach(x, 0);
+      reach(x, height_ - 1);
+    }
+    for (int y = 0; y < height_; ++y) {
+      reach(0, y);
+      reach(width_ - 1, y);
+    }
     // The list grows while it is walked; what the last pixels reach is the fringe.
     for (std::size_t next = 0; next < cleared_.size(); ++next) spread(cleared_[next]);
     const std::size_t background = cleared_.size();
@@ -57,7 +63,10 @@ private:
   void spread(int at) {
     const int x = at % width_;
     const int y = at / width_;
-    reach(x - 1, y), reach(x + 1, y), reach(x, y - 1), reach(x, y + 1);
+    reach(x - 1, y);
+    reach(x + 1, y);
+    reach(x, y - 1);
+    reach(x, y + 1);
   }
 
   void reach(int x, int y) {

@@ -172,6 +172,23 @@ TEST_F(Painting, AbsurdNumbersAreDrawnAsNothing) {
     }
 }
 
+TEST(TextLayouts, HoldNoMoreThanCanBeSeen) {
+  TextLayouts layouts;
+  const auto glyphs = [&](const TextRequest& request) {
+    qsizetype count = 0;
+    for (const QGlyphRun& run : layouts.of(request).runs) count += run.glyphIndexes().size();
+    return count;
+  };
+  TextRequest request{QString(1'000'000, u'W'), QStringLiteral("Arial"), 20, 0, 100, 30, 0};
+  EXPECT_GE(glyphs(request), 5);
+  EXPECT_LE(glyphs(request), 40) << "one line without a break";
+  request.text = QStringLiteral("W ").repeated(500'000);
+  EXPECT_GE(glyphs(request), 5);
+  EXPECT_LE(glyphs(request), 40) << "many lines";
+  request.text = QStringLiteral("WWW");
+  EXPECT_EQ(glyphs(request), 3);
+}
+
 TEST(Colours, SystemColoursTurnIntoPlainOnes) {
   EXPECT_EQ(toQColor(0x112233), QColor(0x33, 0x22, 0x11));
   EXPECT_EQ(fromQColor(QColor(0x33, 0x22, 0x11)), 0x112233);
