@@ -60,6 +60,8 @@ void DesignerWindows::placeAll() {
     windows[i]->move(places[i].topLeft());
     windows[i]->resize(places[i].size() - kFrame);
   }
+  // Where windows lie over each other the tools are wanted first, whichever is shown last.
+  QTimer::singleShot(0, &tools_, &QWidget::raise);
 }
 
 }  // namespace veneerer

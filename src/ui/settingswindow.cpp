@@ -23,26 +23,30 @@ QGroupBox* fileFrame(const Ui& ui, Form4& form) {
   return makeFrame(QStringLiteral("File Options"), row);
 }
 
-// One list to a row, each behind its label.
-QGridLayout* listsLayout(const Ui& ui, std::initializer_list<ListRow> rows) {
+// One list to a row, each behind its label, with room for that many letters at least.
+QLayout* listsLayout(const Ui& ui, int letters, std::initializer_list<ListRow> rows) {
   auto* grid = new QGridLayout;
   grid->setSpacing(4);
   int row = 0;
-  for (const ListRow& entry : rows)
-    addField(grid, row++, 0, QString::fromLatin1(entry.label), makeCombo(ui, *entry.list));
+  for (const ListRow& entry : rows) {
+    TextCombo* list = makeCombo(ui, *entry.list);
+    list->setMinimumContentsLength(letters);
+    addField(grid, row++, 0, QString::fromLatin1(entry.label), list);
+  }
   grid->setColumnStretch(1, 1);
   return grid;
 }
 
 QLayout* stylesLayout(const Ui& ui, Form4& form) {
-  return listsLayout(ui, {{"Default Screen:", &*form.Combo8},
-                          {"Default HOME Screen:", &*form.Combo9},
-                          {"Player Style:", &*form.Combo10},
-                          {"Navigation Style:", &*form.Combo6},
-                          {"Jump To Letter:", &*form.Combo2},
-                          {"Genre Style:", &*form.Combo5},
-                          {"Genre Nav:", &*form.Combo11},
-                          {"Other Albums:", &*form.Combo12}});
+  return listsLayout(ui, 12,
+                     {{"Default Screen:", &*form.Combo8},
+                      {"Default HOME Screen:", &*form.Combo9},
+                      {"Player Style:", &*form.Combo10},
+                      {"Navigation Style:", &*form.Combo6},
+                      {"Jump To Letter:", &*form.Combo2},
+                      {"Genre Style:", &*form.Combo5},
+                      {"Genre Nav:", &*form.Combo11},
+                      {"Other Albums:", &*form.Combo12}});
 }
 
 QLayout* countsAndBoxesLayout(const Ui& ui, Form4& form) {
@@ -50,7 +54,7 @@ QLayout* countsAndBoxesLayout(const Ui& ui, Form4& form) {
                              &*form.Check12, &*form.Check10, &*form.Check11};
   auto* column = new QVBoxLayout;
   column->addLayout(listsLayout(
-      ui, {{"Number of genres shown:", &*form.Combo7}, {"Number of tracks shown:", &*form.Combo1}}));
+      ui, 2, {{"Number of genres shown:", &*form.Combo7}, {"Number of tracks shown:", &*form.Combo1}}));
   for (CheckBox* box : boxes) column->addWidget(makeCheck(ui, *box));
   return column;
 }

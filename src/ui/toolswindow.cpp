@@ -46,12 +46,20 @@ QLayout* screenLayout(const Ui& ui, Form6& form) {
   return row;
 }
 
+QLayout* captionLayout(const Ui& ui, Form6& form) {
+  auto* row = new QHBoxLayout;
+  QLineEdit* caption = makeField(ui, *form.Text1);
+  caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  row->addWidget(makeLabel(QStringLiteral("Button Caption:"), caption));
+  row->addWidget(caption, 1);
+  return row;
+}
+
 QGroupBox* elementFrame(const Ui& ui, Form6& form) {
   auto* grid = compact(new QGridLayout);
-  QLineEdit* caption = makeField(ui, *form.Text1);
-  caption->setMinimumWidth(60);
-  grid->addWidget(makeLabel(QStringLiteral("Button Caption:"), caption), 0, 0, 1, 2);
-  grid->addWidget(caption, 0, 2, 1, 2);
+  grid->addLayout(captionLayout(ui, form), 0, 0, 1, -1);
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(3, 1);
   const QString twips = QStringLiteral("Twips: 1440 to the inch");
   addPair(grid, 1, ui, "Height:", form.Text3[0], "Width:", form.Text3[1], twips);
   addCommands(grid, 2, ui, {&*form.Command5});
