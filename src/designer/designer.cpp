@@ -53,7 +53,7 @@ struct Designer::Parts {
   CoverLayouts covers{*state, platform, properties};
   TextureViewer textures{*state, platform};
   CanvasInput canvas{*state, platform.dialogs};
-  ToolsPalette tools{*state, platform};
+  ToolsPalette tools{*state, platform, platform.progress};
   SkinLoader loader{*state, platform, covers};
   int subscription = 0;
 };

@@ -68,6 +68,7 @@ struct Platform {
   Settings& settings;
   Screen screen;
   ProgramFolder folder;
+  Progress* progress = nullptr;  ///< told of what takes long; may be null
 };
 
 /// Pixels in twips by the screen's dots per logical inch, rounded to the nearest whole number, halves to

@@ -40,9 +40,12 @@ void Rescale::resizeWindow(Property edge, const TextBox& field, int direction) {
 
 void Rescale::resampleImages() {
   inform(QStringLiteral("Now Resizing images Do not Loose Focus on main screen"));
+  const bool wasShown = state_.form1.Picture21->isVisible();
   const std::vector<ImageJob> jobs = collectJobs();
   const QStringList failures = runJobs(jobs);
   showAnew(jobs);
+  // The work element has done its part; left up, it would cover the canvas.
+  state_.form1.Picture21->setVisible(wasShown);
   inform(QStringLiteral("Images resized"));
   if (!failures.isEmpty())
     inform(QStringLiteral("These images could not be resized:\n") + failures.join(u'\n'));
