@@ -29,9 +29,8 @@ struct SkinFolderTest : testing::Test {
 
 TEST_F(SkinFolderTest, ReferencesInEitherSlashAndAnyCase) {
   const QString menu = at("Skins/Blue/images/Menu.bmp");
-  for (const char* reference :
-       {"\\images\\Menu.bmp", "/images/Menu.bmp", "images\\Menu.bmp", "\\Images\\MENU.BMP",
-        "\\\\images\\/menu.bmp", "\\images\\..\\IMAGES\\menu.bmp"})
+  for (const char* reference : {"\\images\\Menu.bmp", "/images/Menu.bmp", "\\Images\\MENU.BMP",
+                                "\\\\images\\/menu.bmp", "\\images\\..\\IMAGES\\menu.bmp"})
     EXPECT_EQ(QDir::cleanPath(resolve(reference)), menu) << reference;
 }
 
@@ -53,10 +52,10 @@ TEST_F(SkinFolderTest, AReferenceMayLeadOutOfTheFolder) {
   EXPECT_FALSE(blue().contains(resolve("\\..\\..\\outside.bmp")));
 }
 
-TEST_F(SkinFolderTest, AFullPathIntoTheFolderIsTaken) {
-  const QString full = at("Skins/Blue/images/Menu.bmp");
-  EXPECT_EQ(blue().resolve(full), full);
-  EXPECT_EQ(blue().resolve(at("outside.bmp")), QString());
+TEST_F(SkinFolderTest, AReferenceIsAppendedWithoutASeparator) {
+  EXPECT_EQ(resolve("images\\Menu.bmp"), QString());
+  test::writeBytes(at("Skins/Blueprint.bmp"), "x");
+  EXPECT_EQ(resolve("print.bmp"), at("Skins/Blueprint.bmp"));
 }
 
 TEST_F(SkinFolderTest, ContainsWhatLiesInsideWithLinksResolved) {
