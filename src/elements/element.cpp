@@ -72,9 +72,13 @@ void Element::sendToBack() {
   notify(Property::StackOrder, Value(0));
 }
 
-void Element::stackAbove(Element& sibling) { restack(sibling, 1); }
+void Element::stackAbove(Element& sibling) {
+  restack(sibling, 1);
+}
 
-void Element::stackBelow(Element& sibling) { restack(sibling, 0); }
+void Element::stackBelow(Element& sibling) {
+  restack(sibling, 0);
+}
 
 void Element::restack(Element& sibling, int shift) {
   require(container_ && sibling.container_ == container_ && &sibling != this,

@@ -26,11 +26,25 @@ QImage decode(const QString& path) {
                                                                   : QImage::Format_RGB32);
 }
 
+enum class Format { None, Picture, Icon };
+
+// By the first bytes alone: decoding waits until the picture is seen.
+Format formatOf(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return Format::None;
+  const QByteArray head = file.read(8);
+  for (const QByteArray& icon : {QByteArray("\0\0\1\0", 4), QByteArray("\0\0\2\0", 4)})
+    if (head.startsWith(icon)) return Format::Icon;
+  for (const char* picture : {"BM", "\xFF\xD8\xFF", "GIF8", "\x89PNG"})
+    if (head.startsWith(picture)) return Format::Picture;
+  return Format::None;
+}
+
 }  // namespace
 
 class PictureFile {
 public:
-  explicit PictureFile(QString path) : path_(std::move(path)) {}
+  PictureFile(QString path, bool isIcon) : path_(std::move(path)), isIcon_(isIcon) {}
   explicit PictureFile(QImage image) : image_(std::move(image)) {
     std::call_once(decoded_, [] {});
   }
@@ -42,15 +56,11 @@ public:
     return image_;
   }
 
-  bool isIcon() const {
-    QFile file(path_);
-    if (!file.open(QIODevice::ReadOnly)) return false;
-    const QByteArray head = file.read(4);
-    return head == QByteArray("\0\0\1\0", 4) || head == QByteArray("\0\0\2\0", 4);
-  }
+  bool isIcon() const { return isIcon_; }
 
 private:
   QString path_;
+  bool isIcon_ = false;
   mutable std::once_flag decoded_;
   mutable QImage image_;
 };
@@ -95,7 +105,9 @@ Picture PictureStore::load(const QString& path) {
   Entries::Entry& entry = entries_->byPath[path];
   std::shared_ptr<PictureFile> file = entry.file.lock();
   if (!file || entry.modified != modified || entry.size != info.size()) {
-    file = std::make_shared<PictureFile>(path);
+    const Format format = formatOf(path);
+    if (format == Format::None) return {};
+    file = std::make_shared<PictureFile>(path, format == Format::Icon);
     entry = {modified, info.size(), file};
   }
   return Picture(file);

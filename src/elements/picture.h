@@ -26,8 +26,7 @@ public:
   /// The full path of the file, empty for no picture and for a drawn one.
   QString path() const;
 
-  /// True for a file that holds an icon or a cursor, which can't give a button its outline. Reads the file's
-  /// first bytes.
+  /// True for a file that holds an icon or a cursor, which can't give a button its outline.
   bool isIcon() const;
 
   /// The decoded picture; a null image when there is none or the file can't be decoded. Safe to call from
@@ -50,7 +49,8 @@ public:
   PictureStore();
   ~PictureStore();
 
-  /// The picture of that file. The file is not decoded yet; a file that isn't there gives a null Picture.
+  /// The picture of that file: a bitmap, JPEG, GIF, PNG or icon. Only its first bytes are read, it isn't
+  /// decoded yet. A file that isn't there, or holds something else, gives a null Picture.
   Picture load(const QString& path);
 
 private:

@@ -45,7 +45,7 @@ void stack(Form1& form1, int cover, int lastCover) {
 Layout::Step coverPlaced(int cover, int lastCover) {
   return [cover, lastCover](Loading& loading) {
     ImageBox& image = loading.state.form1.Image2[cover];
-    image.setToolTipText(QStringLiteral("Cover ") + signedNumber(cover));
+    image.setToolTipText(QStringLiteral("Cover ") + QString::number(cover));
     image.setStretch(true);
     stack(loading.state.form1, cover, lastCover);
   };
@@ -67,11 +67,14 @@ void featuredAlbum(Layout& file, State& state) {
 
 }  // namespace
 
+// An empty value counts as 0 here as it does when the line is read.
 int lastCoverOf(const QByteArray& bytes) {
   RecordReader reader(bytes);
   if (!reader.atEnd()) reader.readValue();
   if (reader.atEnd()) return -1;
   const RecordValue value = reader.readValue();
+  if (std::holds_alternative<std::monostate>(value)) return 0;
+  if (const auto* truth = std::get_if<bool>(&value)) return *truth ? -1 : 0;
   const auto* number = std::get_if<double>(&value);
   return number ? static_cast<int>(std::clamp(std::nearbyint(*number), -1.0, double(kLastCover))) : -1;
 }

@@ -1,6 +1,5 @@
 #include "properties/coverlayout.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 
@@ -35,9 +34,7 @@ SkinFolder CoverLayouts::folder() const {
 
 void CoverLayouts::load(const QString& path) {
   if (!QFileInfo(path).isFile()) return;
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return;
-  const QByteArray bytes = file.readAll();
+  const QByteArray bytes = recordFileBytes(path);
   const SkinFolder skin = folder();
   Loading loading{state_, skin, platform_.screen};
   readRecords(coverFile(state_, QFileInfo(path).fileName(), lastCoverOf(bytes)), bytes, loading);
@@ -110,8 +107,7 @@ void CoverLayouts::offerSave(const SkinFolder& target) {
                              QStringLiteral("Do you want to save the COVER Layout Too?")))
     return;
   const QString name = state_.form4.Text2->text();
-  if (!mayWrite(target, name)) return;
-  save(target, name);
+  if (mayWrite(target, name)) save(target, name);
   listFiles();
 }
 

@@ -15,10 +15,10 @@ namespace veneerer {
 namespace {
 
 // Wider than any screen; a stranger's panel may claim any size.
-constexpr float kMostPixels = 16384;
+constexpr double kMostPixels = 8192;
 
 int toPixels(float twips, double twipsPerPixel) {
-  return static_cast<int>(std::clamp(float(twips / twipsPerPixel), -kMostPixels, kMostPixels));
+  return static_cast<int>(std::clamp(twips / twipsPerPixel, -2 * kMostPixels, 2 * kMostPixels));
 }
 
 /// The part of the canvas window's own picture that lies under the panel.
@@ -27,8 +27,8 @@ QImage pieceUnder(const State& state, const PictureBox& panel, const Screen& scr
                       toPixels(panel.top(), screen.twipsPerPixelY()));
   const QSize size(toPixels(panel.width(), screen.twipsPerPixelX()),
                    toPixels(panel.height(), screen.twipsPerPixelY()));
+  if (size.isEmpty() || size.width() > kMostPixels || size.height() > kMostPixels) return {};
   QImage piece(size, QImage::Format_RGB32);
-  if (piece.isNull()) return piece;
   piece.fill(toQColor(panel.backColor()));
   QPainter painter(&piece);
   painter.drawImage(QPoint(0, 0), state.form1.picture().image(), QRect(corner, size));
@@ -37,23 +37,59 @@ QImage pieceUnder(const State& state, const PictureBox& panel, const Screen& scr
 
 QByteArray asBitmap(const QImage& image) {
   QByteArray bytes;
+  if (image.isNull()) return bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   image.save(&buffer, "BMP");
   return bytes;
 }
 
+/// A panel's piece of the backdrop, ready to be written.
 struct Piece {
   PictureBox& panel;
-  const char* file;  ///< in the images folder
+  QString name;  ///< in the images folder; an existing file keeps its spelling
+  QByteArray bytes;
 };
 
-void writePiece(State& state, const Piece& piece, const SkinFolder& images, const Screen& screen) {
-  const QByteArray bytes = asBitmap(pieceUnder(state, piece.panel, screen));
-  const QString name = QString::fromLatin1(piece.file);
-  if (bytes.isEmpty()) throw RecordError(name, 0, {}, {}, QStringLiteral("the panel has no size"));
-  writeRecordFile(images, name, bytes);
-  piece.panel.setPicture(state.pictures.load(images.file(name)));
+Piece composePiece(const State& state, PictureBox& panel, const char* name, const SkinFolder& skin,
+                   const Screen& screen) {
+  const QString fixed = QString::fromLatin1(name);
+  const QString existing = skin.resolve(QStringLiteral("\\images\\") + fixed);
+  const QByteArray bytes = asBitmap(pieceUnder(state, panel, screen));
+  if (bytes.isEmpty())
+    throw RecordError(fixed, 0, panel.key(), {},
+                      QStringLiteral("the panel has no size that a picture can have"));
+  return {panel, existing.isEmpty() ? fixed : bareFileName(existing), bytes};
+}
+
+SkinFolder imagesFolder(const SkinFolder& skin) {
+  const SkinFolder images(skin.path() + QStringLiteral("/images"));
+  if (skin.exists()) QDir().mkpath(images.path());
+  if (!skin.contains(images.path()))
+    throw RecordError(QStringLiteral("images"), 0, {}, {},
+                      QStringLiteral("the folder lies outside the Skin's folder"));
+  return images;
+}
+
+void writePiece(State& state, const Piece& piece, const SkinFolder& images) {
+  writeRecordFile(images, piece.name, piece.bytes);
+  piece.panel.setPicture(state.pictures.load(images.file(piece.name)));
+}
+
+void grab(State& state, const Platform& platform) {
+  const SkinFolder skin(platform.folder, state.form4.Combo3->text());
+  const SkinFolder images = imagesFolder(skin);
+  PictureBox& menu = state.form1.Picture2[0];
+  PictureBox& player = state.form1.Picture2[1];
+  const Piece menuPiece = composePiece(state, menu, "Menu.bmp", skin, platform.screen);
+  const Piece playerPiece = composePiece(state, player, "Player.bmp", skin, platform.screen);
+  menu.setBorderStyle(0);
+  writePiece(state, menuPiece, images);
+  writePiece(state, playerPiece, images);
+  // The full path stands in the table and in skin.ini: every other entry is relative.
+  state.names.ImageName[13] = images.file(playerPiece.name);
+  // The panel of the player ends with a border, that of the menu without.
+  player.setBorderStyle(1);
 }
 
 }  // namespace
@@ -64,23 +100,8 @@ void grabPlayerAndMenu(State& state, const Platform& platform) {
     platform.dialogs.inform(title, QStringLiteral("The album view has no picture to grab from."));
     return;
   }
-  const SkinFolder skin(platform.folder, state.form4.Combo3->text());
-  const SkinFolder images(skin.path() + QStringLiteral("/images"));
-  PictureBox& menu = state.form1.Picture2[0];
-  PictureBox& player = state.form1.Picture2[1];
-  StoredValue& name = state.names.ImageName[13];
   try {
-    if (skin.exists()) QDir().mkpath(images.path());
-    if (!skin.contains(images.path()))
-      throw RecordError(QStringLiteral("images"), 0, {}, {},
-                        QStringLiteral("the folder lies outside the Skin's folder"));
-    menu.setBorderStyle(0);
-    writePiece(state, {menu, "Menu.bmp"}, images, platform.screen);
-    writePiece(state, {player, "Player.bmp"}, images, platform.screen);
-    // The full path stands in the table and in skin.ini: every other entry is relative.
-    name = images.file(QStringLiteral("Player.bmp"));
-    // The panel of the player ends with a border, that of the menu without.
-    player.setBorderStyle(1);
+    grab(state, platform);
   } catch (const RecordError& error) {
     platform.dialogs.inform(title, error.message());
   }

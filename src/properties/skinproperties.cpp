@@ -207,9 +207,12 @@ void SkinProperties::coverTextChanged() {
   for (const Family* family :
        std::initializer_list<const Family*>{&form1.Label10, &form1.Label9, &form1.ucAniGIF1, &form1.Image2})
     show(*family, 0, last, true);
-  // The captions of the last cover are hidden with those behind it and come back only with the box.
-  show(form1.Label62, last, last, false);
-  show(form1.Label63, last, last, false);
+  // The captions of the last cover are hidden with those behind it and come back only with the box. A last
+  // cover beyond those that exist hides none.
+  if (state_.globals.LastCoverIndex < kCovers) {
+    show(form1.Label62, last, last, false);
+    show(form1.Label63, last, last, false);
+  }
   if (!state_.form4.Check6->isTicked()) return;
   show(form1.Label62, 0, last, true);
   show(form1.Label63, 0, last, true);

@@ -6,7 +6,9 @@ namespace veneerer {
 
 void Loading::show(const QString& reference, Element& element) const {
   const QString path = folder.resolve(reference);
-  if (!path.isEmpty()) element.set(Property::Picture, state.pictures.load(path));
+  if (path.isEmpty()) return;
+  const Picture picture = state.pictures.load(path);
+  if (!picture.isNull()) element.set(Property::Picture, picture);
 }
 
 Row& Layout::add(Row row) {
@@ -190,7 +192,7 @@ void Layout::alignedLabels(Array<Label>& array, int first, int last) {
 
 void Layout::applyAboveMinusOneOnly(std::size_t from, std::initializer_list<Property> properties) {
   for (std::size_t i = from; i < rows_.size(); ++i)
-    if (std::find(properties.begin(), properties.end(), rows_[i].into.property) != properties.end())
+    if (rows_[i].into.element && std::ranges::find(properties, rows_[i].into.property) != properties.end())
       rows_[i].aboveMinusOneOnly = true;
 }
 

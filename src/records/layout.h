@@ -77,8 +77,9 @@ struct Loading {
   State& state;
   const SkinFolder& folder;
   const Screen& screen;
-  /// How many rows of the layout were there; fewer than it has when an optional tail was left out.
-  std::size_t rowsRead = 0;
+  /// For each row of the layout the line on which its value stood, 0 where it was passed over. Shorter than
+  /// the layout when an optional tail was left out.
+  std::vector<int> lines = {};
 
   /// Loads the file that the reference names into the element; leaves it alone when there is none.
   void show(const QString& reference, Element& element) const;
@@ -182,8 +183,6 @@ public:
   /// Runs after the last line, or where an optional tail ended.
   void atEnd(Step step) { endSteps_.push_back(std::move(step)); }
 
-  /// Makes every failure a RecordError, for checks.
-  void failFatally() { onFailure_ = OnFailure::Fatal; }
   void resumeOnError() { onFailure_ = OnFailure::Resume; }
   void reportFailure(const char* message) {
     onFailure_ = OnFailure::Report;

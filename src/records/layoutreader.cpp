@@ -13,6 +13,9 @@ namespace veneerer {
 
 namespace {
 
+/// Far more than any record file has; a stranger's may be endless.
+constexpr qint64 kMostBytes = 16 * 1024 * 1024;
+
 /// What is wrong with one value; the walk adds the place.
 struct BadValue {
   QString what;
@@ -57,17 +60,20 @@ StoredValue asStored(const RecordValue& value) {
 
 class Walk {
 public:
-  Walk(const Layout& layout, const QByteArray& bytes, Loading& loading)
-      : layout_(layout), reader_(bytes), loading_(loading) {}
+  Walk(const Layout& layout, const QByteArray& bytes, Loading& loading, OnFailure policy)
+      : layout_(layout), reader_(bytes), loading_(loading), policy_(policy) {}
 
   void run() {
     const std::vector<Row>& rows = layout_.rows();
     for (std::size_t i = 0; i < rows.size(); ++i) {
       const Row& row = rows[i];
-      if (row.isWrittenOnly || (row.needsVersion2 && version_ != 2)) continue;
+      if (row.isWrittenOnly || (row.needsVersion2 && version_ != 2)) {
+        loading_.lines.push_back(0);
+        continue;
+      }
       if (row.startsBlock && row.isOptional && reader_.atEnd()) return;
+      loading_.lines.push_back(reader_.line());
       if (!step(row)) continue;
-      loading_.rowsRead = i + 1;
       if (const Layout::Step* then = layout_.stepAfter(i)) (*then)(loading_);
     }
   }
@@ -81,7 +87,7 @@ private:
       take(row);
       return true;
     } catch (const BadValue& bad) {
-      if (layout_.onFailure() == OnFailure::Resume) return false;
+      if (policy_ == OnFailure::Resume) return false;
       const bool hasElement = row.into.element != nullptr;
       throw RecordError(layout_.fileName(), line, elementOf(row), hasElement ? fieldOf(row) : QString(),
                         bad.what);
@@ -118,8 +124,14 @@ private:
         heldShape_ = asWhole(asNumber(reader_.readValue()), row.kind);
         row.into.element->set(row.into.property, 0);
         return;
-      default:
+      case RowKind::Text:
+      case RowKind::NumberText:
+      case RowKind::Integer:
+      case RowKind::Long:
+      case RowKind::Single:
+      case RowKind::Whole:
         assign(row, reader_.readValue());
+        return;
     }
   }
 
@@ -180,16 +192,14 @@ private:
 
   void takeReference(const Row& row, const StoredValue& value) {
     *row.storedInto = value;
-    const QString path = loading_.folder.resolve(value.text());
-    if (row.shown.button)
-      applyImageRule(row, *row.shown.button, value, path);
-    else if (!path.isEmpty())
-      for (Element* box : row.shown.boxes)
-        if (box) box->set(Property::Picture, loading_.state.pictures.load(path));
+    if (row.shown.button) applyImageRule(row, *row.shown.button, value);
+    for (Element* box : row.shown.boxes)
+      if (box) loading_.show(value.text(), *box);
   }
 
   // The shape goes on after the picture: a custom outline is made from it and is refused without.
-  void applyImageRule(const Row& row, Button& button, const StoredValue& value, const QString& path) {
+  void applyImageRule(const Row& row, Button& button, const StoredValue& value) {
+    const QString path = loading_.folder.resolve(value.text());
     if (!path.isEmpty())
       button.setPicture(loading_.state.pictures.load(path));
     else if (!value.isEmpty() || !row.skipEmptyReference)
@@ -201,32 +211,47 @@ private:
   const Layout& layout_;
   RecordReader reader_;
   Loading& loading_;
+  OnFailure policy_;
   int version_ = 1;
   std::int32_t heldShape_ = 0;
 };
 
 }  // namespace
 
-QString readRecords(const Layout& layout, const QByteArray& bytes, Loading& loading) {
-  loading.rowsRead = 0;
+QString readRecords(const Layout& layout, const QByteArray& bytes, Loading& loading, Failures failures) {
+  const OnFailure policy = failures == Failures::AllFatal ? OnFailure::Fatal : layout.onFailure();
+  loading.lines.clear();
   try {
-    Walk(layout, bytes, loading).run();
+    Walk(layout, bytes, loading, policy).run();
   } catch (const RecordError&) {
-    if (layout.onFailure() != OnFailure::Report) throw;
+    if (policy != OnFailure::Report) throw;
     return layout.failureMessage();
   }
   for (const Layout::Step& step : layout.endSteps()) step(loading);
   return {};
 }
 
+QByteArray recordFileBytes(const QString& path) {
+  QFile file(path);
+  const auto fail = [&](const QString& what) {
+    throw RecordError(QFileInfo(path).fileName(), 0, {}, {}, what);
+  };
+  if (!file.open(QIODevice::ReadOnly)) fail(QStringLiteral("the file can't be read: ") + file.errorString());
+  if (file.size() > kMostBytes) fail(QStringLiteral("the file is too large for a record file"));
+  return file.readAll();
+}
+
 QString readRecordFile(const Layout& layout, const QString& path, Loading& loading) {
   // Only a plain file is a record file: a pipe or a device under its name could hang the program.
   if (!QFileInfo(path).isFile()) return {};
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly))
-    throw RecordError(layout.fileName(), 0, {}, {},
-                      QStringLiteral("the file can't be read: ") + file.errorString());
-  return readRecords(layout, file.readAll(), loading);
+  try {
+    return readRecords(layout, recordFileBytes(path), loading);
+  } catch (const RecordError&) {
+    if (layout.onFailure() == OnFailure::Report) return layout.failureMessage();
+    // Under Resume no value fails the walk, so it was the file: each of its values counts as failed.
+    if (layout.onFailure() == OnFailure::Resume) return readRecords(layout, {}, loading);
+    throw;
+  }
 }
 
 }  // namespace veneerer

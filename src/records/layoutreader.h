@@ -8,12 +8,20 @@
 
 namespace veneerer {
 
+/// Whether a layout's own policy for failures counts, or every failure raises RecordError, as a check wants
+/// it.
+enum class Failures { ByLayout, AllFatal };
+
 /// Reads the file's values into the elements, row by row. A malformed value raises RecordError, unless the
 /// layout says otherwise. Returns the message with which a layout that reports its failure ended, else an
 /// empty text. Nothing that was read before a failure is rolled back.
-QString readRecords(const Layout& layout, const QByteArray& bytes, Loading& loading);
+QString readRecords(const Layout& layout, const QByteArray& bytes, Loading& loading,
+                    Failures failures = Failures::ByLayout);
 
 /// The same for the file of that path; a file that isn't there changes nothing.
 QString readRecordFile(const Layout& layout, const QString& path, Loading& loading);
+
+/// The whole file. Raises RecordError when it can't be read or is larger than 16 MiB.
+QByteArray recordFileBytes(const QString& path);
 
 }  // namespace veneerer

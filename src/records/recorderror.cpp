@@ -4,6 +4,12 @@
 
 namespace veneerer {
 
+QString onOneLine(QString text) {
+  for (QChar& c : text)
+    if (c.unicode() < 0x20 || c.unicode() == 0x7F) c = u'?';
+  return text;
+}
+
 namespace {
 
 QString composePlace(const QString& element, const QString& field) {
@@ -23,12 +29,12 @@ QString compose(const QString& file, int line, const QString& element, const QSt
 
 RecordError::RecordError(const QString& file, int line, const QString& element, const QString& field,
                          const QString& found)
-    : std::runtime_error(compose(file, line, element, field, found).toStdString()),
+    : std::runtime_error(compose(file, line, element, field, onOneLine(found)).toStdString()),
       file_(file),
       line_(line),
       element_(element),
       field_(field),
-      found_(found) {}
+      found_(onOneLine(found)) {}
 
 QString RecordError::message() const {
   return compose(file_, line_, element_, field_, found_);

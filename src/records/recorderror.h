@@ -7,6 +7,10 @@
 
 namespace veneerer {
 
+/// The text with every control character replaced by "?": what comes from a file may hold line ends or
+/// terminal codes, and a message is one plain line.
+QString onOneLine(QString text);
+
 class RecordError : public std::runtime_error {
 public:
   /// line counts from 1; 0 when no line is to blame. element and field may be empty.

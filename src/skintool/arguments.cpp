@@ -82,6 +82,12 @@ void checkSkins(const Arguments& arguments) {
     if (!QFileInfo(skin).isDir()) throw UsageError(QStringLiteral("%1 is no folder").arg(skin));
 }
 
+void checkCover(const QCommandLineParser& parser, const QString& name) {
+  if (!parser.isSet(QStringLiteral("cover"))) return;
+  if (name.isEmpty() || name.contains(u'/') || name.contains(u'\\'))
+    throw UsageError(QStringLiteral("--cover takes a plain file name"));
+}
+
 void checkEntries(const QStringList& entries) {
   for (const QString& entry : entries)
     if (std::ranges::find(kScreenEntries, entry.toStdU16String()) == kScreenEntries.end())
@@ -111,9 +117,10 @@ Arguments parseArguments(const QStringList& words) {
   arguments.screen = parseScreen(parser);
   checkSkins(arguments);
   checkEntries(arguments.only);
+  checkCover(parser, arguments.cover);
   const bool needsTarget = arguments.command == Command::Save || arguments.command == Command::Render ||
                            arguments.command == Command::Sheet;
-  if (needsTarget && arguments.to.isEmpty()) throw UsageError(QStringLiteral("--to FOLDER is missing"));
+  if (needsTarget && arguments.to.isEmpty()) throw UsageError(QStringLiteral("--to is missing"));
   return arguments;
 }
 
@@ -123,7 +130,7 @@ QString usageText() {
       "       skintool save SKIN --to FOLDER [--cover NAME] [options]\n"
       "       skintool render SKIN --to FOLDER [--only ENTRY]... [options]\n"
       "       skintool check SKIN...\n"
-      "       skintool sheet --to FOLDER\n"
+      "       skintool sheet --to FILE\n"
       "options: --script FILE  --reload  --screen WIDTHxHEIGHT  --dpi N\n");
 }
 

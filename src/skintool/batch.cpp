@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 
 #include "components/buttonsheet.h"
 #include "components/resizer.h"
@@ -47,6 +48,12 @@ QString readScript(const QString& name) {
   return QString::fromUtf8(file.readAll());
 }
 
+void print(std::FILE* out, const QByteArray& text) {
+  if (std::fwrite(text.constData(), 1, std::size_t(text.size()), out) != std::size_t(text.size()) ||
+      std::fflush(out) != 0)
+    throw std::runtime_error("the output can't be written");
+}
+
 /// One run of dump, save or render on one Skin.
 class BatchRun {
 public:
@@ -63,7 +70,7 @@ public:
     if (arguments_.reload) designer_.reload(designer_.state().form4.Combo3->text());
     ScriptPlayer(designer_, dialogs_).play(arguments_.script, script);
     if (arguments_.command == Command::Dump)
-      std::fputs(stateAsJson(designer_, dialogs_.messages()).constData(), out);
+      print(out, stateAsJson(designer_, dialogs_.messages()));
     else if (arguments_.command == Command::Render)
       renderScreens(designer_, arguments_.to, arguments_.only);
     else
@@ -76,7 +83,8 @@ private:
     dialogs_.answers.clear();
     dialogs_.answers << savesCover << true;
     if (savesCover) designer_.state().form4.Text2->setText(arguments_.cover);
-    QDir().mkpath(arguments_.to);
+    if (!QDir().mkpath(arguments_.to))
+      throw RecordError(arguments_.to, 0, {}, {}, QStringLiteral("the folder can't be made"));
     designer_.saveTo(SkinFolder(QFileInfo(arguments_.to).absoluteFilePath()));
   }
 
@@ -88,19 +96,21 @@ private:
 };
 
 int check(const Arguments& arguments, std::FILE* out) {
-  bool hasError = false;
+  QList<Finding> findings;
   for (const QString& skin : arguments.skins) {
     BatchDialogs dialogs;
     BatchSettings settings(skinName(skin));
     Platform platform{dialogs, settings, arguments.screen, programFolder(skin)};
-    // With several Skins a finding must say whose file it names.
-    const QString prefix = arguments.skins.size() > 1 ? skinName(skin) + u'/' : QString();
-    for (const Finding& finding : checkSkin(platform, skinName(skin))) {
-      std::fprintf(out, "%s%s\n", qPrintable(prefix), qPrintable(finding.message()));
-      hasError = hasError || finding.isError;
+    for (Finding finding : checkSkin(platform, skinName(skin))) {
+      // With several Skins a finding must say whose file it names.
+      if (arguments.skins.size() > 1) finding.file.prepend(skinName(skin) + u'/');
+      findings.append(finding);
     }
   }
-  return hasError ? 1 : 0;
+  const auto isError = [](const Finding& finding) { return finding.isError; };
+  std::ranges::stable_partition(findings, isError);
+  for (const Finding& finding : findings) print(out, finding.message().toLocal8Bit() + '\n');
+  return std::ranges::any_of(findings, isError) ? 1 : 0;
 }
 
 int writeSheet(const QString& path) {

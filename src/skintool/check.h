@@ -18,7 +18,7 @@ struct Finding {
   QString message() const;
 };
 
-/// Everything found in the Skin of that name under the folder's root, errors first. Nothing is written.
+/// Everything found in the Skin of that name under the folder's root, file by file. Nothing is written.
 QList<Finding> checkSkin(Platform& platform, const QString& skinName);
 
 }  // namespace veneerer

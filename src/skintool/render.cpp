@@ -52,7 +52,8 @@ QImage renderScreen(Designer& designer, CanvasPainter& painter, int entry) {
 }
 
 void renderScreens(Designer& designer, const QString& folder, const QStringList& only) {
-  QDir().mkpath(folder);
+  if (!QDir().mkpath(folder))
+    throw RecordError(folder, 0, {}, {}, QStringLiteral("the folder can't be made"));
   CanvasPainter painter;
   // One picture is encoded while the next one is painted.
   std::future<bool> writing;

@@ -167,6 +167,8 @@ void ScriptPlayer::choose(const Words& words) {
 // The row is shown as chosen without the first event of the list, which would ask.
 void ScriptPlayer::doubleClick(const Words& words) {
   RowList& list = rows(words[0]);
+  if (&list != &*designer_.state().form4.File1)
+    throw ScriptError(QStringLiteral("%1 has no second event").arg(words[0].text));
   if (!list.list().contains(words[1].text))
     throw ScriptError(QStringLiteral("%1 has no row \"%2\"").arg(list.key(), words[1].text));
   list.setText(words[1].text);
@@ -184,8 +186,9 @@ void ScriptPlayer::tick(const Words& words) {
   Element& found = element(words[0]);
   if (found.kind() == Kind::OptionButton && words.size() == 1)
     static_cast<OptionButton&>(found).select();
-  else if (found.kind() == Kind::CheckBox && words.size() == 2)
-    found.set(Property::Value, wholeNumber(words[1]) != 0 ? 1 : 0);
+  else if (found.kind() == Kind::CheckBox && words.size() == 2 &&
+           (words[1].text == u"0" || words[1].text == u"1"))
+    found.set(Property::Value, wholeNumber(words[1]));
   else
     throw ScriptError(QStringLiteral("%1 can't be ticked like that").arg(words[0].text));
 }

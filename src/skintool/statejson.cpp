@@ -1,5 +1,7 @@
 #include "skintool/statejson.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -67,7 +69,7 @@ double asShortestDouble(float number) {
 QString pictureName(const Picture& picture, const QString& skinPath) {
   if (picture.isNull()) return {};
   if (picture.isDrawn()) return QStringLiteral("(drawn)");
-  const QString path = picture.path();
+  const QString path = QDir::cleanPath(QFileInfo(picture.path()).absoluteFilePath());
   return path.startsWith(skinPath + u'/') ? path.mid(skinPath.size()) : path;
 }
 
@@ -135,8 +137,9 @@ QByteArray stateAsJson(Designer& designer, const QList<BatchDialogs::Message>& m
   State& state = designer.state();
   designer.fillFonts();
   const SkinFolder skin(designer.platform().folder, state.form4.Combo3->text());
+  const QString skinPath = QDir::cleanPath(QFileInfo(skin.path()).absoluteFilePath());
   const QJsonObject root{{QStringLiteral("globals"), globalsAsJson(state.globals)},
-                         {QStringLiteral("elements"), elementsAsJson(state, skin.path())},
+                         {QStringLiteral("elements"), elementsAsJson(state, skinPath)},
                          {QStringLiteral("tables"), tablesAsJson(state.names)},
                          {QStringLiteral("messages"), messagesAsJson(messages)}};
   return QJsonDocument(root).toJson();

@@ -45,10 +45,11 @@ TEST_F(PictureTest, WhatIsNoPictureHasNoImage) {
   EXPECT_TRUE(store.load(folder.path()).isNull()) << "a folder is no file";
   EXPECT_TRUE(Picture().image().isNull());
   test::writeBytes(path("text.gif"), "no picture at all");
+  EXPECT_TRUE(store.load(path("text.gif")).isNull());
   // A header that claims 65535 by 65535 pixels over no data.
   test::writeBytes(path("huge.gif"), QByteArray::fromHex("474946383961ffffffff000000"));
   test::writeBytes(path("cut.bmp"), QByteArray::fromHex("424d3600000000000000360000002800000003"));
-  for (const char* name : {"text.gif", "huge.gif", "cut.bmp"}) {
+  for (const char* name : {"huge.gif", "cut.bmp"}) {
     const Picture picture = store.load(path(name));
     EXPECT_FALSE(picture.isNull()) << name;
     EXPECT_TRUE(picture.image().isNull()) << name;

@@ -104,6 +104,7 @@ TEST(Layouts, PutAFewKnownLinesWhereTheFormatHasThem) {
   EXPECT_EQ(rowAt(menuFile, 4).into.element, &state.form1.Picture2[0]);
   EXPECT_EQ(rowAt(menuFile, 18).kind, RowKind::LabelLine);
   EXPECT_EQ(rowAt(playerFile, 84).kind, RowKind::LabelLine);
+  EXPECT_EQ(rowAt(nowPlayingFile, 72).into.property, Property::Height) << "a GeometryQuad among PlaceQuads";
   EXPECT_EQ(rowAt(navFile, 41).storedInto, &state.names.NavName.value());
   EXPECT_EQ(rowAt(navFile, 167).into.element, &state.form1.Picture31[7]);
   EXPECT_EQ(rowAt(trackListFile, 705).into.element, &*state.form4.Combo12);

@@ -54,7 +54,7 @@ Layout genreFile(State& state) {
   });
   file.checkValue(*state.form4.Check12);
   file.atEnd([numberBlock](Loading& loading) {
-    if (loading.rowsRead <= numberBlock) loading.state.form4.Combo7->setText(QStringLiteral("28"));
+    if (loading.lines.size() <= numberBlock) loading.state.form4.Combo7->setText(QStringLiteral("28"));
   });
   file.atEnd(showGenres);
   file.atEnd([](Loading& loading) {

@@ -18,7 +18,7 @@ Layout nowPlayingFile(State& state) {
   from = file.size();
   file.labels(form1.Label6, 0, 1);
   file.applyAboveMinusOneOnly(from, {Property::Top, Property::Left});
-  file.placedButton(*form1.lvButtons_H21);
+  file.geometryButton(*form1.lvButtons_H21);
   file.optionalFromHere();
   from = file.size();
   file.placeQuad(*form1.Picture17);

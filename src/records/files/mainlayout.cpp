@@ -1,5 +1,6 @@
 // What belongs to the Skin as a whole rather than to one screen.
 #include "elements/numbers.h"
+#include "records/recorderror.h"
 #include "records/recordfiles.h"
 
 namespace veneerer {
@@ -44,6 +45,16 @@ void fillPlaceholders(Loading& loading) {
   loading.show(QStringLiteral("\\images\\player.bmp"), *state.form5.Image3);
 }
 
+/// The canvas window's width (0) or height (1) in twips for the Skin's own, widened by that many pixels.
+float windowSide(const Loading& loading, int direction, int surplus) {
+  const TextBox& field = loading.state.form4.Text1[direction];
+  const auto twips = PixelsToTwips(loading.screen, leadingNumber(field.text()) + surplus, direction);
+  if (!twips)
+    throw RecordError(QStringLiteral("resolution.ini"), 4 + direction, field.key(), QStringLiteral("Text"),
+                      QStringLiteral("the number of pixels is out of range"));
+  return static_cast<float>(*twips);
+}
+
 }  // namespace
 
 Layout skinFile(State& state) {
@@ -85,11 +96,8 @@ Layout resolutionFile(State& state) {
   file.value(RowKind::Text, state.form4.Text1[1], Property::Text);
   file.atEnd([](Loading& loading) {
     // The window's frame: 4 pixels across, 500 twips down.
-    Form4& form4 = loading.state.form4;
-    const auto width = PixelsToTwips(loading.screen, leadingNumber(form4.Text1[0].text()) + 4, 0);
-    const auto height = PixelsToTwips(loading.screen, leadingNumber(form4.Text1[1].text()), 1);
-    if (width) loading.state.form1.setWidth(static_cast<float>(*width));
-    if (height) loading.state.form1.setHeight(static_cast<float>(*height) + 500);
+    loading.state.form1.setWidth(windowSide(loading, 0, 4));
+    loading.state.form1.setHeight(windowSide(loading, 1, 0) + 500);
   });
   return file;
 }

@@ -62,12 +62,11 @@ Layout licenceFile(State& state) {
   return file;
 }
 
-// The first twelve frames are always there; older files end behind them or behind the twenty-first.
+// The first twelve frames are always there; an older file may end behind any later one.
 Layout framesFile(State& state) {
   Layout file(state, "frames.ini");
   for (int i = 0; i < state.names.AlbumFrameName.count(); ++i) {
-    if (i == 12) file.optionalFromHere();
-    if (i == 21) file.block();
+    if (i >= 12) file.optionalFromHere();
     file.reference(state.names.AlbumFrameName[i], {&state.form1.ucAniGIF1[i], &*state.form5.ucAniGIF1});
   }
   return file;

@@ -85,7 +85,9 @@ Layout searchChoiceFile(State& state) {
   file.placedButton(*form1.lvButtons_H14);
   file.places(form1.Picture2, 11, 11);
   file.atEnd([](Loading& loading) {
-    loading.show(QStringLiteral("\\images\\search choice.gif"), loading.state.form1.Picture1[14]);
+    for (Element* box :
+         std::initializer_list<Element*>{&loading.state.form1.Picture1[14], &loading.state.form5.Image1[12]})
+      loading.show(QStringLiteral("\\images\\search choice.gif"), *box);
   });
   return file;
 }
