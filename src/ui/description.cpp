@@ -27,6 +27,13 @@ QString inPixels(const Element& e, const Screen& screen) {
                    QStringLiteral("px"));
 }
 
+// The entry of the Edit Section list whose screen the element is, -1 for none.
+int entryOf(State& state, const Element& element) {
+  for (int entry = 0; entry < static_cast<int>(kScreenEntries.size()); ++entry)
+    if (&element == &screenOf(state, entry)) return entry;
+  return -1;
+}
+
 QString entryText(int entry) {
   return QStringView(kScreenEntries[static_cast<std::size_t>(entry)]).toString();
 }
@@ -44,15 +51,14 @@ QString shortName(const Element& element) {
 
 QString screenName(State& state, const Element& element) {
   for (const Element* e = &element; e; e = e->container())
-    for (int entry = 0; entry < static_cast<int>(kScreenEntries.size()); ++entry)
-      if (e == &screenOf(state, entry)) return entryText(entry);
+    if (const int entry = entryOf(state, *e); entry >= 0) return entryText(entry);
   return QStringLiteral("Frame");
 }
 
 QString describe(State& state, const Element& element, const Screen& screen) {
   QString where = screenName(state, element);
   const Element* holder = element.container();
-  if (holder && holder->family() && holder != &screenOf(state, 0) && holder->kind() == Kind::PictureBox)
+  if (holder && holder->family() && entryOf(state, *holder) < 0)
     where += QStringLiteral(", in %1").arg(shortName(*holder));
   return QStringList{shortName(element), sectionText(state, element), where, inTwips(element),
                      inPixels(element, screen)}

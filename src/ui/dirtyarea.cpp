@@ -62,11 +62,10 @@ QRegion DirtyArea::take() {
 }
 
 QRect DirtyArea::pixelsOf(const QRectF& twips) const {
-  // One pixel around, for edges between pixels.
   const int left = clamped(std::floor(twips.left() * x_)) - 1;
   const int top = clamped(std::floor(twips.top() * y_)) - 1;
-  const int right = clamped(std::ceil(twips.right() * x_)) + 1;
-  const int bottom = clamped(std::ceil(twips.bottom() * y_)) + 1;
+  const int right = clamped(std::ceil(twips.right() * x_));
+  const int bottom = clamped(std::ceil(twips.bottom() * y_));
   return QRect(QPoint(left, top), QPoint(right, bottom));
 }
 

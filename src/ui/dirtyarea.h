@@ -24,7 +24,7 @@ public:
   /// The area, which is empty from then on.
   QRegion take();
 
-  /// The pixels that a rectangle in twips touches.
+  /// The pixels that a rectangle in twips touches, and one more all around.
   QRect pixelsOf(const QRectF& twips) const;
 
 private:

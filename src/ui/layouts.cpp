@@ -29,15 +29,21 @@ QString withMnemonic(const QString& text, QSet<QChar>& taken) {
   return text;
 }
 
-// "&&" is an ampersand, not a mnemonic.
-bool hasMnemonic(QString text) {
-  return text.remove(QStringLiteral("&&")).contains(u'&');
+// The letter behind a single ampersand; null without one. "&&" is an ampersand.
+QChar mnemonicOf(QString text) {
+  const qsizetype at = text.remove(QStringLiteral("&&")).indexOf(u'&');
+  return at < 0 || at + 1 >= text.size() ? QChar() : text[at + 1].toUpper();
 }
 
 template <class W>
-void assignTo(W* widget, QSet<QChar>& taken) {
-  if (!widget->text().isEmpty() && !hasMnemonic(widget->text()))
-    widget->setText(withMnemonic(widget->text(), taken));
+void assignTo(const QList<W*>& widgets, QSet<QChar>& taken) {
+  for (W* widget : widgets)
+    if (mnemonicOf(widget->text()).isNull()) widget->setText(withMnemonic(widget->text(), taken));
+}
+
+template <class W>
+void collect(const QList<W*>& widgets, QSet<QChar>& taken) {
+  for (const W* widget : widgets) taken.insert(mnemonicOf(widget->text()));
 }
 
 }  // namespace
@@ -60,13 +66,14 @@ void addField(QGridLayout* grid, int row, int column, const QString& label, QWid
 }
 
 void assignMnemonics(QWidget& window) {
+  const QList<QAbstractButton*> buttons = window.findChildren<QAbstractButton*>();
+  QList<QLabel*> labels = window.findChildren<QLabel*>();
+  labels.removeIf([](const QLabel* label) { return !label->buddy(); });
   QSet<QChar> taken;
-  for (QWidget* widget : window.findChildren<QWidget*>()) {
-    auto* label = qobject_cast<QLabel*>(widget);
-    if (label && label->buddy()) assignTo(label, taken);
-    auto* button = qobject_cast<QAbstractButton*>(widget);
-    if (button) assignTo(button, taken);
-  }
+  collect(labels, taken);
+  collect(buttons, taken);
+  assignTo(labels, taken);
+  assignTo(buttons, taken);
 }
 
 }  // namespace veneerer

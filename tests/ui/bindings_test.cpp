@@ -1,0 +1,146 @@
+// Controls and elements, both ways.
+#include <QStyleHints>
+
+#include "ui/uifixture.h"
+
+namespace veneerer {
+namespace {
+
+class Bindings : public test::UiFixture {
+protected:
+  /// Counts the changes of one property of an element from here on.
+  void count(Element& element, Property property) {
+    state().notices.subscribe([this, &element, property](const Change& change) {
+      if (&change.element == &element && change.property == property) ++changes;
+    });
+  }
+  static void type(QLineEdit& field, const char* text) {
+    field.selectAll();
+    QTest::keyClicks(&field, QString::fromLatin1(text));
+  }
+
+  int changes = 0;
+};
+
+TEST_F(Bindings, TypingInAFieldActsOnTheElementInHand) {
+  designer->click(form1().Label4[1]);
+  auto& height = widget<QLineEdit>("Form6.Text3(0)");
+  EXPECT_EQ(height.text().toStdString(), form6().Text3[0].text().toStdString());
+  type(height, "432");
+  EXPECT_EQ(form1().Label4[1].height(), 432);
+  type(widget<QLineEdit>("Form6.Text4"), "23.5");
+  EXPECT_EQ(form1().Label4[1].fontSize(), 23.5f);
+}
+
+TEST_F(Bindings, AFieldFollowsItsElementAndKeepsTheCursor) {
+  auto& field = widget<QLineEdit>("Form4.Text2");
+  form4().Text2->setText(QStringLiteral("<b>one</b>.cov"));
+  EXPECT_EQ(field.text().toStdString(), "<b>one</b>.cov");
+  field.setCursorPosition(3);
+  QTest::keyClicks(&field, QStringLiteral("xy"));
+  EXPECT_EQ(form4().Text2->text().toStdString(), "<b>xyone</b>.cov");
+  EXPECT_EQ(field.cursorPosition(), 5);
+}
+
+TEST_F(Bindings, ChoosingAComboRowCountsEvenWhenItIsTheSame) {
+  auto& combo = widget<QComboBox>("Form4.Combo10");
+  count(*form4().Combo10, Property::ListIndex);
+  combo.setFocus();
+  QTest::keyClick(&combo, Qt::Key_End);
+  EXPECT_EQ(form4().Combo10->listIndex(), 3);
+  EXPECT_TRUE(form1().lvButtons_H57[3].isVisible()) << "the choice takes effect on the canvas";
+  Q_EMIT combo.activated(3);
+  EXPECT_EQ(changes, 2);
+  form4().Combo10->select(0);
+  EXPECT_EQ(combo.currentIndex(), 0);
+}
+
+TEST_F(Bindings, ACombosRowsAndTextFollow) {
+  auto& covers = widget<QComboBox>("Form4.Combo4");
+  QTest::mouseClick(&widget<QCheckBox>("Form4.Check1"), Qt::LeftButton, {}, QPoint(8, 8));
+  EXPECT_EQ(covers.count(), 50);
+  form4().Combo4->setText(QStringLiteral("12"));
+  EXPECT_EQ(covers.currentText().toStdString(), "12") << "a text that is no row";
+  QTest::keyClicks(covers.lineEdit(), QStringLiteral("3"));
+  EXPECT_EQ(form4().Combo4->text().toStdString(), "123");
+  form4().Combo1->setText(QStringLiteral("many"));
+  EXPECT_EQ(widget<QComboBox>("Form4.Combo1").currentIndex(), -1);
+}
+
+TEST_F(Bindings, TheWheelChoosesNothingInPassing) {
+  auto& combo = widget<QComboBox>("Form4.Combo10");
+  combo.clearFocus();
+  const QPointF at = QRectF(combo.rect()).center();
+  QWheelEvent turn(at, combo.mapToGlobal(at), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&combo, &turn);
+  EXPECT_EQ(form4().Combo10->listIndex(), 0);
+}
+
+TEST_F(Bindings, ABoxTogglesBetweenItsTwoStatesAndShowsTheThird) {
+  auto& box = widget<QCheckBox>("Form4.Check9");
+  const QPoint mark(8, box.height() / 2);
+  QTest::mouseClick(&box, Qt::LeftButton, {}, mark);
+  EXPECT_EQ(form4().Check9->value(), 1);
+  form4().Check9->setValue(2);
+  EXPECT_EQ(box.checkState(), Qt::PartiallyChecked);
+  QTest::mouseClick(&box, Qt::LeftButton, {}, mark);
+  EXPECT_EQ(form4().Check9->value(), 1);
+  QTest::mouseClick(&box, Qt::LeftButton, {}, mark);
+  EXPECT_EQ(form4().Check9->value(), 0);
+  EXPECT_EQ(box.checkState(), Qt::Unchecked);
+}
+
+TEST_F(Bindings, OptionsReleaseEachOtherWhoeverSelectsThem) {
+  auto& fore = widget<QRadioButton>("Form6.Option1(0)");
+  auto& back = widget<QRadioButton>("Form6.Option1(1)");
+  QTest::mouseClick(&back, Qt::LeftButton, {}, QPoint(8, back.height() / 2));
+  EXPECT_TRUE(form6().Option1[1].isSelected());
+  EXPECT_FALSE(form6().Option1[0].isSelected());
+  form6().Option1[0].select();
+  EXPECT_TRUE(fore.isChecked());
+  EXPECT_FALSE(back.isChecked());
+}
+
+TEST_F(Bindings, AListChoosesByAClickAndByTheKeys) {
+  auto& fonts = widget<QListView>("Form6.List1");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return form6().List1->list().size() > 2; }, 5000))
+      << "the fonts of the screen";
+  designer->click(form1().Label4[1]);
+  const QModelIndex second = fonts.model()->index(1, 0);
+  QTest::mouseClick(fonts.viewport(), Qt::LeftButton, {}, fonts.visualRect(second).center());
+  EXPECT_EQ(form1().Label4[1].fontName(), form6().List1->list().at(1));
+  QTest::keyClick(&fonts, Qt::Key_Down);
+  EXPECT_EQ(form1().Label4[1].fontName(), form6().List1->list().at(2));
+}
+
+TEST_F(Bindings, ADoubleClickOnACoverFileSparesTheQuestion) {
+  auto& files = widget<QListView>("Form4.File1");
+  form4().File1->setRows({QStringLiteral("a.cov"), QStringLiteral("b.cov")});
+  const QPoint second = files.visualRect(files.model()->index(1, 0)).center();
+  world.dialogs.messages.clear();
+  QTest::mouseClick(files.viewport(), Qt::LeftButton, {}, second);
+  QTest::mouseDClick(files.viewport(), Qt::LeftButton, {}, second);
+  EXPECT_EQ(form4().Text2->text().toStdString(), "b.cov");
+  QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval() + 50);
+  EXPECT_TRUE(world.dialogs.messages.isEmpty());
+  QTest::mouseClick(files.viewport(), Qt::LeftButton, {}, QPoint(second.x(), 3));
+  QTest::keyClick(&files, Qt::Key_Down);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !world.dialogs.messages.isEmpty(); }, 5000));
+  EXPECT_EQ(world.dialogs.messages.first().title.toStdString(), "Load Cover File");
+}
+
+TEST_F(Bindings, CommandsAndSamplesAreClicks) {
+  designer->click(form1().lvButtons_H1[2]);
+  const float before = form1().lvButtons_H1[3].left();
+  QTest::mouseClick(&widget<QPushButton>("Form6.Command6(0)"), Qt::LeftButton);
+  EXPECT_EQ(form1().lvButtons_H1[3].left(), before + 1);
+  QTest::mouseClick(&widget<QAbstractButton>("Form6.lvButtons_H5(1)"), Qt::LeftButton);
+  EXPECT_EQ(state().globals.SectionNumber, 8);
+  EXPECT_EQ(state().globals.ElementIndex, 1);
+  world.dialogs.colours.enqueue(0x123456);
+  QTest::mouseClick(&widget<QAbstractButton>("Form6.Picture1"), Qt::LeftButton);
+  EXPECT_EQ(form6().Picture1->backColor(), 0x123456);
+}
+
+}  // namespace
+}  // namespace veneerer

@@ -1,0 +1,156 @@
+// The canvas: mouse, outline, repainting, size.
+#include <limits>
+
+#include "support/pictures.h"
+#include "ui/description.h"
+#include "ui/dirtyarea.h"
+#include "ui/uifixture.h"
+
+namespace veneerer {
+namespace {
+
+class Canvas : public test::UiFixture {
+protected:
+  QColor pixel(QPoint at) { return canvas().grab().toImage().pixelColor(at); }
+};
+
+TEST_F(Canvas, AClickSelectsAndADragMoves) {
+  Button& button = form1().lvButtons_H1[2];
+  const float left = button.left();
+  const float top = button.top();
+  const QPoint from = middle(button);
+  QTest::mousePress(&canvas(), Qt::LeftButton, {}, from);
+  EXPECT_EQ(state().globals.SectionNumber, 0) << "a press alone selects nothing";
+  QTest::mouseMove(&canvas(), from + QPoint(4, 2));
+  QTest::mouseMove(&canvas(), from + QPoint(10, 6));
+  EXPECT_EQ(button.left(), left + 150);
+  EXPECT_EQ(button.top(), top + 90);
+  QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, from + QPoint(10, 6));
+  EXPECT_EQ(state().globals.SectionNumber, 1);
+  EXPECT_EQ(state().globals.ElementIndex, 2);
+  QTest::mouseMove(&canvas(), from);
+  EXPECT_EQ(button.left(), left + 150) << "without the button held down nothing moves";
+}
+
+TEST_F(Canvas, AReleaseOutsideIsNoClick) {
+  const QPoint label = middle(form1().Label4[0]);
+  QTest::mousePress(&canvas(), Qt::LeftButton, {}, label);
+  QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, label + QPoint(0, 300));
+  EXPECT_EQ(state().globals.SectionNumber, 0);
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, label);
+  EXPECT_EQ(state().globals.SectionNumber, 38);
+}
+
+TEST_F(Canvas, ARightPressGivesAButtonItsPicture) {
+  test::writePicture(path(QStringLiteral("images/red.bmp")), 20, 20, Qt::red);
+  world.dialogs.files.enqueue(path(QStringLiteral("images/red.bmp")));
+  Button& button = form1().lvButtons_H1[0];
+  const QPoint at = middle(button);
+  QTest::mousePress(&canvas(), Qt::RightButton, {}, at);
+  QTest::mouseMove(&canvas(), at + QPoint(9, 9));
+  QTest::mouseRelease(&canvas(), Qt::RightButton, {}, at);
+  EXPECT_FALSE(button.picture().isNull());
+  EXPECT_EQ(state().globals.SectionNumber, 0);
+}
+
+TEST_F(Canvas, ShowsChangesAndOutlinesTheElementInHand) {
+  Label& label = form1().Label4[0];
+  label.setOpaque(true);
+  label.setBackColor(0x0000FF);
+  const QPoint corner = (windowRect(label).bottomRight() / 15).toPoint() - QPoint(4, 4);
+  EXPECT_EQ(pixel(corner), QColor(255, 0, 0));
+  const QPoint edge(corner.x(), qRound(windowRect(label).bottom() / 15));
+  const QColor before = pixel(edge);
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, corner);
+  QTest::qWait(1);
+  const QColor line = pixel(edge);
+  EXPECT_NE(line, before);
+  EXPECT_TRUE(line == Qt::white || line == Qt::black);
+}
+
+TEST_F(Canvas, FollowsTheWindowsSizeWithinReason) {
+  form1().setWidth(9000);
+  form1().setHeight(6000);
+  EXPECT_EQ(canvas().size(), QSize(600, 400));
+  for (const float odd : {std::numeric_limits<float>::quiet_NaN(), -5.0f, 3e38f}) {
+    form1().setWidth(odd);
+    EXPECT_GE(canvas().width(), 1);
+    EXPECT_LE(canvas().width(), 16000);
+  }
+}
+
+TEST_F(Canvas, SurvivesAbsurdGeometry) {
+  Button& button = form1().lvButtons_H1[2];
+  designer->click(button);
+  for (const float odd : {3e38f, -3e38f, std::numeric_limits<float>::quiet_NaN(), 1e9f, 0.0f}) {
+    button.place(odd, odd, odd, odd);
+    QTest::qWait(1);
+    EXPECT_FALSE(canvas().grab().isNull());
+    button.place(15, 15, 3e38f, 3e38f);
+    QTest::qWait(1);
+    EXPECT_FALSE(canvas().grab().isNull());
+  }
+}
+
+TEST_F(Canvas, NamesWhatIsUnderThePointer) {
+  Screen screen;
+  form1().Label16[3].place(120, 900, 2400, 301.5f);
+  EXPECT_EQ(describe(state(), form1().Label16[3], screen).toStdString(),
+            "Label16(3)   Section 52   Search Results Screen   120, 900  2400 × 301.5 twips"
+            "   8, 60  160 × 20 px");
+  const QString button = describe(state(), form1().lvButtons_H1[2], screen);
+  EXPECT_TRUE(button.startsWith(QStringLiteral("lvButtons_H1(2)   Section 1   Frame, in Picture2(0)")))
+      << button.toStdString();
+  EXPECT_TRUE(describe(state(), form1().Label29.operator*(), screen).contains(QStringLiteral("no Section")));
+}
+
+class Dirt : public testing::Test {
+protected:
+  Dirt() {
+    box.setContainer(state.form1);
+    box.place(1500, 1500, 3000, 3000);
+    label.setContainer(box);
+    label.place(150, 150, 300, 150);
+    state.notices.subscribe([this](const Change& change) { dirty.add(change); });
+  }
+  State state;
+  PictureBox& box = state.form1.Picture2[0];
+  Label& label = state.form1.Label1[0];
+  DirtyArea dirty{1.0 / 15, 1.0 / 15};
+};
+
+TEST_F(Dirt, CoversTheOldPlaceAndTheNewOne) {
+  label.setLeft(1500);
+  const QRegion region = dirty.take();
+  EXPECT_TRUE(region.contains(QRect(110, 110, 20, 10)));
+  EXPECT_TRUE(region.contains(QRect(200, 110, 20, 10)));
+  EXPECT_FALSE(region.contains(QPoint(160, 115))) << "what lies between stays";
+  EXPECT_TRUE(dirty.isEmpty());
+  label.setHeight(15);
+  EXPECT_TRUE(dirty.take().contains(QRect(200, 110, 20, 10))) << "what it has left behind";
+}
+
+TEST_F(Dirt, LeavesOutWhatCannotBeSeen) {
+  label.setVisible(false);
+  EXPECT_TRUE(dirty.take().contains(QRect(110, 110, 20, 10)));
+  label.setCaption(QStringLiteral("unseen"));
+  label.setLeft(0);
+  EXPECT_TRUE(dirty.isEmpty());
+  box.setVisible(false);
+  dirty.take();
+  label.setVisible(true);
+  EXPECT_TRUE(dirty.isEmpty()) << "its container is hidden";
+}
+
+TEST_F(Dirt, StaysSmallHoweverMuchChanges) {
+  for (int i = 0; i < 20; ++i) {
+    const auto step = static_cast<float>(i);
+    state.form1.Label3[i].setContainer(state.form1);
+    for (int k = 0; k < 10; ++k)
+      state.form1.Label3[i].place(step * 900, static_cast<float>(k) * 700, 600, 200);
+  }
+  EXPECT_LE(dirty.take().rectCount(), 32);
+}
+
+}  // namespace
+}  // namespace veneerer

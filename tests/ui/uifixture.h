@@ -1,0 +1,47 @@
+// The real windows on a real designer, with the real widgets found by the keys of their elements.
+#pragma once
+
+#include <QApplication>
+#include <QtTest>
+
+#include "components/hittest.h"
+#include "designer/skinfixture.h"
+#include "ui/designerwindows.h"
+
+namespace veneerer::test {
+
+class UiFixture : public SkinFixture {
+protected:
+  void SetUp() override {
+    start();
+    windows = std::make_unique<DesignerWindows>(*designer);
+    for (Window* window : {static_cast<Window*>(&form1()), static_cast<Window*>(&form4()),
+                           static_cast<Window*>(&form5()), static_cast<Window*>(&form6())}) {
+      window->setVisible(false);
+      window->setVisible(true);
+    }
+    // The lists of fonts and the first paints.
+    QTest::qWait(1);
+  }
+
+  Form5& form5() { return state().form5; }
+  Form6& form6() { return state().form6; }
+
+  /// The widget that shows the element of that key; the test ends without it.
+  template <class W>
+  W& widget(const char* key) {
+    for (QWidget* candidate : QApplication::allWidgets())
+      if (candidate->objectName() == QLatin1String(key))
+        if (auto* found = qobject_cast<W*>(candidate)) return *found;
+    ADD_FAILURE() << "no widget shows " << key;
+    throw std::logic_error(key);
+  }
+  QWidget& canvas() { return widget<QWidget>("canvas"); }
+
+  /// The pixels of the canvas at the middle of an element.
+  static QPoint middle(const Element& element) { return (windowRect(element).center() / 15).toPoint(); }
+
+  std::unique_ptr<DesignerWindows> windows;
+};
+
+}  // namespace veneerer::test

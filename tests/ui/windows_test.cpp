@@ -1,0 +1,160 @@
+// The windows as windows: closing and coming back, places, keys, failures.
+#include <QMenuBar>
+#include <QMessageBox>
+
+#include "records/recorderror.h"
+#include "support/pictures.h"
+#include "ui/application.h"
+#include "ui/layouts.h"
+#include "ui/placement.h"
+#include "ui/uifixture.h"
+
+namespace veneerer {
+namespace {
+
+class Windows : public test::UiFixture {
+protected:
+  /// What the program's loop ends with when that happens in it; -1 when it goes on.
+  template <class F>
+  static int loopAround(F action) {
+    QTimer::singleShot(0, qApp, action);
+    QTimer goingOn;
+    goingOn.callOnTimeout([] { QCoreApplication::exit(-1); });
+    goingOn.start(2000);
+    return QApplication::exec();
+  }
+  QAction* menuEntry(const char* text) {
+    for (QAction* action : widget<QMainWindow>("Form1").findChildren<QAction*>())
+      if (action->text() == QLatin1String(text)) return action;
+    return nullptr;
+  }
+};
+
+TEST_F(Windows, AToolWindowClosesAndComesBack) {
+  auto& tools = widget<QWidget>("Form6");
+  EXPECT_TRUE(tools.isVisible());
+  tools.close();
+  EXPECT_FALSE(form6().isVisible());
+  QAction* bring = menuEntry("&Tools");
+  ASSERT_TRUE(bring);
+  bring->trigger();
+  EXPECT_TRUE(form6().isVisible());
+  EXPECT_TRUE(tools.isVisible());
+}
+
+TEST_F(Windows, ClosingTheCanvasOrTheChooserEndsTheProgram) {
+  EXPECT_EQ(loopAround([&] { widget<QWidget>("Form1").close(); }), 0);
+  state().form3.setVisible(true);
+  EXPECT_EQ(loopAround([&] { widget<QWidget>("Form3").close(); }), 0);
+}
+
+TEST_F(Windows, ScreensAreChosenFromTheMenuAndByKeys) {
+  QAction* history = menuEntry("History Screen");
+  ASSERT_TRUE(history);
+  history->trigger();
+  EXPECT_EQ(form6().Combo6->listIndex(), 1);
+  EXPECT_TRUE(form1().Picture1[1].isVisible());
+  EXPECT_TRUE(history->isChecked());
+  menuEntry("&Previous Screen")->trigger();
+  menuEntry("&Previous Screen")->trigger();
+  EXPECT_EQ(form6().Combo6->listIndex(), 0) << "there is nothing ahead of the first";
+  EXPECT_FALSE(history->isChecked());
+}
+
+TEST_F(Windows, TheTabulatorGoesInReadingOrder) {
+  const auto next = [](const QWidget* from) {
+    const QWidget* widget = from->nextInFocusChain();
+    while (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isVisible())
+      widget = widget->nextInFocusChain();
+    return widget->objectName().toStdString();
+  };
+  EXPECT_EQ(next(&widget<QWidget>("Form6.Text3(0)")), "Form6.Text3(1)");
+  EXPECT_EQ(next(&widget<QWidget>("Form6.Text3(1)")), "Form6.Command5");
+  EXPECT_EQ(next(&widget<QWidget>("Form6.Command5")), "Form6.Text9(0)");
+  EXPECT_EQ(next(&widget<QWidget>("Form4.Combo3")), "Form4.Command4");
+}
+
+TEST_F(Windows, FitBesideTheCanvasOnASmallScreen) {
+  const QSize room(1366 - 804, 768);
+  for (const char* key : {"Form2", "Form4", "Form5", "Form6"}) {
+    const QSize size = widget<QWidget>(key).sizeHint();
+    EXPECT_LE(size.width(), room.width()) << key;
+    EXPECT_LE(size.height() + 30, room.height()) << key;
+  }
+}
+
+TEST_F(Windows, ThumbnailsFollowTheirPicturesAndBearBrokenOnes) {
+  test::writePicture(path(QStringLiteral("images/green.png")), 400, 100, Qt::green);
+  test::writeBytes(path(QStringLiteral("images/bad.png")), "no picture at all");
+  auto& thumbnail = widget<QAbstractButton>("Form5.Image1(3)");
+  const auto shown = [&] { return thumbnail.grab().toImage(); };
+  const QPoint centre = thumbnail.rect().center();
+  form5().Image1[3].setPicture(state().pictures.load(path(QStringLiteral("images/green.png"))));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown().pixelColor(centre) == QColor(Qt::green); }, 5000));
+  EXPECT_NE(shown().pixelColor(centre.x(), 4), QColor(Qt::green)) << "it keeps its proportions";
+  form5().Image1[3].setPicture(state().pictures.load(path(QStringLiteral("images/bad.png"))));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown().pixelColor(centre) != QColor(Qt::green); }, 5000));
+}
+
+TEST_F(Windows, ThumbnailsChooseTheirPictures) {
+  test::writePicture(path(QStringLiteral("back.bmp")), 40, 30, Qt::blue);
+  world.dialogs.files.enqueue(path(QStringLiteral("back.bmp")));
+  QTest::mouseClick(&widget<QAbstractButton>("Form5.Image1(1)"), Qt::LeftButton);
+  EXPECT_EQ(form1().Picture1[1].picture().path().toStdString(),
+            path(QStringLiteral("back.bmp")).toStdString());
+}
+
+TEST(Placement, CoversNeitherTheCanvasNorOtherWindowsWhereThereIsRoom) {
+  const QList<QSize> sizes{{553, 712}, {560, 632}, {550, 690}, {454, 498}};
+  const auto overlaps = [](const QList<QRect>& places, const QRect& canvas) {
+    int count = 0;
+    for (const QRect& place : places) {
+      count += place.intersects(canvas) ? 1 : 0;
+      for (const QRect& other : places) count += &other != &place && other.intersects(place) ? 1 : 0;
+    }
+    return count;
+  };
+  const QSize canvas(808, 706);
+  const QRect wide(0, 0, 2560, 1440);
+  EXPECT_EQ(overlaps(placeBeside(wide, canvas, sizes), QRect(wide.topLeft(), canvas)), 0);
+  const QRect small(0, 24, 1368, 744);
+  for (const QRect& place : placeBeside(small, canvas, sizes)) {
+    EXPECT_TRUE(small.contains(place));
+    EXPECT_FALSE(place.intersects(QRect(small.topLeft(), canvas)));
+  }
+  const QRect tiny(0, 0, 640, 480);
+  for (const QRect& place : placeBeside(tiny, canvas, sizes))
+    EXPECT_TRUE(tiny.contains(place.topLeft())) << "the title can be reached";
+}
+
+TEST(Mnemonics, AreDifferentAndLeaveAmpersandsAlone) {
+  QWidget window;
+  auto* column = new QVBoxLayout(&window);
+  const QStringList texts{QStringLiteral("Save"), QStringLiteral("Save All"), QStringLiteral("Time && Date"),
+                          QStringLiteral("&Apply"), QStringLiteral("s")};
+  for (const QString& text : texts) column->addWidget(new QPushButton(text));
+  assignMnemonics(window);
+  QStringList result;
+  for (const QPushButton* button : window.findChildren<QPushButton*>()) result += button->text();
+  EXPECT_EQ(result.join(u'|').toStdString(), "&Save|Sa&ve All|&Time && Date|&Apply|s");
+}
+
+// Last: a program that has failed once says nothing more.
+TEST_F(Windows, ZMalformedFileIsToldOnceAndEndsTheProgram) {
+  QString told;
+  QTimer answer;
+  answer.callOnTimeout([&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box) return;
+    told = box->text();
+    box->accept();
+  });
+  answer.start(20);
+  const int status =
+      loopAround([] { throw RecordError(QStringLiteral("menu.ini"), 12, {}, {}, QStringLiteral("odd")); });
+  EXPECT_EQ(status, kFailureStatus);
+  EXPECT_TRUE(told.contains(QStringLiteral("menu.ini"))) << told.toStdString();
+}
+
+}  // namespace
+}  // namespace veneerer
