@@ -139,6 +139,7 @@ QImage Artist::backdrop() const {
   for (const design::Box& box : {plan.logo, plan.player, plan.status, plan.menu})
     paintBar(painter, rectOf(box));
   painter.fillRect(QRectF(0, plan.height, all.width(), kFrameSurplusDown), p.barEnd);
+  painter.fillRect(QRectF(plan.width, 0, kFrameSurplusAcross, all.height()), p.barEnd);
   return image;
 }
 
@@ -228,9 +229,7 @@ QImage Artist::banner(QSize size, const QString& text) const {
   const QRectF letters = all.adjusted(all.height() * 0.4, all.height() * 0.28, -4, -all.height() * 0.28);
   painter.setPen(QPen(Qt::white, all.height() * 0.07, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   drawLettering(painter, letters, text, Qt::AlignLeft);
-  painter.end();
-  return image.convertToFormat(QImage::Format_Indexed8, ramp(p.header, p.accent, Qt::white, 64),
-                               Qt::ThresholdDither | Qt::AvoidDither);
+  return image;
 }
 
 QImage Artist::card(QSize size, Icon icon) const {
@@ -239,7 +238,7 @@ QImage Artist::card(QSize size, Icon icon) const {
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF all = image.rect();
-  painter.fillRect(all, downwards(all, QColor(34, 39, 49), QColor(22, 26, 33)));
+  painter.fillRect(all, downwards(all, p.barEnd.lighter(130), p.barEnd));
   paintWatermark(painter, all, icon, withAlpha(p.accent, 40));
   painter.setPen(QPen(withAlpha(p.accent, 150), 1));
   painter.setBrush(Qt::NoBrush);
@@ -286,22 +285,47 @@ QImage Artist::track(QSize size) const {
   painter.fillRect(QRectF(0, 0, all.width() * 0.55, all.height()), filled);
   painter.setPen(QPen(p.line, 1));
   painter.drawRect(all.adjusted(0.5, 0.5, -0.5, -0.5));
-  painter.end();
-  return image.convertToFormat(QImage::Format_Indexed8, ramp(p.barEnd, p.accentEnd, p.accent, 128),
-                               Qt::ThresholdDither | Qt::AvoidDither);
+  return image;
 }
 
-QImage Artist::menuFace(QSize size, Icon icon) const {
+QRectF Artist::menuIconPlace(QSize size, int captionLines) const {
+  constexpr double kCaptionLine = 14;
+  const double width = size.width();
+  const double height = size.height();
+  if (look_.menuIcons == IconPlace::Left)
+    return QRectF(height * 0.22, height * 0.25, height * 0.5, height * 0.5);
+  if (look_.menuIcons == IconPlace::Lettered)
+    return QRectF((width - height * 0.34) / 2, height * 0.14, height * 0.34, height * 0.34);
+  // Half the lines, with an empty one on top, are above the middle of the face.
+  const double free = (height - kCaptionLine * (captionLines + 1)) / 2 + kCaptionLine;
+  const double side = std::min(free * 0.78, height * 0.4);
+  return QRectF((width - side) / 2, (free - side) * 0.6, side, side);
+}
+
+QImage Artist::menuFace(QSize size, Icon icon, const QStringList& caption) const {
   QImage image = clearImage(size);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
+  const double width = size.width();
   const double height = size.height();
-  const double side = look_.menuIcons == IconPlace::Above ? height * 0.36 : height * 0.5;
-  const QRectF place = look_.menuIcons == IconPlace::Above
-                           ? QRectF((size.width() - side) / 2, height * 0.12, side, side)
-                           : QRectF(height * 0.22, (height - side) / 2, side, side);
-  drawIcon(painter, place, icon, look_.palette.icon);
-  painter.fillRect(QRectF(height * 0.1, 1, size.width() - height * 0.2, 1), QColor(255, 255, 255, 50));
+  drawIcon(painter, menuIconPlace(size, static_cast<int>(caption.size())), icon, look_.palette.icon);
+  painter.fillRect(QRectF(height * 0.1, 1, width - height * 0.2, 1), QColor(255, 255, 255, 50));
+  if (look_.menuIcons != IconPlace::Lettered) return image;
+  painter.setPen(QPen(Qt::white, height * 0.019, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  double top = height * (caption.size() > 1 ? 0.6 : 0.68);
+  for (const QString& line : caption) {
+    drawLettering(painter, QRectF(width * 0.05, top, width * 0.9, height * 0.105), line.toUpper(),
+                  Qt::AlignHCenter);
+    top += height * 0.17;
+  }
+  return image;
+}
+
+QImage Artist::popup(QSize size) const {
+  QImage image = bar(size);
+  QPainter painter(&image);
+  painter.setPen(QPen(look_.palette.accent, 1));
+  painter.drawRect(QRectF(image.rect()).adjusted(0.5, 0.5, -0.5, -0.5));
   return image;
 }
 
@@ -347,7 +371,7 @@ QImage Artist::stars(QSize size) const {
   QImage image = clearImage(size);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(QColor(255, 196, 70), std::max(1.0, size.height() / 16.0), Qt::SolidLine, Qt::RoundCap,
+  painter.setPen(QPen(QColor(226, 150, 20), std::max(1.0, size.height() / 16.0), Qt::SolidLine, Qt::RoundCap,
                       Qt::RoundJoin));
   const double cell = size.width() / 5.0;
   const double radius = std::min(cell, static_cast<double>(size.height())) * 0.42;

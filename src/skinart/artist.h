@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QImage>
+#include <QStringList>
 #include <vector>
 
 #include "skinart/icons.h"
@@ -31,7 +32,10 @@ public:
   /// The ground of a slider.
   QImage track(QSize size) const;
   /// The face of a button with an icon, see-through elsewhere.
-  QImage menuFace(QSize size, Icon icon) const;
+  /// The caption's lines stand under an icon above them; lettering takes their place.
+  QImage menuFace(QSize size, Icon icon, const QStringList& caption) const;
+  /// The ground of a panel that lies on others.
+  QImage popup(QSize size) const;
   QImage iconFace(QSize size, Icon icon) const;
   /// The box that holds a prize; its outline is the button's.
   QImage prize(int side) const;
@@ -43,6 +47,7 @@ public:
 private:
   void paintMotif(QPainter& painter, const QRectF& area, double strength) const;
   void paintBar(QPainter& painter, const QRectF& area) const;
+  QRectF menuIconPlace(QSize size, int captionLines) const;
 
   const Look& look_;
 };

@@ -30,7 +30,11 @@ struct Palette {
 };
 
 /// Where an icon stands on the face of a menu button.
-enum class IconPlace { Above, Left };
+enum class IconPlace {
+  Above,    ///< over the caption
+  Left,     ///< beside the caption
+  Lettered  ///< over lettering that is a part of the picture, for buttons too large for their captions
+};
 
 /// Rows of the style lists that the Skin chooses.
 struct Choices {

@@ -10,13 +10,13 @@ using design::Theme;
 
 constexpr std::int32_t kWhite = rgb(255, 255, 255);
 
-// Panels that no picture of the built-in size must cover keep within the screens.
 Plan blackAndBluePlan() {
   Plan plan = design::builtInPlan();
   plan.dialog = {160, 80, 640, 520};
   plan.confirm = {220, 190, 520, 220};
-  plan.pin = {380, 146, 201, 305};
+  plan.pin = {589, 100, 201, 305};
   plan.name = {200, 130, 560, 60};
+  plan.namePoints = 22;
   return plan;
 }
 
@@ -26,19 +26,20 @@ Plan copperPlan() {
   plan.height = 768;
   plan.scale = 1.14;
   plan.textScale = 1.15;
-  plan.logo = {0, 0, 224, 92};
-  plan.player = {224, 0, 800, 92};
-  plan.screen = {0, 92, 1024, 512};
+  plan.logo = {0, 0, 224, 80};
+  plan.player = {224, 0, 800, 80};
+  plan.screen = {0, 80, 1024, 524};
   plan.status = {0, 604, 1024, 60};
   plan.menu = {0, 664, 1024, 104};
   plan.menuColumns = 7;
   plan.stage = plan.screen;
   plan.name = {112, 150, 800, 70};
-  plan.dialog = {122, 92, 780, 572};
-  plan.confirm = {202, 220, 620, 250};
-  plan.pin = {396, 180, 232, 350};
+  plan.namePoints = 22;
+  plan.dialog = {0, 80, 1024, 584};
+  plan.confirm = {202, 220, 620, 226};
+  plan.pin = {772, 120, 232, 350};
   plan.popup = {690, 150, 324, 450};
-  plan.genreBar = {0, 92, 120, 512};
+  plan.genreBar = {0, 80, 130, 524};
   plan.genreBarUpright = true;
   plan.statusOnBackdrop = true;
   plan.sliderUpright = true;
@@ -57,6 +58,7 @@ Theme copperTheme() {
       .bar = {rgb(30, 18, 13), kWhite, kCream, kSand, kAmber},
       .row = {rgb(58, 38, 28), kWhite, kCream, kSand, kAmber},
       .field = {rgb(250, 236, 214), rgb(38, 24, 18), rgb(38, 24, 18), rgb(80, 56, 40), rgb(120, 60, 10)},
+      .card = {design::kCardBack, kWhite, kCream, kSand, kAmber},
       .menu = {0, kSoft, rgb(98, 54, 28), kWhite, rgb(60, 32, 18), kSlant},
       .transport = {0, kSoft, rgb(134, 70, 24), kWhite, rgb(84, 42, 14), kSlant},
       .plain = {1, kSoft, rgb(92, 58, 40), kWhite, rgb(62, 38, 26), kSlant},
@@ -74,19 +76,21 @@ Plan daylightPlan() {
   plan.height = 1080;
   plan.scale = 1.66;
   plan.textScale = 1.5;
-  plan.player = {0, 0, 1632, 124};
+  plan.player = {0, 956, 1632, 124};
   plan.logo = {1632, 0, 288, 124};
   plan.menu = {1632, 124, 288, 956};
   plan.menuColumns = 2;
-  plan.screen = {0, 124, 1632, 860};
-  plan.status = {0, 984, 1632, 96};
+  plan.screen = {0, 0, 1632, 860};
+  plan.status = {0, 860, 1632, 96};
   plan.stage = plan.screen;
-  plan.name = {216, 220, 1200, 110};
-  plan.dialog = {266, 140, 1100, 880};
-  plan.confirm = {366, 360, 900, 380};
-  plan.pin = {646, 250, 340, 520};
-  plan.popup = {1150, 220, 470, 752};
-  plan.genreBar = {0, 124, 1632, 104};
+  plan.name = {216, 60, 1200, 110};
+  plan.namePoints = 22;
+  plan.dialog = {216, 8, 1200, 844};
+  plan.confirm = {366, 240, 900, 360};
+  plan.pin = {1240, 150, 340, 520};
+  plan.popup = {1150, 54, 470, 752};
+  plan.genreBar = {0, 0, 1632, 104};
+  plan.albumCounts = false;
   plan.statusOnBackdrop = true;
   return plan;
 }
@@ -105,6 +109,7 @@ Theme daylightTheme() {
       .bar = {rgb(0, 84, 96), kWhite, rgb(226, 246, 246), rgb(206, 234, 234), kMint},
       .row = {rgb(255, 255, 255), kInk, kSlate, kGrey, kTeal},
       .field = {rgb(255, 255, 255), kInk, kSlate, kGrey, kTeal},
+      .card = {design::kCardBack, kWhite, rgb(226, 240, 242), rgb(194, 216, 221), kMint},
       .menu = {0, kRounded, rgb(0, 106, 118), kWhite, rgb(0, 106, 118), 0},
       .transport = {0, kRounded, rgb(176, 66, 20), kWhite, rgb(176, 66, 20), 0},
       .plain = {0, kFlat, rgb(222, 234, 237), kInk, rgb(196, 216, 221), 2},
@@ -135,7 +140,7 @@ Look blackAndBlueLook() {
           .menuIcons = IconPlace::Above,
           .choices = {},
           .covers = {{"10 Covers.cov", {10, 5, true, false, false}, true, false},
-                     {"28 Covers.cov", {28, 7, false, false, false}, true, true}}};
+                     {"15 Covers.cov", {15, 5, false, false, false}, true, true}}};
 }
 
 Look copperLoungeLook() {
@@ -172,10 +177,10 @@ Look daylightWideLook() {
                       .line = QColor(176, 206, 212),
                       .icon = QColor(190, 246, 238)},
           .motif = Motif::Bubbles,
-          .menuIcons = IconPlace::Above,
+          .menuIcons = IconPlace::Lettered,
           .choices = {.jumpToLetter = 3, .navigation = 1, .genre = 2, .player = 2},
           .covers = {{"18 Covers.cov", {18, 6, false, false, false}, true, true},
-                     {"8 Featured.cov", {8, 4, true, true, false}, true, false}}};
+                     {"8 Covers.cov", {8, 4, true, false, false}, true, false}}};
 }
 
 }  // namespace veneerer::skinart

@@ -4,6 +4,8 @@
 #include <QFile>
 #include <stdexcept>
 
+#include "skinart/colourtable.h"
+
 namespace veneerer::skinart {
 
 namespace {
@@ -26,10 +28,12 @@ Pictures::Pictures(const QString& folder) : folder_(folder) {
 }
 
 QString Pictures::add(const QString& name, const QImage& image) const {
-  if (name.endsWith(QStringLiteral(".gif"))) return addGif(name, {image}, {});
+  if (name.endsWith(QStringLiteral(".gif"))) return addGif(name, {indexed(image)}, {});
   const QString path = folder_ + u'/' + name;
   const int quality = name.endsWith(QStringLiteral(".jpg")) ? kJpegQuality : kPngCompression;
-  if (!image.save(path, nullptr, quality)) fail(path);
+  // In 256 colours the file is a third in size.
+  const QImage saved = name.endsWith(QStringLiteral(".bmp")) ? indexed(image) : image;
+  if (!saved.save(path, nullptr, quality)) fail(path);
   return reference(name);
 }
 

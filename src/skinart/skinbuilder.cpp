@@ -160,10 +160,10 @@ private:
     Form1& f = state_.form1;
     ImageTable& names = state_.names.ImageName;
     names[0] = pictures_.add(QStringLiteral("backdrop.jpg"), artist_.backdrop());
-    names[13] = pictures_.add(QStringLiteral("Player.bmp"), indexed(artist_.bar(sizeOf(f.Picture2[1]))));
+    names[13] = pictures_.add(QStringLiteral("Player.bmp"), artist_.bar(sizeOf(f.Picture2[1])));
     names[14] = pictures_.add(QStringLiteral("logo.jpg"), artist_.logo(sizeOf(f.Picture2[2])));
-    pictures_.add(QStringLiteral("Menu.bmp"), indexed(artist_.bar(sizeOf(f.Picture2[0]))));
-    pictures_.add(QStringLiteral("Menupopup.bmp"), indexed(artist_.bar(sizeOf(*f.Picture23))));
+    pictures_.add(QStringLiteral("Menu.bmp"), artist_.bar(sizeOf(f.Picture2[0])));
+    pictures_.add(QStringLiteral("Menupopup.bmp"), artist_.popup(sizeOf(*f.Picture23)));
     pictures_.add(QStringLiteral("slider_back.bmp"), artist_.track(sizeOf(*f.Picture6)));
     pictures_.add(QStringLiteral("progress_slider_back.bmp"), artist_.track(sizeOf(*f.Picture18)));
     state_.names.MainPanelName =
@@ -190,11 +190,9 @@ private:
                   artist_.banner(sizeOf(f.Picture2[9]), QStringLiteral("GENRES")));
     pictures_.add(QStringLiteral("now playing.gif"),
                   artist_.banner(sizeOf(f.Picture3[3]), QStringLiteral("NOW PLAYING")));
-    pictures_.add(QStringLiteral("tracklist.gif"), indexed(artist_.cover(sizeOf(f.Picture2[10]).width())));
-    pictures_.add(QStringLiteral("alternate_track.bmp"),
-                  indexed(artist_.card(sizeOf(*f.Picture28), Icon::Note)));
-    pictures_.add(QStringLiteral("online_search.bmp"),
-                  indexed(artist_.card(sizeOf(*f.Picture29), Icon::Magnifier)));
+    pictures_.add(QStringLiteral("tracklist.gif"), artist_.cover(sizeOf(f.Picture2[10]).width()));
+    pictures_.add(QStringLiteral("alternate_track.bmp"), artist_.card(sizeOf(*f.Picture28), Icon::Note));
+    pictures_.add(QStringLiteral("online_search.bmp"), artist_.card(sizeOf(*f.Picture29), Icon::Magnifier));
     state_.names.NowPlayingPanelName =
         pictures_.add(QStringLiteral("playing_panel.jpg"), artist_.card(sizeOf(*f.Picture17), Icon::None));
     state_.names.FeedPanelName =
@@ -216,10 +214,12 @@ private:
     ImageTable& menu = state_.names.ofButtons(f.lvButtons_H1);
     for (int i = 0; i < 14; ++i) {
       Button& button = f.lvButtons_H1[i];
+      const QStringList caption = button.caption().split(QStringLiteral("||"));
       menu[i] = pictures_.add(imageFile(kMenuPictures[i].file),
-                              artist_.menuFace(sizeOf(button), kMenuPictures[i].icon));
+                              artist_.menuFace(sizeOf(button), kMenuPictures[i].icon, caption));
       // An empty first line keeps the caption clear of the icon above it.
       if (look_.menuIcons == IconPlace::Above) button.setCaption(QStringLiteral("||") + button.caption());
+      if (look_.menuIcons == IconPlace::Lettered) button.setCaption(QString());
     }
     ImageTable& transport = state_.names.ofButtons(f.lvButtons_H2);
     for (int i = 0; i < 3; ++i) {
@@ -269,11 +269,6 @@ private:
   int headerHeight() {
     const design::Composer composer(state_, look_.plan, look_.theme);
     return design::partsOf(composer, state_.form1.Picture1[1]).header.bottom() + composer.px(1);
-  }
-
-  // Pictures in the format of 256 colours are a third in size.
-  static QImage indexed(const QImage& image) {
-    return image.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither | Qt::AvoidDither);
   }
 
   static constexpr int kAlbumView = 8;  // row of the default home screens

@@ -10,6 +10,12 @@ constexpr const char* kTabs[] = {"Audio", "Video", "Karaoke", "Most||Played", "N
 constexpr const char* kQuickKeys[] = {"A", "B", "C", "D", "E", "F", "G", "H", "I", "J", "K", "L", "M", "N",
                                       "O", "P", "Q", "R", "S", "T", "U", "V", "W", "X", "Y", "Z", "#"};
 
+// Tall and narrow buttons have no room for sloping sides.
+ButtonLook upright(ButtonLook look) {
+  look.shape = 0;
+  return look;
+}
+
 void composeSlider(Composer& c, int i, const Box& place) {
   Form1& f = c.form;
   PictureBox& track = f.Picture13[i];
@@ -18,7 +24,7 @@ void composeSlider(Composer& c, int i, const Box& place) {
   const Box thumb = i == 0 ? Box{0, place.h / 3, side, 60} : Box{place.w / 3, 0, 80, side};
   const Box bubble = i == 0 ? Box{0, 0, side, 28} : Box{0, 0, 36, side};
   c.button(f.lvButtons_H55[i], track, bubble, QStringLiteral("A"), kNeutralButton);
-  c.button(f.lvButtons_H5[i], track, thumb, QStringLiteral("Slider"), c.theme.primary);
+  c.button(f.lvButtons_H5[i], track, thumb, QStringLiteral("Slider"), upright(c.theme.primary), 7);
 }
 
 // One of five ways to jump to a letter is shown, so they share the bar at the foot.
@@ -60,16 +66,16 @@ void composeFilter(Composer& c, Box area) {
 void composePlayingPanel(Composer& c, const Box& place) {
   Form1& f = c.form;
   PictureBox& panel = *f.Picture17;
-  c.panel(panel, f.Picture1[8], place, kCard.back);
+  c.panel(panel, f.Picture1[8], place, kCardBack);
   Box area = place.inside().inset(c.px(16));
   c.artwork(f.Picture3[2], panel, area.cutBottom(c.px(92), c.px(10)).centred(c.px(92), c.px(92)));
   const Grid rows(area, 1, 3, c.px(4));
-  constexpr TextLook kRows[] = {{kCard.heading, 16, true, Alignment::Center},
-                                {kCard.body, 13, false, Alignment::Center},
-                                {kCard.muted, 11, false, Alignment::Center}};
+  const TextLook looks[] = {{c.theme.card.heading, 16, true, Alignment::Center},
+                            {c.theme.card.body, 13, false, Alignment::Center},
+                            {c.theme.card.muted, 11, false, Alignment::Center}};
   for (int i = 0; i < 3; ++i) {
     const QString caption = i == 0 ? QStringLiteral("Now Playing ") : QStringLiteral("TEXT EXAMPLE");
-    c.line(f.Label7[i], panel, rows.cell(i), caption, kRows[i]);
+    c.line(f.Label7[i], panel, rows.cell(i), caption, looks[i]);
   }
 }
 
@@ -80,11 +86,13 @@ void composeAlbumView(Composer& c) {
   PictureBox& screen = f.Picture1[9];
   auto [header, body] = partsOf(c, screen);
   composeTabs(c, header.inset(0, c.px(2)));
-  const Box foot = body.cutBottom(c.px(kTouch), c.px(6));
+  const Box foot = Box(body).cutBottom(c.px(kTouch));
+  if (!c.plan.sliderUpright) body.cutBottom(c.px(kTouch), c.px(6));
   composeFilter(c, body.cutTop(c.px(28), c.px(6)));
-  c.button(f.lvButtons_H3[0], screen, body.cutLeft(c.px(52), c.px(8)), QStringLiteral("Back"), c.theme.plain);
+  c.button(f.lvButtons_H3[0], screen, body.cutLeft(c.px(52), c.px(8)), QStringLiteral("Back"),
+           upright(c.theme.plain));
   c.button(f.lvButtons_H3[2], screen, body.cutRight(c.px(52), c.px(8)), QStringLiteral("For-||ward"),
-           c.theme.plain);
+           upright(c.theme.plain));
   composeCovers(c, coverArea(c), CoverLayout());
   composeSlider(c, 0, body.cutRight(c.px(34)));
   composeJump(c, foot);
@@ -99,7 +107,7 @@ void composeNowPlaying(Composer& c) {
   const Box button = corner.cutRight(c.px(110), c.px(kMargin));
   c.button(*f.lvButtons_H21, screen, button, QStringLiteral("Fullscreen"), c.theme.primary);
   header.cutRight(button.w, c.px(kMargin));
-  c.panel(f.Picture3[3], screen, header.inset(0, c.px(4)), kCard.back);
+  c.panel(f.Picture3[3], screen, header.inset(0, c.px(4)), kCardBack);
   Box next = body.cutBottom(c.px(84), c.px(12));
   c.panel(f.Picture3[1], screen, next.cutLeft(next.h, c.px(12)), kArtwork);
   c.image(f.aicAlphaImage1[20], screen, next.cutRight(c.px(150), c.px(12)).centred(c.px(150), c.px(30)));

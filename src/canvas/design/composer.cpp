@@ -84,7 +84,7 @@ void Composer::buttons(Array<Button>& family, int first, Element& holder, const 
 
 ScreenParts partsOf(const Composer& c, const Element& screen) {
   Box all = boxOf(screen).inside().inset(c.px(kMargin), 0);
-  const Box header = all.cutTop(c.px(kHeaderHeight), c.px(4));
+  const Box header = all.cutTop(c.px(kHeaderHeight), c.px(8));
   all.cutBottom(c.px(kMargin));
   return {header, all};
 }

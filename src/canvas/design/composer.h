@@ -60,8 +60,8 @@ public:
   void buttons(Array<Button>& family, int first, Element& holder, const Grid& grid, Captions captions,
                const ButtonLook& look, int points = kButtonPoints);
 
-  static constexpr int kButtonPoints = 9;
-  static constexpr int kKeyPoints = 12;
+  static constexpr int kButtonPoints = 11;
+  static constexpr int kKeyPoints = 14;
 };
 
 /// A length along a screen's edge that keeps its parts off the edge, before the plan's scale.

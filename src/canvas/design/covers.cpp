@@ -92,7 +92,8 @@ void composeCovers(Composer& c, Box area, const CoverLayout& layout) {
 
 Box coverArea(const Composer& c) {
   Box area = partsOf(c, c.form.Picture1[9]).body;
-  area.cutBottom(c.px(kTouch), c.px(6));
+  // The slider makes the buttons at the foot needless.
+  if (!c.plan.sliderUpright) area.cutBottom(c.px(kTouch), c.px(6));
   area.cutTop(c.px(28), c.px(6));
   area = area.inset(c.px(60), 0);
   if (c.plan.sliderUpright) area.cutRight(c.px(34), c.px(8));

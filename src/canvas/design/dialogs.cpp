@@ -53,7 +53,7 @@ void composeSavePlaylist(Composer& c) {
 // Two texts that are typed, each on a ground of its own.
 void composeTwoFields(Composer& c, Array<Label>& labels, Element& screen, Box& area,
                       std::span<const char* const> captions) {
-  const TextLook look{c.theme.field.heading, 16, true};
+  const TextLook look{c.theme.field.heading, 16, true, Alignment::Center};
   for (int i = 0; i < 2; ++i)
     c.field(labels[i], screen, area.cutTop(c.lineOf(look), c.px(i == 0 ? 12 : 26)),
             QString::fromLatin1(captions[static_cast<std::size_t>(i)]), look);
@@ -93,9 +93,10 @@ void composeLogin(Composer& c) {
 
 void composeLicence(Composer& c) {
   PictureBox& screen = c.form.Picture1[26];
-  screen.setBackColor(kCard.back);
+  screen.setBackColor(kCardBack);
   c.text(c.form.Label27[3], screen, boxOf(screen).inside().inset(40, 36), QString::fromLatin1(kLicence),
-         {kCard.body, 14});
+         {c.theme.card.body, 14});
+  c.form.Label27[3].setFontSize(14);
 }
 
 void composeCollections(Composer& c) {
@@ -115,7 +116,8 @@ void composeCollections(Composer& c) {
 
 void composeConfirmation(Composer& c) {
   PictureBox& screen = c.form.Picture1[28];
-  Box area = boxOf(screen).inside().centred(c.px(560), c.px(110));
+  const Box inside = boxOf(screen).inside();
+  Box area = inside.centred(inside.w - 2 * c.px(kMargin), c.px(110));
   c.line(c.form.Label38[2], screen, area.cutTop(c.px(56)), QStringLiteral("Added To Queue, Thanks"),
          {c.theme.screen.heading, 24, true, Alignment::Center});
   c.line(c.form.Label38[3], screen, area, QStringLiteral("Artist - Track"),

@@ -17,7 +17,7 @@ void composeMenu(Composer& c) {
   c.panel(menu, c.form, c.plan.menu, c.theme.bar.back);
   const int columns = c.plan.menuColumns;
   const Grid grid(c.plan.menu.inside().inset(c.px(4)), columns, 14 / columns, c.px(4));
-  c.buttons(c.form.lvButtons_H1, 0, menu, grid, kMenu, c.theme.menu);
+  c.buttons(c.form.lvButtons_H1, 0, menu, grid, kMenu, c.theme.menu, 9);
 }
 
 // The volume is a slider or a pair of buttons, by the player's style, and both take the same place.
@@ -74,14 +74,14 @@ struct Chip {
 
 void composeStatusTexts(Composer& c, const Box& area) {
   Form1& f = c.form;
-  const Chip chips[] = {{f.Picture2[4], f.Label27[0], "Credits: 0", kCard.heading, true},
-                        {f.Picture2[5], f.Label27[1], "#Jukebox ID", kCard.muted, false},
-                        {f.Picture2[6], *f.Label41, "PAUSED", kCard.accent, true},
-                        {f.Picture2[7], f.Label4[4], "Message", kCard.body, false}};
+  const Chip chips[] = {{f.Picture2[4], f.Label27[0], "Credits: 0", c.theme.card.heading, true},
+                        {f.Picture2[5], f.Label27[1], "#Jukebox ID", c.theme.card.muted, false},
+                        {f.Picture2[6], *f.Label41, "PAUSED", c.theme.card.accent, true},
+                        {f.Picture2[7], f.Label4[4], "Message", c.theme.card.body, false}};
   const Grid grid(area, 2, 2, c.px(6), c.px(4));
   for (int i = 0; i < 4; ++i) {
     const Chip& chip = chips[i];
-    c.panel(chip.panel, f, grid.cell(i), kCard.back);
+    c.panel(chip.panel, f, grid.cell(i), kCardBack);
     c.line(chip.label, f, grid.cell(i).inset(c.px(6), 0), QString::fromLatin1(chip.caption),
            {chip.ink, 9, chip.bold, Alignment::Center});
   }
@@ -93,29 +93,30 @@ void composeStatus(Composer& c) {
   c.panel(f.Picture2[3], f, c.plan.statusOnBackdrop ? rule : c.plan.status, kBar);
   Box area = c.plan.status.inset(c.px(10), c.px(4));
   const auto next = [&](int index, const char* caption, const ButtonLook& look) {
-    const Box at = area.cutRight(c.px(66), c.px(5));
+    const Box at = area.cutRight(c.px(70), c.px(5));
     c.button(f.lvButtons_H57[index], f, at, QString::fromLatin1(caption), look, 8);
   };
   next(4, "Free||Credits?", c.theme.primary);
   next(3, "POP-UP||Player", c.theme.plain);
   next(2, "Forward", c.theme.plain);
-  next(1, "Jump To||Letter", c.theme.plain);
   next(0, "Back", c.theme.plain);
+  next(1, "Jump To||Letter", c.theme.plain);
   composeStatusTexts(c, area.cutLeft(c.px(176), c.px(5)));
-  c.text(*f.Label55, f, area, QStringLiteral("Current Page: 0/0"),
-         {c.theme.bar.body, 8, false, Alignment::Center});
+  c.line(*f.Label55, f, area, QStringLiteral("Page: 0/0"), {c.theme.bar.body, 8, false, Alignment::Right});
 }
 
 // What is seen where no screen stands.
 void composeStage(Composer& c) {
   Form1& f = c.form;
   c.panel(f.Picture2[12], f, c.plan.stage, c.theme.screen.back);
-  const Box banner = c.plan.stage.inset(c.px(40), c.px(30)).cutBottom(c.px(64));
-  c.panel(f.Picture2[13], f, banner, kCard.back);
+  const Box& stage = c.plan.stage;
+  const Box banner =
+      Box{stage.x, stage.y + stage.h * 18 / 25, stage.w, c.px(64)}.centred(c.px(420), c.px(64));
+  c.panel(f.Picture2[13], f, banner, kCardBack);
   c.line(f.Label4[5], f, banner.inset(c.px(14), 0), QStringLiteral("Touch an album to hear it"),
-         {kCard.heading, 14, true, Alignment::Center});
+         {c.theme.card.heading, 14, true, Alignment::Center});
   c.line(f.Label27[5], f, c.plan.name, QStringLiteral("#Jukebox Name"),
-         {c.theme.bar.heading, 12, true, Alignment::Center});
+         {c.theme.bar.heading, c.plan.namePoints, true, Alignment::Center});
 }
 
 // Kept on the frame by the jukebox; nothing of a Skin shows in them.
@@ -128,8 +129,8 @@ void composeHidden(Composer& c) {
     element->setVisible(false);
     put(*element, corner);
   }
-  f.Picture21->setBackColor(kCard.back);
-  f.Picture22->setBackColor(kCard.back);
+  f.Picture21->setBackColor(kCardBack);
+  f.Picture22->setBackColor(kCardBack);
 }
 
 }  // namespace

@@ -28,11 +28,12 @@ void composeTile(Composer& c, const Box& tile, int i) {
   Box inner = tile.inset(c.px(6), c.px(4));
   inner.cutTop(c.lineOf(name), c.px(2));
   const TextLook count{on.muted, 8, false, Alignment::Center};
-  const Box counted = inner.cutBottom(c.lineOf(count), c.px(2));
+  const Box counted = Box(inner).cutBottom(c.lineOf(count));
+  if (c.plan.albumCounts) inner.cutBottom(counted.h, c.px(2));
   c.artwork(f.Picture20[i], screen, inner);
   f.Picture20[i].setToolTipText(QStringLiteral("Genre Icon  %1").arg(i));
   const Grid thumbs(inner.inset(c.px(2)), 4, 1, c.px(2));
-  for (int k = 0; k < 4; ++k) c.panel(f.Picture26[4 * i + k], screen, thumbs.cell(k), kCard.back);
+  for (int k = 0; k < 4; ++k) c.panel(f.Picture26[4 * i + k], screen, thumbs.cell(k), kThumbnail);
   c.text(f.Label59[i], screen, counted, QStringLiteral("() Album(s)"), count);
 }
 
@@ -48,7 +49,7 @@ void composeHeader(Composer& c, Box header) {
   c.button(f.lvButtons_H35[2], screen, step.cell(0), QStringLiteral("<"), c.theme.plain, 14);
   c.button(f.lvButtons_H35[1], screen, step.cell(1), QStringLiteral("Back"), c.theme.plain);
   c.button(f.lvButtons_H35[0], screen, step.cell(2), QStringLiteral(">"), c.theme.plain, 14);
-  c.panel(f.Picture2[9], screen, header.inset(0, c.px(4)), kCard.back);
+  c.panel(f.Picture2[9], screen, header.inset(0, c.px(4)), kCardBack);
 }
 
 // Either the one button or the letters are shown.

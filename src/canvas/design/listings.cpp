@@ -111,7 +111,7 @@ void composeTop20(Composer& c) {
   auto [header, body] = partsOf(c, screen);
   Box tabs = header.inset(0, c.px(2)).cutRight(2 * c.px(110) + c.px(kGap), c.px(kMargin));
   header.cutRight(tabs.w, c.px(kMargin));
-  c.panel(c.form.Picture2[8], screen, header.inset(0, c.px(4)), kCard.back);
+  c.panel(c.form.Picture2[8], screen, header.inset(0, c.px(4)), kCardBack);
   const Grid tabGrid(tabs, 2, 1, c.px(kGap));
   c.button(c.form.lvButtons_H59[0], screen, tabGrid.cell(0), QStringLiteral("All"), c.theme.tab);
   c.button(c.form.lvButtons_H59[1], screen, tabGrid.cell(1), QStringLiteral("My Top 10"), c.theme.tab);

@@ -10,6 +10,7 @@ constexpr const char* kShelves[] = {"Show More||By Artist", "Show More||By Year"
 constexpr const char* kAccount[] = {"My Playlists", "My Top 10", "My Requests", "Edit Account",
                                     "Add Credits",  "Log Out",   "Back"};
 constexpr int kLinesOnShelf = 4;
+constexpr int kTitleWidth = 180;
 
 // A picture, four lines beside it, and the button that shows more of the same.
 void composeShelf(Composer& c, Box area, int shelf) {
@@ -45,12 +46,13 @@ void composeAccount(Composer& c, Box area) {
 void composeKeys(Composer& c, const Box& place) {
   Form1& f = c.form;
   PictureBox& panel = f.Picture25[3];
-  c.panel(panel, f.Picture1[25], place, kCard.back);
+  c.panel(panel, f.Picture1[25], place, kCardBack);
   Box area = place.inside().inset(c.px(8), c.px(6));
   const Grid prompts(area.cutTop(c.px(20), c.px(2)), 2, 1, c.px(8));
-  c.line(f.Label58[17], panel, prompts.cell(0), QStringLiteral("Enter D.O.B."), {kCard.heading, 10, true});
+  c.line(f.Label58[17], panel, prompts.cell(0), QStringLiteral("Enter D.O.B."),
+         {c.theme.card.heading, 10, true});
   c.line(f.Label58[18], panel, prompts.cell(1), QStringLiteral("Enter Email Address"),
-         {kCard.heading, 10, true});
+         {c.theme.card.heading, 10, true});
   Keyboard keyboard(c, f.lvButtons_H60, panel, area, 5);
   keyboard.digits(f.lvButtons_H60, 36, 0);
   keyboard.letters(10, 1);
@@ -65,11 +67,14 @@ void composeKeys(Composer& c, const Box& place) {
 void composeMemberHome(Composer& c) {
   Form1& f = c.form;
   PictureBox& screen = f.Picture1[25];
-  Box area = boxOf(screen).inside().inset(c.px(16), c.px(8));
-  const Box header = area.cutTop(c.px(34), c.px(2));
+  Box area = boxOf(screen).inside().inset(c.px(16), 0);
+  Box header = area.cutTop(c.px(kHeaderHeight), c.px(8));
+  header.cutLeft(kTitleWidth);
+  area.cutBottom(c.px(8));
   // No record holds this one, so it keeps to the corner where it fits on every screen.
-  c.text(*f.Label57, screen, {16, 12, 180, lineHeight(14)}, QStringLiteral("My V-Quill"),
+  c.text(*f.Label57, screen, {16, 12, kTitleWidth, lineHeight(14)}, QStringLiteral("My V-Quill"),
          {c.theme.header.heading, 14, true});
+  f.Label57->setFontSize(14);
   c.line(f.Label27[4], screen, header, QStringLiteral("Credits: 0"),
          {c.theme.header.accent, 11, true, Alignment::Right});
   composeKeys(c, area.cutBottom(c.px(244), c.px(6)));

@@ -27,21 +27,21 @@ constexpr const char* kPlayOptions[] = {
 void composeAlternates(Composer& c, const Box& place) {
   Form1& f = c.form;
   PictureBox& panel = *f.Picture28;
-  c.panel(panel, f.Picture1[15], place, kCard.back);
+  c.panel(panel, f.Picture1[15], place, kCardBack);
   const Grid rows(place.inside().inset(c.px(10), c.px(8)), 1, 4, 0);
   for (int i = 0; i < 4; ++i)
     c.line(f.Label33[4 + i], panel, rows.cell(i), QStringLiteral("Alternate Song %1").arg(i + 1),
-           {kCard.body, 10});
+           {c.theme.card.body, 10});
 }
 
 void composeKeys(Composer& c, const Box& place) {
   Form1& f = c.form;
   PictureBox& panel = *f.Picture32;
-  c.panel(panel, f.Picture1[15], place, kCard.back);
+  c.panel(panel, f.Picture1[15], place, kCardBack);
   Box area = place.inside().inset(c.px(10), c.px(8));
   Box top = area.cutTop(c.px(28), c.px(6));
   c.artwork(*f.Picture33, panel, top.cutLeft(top.h, c.px(8)));
-  c.line(f.Label33[8], panel, top, QStringLiteral("Message"), {kCard.heading, 12, true});
+  c.line(f.Label33[8], panel, top, QStringLiteral("Message"), {c.theme.card.heading, 12, true});
   Keyboard keyboard(c, f.lvButtons_H62, panel, area, 3);
   keyboard.letters(0, 0);
   constexpr WordKey kWords[] = {{26, 2, 0, 3, "Space"}, {27, 2, 17, 3, "Done"}};

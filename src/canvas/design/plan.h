@@ -15,7 +15,8 @@ struct Plan {
   Box menu;
   int menuColumns = 1;
   Box logo;
-  Box name;  ///< the jukebox's name
+  Box name;             ///< the jukebox's name
+  int namePoints = 12;  ///< its size before the text scale
   Box player;
   Box status;                     ///< the bar of credits, messages and the navigation of the main screen
   bool statusOnBackdrop = false;  ///< the status bar is a part of the backdrop, only a line parts it off
@@ -29,6 +30,7 @@ struct Plan {
   Box genreBar;
   bool genreBarUpright = false;
 
+  bool albumCounts = true;     ///< room for the number of albums on each genre
   bool sliderUpright = false;  ///< keeps a column of the album view free for the vertical slider
 };
 

@@ -9,17 +9,19 @@ constexpr int kPinScreen = 16;
 constexpr int kLicenceScreen = 26;
 constexpr int kConfirmScreen = 28;
 
-const Box& placeOf(const Plan& plan, int screen) {
+Box placeOf(const Plan& plan, int screen) {
+  // No record holds this one: it stands where the design has it in every Skin.
+  if (screen == kLicenceScreen) return builtInPlan().screen;
   if (screen == kPinScreen) return plan.pin;
   if (screen == kConfirmScreen) return plan.confirm;
-  return screen < kFirstDialog || screen == kLicenceScreen ? plan.screen : plan.dialog;
+  return screen < kFirstDialog ? plan.screen : plan.dialog;
 }
 
 }  // namespace
 
 void composeScreens(Composer& c) {
   for (int i = 0; i < 30; ++i) c.panel(c.form.Picture1[i], c.form, placeOf(c.plan, i), c.theme.screen.back);
-  c.panel(c.form.Picture12[0], c.form, c.plan.genreBar, kCard.back);
+  c.panel(c.form.Picture12[0], c.form, c.plan.genreBar, kCardBack);
   c.panel(*c.form.Picture23, c.form, c.plan.popup, c.theme.bar.back);
 }
 

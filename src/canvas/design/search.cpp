@@ -62,7 +62,7 @@ void composeResultRow(Composer& c, const Box& row, int i) {
 
 void composeInternetTracks(Composer& c, const Box& place) {
   PictureBox& panel = *c.form.Picture29;
-  c.panel(panel, c.form.Picture1[22], place, kCard.back);
+  c.panel(panel, c.form.Picture1[22], place, kCardBack);
   Box area = place.inside().inset(c.px(12));
   const Grid arrows(area.cutRight(c.px(92), c.px(12)), 1, 2, c.px(kGap));
   c.button(c.form.lvButtons_H53[3], panel, arrows.cell(0), QStringLiteral("UP"), c.theme.plain);
@@ -70,7 +70,7 @@ void composeInternetTracks(Composer& c, const Box& place) {
   const Grid rows(area, 1, 5, c.px(4));
   for (int i = 0; i < 5; ++i)
     c.line(c.form.Label51[2 + i], panel, rows.cell(i), QStringLiteral("Internet Track 0%1").arg(i + 1),
-           {kCard.body, 11});
+           {c.theme.card.body, 11});
 }
 
 }  // namespace
@@ -87,7 +87,7 @@ void composeSearch(Composer& c) {
   c.line(*c.form.Label39, screen, header, QStringLiteral("Searching In ...."),
          {c.theme.header.heading, 16, true});
   const Box keys = body.cutBottom(c.px(196), c.px(8));
-  const TextLook searched{c.theme.field.heading, 16, true};
+  const TextLook searched{c.theme.field.heading, 16, true, Alignment::Center};
   c.field(*c.form.Label32, screen, body.cutTop(c.lineOf(searched), c.px(8)), QStringLiteral("TEXT EXAMPLE"),
           searched);
   composeQuickResults(c, body);
@@ -119,7 +119,7 @@ void composeSearchResults(Composer& c) {
 void composeSearchChoice(Composer& c) {
   PictureBox& screen = c.form.Picture1[14];
   Box area = boxOf(screen).inside().inset(c.px(40), c.px(28));
-  c.panel(c.form.Picture2[11], screen, area.cutTop(c.px(96), c.px(24)), kCard.back);
+  c.panel(c.form.Picture2[11], screen, area.cutTop(c.px(96), c.px(24)), kCardBack);
   const Box cancel = area.cutBottom(c.px(56), c.px(24));
   const Grid choices(area, 1, 3, c.px(14));
   c.buttons(c.form.lvButtons_H25, 0, screen, choices,

@@ -18,6 +18,7 @@ constexpr Theme kBlackAndBlue = {
     .bar = {rgb(14, 20, 31), kWhite, kPale, kSteel, kSky},
     .row = {rgb(20, 29, 45), kWhite, kPale, kSteel, kSky},
     .field = {rgb(30, 45, 72), kWhite, kPale, kSteel, kSky},
+    .card = {kCardBack, kWhite, kPale, kSteel, kSky},
     .menu = {0, kAccentStyle, rgb(28, 46, 78), kWhite, rgb(14, 24, 42), kDownwards},
     .transport = {0, kAccentStyle, rgb(0, 88, 168), kWhite, rgb(0, 46, 98), kDownwards},
     .plain = {0, kAccentStyle, rgb(34, 54, 88), kWhite, rgb(18, 30, 52), kDownwards},

@@ -34,6 +34,7 @@ struct Theme {
   Ground bar;     ///< menu, player and status bars
   Ground row;     ///< a row of a list
   Ground field;   ///< where a text is typed
+  Ground card;    ///< texts on panels whose ground is kCardBack in every Skin
   ButtonLook menu;
   ButtonLook transport;
   ButtonLook plain;
@@ -47,11 +48,12 @@ struct Theme {
 // No record holds the colours of these, so they look the same in every Skin: neutral darks that go with any
 // palette.
 
-/// Panels and placeholders of pictures.
-inline constexpr Ground kCard = {rgb(27, 31, 39), rgb(255, 255, 255), rgb(232, 236, 242), rgb(168, 177, 190),
-                                 rgb(120, 190, 255)};
+/// Panels, and the ground of Theme::card.
+inline constexpr std::int32_t kCardBack = rgb(30, 30, 31);
 /// A picture that is still to come.
-inline constexpr std::int32_t kArtwork = rgb(46, 53, 66);
+inline constexpr std::int32_t kArtwork = rgb(54, 56, 60);
+/// One of several small pictures on a larger one.
+inline constexpr std::int32_t kThumbnail = rgb(96, 100, 108);
 /// Buttons that no record, or only another button's, brings back.
 inline constexpr ButtonLook kNeutralButton = {0, 6, rgb(58, 64, 76), rgb(255, 255, 255), rgb(38, 43, 53), 2};
 inline constexpr ButtonLook kDangerButton = {0, 6, rgb(150, 30, 38), rgb(255, 255, 255), rgb(104, 16, 24), 2};

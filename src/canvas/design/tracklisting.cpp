@@ -16,19 +16,19 @@ void composeAlbumInfo(Composer& c, Box area) {
   c.line(f.Label2[2], screen, area.cutTop(c.px(18)), QStringLiteral("Released : "), {on.body, 9});
   c.line(f.Label2[3], screen, area.cutTop(c.px(18), c.px(6)), QStringLiteral("Genre : "), {on.body, 9});
   Box feed = area.cutTop(area.h * 9 / 20, c.px(6));
-  c.panel(f.Picture2[14], screen, feed, kCard.back);
+  c.panel(f.Picture2[14], screen, feed, kCardBack);
   const Grid lines(feed.inset(c.px(6), c.px(3)), 1, 5, 0);
   for (int i = 0; i < 5; ++i)
     c.line(f.Label2[4 + i], screen, lines.cell(i), QStringLiteral("RSS Feed"),
-           {i == 0 ? kCard.heading : kCard.muted, 8, i == 0});
+           {i == 0 ? c.theme.card.heading : c.theme.card.muted, 8, i == 0});
   PictureBox& story = f.Picture2[15];
-  c.panel(story, screen, area, kCard.back);
+  c.panel(story, screen, area, kCardBack);
   Box inside = area.inside().inset(c.px(6), c.px(4));
   c.button(f.lvButtons_H8[2], story, inside.cutBottom(c.px(32), c.px(4)), QStringLiteral("Read More"),
            c.theme.plain);
   c.line(f.Label2[9], story, inside.cutTop(c.px(16)), QStringLiteral("RSS Headline"),
-         {kCard.heading, 9, true});
-  c.text(f.Label2[10], story, inside, QStringLiteral("RSS Body"), {kCard.body, 8});
+         {c.theme.card.heading, 9, true});
+  c.text(f.Label2[10], story, inside, QStringLiteral("RSS Body"), {c.theme.card.body, 8});
 }
 
 void composeTrackRow(Composer& c, Box row, int i) {
@@ -37,14 +37,14 @@ void composeTrackRow(Composer& c, Box row, int i) {
   c.image(f.aicAlphaImage1[i], screen, row.cutRight(c.px(60), c.px(4)).inset(0, c.px(2)));
   f.aicAlphaImage1[i].setToolTipText(QStringLiteral("Star Rating %1").arg(i));
   c.line(f.Label60[i], screen, row.cutRight(c.px(78), c.px(4)), QStringLiteral("Play Count:  %1").arg(i),
-         {kCard.muted, 8, false, Alignment::Right});
+         {c.theme.card.muted, 8, false, Alignment::Right});
   c.line(f.Label3[i], screen, row.cutLeft(c.px(56), c.px(4)), QStringLiteral("Track  %1").arg(i),
-         {kCard.accent, 9});
-  c.line(f.Label1[i], screen, row, QStringLiteral("Track Listing  %1").arg(i), {kCard.body, 9});
+         {c.theme.card.accent, 9});
+  c.line(f.Label1[i], screen, row, QStringLiteral("Track Listing  %1").arg(i), {c.theme.card.body, 9});
 }
 
 void composeTracks(Composer& c, const Box& area) {
-  c.panel(*c.form.Picture8, c.form.Picture1[10], area, kCard.back);
+  c.panel(*c.form.Picture8, c.form.Picture1[10], area, kCardBack);
   const Grid rows(area.inset(c.px(8), c.px(3)), 1, kTracks, 0);
   for (int i = 0; i < kTracks; ++i) composeTrackRow(c, rows.cell(i), i);
 }
@@ -76,7 +76,7 @@ void composeFooter(Composer& c, Box foot) {
            c.theme.plain);
   const Grid add(foot.cutRight(2 * c.px(84) + c.px(4), c.px(kGap)), 2, 1, c.px(4));
   c.buttons(f.lvButtons_H10, 0, screen, add,
-            std::to_array<const char*>({"Add Entire||Album", "Add||Playlist"}), c.theme.primary);
+            std::to_array<const char*>({"Add Entire||Album", "Add||Playlist"}), c.theme.primary, 9);
   const Grid by(foot, 6, 1, c.px(4));
   c.buttons(f.lvButtons_H12, 0, screen, by, kFooter, c.theme.plain, 8);
   c.button(f.lvButtons_H12[7], screen, by.cell(5), QStringLiteral("Show||All"), c.theme.plain, 8);
