@@ -31,7 +31,9 @@ struct Section {
   /// tool on an array still sees the old index.
   bool clearsIndex = false;
 
-  bool serves(ToolField field) const { return fields.find(static_cast<char>(field)) != fields.npos; }
+  bool serves(ToolField field) const {
+    return fields.find(static_cast<char>(field)) != std::string_view::npos;
+  }
 };
 
 /// Every Section with a family, by its number. Section 7 has none and no click makes it current.
