@@ -1,6 +1,7 @@
 #include "skinart/colourtable.h"
 
 #include <algorithm>
+#include <cstring>
 #include <map>
 #include <vector>
 
@@ -98,6 +99,8 @@ QImage indexed(const QImage& image) {
   }
   QImage result(source.size(), QImage::Format_Indexed8);
   result.setColorTable(table);
+  // The bytes that pad a line are written to BMP files as they are, and filling leaves them alone.
+  std::memset(result.bits(), 0, static_cast<std::size_t>(result.sizeInBytes()));
   for (int y = 0; y < source.height(); ++y) {
     const auto* line = reinterpret_cast<const QRgb*>(source.constScanLine(y));
     uchar* out = result.scanLine(y);

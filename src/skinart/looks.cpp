@@ -14,9 +14,9 @@ Plan blackAndBluePlan() {
   Plan plan = design::builtInPlan();
   plan.dialog = {160, 80, 640, 520};
   plan.confirm = {220, 190, 520, 220};
-  plan.pin = {589, 100, 201, 305};
+  plan.pin = {594, 100, 201, 305};
   plan.name = {200, 130, 560, 60};
-  plan.namePoints = 22;
+  plan.namePoints = 20;
   return plan;
 }
 
