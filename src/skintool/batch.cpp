@@ -108,7 +108,7 @@ int check(const Arguments& arguments, std::FILE* out) {
     }
   }
   const auto isError = [](const Finding& finding) { return finding.isError; };
-  std::ranges::stable_partition(findings, isError);
+  std::stable_partition(findings.begin(), findings.end(), isError);
   for (const Finding& finding : findings) print(out, finding.message().toLocal8Bit() + '\n');
   return std::ranges::any_of(findings, isError) ? 1 : 0;
 }
