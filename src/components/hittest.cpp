@@ -1,6 +1,5 @@
 #include "components/hittest.h"
 
-#include <ranges>
 
 #include "elements/family.h"
 #include "elements/window.h"
@@ -16,10 +15,12 @@ bool holds(const Element& element, double x, double y) {
 
 // The topmost hit among the children, the point being in the container's coordinates.
 Element* childAt(const Element& container, double x, double y) {
-  for (Element* child : container.children() | std::views::reverse) {
-    if (!child->isVisible() || !holds(*child, x, y)) continue;
-    if (Element* inner = childAt(*child, x - child->left(), y - child->top())) return inner;
-    if (!isSeeThrough(*child)) return child;
+  const std::vector<Element*>& children = container.children();
+  for (auto at = children.rbegin(); at != children.rend(); ++at) {
+    Element& child = **at;
+    if (!child.isVisible() || !holds(child, x, y)) continue;
+    if (Element* inner = childAt(child, x - child.left(), y - child.top())) return inner;
+    if (!isSeeThrough(child)) return &child;
   }
   return nullptr;
 }
