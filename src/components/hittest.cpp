@@ -1,6 +1,5 @@
 #include "components/hittest.h"
 
-
 #include "elements/family.h"
 #include "elements/window.h"
 
