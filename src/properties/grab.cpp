@@ -63,7 +63,7 @@ Piece composePiece(const State& state, PictureBox& panel, const char* name, cons
 }
 
 SkinFolder imagesFolder(const SkinFolder& skin) {
-  const SkinFolder images(skin.path() + QStringLiteral("/images"));
+  SkinFolder images(skin.path() + QStringLiteral("/images"));
   if (skin.exists()) QDir().mkpath(images.path());
   if (!skin.contains(images.path()))
     throw RecordError(QStringLiteral("images"), 0, {}, {},
