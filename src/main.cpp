@@ -39,7 +39,8 @@ int main(int argc, char** argv) {
 
   QtDialogs dialogs(SkinsRoot(folder).path());
   IniSettings settings;
-  Platform platform{dialogs, settings, primaryScreen(), folder};
+  QtProgress progress;
+  Platform platform{dialogs, settings, primaryScreen(), folder, &progress};
   Designer designer(platform);
   DesignerWindows windows(designer);
   QTimer::singleShot(0, [&] { designer.startUp(); });

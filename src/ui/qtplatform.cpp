@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QScreen>
 #include <QSettings>
 
@@ -15,12 +16,10 @@ namespace veneerer {
 
 namespace {
 
-// What a dialog stands on: with nothing active it would end up under the splash.
+// The window that a dialog belongs to. The splash is none: it goes while its question may still stand.
 QWidget* dialogParent() {
-  if (QWidget* active = QApplication::activeWindow()) return active;
-  for (QWidget* window : QApplication::topLevelWidgets())
-    if (window->isVisible()) return window;
-  return nullptr;
+  QWidget* active = QApplication::activeWindow();
+  return active && active->windowType() != Qt::SplashScreen ? active : nullptr;
 }
 
 bool runBox(const QString& title, const QString& text, QMessageBox::Icon icon,
@@ -75,6 +74,24 @@ std::optional<FontChoice> QtDialogs::chooseFont(const FontChoice& initial) {
   const QFont font = QFontDialog::getFont(&chosen, toQFont(initial), dialogParent());
   if (!chosen) return std::nullopt;
   return fromQFont(font);
+}
+
+QtProgress::QtProgress() = default;
+
+QtProgress::~QtProgress() = default;
+
+void QtProgress::step(int done, int total, const QString& what) {
+  if (done >= total) return window_.reset();
+  if (!window_) {
+    window_ = std::make_unique<QProgressDialog>(dialogParent());
+    window_->setWindowModality(Qt::ApplicationModal);
+    window_->setCancelButton(nullptr);
+    window_->setMinimumDuration(0);
+    window_->setMaximum(total);
+  }
+  window_->setLabelText(what);
+  // A modal bar lets pending events run.
+  window_->setValue(done);
 }
 
 QString IniSettings::value(const QString& section, const QString& key, const QString& defaultValue) const {

@@ -1,7 +1,11 @@
 // The real world: message boxes, the common dialogs, the settings store and the screen.
 #pragma once
 
+#include <memory>
+
 #include "platform/platform.h"
+
+class QProgressDialog;
 
 namespace veneerer {
 
@@ -18,6 +22,18 @@ public:
 
 private:
   QString folder_;
+};
+
+/// A small window with a bar, while something takes long. The other windows go on being painted but take no
+/// input meanwhile.
+class QtProgress : public Progress {
+public:
+  QtProgress();
+  ~QtProgress() override;
+  void step(int done, int total, const QString& what) override;
+
+private:
+  std::unique_ptr<QProgressDialog> window_;
 };
 
 /// One file of the user's configuration folder, "V-Quill 8.ini".
