@@ -88,7 +88,8 @@ void CanvasPainter::paintOne(QPainter& painter, const Element& element, const QR
     case Kind::Label:
       return paintLabel(painter, static_cast<const Label&>(element), rect, clip);
     case Kind::Button:
-      return buttons_.paint(painter, static_cast<const Button&>(element), rect, clip, scale_, {});
+      return buttons_.paint(painter, static_cast<const Button&>(element), rect, clip, scale_,
+                            {.hover = &element == hovered_});
     case Kind::PictureBox:
       return paintPictureBox(painter, static_cast<const PictureBox&>(element), rect, clip);
     case Kind::ImageBox:

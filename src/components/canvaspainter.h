@@ -29,6 +29,10 @@ public:
 
   void setFrameSource(FrameSource source) { frames_ = std::move(source); }
 
+  /// The element that the operator is pointing at: a button among the canvas's elements is painted so. Null for
+  /// none.
+  void setHovered(const Element* element) { hovered_ = element; }
+
   /// Paints the canvas window: its colour, its picture in its own size at the top left, then the visible
   /// elements in stacking order, each within its containers. Only what touches the exposed rectangle
   /// (device-independent pixels) is painted. A screen of 96 dots per inch has 1/15 pixels per twip. Pictures
@@ -51,6 +55,7 @@ private:
   ScaledImages images_;
   ButtonPainter buttons_{texts_, images_};
   FrameSource frames_;
+  const Element* hovered_ = nullptr;
   PixelScale scale_;
 
   void begin(QPainter& painter, double pixelsPerTwipX, double pixelsPerTwipY);

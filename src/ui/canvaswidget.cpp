@@ -38,10 +38,7 @@ CanvasWidget::CanvasWidget(const Ui& ui)
       pixelsPerTwipY_(1 / ui.hands.screen().twipsPerPixelY()),
       subscription_(state_.notices.subscribe([this](const Change& change) { changed(change); })),
       dirty_(pixelsPerTwipX_, pixelsPerTwipY_),
-      frames_(state_.form1, [this](const Element& frame) {
-        dirty_.add(dirty_.pixelsOf(windowRect(frame)));
-        scheduleRepaint();
-      }) {
+      frames_(state_.form1, [this](const Element& frame) { repaintElement(frame); }) {
   painter_.setFrameSource([this](const Element& frame) { return frames_.frame(frame); });
   setObjectName(QStringLiteral("canvas"));
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -158,7 +155,17 @@ void CanvasWidget::showToolTip(const QPoint& global, const QPoint& place) {
 }
 
 void CanvasWidget::point(Element* element) {
-  if (std::exchange(pointed_, element) != element) Q_EMIT pointed(element);
+  Element* before = std::exchange(pointed_, element);
+  if (before == element) return;
+  painter_.setHovered(element);
+  for (const Element* e : {before, element})
+    if (e && e->kind() == Kind::Button) repaintElement(*e);
+  Q_EMIT pointed(element);
+}
+
+void CanvasWidget::repaintElement(const Element& element) {
+  dirty_.add(dirty_.pixelsOf(windowRect(element)));
+  scheduleRepaint();
 }
 
 QPointF CanvasWidget::toTwips(QPointF pixels) const {

@@ -40,6 +40,7 @@ protected:
 private:
   void changed(const Change& change);
   void windowChanged(Property property);
+  void repaintElement(const Element& element);
   void scheduleRepaint();
   void repaintDirty();
   QRect outlineRect() const;

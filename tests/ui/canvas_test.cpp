@@ -68,6 +68,22 @@ TEST_F(Canvas, ShowsChangesAndOutlinesTheElementInHand) {
   EXPECT_TRUE(line == Qt::white || line == Qt::black);
 }
 
+TEST_F(Canvas, AButtonUnderThePointerShowsItsHoverColours) {
+  Button& button = form1().lvButtons_H1[2];
+  button.set(Property::HoverColorLocks, 0);
+  button.set(Property::HoverBackColor, 0x00FF00);
+  button.setGradientMode(0);
+  button.setBackColor(0x0000FF);
+  const QPoint at = middle(button) + QPoint(0, 24);
+  QTest::mouseMove(&canvas(), middle(form1().Label4[0]));
+  const QColor plain = pixel(at);
+  QTest::mouseMove(&canvas(), at);
+  EXPECT_NE(pixel(at), plain);
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&canvas(), &leave);
+  EXPECT_EQ(pixel(at), plain);
+}
+
 TEST_F(Canvas, FollowsTheWindowsSizeWithinReason) {
   form1().setWidth(9000);
   form1().setHeight(6000);
