@@ -1,0 +1,127 @@
+// The waits of the operator in the windows, each with its repaint: a switch of the screen, one step of a
+// drag, one key in a field, the colours of the whole Skin. On the default Skin.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QWidget>
+#include <memory>
+
+#include "components/hittest.h"
+#include "designer/designer.h"
+#include "ui/designerwindows.h"
+
+namespace veneerer {
+namespace {
+
+/// Answers OK to every question and chooses nothing.
+class AgreeingDialogs : public Dialogs {
+public:
+  void inform(const QString&, const QString&) override {}
+  bool ask(const QString&, const QString&) override { return true; }
+  QString chooseFile(const QString&) override { return {}; }
+  std::optional<std::int32_t> chooseColour(std::int32_t) override { return std::nullopt; }
+  std::optional<FontChoice> chooseFont(const FontChoice&) override { return std::nullopt; }
+};
+
+class DefaultSettings : public Settings {
+public:
+  QString value(const QString&, const QString&, const QString& defaultValue) const override {
+    return defaultValue;
+  }
+};
+
+// A started program with its windows on the screen.
+struct Program {
+  Program() {
+    designer.startUp();
+    settle();
+    canvas = find(QStringLiteral("canvas"));
+  }
+  static void settle() {
+    for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+  }
+  static QWidget* find(const QString& name) {
+    for (QWidget* widget : QApplication::allWidgets())
+      if (widget->objectName() == name) return widget;
+    qFatal("a widget is missing");
+  }
+  void mouse(QEvent::Type type, QPointF at, Qt::MouseButton button) const {
+    const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, at, canvas->mapToGlobal(at), button, held, Qt::NoModifier);
+    QApplication::sendEvent(canvas, &event);
+  }
+
+  AgreeingDialogs dialogs;
+  DefaultSettings settings;
+  Platform platform{dialogs, settings, Screen(), ProgramFolder{QStringLiteral(VENEERER_SOURCE_DIR)}};
+  Designer designer{platform};
+  DesignerWindows windows{designer};
+  QWidget* canvas = nullptr;
+};
+
+void switchScreen(benchmark::State& run) {
+  Program program;
+  ComboBox& screens = *program.designer.state().form6.Combo6;
+  int row = 0;
+  for (int i = 0; i < 32; ++i) {
+    screens.select(i);
+    Program::settle();
+  }
+  for (auto _ : run) {
+    screens.select(row = (row + 1) % 32);
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(switchScreen)->Unit(benchmark::kMillisecond);
+
+void dragStep(benchmark::State& run) {
+  Program program;
+  Button& button = program.designer.state().form1.lvButtons_H1[2];
+  const QPointF from = windowRect(button).center() / 15;
+  program.mouse(QEvent::MouseButtonPress, from, Qt::LeftButton);
+  bool away = false;
+  for (auto _ : run) {
+    away = !away;
+    program.mouse(QEvent::MouseMove, from + QPointF(away ? 8 : 0, away ? 5 : 0), Qt::NoButton);
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+  }
+  program.mouse(QEvent::MouseButtonRelease, from, Qt::LeftButton);
+}
+BENCHMARK(dragStep)->Unit(benchmark::kMillisecond);
+
+void keyInField(benchmark::State& run) {
+  Program program;
+  program.designer.click(program.designer.state().form1.lvButtons_H1[2]);
+  QWidget* caption = Program::find(QStringLiteral("Form6.Text1"));
+  Program::settle();
+  bool typing = false;
+  for (auto _ : run) {
+    typing = !typing;
+    QKeyEvent key(QEvent::KeyPress, typing ? Qt::Key_A : Qt::Key_Backspace, Qt::NoModifier,
+                  typing ? QStringLiteral("a") : QString());
+    QApplication::sendEvent(caption, &key);
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(keyInField)->Unit(benchmark::kMillisecond);
+
+void copyColoursOverAll(benchmark::State& run) {
+  Program program;
+  Form6& form = program.designer.state().form6;
+  int colour = 0;
+  for (auto _ : run) {
+    form.Text2->setText(QString::number(++colour % 1000));
+    program.designer.click(form.Command2[1]);
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(copyColoursOverAll)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace veneerer
