@@ -38,7 +38,7 @@ QLayout* listsLayout(const Ui& ui, int letters, std::initializer_list<ListRow> r
 }
 
 QLayout* stylesLayout(const Ui& ui, Form4& form) {
-  return listsLayout(ui, 12,
+  return listsLayout(ui, 10,
                      {{"Default Screen:", &*form.Combo8},
                       {"Default HOME Screen:", &*form.Combo9},
                       {"Player Style:", &*form.Combo10},

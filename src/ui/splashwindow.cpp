@@ -47,7 +47,9 @@ QLabel* makeLine(const Ui& ui, Label& element, double size, bool bold = false) {
 SplashWindow::SplashWindow(const Ui& ui) : QWidget(nullptr, Qt::SplashScreen) {
   Splash& splash = ui.hands.state().frmSplash;
   setFixedSize(460, 260);
-  move(screen()->availableGeometry().center() - rect().center());
+  // In the upper half: the middle of the screen belongs to the questions.
+  const QRect area = screen()->availableGeometry();
+  move(area.center().x() - width() / 2, std::max(area.top(), area.center().y() - height() - 80));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(28, 24, 28, 20);
   column->addWidget(makeLine(ui, *splash.Label1, 1));

@@ -43,7 +43,7 @@ QSize Thumbnail::devicePixels() const {
 void Thumbnail::paintEvent(QPaintEvent*) {
   if (picture().id() != fetchedId_ || devicePixels() != fetchedSize_) fetch();
   QPainter painter(this);
-  painter.fillRect(rect(), palette().color(QPalette::Base));
+  painter.fillRect(rect(), palette().color(picture().isNull() ? QPalette::Base : QPalette::Mid));
   if (shownId_ == picture().id() && !shown_.isNull()) {
     QRectF target(QPointF(), QSizeF(shown_.size()) / devicePixelRatioF());
     target.moveCenter(QRectF(rect()).center());
