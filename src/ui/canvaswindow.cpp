@@ -42,7 +42,8 @@ CanvasWindow::CanvasWindow(const Ui& ui)
       state_(ui.hands.state()),
       view_(new QScrollArea),
       canvas_(new CanvasWidget(ui)),
-      status_(new QLabel) {
+      status_(new QLabel),
+      room_(screen()->availableGeometry().size()) {
   setWindowTitle(QStringLiteral("Veneerer"));
   view_->setFrameShape(QFrame::NoFrame);
   view_->setWidget(canvas_);
@@ -151,10 +152,14 @@ void CanvasWindow::about() {
   box.exec();
 }
 
+void CanvasWindow::setRoom(QSize room) {
+  room_ = room;
+  fitCanvas();
+}
+
 void CanvasWindow::fitCanvas() {
   canvas_->resize(canvas_->sizeHint());
-  const QSize available = screen()->availableGeometry().size();
-  if (!isMaximized()) resize(sizeHint().boundedTo(available));
+  if (!isMaximized()) resize(sizeHint().boundedTo(room_));
 }
 
 void CanvasWindow::pointed(const Element* element) {

@@ -18,6 +18,9 @@ public:
 
   QSize sizeHint() const override;
 
+  /// The window takes no more than that by itself, pixels; a larger canvas is scrolled.
+  void setRoom(QSize room);
+
 Q_SIGNALS:
   /// The operator wants that window in front.
   void asked(veneerer::Window* window);
@@ -39,6 +42,7 @@ private:
   QScrollArea* view_;
   CanvasWidget* canvas_;
   QLabel* status_;
+  QSize room_;
 };
 
 }  // namespace veneerer

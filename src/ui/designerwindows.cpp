@@ -11,6 +11,16 @@ namespace {
 // What a window's frame adds to it, about; the real one is known only when it is too late. Pixels.
 constexpr QSize kFrame(4, 30);
 
+// A canvas that is narrower than this isn't worth having the tools beside it. Pixels.
+constexpr int kNarrowestCanvas = 640;
+
+// What the canvas may take of the screen: all that the tools leave, or all of it on a screen too small for
+// both.
+QSize roomForCanvas(QSize available, QSize tools) {
+  const int beside = available.width() - tools.width();
+  return QSize(beside < kNarrowestCanvas ? available.width() : beside, available.height()) - kFrame;
+}
+
 }  // namespace
 
 DesignerWindows::DesignerWindows(Designer& designer)
@@ -26,7 +36,10 @@ DesignerWindows::DesignerWindows(Designer& designer)
       buttons_(ui_) {
   State& state = designer.state();
   bind(state.frmSplash, splash_, OnClose::Hide);
-  bind(state.form3, chooser_, OnClose::EndProgram);
+  // The splash stays up until a Skin is loaded.
+  bind(state.form3, chooser_, OnClose::EndProgram)->beforeFirstShow([this] {
+    chooser_.move(splash_.geometry().topRight() + QPoint(8, 0));
+  });
   bindBeside(state.form1, canvas_, OnClose::EndProgram);
   bindBeside(state.form2, buttons_, OnClose::Hide);
   bindBeside(state.form4, settings_, OnClose::Hide);
@@ -51,6 +64,7 @@ void DesignerWindows::bindBeside(Window& element, QWidget& widget, OnClose onClo
 void DesignerWindows::placeAll() {
   if (std::exchange(placed_, true)) return;
   const QRect available = canvas_.screen()->availableGeometry();
+  canvas_.setRoom(roomForCanvas(available.size(), tools_.sizeHint() + kFrame));
   canvas_.move(available.topLeft());
   QWidget* const windows[] = {&tools_, &settings_, &textures_, &buttons_};
   QList<QSize> sizes;
