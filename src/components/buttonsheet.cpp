@@ -111,7 +111,8 @@ private:
   }
 
   void drawStyle(int style) {
-    const QPointF block(kGap + style % kBlocksAcross * kBlockWidth, style / kBlocksAcross * kBlockHeight);
+    const int row = style / kBlocksAcross;
+    const QPointF block(kGap + style % kBlocksAcross * kBlockWidth, row * kBlockHeight);
     write(QRectF(block, QSizeF(kBlockWidth, kTitle)), QStringLiteral("Style %1: %2, gradient modes 0 to 4")
                                                           .arg(style)
                                                           .arg(QLatin1String(buttonStyle(style).name)));
