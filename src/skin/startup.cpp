@@ -54,7 +54,9 @@ void openChooser(State& state, const Platform& platform) {
   for (const QString& name : root.skins()) paths.append(root.path() + u'/' + name);
   state.form3.Dir1->setRows(paths);
   state.form3.List1->setRows(root.skins());
-  for (const QString& name : root.skins()) state.form4.Combo3->addRow(name);
+  const QString current = state.form4.Combo3->text();
+  state.form4.Combo3->setRows(root.skins());
+  state.form4.Combo3->setText(current);
   state.form1.setVisible(false);
   state.form3.setVisible(true);
 }

@@ -79,6 +79,9 @@ QAction* CanvasWindow::addCommand(QMenu* menu, const QString& text, const QKeySe
 
 void CanvasWindow::addFileMenu() {
   QMenu* menu = menuBar()->addMenu(QStringLiteral("&File"));
+  QAction* open = addCommand(menu, QStringLiteral("&Open Skin..."), QKeySequence::Open,
+                             QStringLiteral("Choose another Skin; what isn't saved is lost"));
+  connect(open, &QAction::triggered, this, [this] { ui_.hands.chooseSkin(); });
   QAction* save = addCommand(menu, QStringLiteral("&Save Skin"), QKeySequence::Save,
                              QStringLiteral("Write the record files of the Skin"));
   connect(save, &QAction::triggered, this, [this] { ui_.hands.click(*state_.form4.Command4); });

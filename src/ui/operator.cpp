@@ -22,6 +22,11 @@ void Operator::doubleClick(Element& element) {
   Q_EMIT acted();
 }
 
+void Operator::chooseSkin() {
+  designer_.openChooser();
+  Q_EMIT acted();
+}
+
 void Operator::fillFonts() {
   designer_.fillFonts();
 }

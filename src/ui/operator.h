@@ -23,6 +23,8 @@ public:
   /// As press; the button is the one held down.
   void move(Element& element, float x, float y, MouseButton button);
   void doubleClick(Element& element);
+  /// Shows the chooser, which lists the Skins, in the canvas's place.
+  void chooseSkin();
   /// Fills the list of fonts; slow.
   void fillFonts();
 

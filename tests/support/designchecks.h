@@ -34,7 +34,7 @@ inline double luminance(std::int32_t colour) {
 }
 
 inline double contrast(std::int32_t a, std::int32_t b) {
-  const auto [dark, light] = std::minmax(luminance(a), luminance(b));
+  const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
   return (light + 0.05) / (dark + 0.05);
 }
 
