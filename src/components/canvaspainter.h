@@ -29,8 +29,8 @@ public:
 
   void setFrameSource(FrameSource source) { frames_ = std::move(source); }
 
-  /// The element that the operator is pointing at: a button among the canvas's elements is painted so. Null for
-  /// none.
+  /// The element that the operator is pointing at: a button among the canvas's elements is painted so. Null
+  /// for none.
   void setHovered(const Element* element) { hovered_ = element; }
 
   /// Paints the canvas window: its colour, its picture in its own size at the top left, then the visible
