@@ -4,12 +4,20 @@ namespace veneerer::design {
 
 namespace {
 
+constexpr int kMainScreen = 0;
 constexpr int kFirstDialog = 14;
 constexpr int kPinScreen = 16;
 constexpr int kLicenceScreen = 26;
 constexpr int kConfirmScreen = 28;
 
+// What the canvas window's frame takes, pixels.
+constexpr int kFrameWidth = 4;
+constexpr int kFrameHeight = 33;
+
 Box placeOf(const Plan& plan, int screen) {
+  // The main screen shows nothing of its own but its size, with the window's frame, is that of the backdrop:
+  // a rescale resamples the one to the other.
+  if (screen == kMainScreen) return {0, 0, plan.width + kFrameWidth, plan.height + kFrameHeight};
   // No record holds this one: it stands where the design has it in every Skin.
   if (screen == kLicenceScreen) return builtInPlan().screen;
   if (screen == kPinScreen) return plan.pin;
