@@ -5,7 +5,7 @@ readonly BUILD_PACKAGES=(
   g++ cmake ninja-build ccache
   qt6-base-dev libjpeg62-turbo-dev
   libgtest-dev libgmock-dev libbenchmark-dev
-  fontconfig fonts-liberation
+  fontconfig fonts-liberation fonts-dejavu-core
 )
 
 # missing_packages PACKAGE...: those that are not installed, one a line.

@@ -34,8 +34,9 @@ inline double luminance(std::int32_t colour) {
 }
 
 inline double contrast(std::int32_t a, std::int32_t b) {
-  const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
-  return (light + 0.05) / (dark + 0.05);
+  const double one = luminance(a);
+  const double other = luminance(b);
+  return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
 }
 
 inline bool isOpaqueGround(const Element& e) {
