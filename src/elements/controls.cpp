@@ -5,9 +5,12 @@
 namespace veneerer {
 
 void RowList::setRows(const QStringList& rows) {
+  // Told even when the rows are the same: what shows the list must forget the row that was chosen.
+  const Value old = get(Property::List);
   store(Property::ListIndex, -1);
   store(Property::Text, QString());
-  set(Property::List, rows);
+  store(Property::List, rows);
+  notify(Property::List, old);
 }
 
 void RowList::addRow(const QString& row) {

@@ -7,7 +7,7 @@
 
 int main(int argc, char** argv) {
   using namespace veneerer::skinart;
-  if (argc != 2) {
+  if (argc != 2 || argv[1][0] == '-') {
     std::fputs("usage: skinart FOLDER\n", stderr);
     return 2;
   }
