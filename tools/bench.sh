@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh
 
-need_packages "${BUILD_PACKAGES[@]}"
+need_packages "${BUILD_PACKAGES[@]}" imagemagick
 cmake --preset release -DVENEERER_BENCH=ON >/dev/null
 build release veneerer_bench
 exec build/release/bench/veneerer_bench "$@"
