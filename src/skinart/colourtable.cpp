@@ -70,6 +70,7 @@ std::vector<Counted> histogram(const QImage& image) {
     for (int x = 0; x < image.width(); ++x) ++counts[line[x] | 0xff000000];
   }
   std::vector<Counted> colours;
+  colours.reserve(counts.size());
   for (const auto& [colour, count] : counts) colours.push_back({colour, count});
   return colours;
 }
