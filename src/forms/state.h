@@ -2,6 +2,7 @@
 // loaded Skin; the record files only hold it between runs.
 #pragma once
 
+#include "elements/notes.h"
 #include "elements/notices.h"
 #include "elements/picture.h"
 #include "forms/form1.h"
@@ -22,6 +23,7 @@ struct State {
   State& operator=(const State&) = delete;
 
   ChangeNotices notices;
+  Notes notes;
   PictureStore pictures;
   Form1 form1{notices};
   Form2 form2{notices};

@@ -141,7 +141,8 @@ QByteArray stateAsJson(Designer& designer, const QList<BatchDialogs::Message>& m
   const QJsonObject root{{QStringLiteral("globals"), globalsAsJson(state.globals)},
                          {QStringLiteral("elements"), elementsAsJson(state, skinPath)},
                          {QStringLiteral("tables"), tablesAsJson(state.names)},
-                         {QStringLiteral("messages"), messagesAsJson(messages)}};
+                         {QStringLiteral("messages"), messagesAsJson(messages)},
+                         {QStringLiteral("notes"), QJsonArray::fromStringList(state.notes.texts())}};
   return QJsonDocument(root).toJson();
 }
 
