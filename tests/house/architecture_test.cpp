@@ -1,0 +1,87 @@
+// The house's plan held against the house: the links of the build files, the drawing in the documentation and
+// the includes of the sources must tell the same.
+#include <gtest/gtest.h>
+
+#include <QDirIterator>
+#include <QFile>
+#include <QMap>
+#include <QRegularExpression>
+#include <QSet>
+
+namespace veneerer::test {
+namespace {
+
+using Links = QMap<QString, QSet<QString>>;
+
+const QString kRoot = QStringLiteral(VENEERER_SOURCE_DIR "/");
+
+QString text(const QString& name) {
+  QFile file(kRoot + name);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+  return QString::fromUtf8(file.readAll());
+}
+
+Links linksOfTheBuild() {
+  static const QRegularExpression library(QStringLiteral(R"(veneerer_library\(([a-z]+) ([^)]*)\))"));
+  static const QRegularExpression part(QStringLiteral("veneerer_([a-z]+)"));
+  Links links;
+  for (const auto& found : library.globalMatch(text(QStringLiteral("src/CMakeLists.txt"))))
+    for (const auto& name : part.globalMatch(found.captured(2)))
+      links[found.captured(1)].insert(name.captured(1));
+  return links;
+}
+
+Links linksOfTheDrawing() {
+  static const QRegularExpression arrow(QStringLiteral(R"(^ *([a-z]+) --> ([a-z]+)$)"),
+                                        QRegularExpression::MultilineOption);
+  Links links;
+  for (const auto& found : arrow.globalMatch(text(QStringLiteral("docs/architecture.md"))))
+    links[found.captured(1)].insert(found.captured(2));
+  return links;
+}
+
+void addReachable(const Links& links, const QString& folder, QSet<QString>& reached) {
+  if (reached.contains(folder)) return;
+  reached.insert(folder);
+  for (const QString& next : links.value(folder)) addReachable(links, next, reached);
+}
+
+TEST(Architecture, IsDrawnAsItIsBuilt) {
+  const Links built = linksOfTheBuild();
+  ASSERT_GT(built.size(), 8);
+  EXPECT_EQ(linksOfTheDrawing(), built);
+}
+
+// All folders share one include path, so the compiler lets an include point anywhere.
+TEST(Architecture, IsWhatTheIncludesFollow) {
+  static const QRegularExpression include(QStringLiteral(R"(^#include "([a-z]+)/)"),
+                                          QRegularExpression::MultilineOption);
+  const Links links = linksOfTheBuild();
+  QDirIterator files(kRoot + QStringLiteral("src"), {QStringLiteral("*.h"), QStringLiteral("*.cpp")},
+                     QDir::Files, QDirIterator::Subdirectories);
+  int includes = 0;
+  while (files.hasNext()) {
+    const QString name = files.next().mid(kRoot.size());
+    const QString folder = name.section(u'/', 1, 1);
+    if (!links.contains(folder) && folder != u"elements") continue;
+    QSet<QString> reachable;
+    addReachable(links, folder, reachable);
+    for (const auto& found : include.globalMatch(text(name))) {
+      EXPECT_TRUE(reachable.contains(found.captured(1)))
+          << name.toStdString() << " includes from " << found.captured(1).toStdString();
+      ++includes;
+    }
+  }
+  EXPECT_GT(includes, 300);
+}
+
+TEST(Architecture, LetsOnlyTheWindowsKnowWidgets) {
+  static const QRegularExpression library(QStringLiteral(R"(veneerer_library\(([a-z]+) [^)]*Qt6::Widgets)"));
+  QStringList found;
+  for (const auto& match : library.globalMatch(text(QStringLiteral("src/CMakeLists.txt"))))
+    found << match.captured(1);
+  EXPECT_EQ(found, QStringList{QStringLiteral("ui")});
+}
+
+}  // namespace
+}  // namespace veneerer::test
