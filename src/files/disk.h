@@ -1,0 +1,41 @@
+// Every operation that changes the disk. There is one place for them, so that a test can make each fail in
+// turn and see what is left behind.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+namespace veneerer {
+
+/// The disk as it is; a test derives from it to let operations fail. It holds no state, so one serves many
+/// threads.
+class Disk {
+public:
+  virtual ~Disk() = default;
+
+  /// Whether new files may be made in that folder.
+  virtual bool takesNewFiles(const QString& folder);
+
+  // Each call returns why it failed ("No space left on device"), and nothing when it was done.
+
+  /// Makes a new file of these bytes. Never writes through a link nor over something that is there. Where the
+  /// file `like` is told and there, the new one gets its permissions and, as far as that is allowed, its
+  /// owner.
+  [[nodiscard]] virtual QString create(const QString& path, const QByteArray& bytes,
+                                       const QString& like = {});
+
+  /// Writes the bytes into a plain file that is there, in place.
+  [[nodiscard]] virtual QString overwrite(const QString& path, const QByteArray& bytes);
+
+  /// Gives a file another name on the same disk, at once for everybody who looks; what bore the name is gone.
+  [[nodiscard]] virtual QString rename(const QString& from, const QString& to);
+
+  /// Removes a file, or the link itself.
+  [[nodiscard]] virtual QString remove(const QString& path);
+
+  /// Makes a folder with all those above it; one that is there already is fine.
+  [[nodiscard]] virtual QString makeFolder(const QString& path);
+};
+
+}  // namespace veneerer
