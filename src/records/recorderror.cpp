@@ -2,13 +2,9 @@
 
 #include <QStringList>
 
-namespace veneerer {
+#include "elements/printable.h"
 
-QString onOneLine(QString text) {
-  for (QChar& c : text)
-    if (c.unicode() < 0x20 || c.unicode() == 0x7F) c = u'?';
-  return text;
-}
+namespace veneerer {
 
 namespace {
 
@@ -22,19 +18,19 @@ QString composePlace(const QString& element, const QString& field) {
 QString compose(const QString& file, int line, const QString& element, const QString& field,
                 const QString& found) {
   const QString number = line > 0 ? u':' + QString::number(line) : QString();
-  return file + number + QStringLiteral(": ") + composePlace(element, field) + found;
+  return printable(file + number + QStringLiteral(": ") + composePlace(element, field) + found);
 }
 
 }  // namespace
 
 RecordError::RecordError(const QString& file, int line, const QString& element, const QString& field,
                          const QString& found)
-    : std::runtime_error(compose(file, line, element, field, onOneLine(found)).toStdString()),
+    : std::runtime_error(compose(file, line, element, field, found).toStdString()),
       file_(file),
       line_(line),
       element_(element),
       field_(field),
-      found_(onOneLine(found)) {}
+      found_(printable(found)) {}
 
 QString RecordError::message() const {
   return compose(file_, line_, element_, field_, found_);

@@ -7,13 +7,10 @@
 
 namespace veneerer {
 
-/// The text with every control character replaced by "?": what comes from a file may hold line ends or
-/// terminal codes, and a message is one plain line.
-QString onOneLine(QString text);
-
 class RecordError : public std::runtime_error {
 public:
-  /// line counts from 1; 0 when no line is to blame. element and field may be empty.
+  /// line counts from 1; 0 when no line is to blame. element and field may be empty. The file's name and what
+  /// was found may hold anything: in every text that is shown, "?" stands for what isn't printable.
   RecordError(const QString& file, int line, const QString& element, const QString& field,
               const QString& found);
 
@@ -21,11 +18,12 @@ public:
   int line() const { return line_; }
   const QString& element() const { return element_; }
   const QString& field() const { return field_; }
-  /// What is wrong, without the place.
+  /// What is wrong, without the place; printable.
   const QString& found() const { return found_; }
   /// "Form1.lvButtons_H1(0) Height: ", empty when neither element nor field is known.
   QString place() const;
-  /// "menu.ini:12: Form1.lvButtons_H1(0) Height: a number is due here, but "abc" stands in its place"
+  /// "menu.ini:12: Form1.lvButtons_H1(0) Height: a number is due here, but "abc" stands in its place";
+  /// printable.
   QString message() const;
 
 private:

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "designer/designer.h"
+#include "elements/printable.h"
 #include "properties/coverfile.h"
 #include "records/layoutreader.h"
 #include "records/recorderror.h"
@@ -35,7 +36,7 @@ public:
 private:
   void warn(const QString& file, const QString& text) { findings_.append({false, file, 0, text}); }
   void warn(const QString& file, int line, const QString& text) {
-    if (!text.isEmpty()) warn(file, QStringLiteral("line %1: %2").arg(line).arg(onOneLine(text)));
+    if (!text.isEmpty()) warn(file, QStringLiteral("line %1: %2").arg(line).arg(printable(text)));
   }
 
   // search_Choice.ini is written and, where case counts, never read: its faults end no load.
