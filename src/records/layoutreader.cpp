@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "elements/numbers.h"
+#include "elements/printable.h"
 #include "records/recorderror.h"
 #include "records/recordreader.h"
 
@@ -21,13 +22,16 @@ struct BadValue {
   QString what;
 };
 
+/// A number that its field can't hold.
+struct OutOfRange {};
+
 QString asText(const RecordValue& value) {
   if (const auto* text = std::get_if<QString>(&value)) return *text;
   if (const auto* number = std::get_if<double>(&value)) return plainNumber(*number);
   if (const auto* truth = std::get_if<bool>(&value))
     return *truth ? QStringLiteral("True") : QStringLiteral("False");
   if (const auto* odd = std::get_if<OddValue>(&value))
-    throw BadValue{QStringLiteral("%1 is a value that no field takes").arg(odd->text)};
+    throw BadValue{QStringLiteral("%1 is a value that no field takes").arg(excerpt(odd->text))};
   return {};
 }
 
@@ -35,21 +39,19 @@ double asNumber(const RecordValue& value) {
   if (std::holds_alternative<std::monostate>(value)) return 0;
   if (const auto* number = std::get_if<double>(&value)) return *number;
   if (const auto* truth = std::get_if<bool>(&value)) return *truth ? -1 : 0;
-  const QString text = asText(value).left(60);
+  const QString text = excerpt(asText(value));
   throw BadValue{QStringLiteral("a number is due here, but \"%1\" stands in its place").arg(text)};
 }
 
 float asSingle(double number) {
-  if (!(std::abs(number) <= std::numeric_limits<float>::max()))
-    throw BadValue{QStringLiteral("the number is beyond a Single's range")};
+  if (!(std::abs(number) <= std::numeric_limits<float>::max())) throw OutOfRange();
   return static_cast<float>(number);
 }
 
 std::int32_t asWhole(double number, RowKind kind) {
   const std::optional<std::int32_t> whole = toWhole(number);
   const bool fits = whole && (kind != RowKind::Integer || (*whole >= -32768 && *whole <= 32767));
-  if (!fits)
-    throw BadValue{QStringLiteral("the number %1 is out of the field's range").arg(plainNumber(number))};
+  if (!fits) throw OutOfRange();
   return *whole;
 }
 
@@ -86,12 +88,19 @@ private:
       if (reader_.atEnd()) throw BadValue{QStringLiteral("the file ends where a value is due")};
       take(row);
       return true;
+    } catch (const OutOfRange&) {
+      const QString number = excerpt(reader_.lastText().trimmed());
+      return fail(row, line, QStringLiteral("the number %1 is out of the field's range").arg(number));
     } catch (const BadValue& bad) {
-      if (policy_ == OnFailure::Resume) return false;
-      const bool hasElement = row.into.element != nullptr;
-      throw RecordError(layout_.fileName(), line, elementOf(row), hasElement ? fieldOf(row) : QString(),
-                        bad.what);
+      return fail(row, line, bad.what);
     }
+  }
+
+  /// False where the layout goes on all the same.
+  bool fail(const Row& row, int line, const QString& what) const {
+    if (policy_ == OnFailure::Resume) return false;
+    const bool hasElement = row.into.element != nullptr;
+    throw RecordError(layout_.fileName(), line, elementOf(row), hasElement ? fieldOf(row) : QString(), what);
   }
 
   static QString elementOf(const Row& row) {

@@ -38,6 +38,7 @@ void RecordReader::skipBlanks() {
 
 RecordValue RecordReader::readValue() {
   skipBlanks();
+  lastFrom_ = at_;
   if (atLineEnd()) {
     skipLineEnd();
     return std::monostate();
@@ -68,11 +69,17 @@ RecordValue RecordReader::readQuoted() {
 }
 
 QString RecordReader::readLine() {
-  const qsizetype from = at_;
+  const qsizetype from = lastFrom_ = at_;
   while (!atLineEnd()) ++at_;
   const QString text = fromCodePage(part(bytes_, from, at_));
   skipLineEnd();
   return text;
+}
+
+QString RecordReader::lastText() const {
+  qsizetype to = lastFrom_;
+  while (to < bytes_.size() && !QByteArrayView(",\r\n").contains(bytes_[to])) ++to;
+  return fromCodePage(part(bytes_, lastFrom_, to));
 }
 
 }  // namespace veneerer

@@ -21,6 +21,9 @@ public:
   RecordValue readValue();
   /// The rest of the current line as raw text, its end consumed.
   QString readLine();
+  /// The value or line that was read last, up to its first comma, as it stands: a message quotes a number in
+  /// the form that the file has it in.
+  QString lastText() const;
 
 private:
   char peek() const { return bytes_[at_]; }
@@ -31,6 +34,7 @@ private:
 
   QByteArray bytes_;
   qsizetype at_ = 0;
+  qsizetype lastFrom_ = 0;  ///< where the last value began
   int line_ = 1;
 };
 

@@ -62,9 +62,32 @@ TEST_F(Reading, ErrorsNameFileLineElementAndField) {
   EXPECT_NE(failure(menuFile, composed(menuFile)), "");
   EXPECT_NE(failure(playerFile, withLine(composed(playerFile), 1, " 7 ")).find("the list has no row 7"),
             std::string::npos);
-  EXPECT_NE(failure(fontFile, "99999999999\r\n 0 \r\n").find("out of the field's range"), std::string::npos);
   EXPECT_NE(failure(intelliFile, withLine(composed(intelliFile), 9, " 3 ")), "");
   EXPECT_NE(failure(lockedButtonFile, withLine(composed(lockedButtonFile), 36, "#NULL#")), "");
+}
+
+TEST_F(Reading, ErrorsQuoteAValueAsItStandsAndNoMoreOfIt) {
+  const QByteArray digits(400, '7');
+  const QByteArray shown = digits.left(60);
+  const struct {
+    Layout (*make)(State&);
+    QByteArray line;
+    QByteArray said;
+  } cases[] = {
+      {fontFile, " 99999999999 ", "the number 99999999999 is out of the field's range"},
+      {fontFile, digits, "the number " + shown + " is out of the field's range"},
+      {mainFile, "1e39, 5", "the number 1e39 is out of the field's range"},
+      {fontFile, "#ERROR " + digits + "#", "#ERROR " + shown.left(53) + " is a value that no field takes"},
+      {fontFile, digits + "\xE9", "but \"" + shown + "\" stands"},
+      {fontFile, "red\x1B[31m\x9D", "but \"red?[31m?\" stands"},
+  };
+  for (const auto& c : cases) {
+    const std::string said = failure(c.make, withLine(composed(c.make), 1, c.line));
+    EXPECT_NE(said.find(c.said.toStdString()), std::string::npos) << said;
+  }
+  EXPECT_NE(
+      failure(resolutionFile, "\r\n\r\n\r\n1" + digits.left(20) + "\r\n1\r\n").find("resolution.ini:4: "),
+      std::string::npos);
 }
 
 TEST_F(Reading, AFileMayEndAheadOfAnOptionalBlockAndNotInsideOne) {

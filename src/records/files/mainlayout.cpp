@@ -1,5 +1,6 @@
 // What belongs to the Skin as a whole rather than to one screen.
 #include "elements/numbers.h"
+#include "elements/printable.h"
 #include "records/recorderror.h"
 #include "records/recordfiles.h"
 
@@ -51,7 +52,7 @@ float windowSide(const Loading& loading, int direction, int surplus) {
   const auto twips = PixelsToTwips(loading.screen, leadingNumber(field.text()) + surplus, direction);
   if (!twips)
     throw RecordError(QStringLiteral("resolution.ini"), 4 + direction, field.key(), QStringLiteral("Text"),
-                      QStringLiteral("the number of pixels is out of range"));
+                      QStringLiteral("%1 pixels are out of range").arg(excerpt(field.text())));
   return static_cast<float>(*twips);
 }
 
