@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QTextStream>
 
+#include "platform/version.h"
 #include "records/recorderror.h"
 
 namespace veneerer {
@@ -10,7 +11,7 @@ namespace veneerer {
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("veneerer"));
   setApplicationDisplayName(QStringLiteral("Veneerer"));
-  setApplicationVersion(QStringLiteral("3.0"));
+  setApplicationVersion(programVersion());
   // No window is open for a moment between the splash and the others.
   setQuitOnLastWindowClosed(false);
 }
