@@ -91,8 +91,8 @@ void ScriptPlayer::play(const QString& name, const QString& text) {
     try {
       playLine(line);
     } catch (const ScriptError& error) {
-      throw ScriptError(
-          QStringLiteral("%1:%2: %3").arg(name).arg(lineNumber).arg(QString::fromUtf8(error.what())));
+      const QString place = name + u':' + QString::number(lineNumber) + QStringLiteral(": ");
+      throw ScriptError(place + QString::fromUtf8(error.what()));
     }
   }
 }
