@@ -3,58 +3,43 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <algorithm>
-#include <map>
 
 #include "canvas/screens.h"
+#include "platform/version.h"
 
 namespace veneerer {
 
 namespace {
 
-const std::map<QString, Command> kCommands = {{QStringLiteral("dump"), Command::Dump},
-                                              {QStringLiteral("save"), Command::Save},
-                                              {QStringLiteral("render"), Command::Render},
-                                              {QStringLiteral("check"), Command::Check},
-                                              {QStringLiteral("sheet"), Command::Sheet}};
-
-struct Option {
-  const char* name;
-  const char* value;  ///< null for a switch
-  std::initializer_list<Command> commands;
-};
-
-const Option kOptions[] = {
-    {"to", "FOLDER", {Command::Save, Command::Render, Command::Sheet}},
-    {"cover", "NAME", {Command::Save}},
-    {"only", "ENTRY", {Command::Render}},
-    {"script", "FILE", {Command::Dump, Command::Save, Command::Render}},
-    {"reload", nullptr, {Command::Dump, Command::Save, Command::Render}},
-    {"screen", "WIDTHxHEIGHT", {Command::Dump, Command::Save, Command::Render}},
-    {"dpi", "N", {Command::Dump, Command::Save, Command::Render}},
-};
-
-void addOptions(QCommandLineParser& parser) {
-  for (const Option& option : kOptions) {
-    const QString name = QString::fromLatin1(option.name);
-    if (option.value)
-      parser.addOption({name, name, QString::fromLatin1(option.value)});
-    else
-      parser.addOption({name, name});
-  }
+QString nameOf(const OptionEntry& option) {
+  return QString::fromLatin1(option.name);
 }
 
-void refuseForeignOptions(const QCommandLineParser& parser, Command command) {
-  for (const Option& option : kOptions) {
-    const QString name = QString::fromLatin1(option.name);
-    if (parser.isSet(name) && std::ranges::find(option.commands, command) == option.commands.end())
-      throw UsageError(QStringLiteral("--%1 doesn't go with this command").arg(name));
-  }
+void addOptions(QCommandLineParser& parser) {
+  for (const OptionEntry& option : commandOptions())
+    parser.addOption(
+        {nameOf(option), QString(), option.value ? QString::fromLatin1(option.value) : QString()});
+}
+
+void refuseForeignOptions(const QCommandLineParser& parser, const CommandEntry& command) {
+  for (const OptionEntry& option : commandOptions())
+    if (parser.isSet(nameOf(option)) && !takesOption(command.command, option))
+      throw UsageError(
+          QStringLiteral("--%1 doesn't go with %2").arg(nameOf(option), QString::fromLatin1(command.name)));
+}
+
+const CommandEntry& commandNamed(const QString& name) {
+  const CommandEntry* found = findCommand(name);
+  if (!found) throw UsageError(QStringLiteral("there is no command \"%1\"").arg(name));
+  return *found;
 }
 
 int positive(const QString& text, const QString& option, int most) {
   bool isNumber = false;
   const int number = text.toInt(&isNumber);
-  if (!isNumber || number < 1 || number > most)
+  // Signs, blanks and leading zeros are slips rather than numbers here.
+  const bool isPlain = isNumber && text == QString::number(number);
+  if (!isPlain || number < 1 || number > most)
     throw UsageError(QStringLiteral("--%1 takes numbers from 1 to %2").arg(option).arg(most));
   return number;
 }
@@ -72,14 +57,15 @@ Screen parseScreen(const QCommandLineParser& parser) {
   return screen;
 }
 
-void checkSkins(const Arguments& arguments) {
-  const qsizetype count = arguments.skins.size();
-  const bool isRight = arguments.command == Command::Sheet   ? count == 0
-                       : arguments.command == Command::Check ? count > 0
-                                                             : count == 1;
-  if (!isRight) throw UsageError(QStringLiteral("the command takes another number of Skins"));
-  for (const QString& skin : arguments.skins)
-    if (!QFileInfo(skin).isDir()) throw UsageError(QStringLiteral("%1 is no folder").arg(skin));
+void checkSkins(const CommandEntry& command, const QStringList& skins) {
+  if (skins.size() < command.fewestSkins || skins.size() > command.mostSkins) {
+    const QString count = command.mostSkins == 0   ? QStringLiteral("no Skin")
+                          : command.mostSkins == 1 ? QStringLiteral("one Skin")
+                                                   : QStringLiteral("at least one Skin");
+    throw UsageError(QStringLiteral("%1 takes %2").arg(QString::fromLatin1(command.name), count));
+  }
+  for (const QString& skin : skins)
+    if (!QFileInfo(skin).isDir()) throw UsageError(QStringLiteral("\"%1\" is no folder").arg(skin));
 }
 
 void checkCover(const QCommandLineParser& parser, const QString& name) {
@@ -94,44 +80,49 @@ void checkEntries(const QStringList& entries) {
       throw UsageError(QStringLiteral("there is no Edit Section entry \"%1\"").arg(entry));
 }
 
-}  // namespace
+/// What --help or --version asks for, empty when neither is set.
+QString answerTo(const QCommandLineParser& parser) {
+  const QStringList operands = parser.positionalArguments();
+  if (parser.isSet(QStringLiteral("version"))) return QStringLiteral("skintool %1\n").arg(programVersion());
+  if (!parser.isSet(QStringLiteral("help"))) return {};
+  return operands.isEmpty() ? usageText() : helpText(commandNamed(operands.first()));
+}
 
-Arguments parseArguments(const QStringList& words) {
-  QCommandLineParser parser;
-  addOptions(parser);
-  if (!parser.parse(words)) throw UsageError(parser.errorText());
-  QStringList positional = parser.positionalArguments();
-  if (positional.isEmpty()) throw UsageError(QStringLiteral("a command is missing"));
-  const auto command = kCommands.find(positional.takeFirst());
-  if (command == kCommands.end()) throw UsageError(QStringLiteral("there is no such command"));
-  refuseForeignOptions(parser, command->second);
-
+Arguments readOptions(const QCommandLineParser& parser) {
   Arguments arguments;
-  arguments.command = command->second;
-  arguments.skins = positional;
   arguments.to = parser.value(QStringLiteral("to"));
   arguments.cover = parser.value(QStringLiteral("cover"));
   arguments.only = parser.values(QStringLiteral("only"));
   arguments.script = parser.value(QStringLiteral("script"));
   arguments.reload = parser.isSet(QStringLiteral("reload"));
   arguments.screen = parseScreen(parser);
-  checkSkins(arguments);
   checkEntries(arguments.only);
   checkCover(parser, arguments.cover);
-  const bool needsTarget = arguments.command == Command::Save || arguments.command == Command::Render ||
-                           arguments.command == Command::Sheet;
-  if (needsTarget && arguments.to.isEmpty()) throw UsageError(QStringLiteral("--to is missing"));
+  if (parser.isSet(QStringLiteral("script")) && arguments.script.isEmpty())
+    throw UsageError(QStringLiteral("--script takes the name of a file"));
   return arguments;
 }
 
-QString usageText() {
-  return QStringLiteral(
-      "usage: skintool dump SKIN [options]\n"
-      "       skintool save SKIN --to FOLDER [--cover NAME] [options]\n"
-      "       skintool render SKIN --to FOLDER [--only ENTRY]... [options]\n"
-      "       skintool check SKIN...\n"
-      "       skintool sheet --to FILE\n"
-      "options: --script FILE  --reload  --screen WIDTHxHEIGHT  --dpi N\n");
+}  // namespace
+
+Arguments parseArguments(const QStringList& words) {
+  QCommandLineParser parser;
+  addOptions(parser);
+  if (!parser.parse(words)) throw UsageError(parser.errorText());
+  Arguments arguments;
+  arguments.answer = answerTo(parser);
+  if (!arguments.answer.isEmpty()) return arguments;
+  QStringList operands = parser.positionalArguments();
+  if (operands.isEmpty()) throw UsageError(QStringLiteral("a command is missing"));
+  const CommandEntry& command = commandNamed(operands.takeFirst());
+  refuseForeignOptions(parser, command);
+  checkSkins(command, operands);
+
+  arguments = readOptions(parser);
+  arguments.command = command.command;
+  arguments.skins = operands;
+  if (command.needsTarget && arguments.to.isEmpty()) throw UsageError(QStringLiteral("--to is missing"));
+  return arguments;
 }
 
 }  // namespace veneerer

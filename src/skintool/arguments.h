@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "platform/platform.h"
+#include "skintool/commands.h"
 
 namespace veneerer {
 
@@ -15,9 +16,8 @@ public:
   explicit UsageError(const QString& what) : std::runtime_error(what.toStdString()) {}
 };
 
-enum class Command { Dump, Save, Render, Check, Sheet };
-
 struct Arguments {
+  QString answer;  ///< what --help or --version asks for; when it isn't empty nothing else is to be done
   Command command = Command::Dump;
   QStringList skins;  ///< paths of Skin folders; one but for check, none for sheet
   QString to;         ///< save, render, sheet: the target
@@ -30,7 +30,5 @@ struct Arguments {
 
 /// Throws UsageError.
 Arguments parseArguments(const QStringList& arguments);
-
-QString usageText();
 
 }  // namespace veneerer

@@ -8,10 +8,13 @@
 #include "components/buttonsheet.h"
 #include "components/resizer.h"
 #include "designer/designer.h"
+#include "elements/printable.h"
 #include "records/recorderror.h"
 #include "skintool/arguments.h"
 #include "skintool/batchdialogs.h"
+#include "skintool/batchskin.h"
 #include "skintool/check.h"
+#include "skintool/output.h"
 #include "skintool/render.h"
 #include "skintool/script.h"
 #include "skintool/statejson.h"
@@ -20,38 +23,11 @@ namespace veneerer {
 
 namespace {
 
-/// The settings of a run: the current Skin is the one on the command line.
-class BatchSettings : public Settings {
-public:
-  explicit BatchSettings(QString skin) : skin_(std::move(skin)) {}
-  QString value(const QString&, const QString&, const QString&) const override { return skin_; }
-
-private:
-  QString skin_;
-};
-
-QString skinName(const QString& path) {
-  return QFileInfo(QDir::cleanPath(QFileInfo(path).absoluteFilePath())).fileName();
-}
-
-// The Skin's parent is the root of Skins, and the root's parent holds the images beside the program.
-ProgramFolder programFolder(const QString& skin) {
-  const QString path = QDir::cleanPath(QFileInfo(skin).absoluteFilePath());
-  const QString root = QFileInfo(path).path();
-  return {QFileInfo(root).path(), root};
-}
-
 QString readScript(const QString& name) {
   QFile file(name);
   const bool isOpen = name == u"-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-  if (!isOpen) throw UsageError(QStringLiteral("the script %1 can't be read").arg(name));
+  if (!isOpen) throw UsageError(QStringLiteral("the script \"%1\" can't be read").arg(name));
   return QString::fromUtf8(file.readAll());
-}
-
-void print(std::FILE* out, const QByteArray& text) {
-  if (std::fwrite(text.constData(), 1, std::size_t(text.size()), out) != std::size_t(text.size()) ||
-      std::fflush(out) != 0)
-    throw std::runtime_error("the output can't be written");
 }
 
 /// One run of dump, save or render on one Skin.
@@ -59,7 +35,7 @@ class BatchRun {
 public:
   explicit BatchRun(const Arguments& arguments)
       : arguments_(arguments),
-        settings_(skinName(arguments.skins.first())),
+        settings_(arguments.skins.first()),
         platform_{dialogs_, settings_, arguments.screen, programFolder(arguments.skins.first())},
         designer_(platform_) {}
 
@@ -99,7 +75,7 @@ int check(const Arguments& arguments, std::FILE* out) {
   QList<Finding> findings;
   for (const QString& skin : arguments.skins) {
     BatchDialogs dialogs;
-    BatchSettings settings(skinName(skin));
+    BatchSettings settings(skin);
     Platform platform{dialogs, settings, arguments.screen, programFolder(skin)};
     for (Finding finding : checkSkin(platform, skinName(skin))) {
       // With several Skins a finding must say whose file it names.
@@ -118,7 +94,15 @@ int writeSheet(const QString& path) {
   throw RecordError(path, 0, {}, {}, QStringLiteral("the picture can't be written"));
 }
 
+void tell(std::FILE* err, const QString& text) {
+  std::fprintf(err, "%s\n", printable(text).toUtf8().constData());
+}
+
 int run(const Arguments& arguments, std::FILE* out) {
+  if (!arguments.answer.isEmpty()) {
+    print(out, arguments.answer.toUtf8());
+    return 0;
+  }
   if (arguments.command == Command::Check) return check(arguments, out);
   if (arguments.command == Command::Sheet) return writeSheet(arguments.to);
   BatchRun(arguments).run(out);
@@ -131,11 +115,12 @@ int runBatch(const QStringList& words, std::FILE* out, std::FILE* err) {
   try {
     return run(parseArguments(words), out);
   } catch (const UsageError& error) {
-    std::fprintf(err, "skintool: %s\n%s", error.what(), qPrintable(usageText()));
+    tell(err, QStringLiteral("skintool: ") + QString::fromUtf8(error.what()));
+    std::fprintf(err, "%s", usageText().toUtf8().constData());
     return 2;
   } catch (const std::exception& error) {
     // RecordError, ScriptError, ScaleFault: what ends the designer ends the run.
-    std::fprintf(err, "%s\n", error.what());
+    tell(err, QString::fromUtf8(error.what()));
     return 1;
   }
 }

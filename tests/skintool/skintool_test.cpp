@@ -131,11 +131,40 @@ TEST_F(Skintool, AnswersWrongUseAndBrokenSkinsByTheirStatus) {
   EXPECT_EQ(run({QStringLiteral("dump"), path("nowhere")}), 2);
   EXPECT_EQ(run({QStringLiteral("save"), skin()}), 2);
   EXPECT_EQ(run({QStringLiteral("dump"), skin(), QStringLiteral("--dpi"), QStringLiteral("0")}), 2);
+  EXPECT_EQ(run({QStringLiteral("dump"), skin(), QStringLiteral("--screen"), QStringLiteral("800x 600")}), 2);
+  EXPECT_EQ(run({QStringLiteral("dump"), skin(), QStringLiteral("--script"), QString()}), 2);
   EXPECT_EQ(run({QStringLiteral("dump"), skin(), QStringLiteral("--cover"), QStringLiteral("x")}), 2);
   write(skin() + QStringLiteral("/menu.ini"), "INI Version\r\n 2 \r\n 10 \r\nwide\r\n");
   EXPECT_EQ(run({QStringLiteral("save"), skin(), QStringLiteral("--to"), path("out")}), 1);
   EXPECT_TRUE(err.startsWith("menu.ini:4: Form1.Picture2(0) Width: ")) << err.toStdString();
   EXPECT_FALSE(QDir(path("out")).exists());
+}
+
+TEST_F(Skintool, AnswersHelpAndVersionOnStandardOutput) {
+  const struct {
+    QStringList words;
+    const char* begins;
+    const char* holds;
+    const char* lacks;
+  } cases[] = {
+      {{QStringLiteral("--help")}, "usage: skintool dump SKIN", "skintool check SKIN...", "options:"},
+      {{QStringLiteral("save"), QStringLiteral("--help")},
+       "usage: skintool save SKIN",
+       "--cover NAME",
+       "--only"},
+      {{QStringLiteral("check"), path("nowhere"), QStringLiteral("--help")},
+       "usage: skintool check",
+       "",
+       "--to"},
+      {{QStringLiteral("--version")}, "skintool ", ".", "\n\n"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(run(c.words), 0);
+    EXPECT_EQ(err.toStdString(), "");
+    EXPECT_TRUE(out.startsWith(c.begins) && out.contains(c.holds)) << out.toStdString();
+    EXPECT_FALSE(out.contains(c.lacks)) << out.toStdString();
+  }
+  EXPECT_EQ(run({QStringLiteral("jump"), QStringLiteral("--help")}), 2);
 }
 
 TEST_F(Skintool, SavesWithTheCoverOnDemandAndRendersTheChosenScreens) {

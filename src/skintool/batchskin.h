@@ -1,0 +1,26 @@
+// The Skin that a command line names: where it lies, and the settings that make it the current one.
+#pragma once
+
+#include <QString>
+
+#include "platform/platform.h"
+
+namespace veneerer {
+
+/// The Skin's name by the path of its folder.
+QString skinName(const QString& path);
+
+/// The Skin's parent is the root of Skins, and the root's parent holds the images beside the program.
+ProgramFolder programFolder(const QString& path);
+
+/// The settings of a run: the current Skin is the one on the command line.
+class BatchSettings : public Settings {
+public:
+  explicit BatchSettings(const QString& path) : skin_(skinName(path)) {}
+  QString value(const QString&, const QString&, const QString&) const override { return skin_; }
+
+private:
+  QString skin_;
+};
+
+}  // namespace veneerer

@@ -1,0 +1,102 @@
+#include "skintool/commands.h"
+
+#include <QStringList>
+#include <algorithm>
+
+namespace veneerer {
+
+namespace {
+
+constexpr int kAnyNumber = 1'000'000;
+
+const CommandEntry kCommands[] = {
+    {Command::Dump, "dump", "SKIN [options]",
+     "Loads the Skin and prints its state as JSON: the globals, every element with its properties, the\n"
+     "tables of image names, the messages and the notes.",
+     1, 1, false},
+    {Command::Save, "save", "SKIN --to FOLDER [--cover NAME] [options]",
+     "Loads the Skin and writes all of its record files into FOLDER, which may be the Skin itself.\n"
+     "Nothing is written when the Skin or the script fails.",
+     1, 1, true},
+    {Command::Render, "render", "SKIN --to FOLDER [--only ENTRY]... [options]",
+     "Loads the Skin and draws every screen of the list of screens into a PNG file of its own, from\n"
+     "\"00 Main Screen.png\" to \"31 Pop Up Menu.png\".",
+     1, 1, true},
+    {Command::Check, "check", "SKIN...",
+     "Tells what is wrong or risky in each Skin, one finding a line, errors first:\n"
+     "FILE:LINE: error: ... or FILE: warning: ... The status is 1 when there is an error.",
+     1, kAnyNumber, false},
+    {Command::Sheet, "sheet", "--to FILE",
+     "Draws every style and shape of button as one sheet into the PNG file.", 0, 0, true},
+};
+
+const OptionEntry kOptions[] = {
+    {"to",
+     "FOLDER",
+     "where to write; a folder is made when it isn't there",
+     {Command::Save, Command::Render, Command::Sheet}},
+    {"cover", "NAME", "also saves the cover layout, under this name", {Command::Save}},
+    {"only", "ENTRY", "draws this screen alone; may be given again for further ones", {Command::Render}},
+    {"script",
+     "FILE",
+     "plays a script after the load; - is standard input",
+     {Command::Dump, Command::Save, Command::Render}},
+    {"reload",
+     nullptr,
+     "reads the files once more, in the order of a change of Skin",
+     {Command::Dump, Command::Save, Command::Render}},
+    {"screen",
+     "WIDTHxHEIGHT",
+     "the size of the screen in pixels; 1024x768 without it",
+     {Command::Dump, Command::Save, Command::Render}},
+    {"dpi",
+     "N",
+     "the screen's dots per logical inch; 96 without it",
+     {Command::Dump, Command::Save, Command::Render}},
+    {"help", nullptr, "prints this help", {}},
+    {"version", nullptr, "prints the program's version", {}},
+};
+
+QString usageLine(const CommandEntry& entry) {
+  return QStringLiteral("skintool %1 %2\n")
+      .arg(QString::fromLatin1(entry.name), QString::fromLatin1(entry.operands));
+}
+
+QString optionLine(const OptionEntry& option) {
+  QString words = QStringLiteral("  --") + QString::fromLatin1(option.name);
+  if (option.value) words += u' ' + QString::fromLatin1(option.value);
+  return words.leftJustified(26) + QString::fromLatin1(option.what) + u'\n';
+}
+
+}  // namespace
+
+std::span<const OptionEntry> commandOptions() {
+  return kOptions;
+}
+
+bool takesOption(Command command, const OptionEntry& option) {
+  return option.commands.size() == 0 || std::ranges::find(option.commands, command) != option.commands.end();
+}
+
+const CommandEntry* findCommand(const QString& name) {
+  const auto* found = std::ranges::find_if(
+      kCommands, [&](const CommandEntry& entry) { return name == QLatin1String(entry.name); });
+  return found == std::end(kCommands) ? nullptr : found;
+}
+
+QString usageText() {
+  QStringList lines;
+  for (const CommandEntry& entry : kCommands) lines << usageLine(entry);
+  lines << QStringLiteral("skintool COMMAND --help\n") << QStringLiteral("skintool --version\n");
+  return QStringLiteral("usage: ") + lines.join(QStringLiteral("       "));
+}
+
+QString helpText(const CommandEntry& command) {
+  QString text = QStringLiteral("usage: ") + usageLine(command) + u'\n';
+  text += QString::fromLatin1(command.what) + QStringLiteral("\n\noptions:\n");
+  for (const OptionEntry& option : kOptions)
+    if (takesOption(command.command, option)) text += optionLine(option);
+  return text;
+}
+
+}  // namespace veneerer
