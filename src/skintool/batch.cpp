@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <algorithm>
 
 #include "components/buttonsheet.h"
 #include "components/resizer.h"
@@ -13,7 +12,7 @@
 #include "skintool/arguments.h"
 #include "skintool/batchdialogs.h"
 #include "skintool/batchskin.h"
-#include "skintool/check.h"
+#include "skintool/checkcommand.h"
 #include "skintool/output.h"
 #include "skintool/render.h"
 #include "skintool/script.h"
@@ -71,24 +70,6 @@ private:
   Designer designer_;
 };
 
-int check(const Arguments& arguments, std::FILE* out) {
-  QList<Finding> findings;
-  for (const QString& skin : arguments.skins) {
-    BatchDialogs dialogs;
-    BatchSettings settings(skin);
-    Platform platform{dialogs, settings, arguments.screen, programFolder(skin)};
-    for (Finding finding : checkSkin(platform, skinName(skin))) {
-      // With several Skins a finding must say whose file it names.
-      if (arguments.skins.size() > 1) finding.file.prepend(skinName(skin) + u'/');
-      findings.append(finding);
-    }
-  }
-  const auto isError = [](const Finding& finding) { return finding.isError; };
-  std::stable_partition(findings.begin(), findings.end(), isError);
-  for (const Finding& finding : findings) print(out, finding.message().toLocal8Bit() + '\n');
-  return std::ranges::any_of(findings, isError) ? 1 : 0;
-}
-
 int writeSheet(const QString& path) {
   if (buttonSheet().save(path, "PNG")) return 0;
   throw RecordError(path, 0, {}, {}, QStringLiteral("the picture can't be written"));
@@ -103,7 +84,7 @@ int run(const Arguments& arguments, std::FILE* out) {
     print(out, arguments.answer.toUtf8());
     return 0;
   }
-  if (arguments.command == Command::Check) return check(arguments, out);
+  if (arguments.command == Command::Check) return runCheck(arguments.skins, out);
   if (arguments.command == Command::Sheet) return writeSheet(arguments.to);
   BatchRun(arguments).run(out);
   return 0;

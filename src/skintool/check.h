@@ -1,24 +1,12 @@
-// Reports what is wrong or risky in a Skin.
+// Looks for what is wrong or risky in a Skin's folder.
 #pragma once
 
-#include <QList>
-#include <QString>
-
-#include "platform/platform.h"
+#include "platform/skinfolder.h"
+#include "skintool/finding.h"
 
 namespace veneerer {
 
-struct Finding {
-  bool isError = false;
-  QString file;
-  int line = 0;  ///< 0 for the file as a whole
-  QString text;
-
-  /// "menu.ini:12: error: ..." or "menu.ini: warning: ..."
-  QString message() const;
-};
-
-/// Everything found in the Skin of that name under the folder's root, file by file. Nothing is written.
-QList<Finding> checkSkin(Platform& platform, const QString& skinName);
+/// Everything found in that folder, file by file. Nothing is written.
+Findings checkSkin(const SkinFolder& folder, const Screen& screen);
 
 }  // namespace veneerer

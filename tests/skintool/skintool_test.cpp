@@ -1,49 +1,19 @@
 // The batch tool by its command line.
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
 
-#include "skintool/batch.h"
+#include "skintool/batchrun.h"
 #include "skintool/script.h"
 
 namespace veneerer {
 namespace {
 
-class Skintool : public testing::Test {
+class Skintool : public BatchTest {
 protected:
-  Skintool() { QDir(root.path()).mkpath(QStringLiteral("Skins/S/images")); }
-
-  QString skin() const { return root.path() + QStringLiteral("/Skins/S"); }
-  QString path(const char* name) const { return root.path() + u'/' + QString::fromLatin1(name); }
-
-  int run(QStringList words) {
-    words.prepend(QStringLiteral("skintool"));
-    std::FILE* outFile = std::tmpfile();
-    std::FILE* errFile = std::tmpfile();
-    const int status = runBatch(words, outFile, errFile);
-    out = contents(outFile);
-    err = contents(errFile);
-    return status;
-  }
-  static QByteArray contents(std::FILE* file) {
-    std::rewind(file);
-    QFile reader;
-    QByteArray bytes;
-    if (reader.open(file, QIODevice::ReadOnly)) bytes = reader.readAll();
-    std::fclose(file);
-    return bytes;
-  }
-  void write(const QString& name, const QByteArray& bytes) {
-    QFile file(name);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-  }
   /// Dumps the Skin after a script.
   QJsonObject dump(const QByteArray& script) {
     write(path("script"), script);
@@ -54,10 +24,6 @@ protected:
   static QJsonObject element(const QJsonObject& state, const char* key) {
     return state[u"elements"].toObject()[QLatin1String(key)].toObject();
   }
-
-  QTemporaryDir root;
-  QByteArray out;
-  QByteArray err;
 };
 
 TEST_F(Skintool, PlaysWhatAnOperatorDoes) {
@@ -180,37 +146,6 @@ TEST_F(Skintool, SavesWithTheCoverOnDemandAndRendersTheChosenScreens) {
             (QStringList{QStringLiteral("04 Queue Screen.png"), QStringLiteral("31 Pop Up Menu.png")}));
   const QImage queue(path("png/04 Queue Screen.png"));
   EXPECT_EQ(queue.size(), QSize(804, 633));
-}
-
-TEST_F(Skintool, ChecksTellErrorsFirst) {
-  ASSERT_EQ(run({QStringLiteral("save"), skin(), QStringLiteral("--to"), skin()}), 0);
-  EXPECT_EQ(run({QStringLiteral("check"), skin()}), 0);
-  EXPECT_EQ(out.toStdString(), "") << "a Skin of our own has no finding";
-  const auto change = [&](const char* name, int line, const QByteArray& text) {
-    QFile file(skin() + u'/' + QString::fromLatin1(name));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    QList<QByteArray> lines = file.readAll().split('\n');
-    file.close();
-    lines[line - 1] = text + '\r';
-    write(file.fileName(), lines.join('\n'));
-  };
-  change("morebutton.ini", 12, "\\images\\gone.bmp");
-  change("spin.ini", 1, "007");
-  change("tab.ini", 2, " lead");
-  change("filter.ini", 1, "\\..\\..\\outside.bmp");
-  QImage(2, 2, QImage::Format_RGB32).save(path("outside.bmp"));
-  change("font.ini", 2, "red");
-  write(skin() + QStringLiteral("/mine.ini"), "x\r\n");
-  write(skin() + QStringLiteral("/progress.ini"), " 1 \r\n 2 \r\n 3 \r\n 4 \r\n 5 \r\n");
-  EXPECT_EQ(run({QStringLiteral("check"), skin()}), 1);
-  EXPECT_TRUE(out.startsWith("font.ini:2: error: Form6.Label5 ForeColor: ")) << out.toStdString();
-  for (const char* said :
-       {"morebutton.ini: warning: line 12: the image \"\\images\\gone.bmp\" is missing",
-        "spin.ini: warning: line 1: the caption \"007\" comes back as \"7\"",
-        "tab.ini: warning: line 2: the caption \" lead\" loses its leading blanks",
-        "filter.ini: warning: line 1: the image \"\\..\\..\\outside.bmp\" lies outside the Skin's folder",
-        "mine.ini: warning: ", "progress.ini: warning: has 5 lines where the format has 4"})
-    EXPECT_TRUE(out.contains(said)) << said << "\n" << out.toStdString();
 }
 
 TEST(Scripts, SplitTheirLines) {

@@ -1,0 +1,60 @@
+#include "skintool/filecheck.h"
+
+#include <QFileInfo>
+
+#include "records/layoutreader.h"
+#include "records/recorderror.h"
+#include "skintool/referencedamage.h"
+#include "skintool/rowdamage.h"
+
+namespace veneerer {
+
+namespace {
+
+constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
+
+Finding failed(const QString& name, const RecordError& error, FindingKind kind) {
+  return {kind, name, error.line(), error.place() + error.found()};
+}
+
+QString counted(const char* text, qsizetype count, const Layout& layout) {
+  return QString::fromLatin1(text).arg(count).arg(layout.lineCount());
+}
+
+QString damageOf(const RawValue& value, const SkinFolder& folder, PictureStore& pictures) {
+  const QString damage = rowDamage(value);
+  if (!damage.isEmpty() || value.row->kind != RowKind::Stored) return damage;
+  return referenceDamage(folder, pictures, valueText(value.value));
+}
+
+}  // namespace
+
+Findings checkFile(State& state, const SkinFolder& folder, const Screen& screen, const QString& name,
+                   const Layout& layout, FindingKind failure) {
+  Findings findings;
+  const auto warn = [&](int line, const QString& text) {
+    if (!text.isEmpty()) findings.append({FindingKind::Warning, name, line, text});
+  };
+  if (!QFileInfo(folder.file(name)).isFile()) return {};
+  Loading loading{state, folder, screen};
+  QByteArray bytes;
+  try {
+    bytes = recordFileBytes(folder.file(name));
+    const qsizetype lines = rawLines(bytes).size();
+    if (lines > layout.lineCount()) warn(0, counted("has %1 lines where the format has %2", lines, layout));
+    readRecords(layout, bytes, loading, Failures::AllFatal);
+    if (loading.lines.size() < layout.size())
+      warn(0, counted("stops before an optional block, at %1 of %2 lines", lines, layout));
+  } catch (const RecordError& error) {
+    findings.append(failed(name, error, failure));
+  }
+  if (bytes.startsWith(kByteOrderMark)) warn(1, QStringLiteral("a byte order mark counts as text"));
+  for (const RawValue& value : rawValues(layout, loading.lines, bytes)) {
+    warn(value.line, damageOf(value, folder, state.pictures));
+    // What follows a comma stands in the place of others.
+    if (!value.endsLine) break;
+  }
+  return findings;
+}
+
+}  // namespace veneerer

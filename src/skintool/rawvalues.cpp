@@ -1,0 +1,48 @@
+#include "skintool/rawvalues.h"
+
+#include <algorithm>
+
+#include "elements/numbers.h"
+
+namespace veneerer {
+
+std::vector<RawValue> rawValues(const Layout& layout, const std::vector<int>& rowLines,
+                                const QByteArray& bytes) {
+  const QStringList lines = rawLines(bytes);
+  std::vector<RawValue> values;
+  RecordReader reader(bytes);
+  bool startsLine = true;
+  for (std::size_t i = 0; i < rowLines.size() && !reader.atEnd(); ++i) {
+    if (rowLines[i] == 0) continue;
+    const Row& row = layout.rows()[i];
+    const int line = reader.line();
+    const RecordValue value =
+        row.kind == RowKind::FontSize ? RecordValue(reader.readLine()) : reader.readValue();
+    const bool endsLine = reader.atEnd() || reader.line() > line;
+    values.push_back({&row, value, line, lines.value(line - 1), startsLine, endsLine});
+    startsLine = endsLine;
+  }
+  return values;
+}
+
+QStringList rawLines(const QByteArray& bytes) {
+  QStringList lines;
+  RecordReader reader(bytes);
+  while (!reader.atEnd()) lines.append(reader.readLine());
+  return lines;
+}
+
+QString valueText(const RecordValue& value) {
+  if (const auto* text = std::get_if<QString>(&value)) return *text;
+  if (const auto* number = std::get_if<double>(&value)) return plainNumber(*number);
+  if (const auto* truth = std::get_if<bool>(&value))
+    return *truth ? QStringLiteral("True") : QStringLiteral("False");
+  return {};
+}
+
+QString withoutLeadingBlanks(const QString& text) {
+  const auto isBlank = [](QChar c) { return c == u' ' || c == u'\t'; };
+  return text.mid(std::ranges::find_if_not(text, isBlank) - text.begin());
+}
+
+}  // namespace veneerer

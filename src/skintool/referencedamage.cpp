@@ -1,0 +1,53 @@
+#include "skintool/referencedamage.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "elements/printable.h"
+#include "skintool/textdamage.h"
+
+namespace veneerer {
+
+namespace {
+
+/// As long as a path may be where the jukebox runs.
+constexpr int kLongestPath = 260;
+
+/// The file whose name a save turned into the reference, because the code page lacks a character of it;
+/// empty when there is none.
+QString unnameableFile(const SkinFolder& folder, const QString& reference) {
+  if (!reference.contains(u'?')) return {};
+  const QFileInfo sought(folder.path() + QString(reference).replace(u'\\', u'/'));
+  if (!folder.contains(sought.path())) return {};
+  for (const QString& name : QDir(sought.path()).entryList(QDir::Files))
+    if (asSaved(name).compare(sought.fileName(), Qt::CaseInsensitive) == 0) return name;
+  return {};
+}
+
+QString missing(const SkinFolder& folder, const QString& reference) {
+  if (const QString damage = utf8Damage(QStringLiteral("image reference"), reference); !damage.isEmpty())
+    return damage;
+  const QString said = QStringLiteral("the image \"%1\" is missing").arg(excerpt(reference, kLongestPath));
+  const QString file = unnameableFile(folder, reference);
+  if (file.isEmpty()) return said;
+  return said + QStringLiteral(": code page 1252 can't hold the name of \"%1\"").arg(excerpt(file));
+}
+
+}  // namespace
+
+QString referenceDamage(const SkinFolder& folder, PictureStore& pictures, const QString& reference) {
+  if (reference.isEmpty()) return {};
+  const QString found = folder.resolve(reference);
+  // The grab of the player's picture leaves such a name.
+  const bool isFullPath = found.isEmpty() && reference.startsWith(u'/') && QFileInfo(reference).isFile();
+  const QString path = isFullPath ? reference : found;
+  const QString said = QStringLiteral("the image \"%1\" ").arg(excerpt(reference, kLongestPath));
+  if (path.isEmpty()) return missing(folder, reference);
+  if (!folder.contains(path)) return said + QStringLiteral("lies outside the Skin's folder");
+  if (pictures.load(path).image().isNull()) return said + QStringLiteral("can't be decoded");
+  if (isFullPath)
+    return said + QStringLiteral("is named by its full path, which doesn't travel with the Skin");
+  return {};
+}
+
+}  // namespace veneerer

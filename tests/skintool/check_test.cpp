@@ -1,0 +1,160 @@
+// What the batch tool tells of a Skin.
+#include <QImage>
+
+#include "skintool/batchrun.h"
+#include "skintool/textdamage.h"
+
+namespace veneerer {
+namespace {
+
+class Check : public BatchTest {
+protected:
+  void SetUp() override {
+    ASSERT_EQ(run({QStringLiteral("save"), skin(), QStringLiteral("--to"), skin(), QStringLiteral("--cover"),
+                   QStringLiteral("a.cov")}),
+              0);
+  }
+  QString file(const char* name) const { return skin() + u'/' + QString::fromUtf8(name); }
+  QByteArray bytesOf(const char* name) const {
+    QFile reader(file(name));
+    return reader.open(QIODevice::ReadOnly) ? reader.readAll() : QByteArray();
+  }
+  void change(const char* name, int line, const QByteArray& text) {
+    QList<QByteArray> lines = bytesOf(name).split('\n');
+    ASSERT_LT(line, lines.size());
+    lines[line - 1] = text + '\r';
+    write(file(name), lines.join('\n'));
+  }
+  QList<QByteArray> check() {
+    status = run({QStringLiteral("check"), skin()});
+    return out.split('\n');
+  }
+  int status = -1;
+};
+
+struct Changed {
+  const char* file;
+  int line;
+  QByteArray text;
+  const char* said;  ///< the whole finding, but for its place
+};
+
+TEST_F(Check, TellsErrorsFirstEachWithItsLine) {
+  check();
+  EXPECT_EQ(out.toStdString(), "") << "a Skin of our own has no finding";
+  EXPECT_EQ(status, 0);
+  write(file("progress.ini"), " 1 \r\n 2 \r\n 3 \r\n 4 \r\n 5 \r\n");
+  change("tab.ini", 3, "wide");
+  change("font.ini", 2, "red");
+  change("resolution.ini", 4, "99999999999999");
+  EXPECT_EQ(
+      check(),
+      (QList<QByteArray>{
+          "font.ini:2: error: Form6.Label5 ForeColor: a number is due here, but \"red\" stands in its place",
+          "resolution.ini:4: error: Form4.Text1(0) Text: 99999999999999 pixels are out of range",
+          "tab.ini:3: warning: Form1.lvButtons_H4(0) ButtonShape: a number is due here, but \"wide\" stands "
+          "in its place",
+          "progress.ini: warning: has 5 lines where the format has 4", ""}));
+  EXPECT_EQ(status, 1);
+}
+
+TEST_F(Check, TellsWhatALoadOrASaveWouldSpoil) {
+  const Changed cases[] = {
+      {"spin.ini", 1, "007", "the caption \"007\" comes back as \"7\""},
+      {"spin.ini", 1, " lead", "the caption \" lead\" loses its leading blanks"},
+      {"spin.ini", 1, "   ", "the caption \"   \" comes back as \"\""},
+      {"spin.ini", 1, "\"Play\"", "the caption \"Play\" loses its quotes"},
+      {"spin.ini", 1, "\"a, b\"",
+       "the caption \"a, b\" loses its quotes; then a comma cuts the caption \"a, b\""},
+      {"spin.ini", 1, "#TRUE#", "the caption \"#TRUE#\" comes back as \"True\""},
+      {"spin.ini", 1, "caf\xC3\xA9",
+       "the caption \"caf\u00C3\u00A9\" is \"caf\u00E9\" in UTF-8, where code page 1252 is due"},
+      {"spin.ini", 1, "caf\xE9\x9D",
+       "the caption \"caf\u00E9?\" holds the byte 9D (hexadecimal), for which code page 1252 has no "
+       "character"},
+      {"spin.ini", 2, " 1.50 ", "the number \"1.50\" comes back as \"2\""},
+      {"spin.ini", 8, " 1.50 ", "the number \"1.50\" comes back as \"1.5\""},
+      {"spin.ini", 8, " 1234.56789 ", "the number \"1234.56789\" comes back as \"1234.568\""},
+      {"main.ini", 95, "007", "the font name \"007\" comes back as \"7\""},
+      {"main.ini", 96, "8,5", "the font size \"8,5\" comes back as \"8\""},
+      {"a.cov", 4, " 12.5 ", "the number \"12.5\" comes back as \"12\""},
+      {"resolution.ini", 5, "600.0", "the number \"600.0\" comes back as \"600\""},
+  };
+  for (const Changed& c : cases) {
+    const QByteArray before = bytesOf(c.file);
+    change(c.file, c.line, c.text);
+    const QByteArray place = QByteArray(c.file) + ':' + QByteArray::number(c.line);
+    check();
+    EXPECT_EQ(out.toStdString(), (place + ": warning: " + c.said + '\n').toStdString());
+    write(file(c.file), before);
+  }
+}
+
+TEST_F(Check, TellsTheCommaThatMovesAFileAndNoneOfItsConsequences) {
+  change("genbut.ini", 1, "General Buttons a, b");
+  change("genbut.ini", 2, "a, b");
+  change("licence.ini", 2, "1,5");
+  const QList<QByteArray> findings = check();
+  EXPECT_TRUE(
+      findings.contains("genbut.ini:1: warning: a comma cuts the label line \"General Buttons a, b\""))
+      << out.toStdString();
+  EXPECT_TRUE(findings.contains("licence.ini:2: warning: a comma cuts the line \"1,5\""))
+      << out.toStdString();
+  EXPECT_EQ(out.count("genbut.ini"), 2);
+}
+
+TEST_F(Check, TellsOfImagesWhyTheyWontBeShown) {
+  const QString grabbed = skin() + QStringLiteral("/images/Player.bmp");
+  QImage(2, 2, QImage::Format_RGB32).save(grabbed);
+  QImage(2, 2, QImage::Format_RGB32).save(path("outside.bmp"));
+  write(file("images/\u0141.bmp"), "BM");
+  write(file("images/text.bmp"), "no picture");
+  const struct {
+    QByteArray reference;
+    QByteArray said;
+  } cases[] = {
+      {"\\images\\gone\x1B.bmp", "the image \"\\images\\gone?.bmp\" is missing"},
+      {"\\images\\player.bmp", ""},
+      {grabbed.toUtf8(), "the image \"" + grabbed.toUtf8() +
+                             "\" is named by its full path, which doesn't travel with the Skin"},
+      {"\\..\\..\\outside.bmp", "the image \"\\..\\..\\outside.bmp\" lies outside the Skin's folder"},
+      {path("outside.bmp").toUtf8(),
+       "the image \"" + path("outside.bmp").toUtf8() + "\" lies outside the Skin's folder"},
+      {"\\images\\text.bmp", "the image \"\\images\\text.bmp\" can't be decoded"},
+      {"\\images\\?.bmp",
+       "the image \"\\images\\?.bmp\" is missing: code page 1252 can't hold the name of \"\u0141.bmp\""},
+      {"\\images\\\xC5\x81.bmp",
+       "the image reference \"\\images\\\u00C5?.bmp\" is \"\\images\\\u0141.bmp\" in UTF-8, where code page "
+       "1252 is due"},
+  };
+  for (const auto& c : cases) {
+    change("filter.ini", 1, c.reference);
+    check();
+    const QByteArray finding = c.said.isEmpty() ? QByteArray() : "filter.ini:1: warning: " + c.said + '\n';
+    EXPECT_EQ(out.toStdString(), finding.toStdString());
+  }
+}
+
+TEST(TextDamage, TellsWhatASaveDoesToALiveText) {
+  const struct {
+    const char16_t* text;
+    const char* said;
+  } cases[] = {
+      {u"Rock \u20AC 5 \u00E9 \"x\" ", ""},
+      {u"", ""},
+      {u"Rock, Pop", "a comma cuts the caption \"Rock, Pop\""},
+      {u"two\nlines", "a line end cuts the caption \"two?lines\""},
+      {u"\"Play\"", "the caption \"\"Play\"\" begins with a double quote and doesn't come back"},
+      {u"\u0141\u00F3d\u017A",
+       "the caption \"\u0141\u00F3d\u017A\" comes back as \"?\u00F3d?\": code page 1252 can't hold it"},
+      {u"1E3", "the caption \"1E3\" comes back as \"1000\""},
+      {u"#NULL#", "the next load fails on the caption \"#NULL#\""},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(textDamage(QStringLiteral("caption"), QString::fromUtf16(c.text)).toStdString(), c.said);
+  // A lone byte of the code page looks like the start of a longer character.
+  EXPECT_EQ(utf8Damage(QStringLiteral("caption"), QStringLiteral("caf\u00E9")).toStdString(), "");
+}
+
+}  // namespace
+}  // namespace veneerer
