@@ -1,7 +1,6 @@
 #include "skintool/check.h"
 
-#include <QDir>
-#include <QSet>
+#include <QFileInfo>
 
 #include "canvas/design.h"
 #include "properties/coverfile.h"
@@ -10,6 +9,7 @@
 #include "skin/catalogue.h"
 #include "skin/lists.h"
 #include "skintool/filecheck.h"
+#include "skintool/strayfiles.h"
 
 namespace veneerer {
 
@@ -25,13 +25,12 @@ public:
 
   Findings run() {
     for (const CatalogueEntry& entry : catalogue()) checkEntry(entry);
+    if (!hasRecords_) warn(QString(), QStringLiteral("no record file is here"));
     for (const QString& name : folder_.coverFiles())
       check(name, coverFile(state_, name, lastCoverOf(bytesOf(name))), true);
     // A routine without effect names it.
     names_ << QStringLiteral("back.ini");
-    for (const QString& name :
-         QDir(folder_.path()).entryList({QStringLiteral("*.ini")}, QDir::Files, QDir::Name))
-      if (!names_.contains(name)) warn(name, QStringLiteral("is no record file that is ever read"));
+    findings_ << strayFiles(folder_, names_);
     return findings_;
   }
 
@@ -39,6 +38,8 @@ private:
   void warn(const QString& file, const QString& text) {
     findings_.append({FindingKind::Warning, file, 0, text});
   }
+
+  bool isFile(const QString& name) const { return QFileInfo(folder_.file(name)).isFile(); }
 
   QByteArray bytesOf(const QString& name) const {
     try {
@@ -53,9 +54,16 @@ private:
     const QString read = layout.fileName();
     const QString written = savedName(entry, layout);
     names_ << read << written;
+    hasRecords_ |= isFile(read) || isFile(written);
     check(read, layout, entry.load > 0);
-    // Where case counts, search_Choice.ini is written and never read: its faults end no load.
-    if (read != written) check(written, layout, false);
+    if (read != written) checkWritten(read, written, layout);
+  }
+
+  // Where case counts, search_Choice.ini is written and never read: its faults end no load.
+  void checkWritten(const QString& read, const QString& written, const Layout& layout) {
+    check(written, layout, false);
+    if (isFile(read) && isFile(written) && bytesOf(read) != bytesOf(written))
+      warn(read, QStringLiteral("differs from %1, which a save writes and no load reads").arg(written));
   }
 
   void check(const QString& name, const Layout& layout, bool isLoaded) {
@@ -68,6 +76,7 @@ private:
   Screen screen_;
   State state_;
   QSet<QString> names_;  ///< under which record files are read or written
+  bool hasRecords_ = false;
   Findings findings_;
 };
 

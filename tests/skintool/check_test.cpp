@@ -135,6 +135,38 @@ TEST_F(Check, TellsOfImagesWhyTheyWontBeShown) {
   }
 }
 
+TEST_F(Check, TellsOfFilesThatNoLoadReads) {
+  write(file("search_choice.ini"), bytesOf("search_Choice.ini"));
+  check();
+  EXPECT_EQ(out.toStdString(), "") << "twins that agree are no fault";
+  change("search_choice.ini", 2, " 77 ");
+  write(file("mine.ini"), "x\r\n");
+  write(file("Nav.ini"), bytesOf("nav.ini"));
+  write(file("ten covers"), bytesOf("a.cov"));
+  write(file("notes.txt"), " 1 \r\n 2 \r\nAlbum\r\n");
+  write(file("B\n1: error: forged\x1B]0;x\x07.COV"), bytesOf("a.cov") + "more\r\n");
+  const QList<QByteArray> findings = check();
+  EXPECT_EQ(findings.size(), 6) << out.toStdString();
+  for (const char* finding :
+       {"search_choice.ini: warning: differs from search_Choice.ini, which a save writes and no load reads",
+        "mine.ini: warning: is no record file that is ever read",
+        "Nav.ini: warning: is never read: the name is spelt nav.ini",
+        "ten covers: warning: reads like a cover file, but only names that end in .cov are listed"})
+    EXPECT_TRUE(findings.contains(finding)) << finding << '\n' << out.toStdString();
+  EXPECT_TRUE(findings[1].startsWith("B?1: error: forged?]0;x?.COV: warning: has ")) << out.toStdString();
+}
+
+TEST_F(Check, NamesTheSkinWhereThereAreSeveral) {
+  const QString empty = path("Skins/Empty");
+  QDir().mkpath(empty);
+  EXPECT_EQ(run({QStringLiteral("check"), empty}), 0);
+  EXPECT_EQ(out.toStdString(), "warning: no record file is here\n");
+  change("font.ini", 2, "red");
+  EXPECT_EQ(run({QStringLiteral("check"), empty, skin()}), 1);
+  EXPECT_TRUE(out.startsWith("S/font.ini:2: error: ")) << out.toStdString();
+  EXPECT_TRUE(out.endsWith("\nEmpty/warning: no record file is here\n")) << out.toStdString();
+}
+
 TEST(TextDamage, TellsWhatASaveDoesToALiveText) {
   const struct {
     const char16_t* text;
