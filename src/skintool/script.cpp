@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "elements/controls.h"
+#include "elements/printable.h"
 #include "platform/skinfolder.h"
 
 namespace veneerer {
@@ -12,14 +13,15 @@ namespace {
 float number(const ScriptWord& word) {
   bool isNumber = false;
   const float value = word.text.toFloat(&isNumber);
-  if (!isNumber || !std::isfinite(value)) throw ScriptError(QStringLiteral("%1 is no number").arg(word.text));
+  if (!isNumber || !std::isfinite(value))
+    throw ScriptError(QStringLiteral("%1 is no number").arg(excerpt(word.text)));
   return value;
 }
 
 int wholeNumber(const ScriptWord& word) {
   bool isNumber = false;
   const int value = word.text.toInt(&isNumber);
-  if (!isNumber) throw ScriptError(QStringLiteral("%1 is no whole number").arg(word.text));
+  if (!isNumber) throw ScriptError(QStringLiteral("%1 is no whole number").arg(excerpt(word.text)));
   return value;
 }
 
@@ -105,22 +107,22 @@ void ScriptPlayer::playLine(const QString& line) {
   for (const Entry& entry : kActions) {
     if (name.text != entry.name) continue;
     if (words.size() < entry.fewest || words.size() > entry.most)
-      throw ScriptError(QStringLiteral("%1 takes another number of words").arg(name.text));
+      throw ScriptError(QStringLiteral("%1 takes another number of words").arg(excerpt(name.text)));
     (this->*entry.action)(words);
     return;
   }
-  throw ScriptError(QStringLiteral("there is no action \"%1\"").arg(name.text));
+  throw ScriptError(QStringLiteral("there is no action \"%1\"").arg(excerpt(name.text)));
 }
 
 Element& ScriptPlayer::element(const ScriptWord& word) {
   Element* found = designer_.state().find(word.text);
-  if (!found) throw ScriptError(QStringLiteral("there is no element %1").arg(word.text));
+  if (!found) throw ScriptError(QStringLiteral("there is no element %1").arg(excerpt(word.text)));
   return *found;
 }
 
 RowList& ScriptPlayer::rows(const ScriptWord& word) {
   Element& found = element(word);
-  if (!found.has(Property::List)) throw ScriptError(QStringLiteral("%1 has no rows").arg(word.text));
+  if (!found.has(Property::List)) throw ScriptError(QStringLiteral("%1 has no rows").arg(excerpt(word.text)));
   if (&found == &*designer_.state().form6.List1) designer_.fillFonts();
   return static_cast<RowList&>(found);
 }
@@ -131,7 +133,7 @@ void ScriptPlayer::chooseRow(RowList& list, const ScriptWord& row) {
   int index = row.text.toInt(&isNumber);
   if (row.isQuoted || !isNumber) index = static_cast<int>(list.list().indexOf(row.text));
   if (index < 0 || !list.select(index))
-    throw ScriptError(QStringLiteral("%1 has no row \"%2\"").arg(list.key(), row.text));
+    throw ScriptError(QStringLiteral("%1 has no row \"%2\"").arg(list.key(), excerpt(row.text)));
 }
 
 void ScriptPlayer::screen(const Words& words) {
@@ -170,7 +172,7 @@ void ScriptPlayer::doubleClick(const Words& words) {
   if (&list != &*designer_.state().form4.File1)
     throw ScriptError(QStringLiteral("%1 has no second event").arg(words[0].text));
   if (!list.list().contains(words[1].text))
-    throw ScriptError(QStringLiteral("%1 has no row \"%2\"").arg(list.key(), words[1].text));
+    throw ScriptError(QStringLiteral("%1 has no row \"%2\"").arg(list.key(), excerpt(words[1].text)));
   list.setText(words[1].text);
   designer_.doubleClick(list);
 }
@@ -200,7 +202,7 @@ void ScriptPlayer::resize(const Words& words) {
 void ScriptPlayer::reload(const Words& words) {
   const QString& name = words[0].text;
   if (!SkinsRoot(designer_.platform().folder).skins().contains(name))
-    throw ScriptError(QStringLiteral("there is no Skin \"%1\" beside this one").arg(name));
+    throw ScriptError(QStringLiteral("there is no Skin \"%1\" beside this one").arg(excerpt(name)));
   designer_.reload(name);
 }
 
@@ -222,7 +224,7 @@ void ScriptPlayer::colour(const Words& words) {
 }
 
 void ScriptPlayer::font(const Words& words) {
-  if (isWord(words[0], u"cancel")) {
+  if (isWord(words[0], u"cancel") && words.size() == 1) {
     dialogs_.fonts.enqueue(std::nullopt);
     return;
   }
@@ -236,7 +238,7 @@ void ScriptPlayer::font(const Words& words) {
                  : isWord(word, u"underline")     ? &font.underline
                  : isWord(word, u"strikethrough") ? &font.strikethrough
                                                   : nullptr;
-    if (!flag) throw ScriptError(QStringLiteral("a font knows no \"%1\"").arg(word.text));
+    if (!flag) throw ScriptError(QStringLiteral("a font knows no \"%1\"").arg(excerpt(word.text)));
     *flag = true;
   }
   dialogs_.fonts.enqueue(font);

@@ -74,7 +74,7 @@ TEST_F(Skintool, StopsAtAWrongScriptBeforeItWrites) {
     const char* said;
   } cases[] = {
       {"screen Queue Screen\nclick Form1.Label99\n", ":2: there is no element Form1.Label99"},
-      {"jump\n", ":1: there is no action"},
+      {"jump\x1B[31m\n", ":1: there is no action \"jump?[31m\""},
       {"choose Form4.Combo10 9\n", "has no row"},
       {"click Form1.Label16(3)\nclick Form6.Picture2\n", ":2: the colour dialog finds no answer"},
       {"set Form1.Label5 \"x\"\n", "nothing can be typed"},
