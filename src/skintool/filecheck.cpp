@@ -17,7 +17,7 @@ Finding failed(const QString& name, const RecordError& error, FindingKind kind) 
   return {kind, name, error.line(), error.place() + error.found()};
 }
 
-QString counted(const char* text, qsizetype count, const Layout& layout) {
+QString counted(const char* text, int count, const Layout& layout) {
   return QString::fromLatin1(text).arg(count).arg(layout.lineCount());
 }
 
@@ -40,7 +40,7 @@ Findings checkFile(State& state, const SkinFolder& folder, const Screen& screen,
   QByteArray bytes;
   try {
     bytes = recordFileBytes(folder.file(name));
-    const qsizetype lines = rawLines(bytes).size();
+    const int lines = lineCount(bytes);
     if (lines > layout.lineCount()) warn(0, counted("has %1 lines where the format has %2", lines, layout));
     readRecords(layout, bytes, loading, Failures::AllFatal);
     if (loading.lines.size() < layout.size())

@@ -6,10 +6,29 @@
 
 namespace veneerer {
 
+namespace {
+
+/// The texts of lines that are asked for in their order. None is kept: a stranger's file may have millions.
+class LineText {
+public:
+  explicit LineText(const QByteArray& bytes) : reader_(bytes) {}
+
+  const QString& of(int line) {
+    while (!reader_.atEnd() && reader_.line() <= line) text_ = reader_.readLine();
+    return text_;
+  }
+
+private:
+  RecordReader reader_;
+  QString text_;
+};
+
+}  // namespace
+
 std::vector<RawValue> rawValues(const Layout& layout, const std::vector<int>& rowLines,
                                 const QByteArray& bytes) {
-  const QStringList lines = rawLines(bytes);
   std::vector<RawValue> values;
+  LineText texts(bytes);
   RecordReader reader(bytes);
   bool startsLine = true;
   for (std::size_t i = 0; i < rowLines.size() && !reader.atEnd(); ++i) {
@@ -19,17 +38,17 @@ std::vector<RawValue> rawValues(const Layout& layout, const std::vector<int>& ro
     const RecordValue value =
         row.kind == RowKind::FontSize ? RecordValue(reader.readLine()) : reader.readValue();
     const bool endsLine = reader.atEnd() || reader.line() > line;
-    values.push_back({&row, value, line, lines.value(line - 1), startsLine, endsLine});
+    values.push_back({&row, value, line, texts.of(line), startsLine, endsLine});
     startsLine = endsLine;
   }
   return values;
 }
 
-QStringList rawLines(const QByteArray& bytes) {
-  QStringList lines;
+int lineCount(const QByteArray& bytes) {
   RecordReader reader(bytes);
-  while (!reader.atEnd()) lines.append(reader.readLine());
-  return lines;
+  int count = 0;
+  for (; !reader.atEnd(); ++count) reader.readLine();
+  return count;
 }
 
 QString valueText(const RecordValue& value) {

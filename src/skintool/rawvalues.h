@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QStringList>
+#include <QString>
 #include <vector>
 
 #include "records/layout.h"
@@ -25,8 +25,8 @@ struct RawValue {
 std::vector<RawValue> rawValues(const Layout& layout, const std::vector<int>& rowLines,
                                 const QByteArray& bytes);
 
-/// The lines of a file, without their ends.
-QStringList rawLines(const QByteArray& bytes);
+/// How many lines the file has.
+int lineCount(const QByteArray& bytes);
 
 /// The value as a text field takes it; empty for one that no field takes.
 QString valueText(const RecordValue& value);
