@@ -167,6 +167,8 @@ public:
   // Marks on what has been added since from (see size()).
   int lineCount() const { return static_cast<int>(rows_.size()); }
   std::size_t size() const { return rows_.size(); }
+  /// No line at all: a file that is named and neither read, written nor removed.
+  bool isEmpty() const { return rows_.empty(); }
   void applyAboveMinusOneOnly(std::size_t from, std::initializer_list<Property> properties);
   void needVersion2(std::size_t row) { rows_[row].needsVersion2 = true; }
   /// The writer takes these lines from another button of the same fields than the reader fills.

@@ -252,7 +252,7 @@ QByteArray recordFileBytes(const QString& path) {
 
 QString readRecordFile(const Layout& layout, const QString& path, Loading& loading) {
   // Only a plain file is a record file: a pipe or a device under its name could hang the program.
-  if (!QFileInfo(path).isFile()) return {};
+  if (layout.isEmpty() || !QFileInfo(path).isFile()) return {};
   try {
     return readRecords(layout, recordFileBytes(path), loading);
   } catch (const RecordError&) {

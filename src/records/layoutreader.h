@@ -18,7 +18,8 @@ enum class Failures { ByLayout, AllFatal };
 QString readRecords(const Layout& layout, const QByteArray& bytes, Loading& loading,
                     Failures failures = Failures::ByLayout);
 
-/// The same for the file of that path; a file that isn't there changes nothing.
+/// The same for the file of that path; a file that isn't there changes nothing. Under a layout without lines
+/// the file isn't even opened.
 QString readRecordFile(const Layout& layout, const QString& path, Loading& loading);
 
 /// The whole file. Raises RecordError when it can't be read or is larger than 16 MiB.

@@ -12,6 +12,8 @@ Layout menuPopupFile(State& state);
 Layout moreButtonFile(State& state);
 Layout tabFile(State& state);
 Layout generalButtonsFile(State& state);
+/// Without lines: back.ini has its place in the reload and in the save, and neither does anything with it.
+Layout backFile(State& state);
 
 // Player and navigation: files/player.cpp.
 Layout playerFile(State& state);

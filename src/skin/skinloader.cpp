@@ -16,7 +16,10 @@ void SkinLoader::load() {
   covers_.listFiles();
   if (!covers_.firstFile().isEmpty()) covers_.load(skin.file(covers_.firstFile()));
   loadStars(skin);
-  read(loadOrder(), true);
+  for (const LoadEntry& entry : loadOrder()) {
+    if (entry.splash) tell(entry.splash);
+    read(entry.layout, skin);
+  }
   tell("Loading...(MENU IMAGES)");
   showMenuPictures(skin);
   state_.form1.Picture1[0].setVisible(true);
@@ -24,20 +27,17 @@ void SkinLoader::load() {
 }
 
 void SkinLoader::reload() {
-  read(reloadOrder(), false);
-  showMenuPictures(folder());
+  const SkinFolder skin = folder();
+  for (const MakeLayout layout : reloadOrder()) read(layout, skin);
+  showMenuPictures(skin);
   covers_.listFiles();
 }
 
-void SkinLoader::read(const std::vector<const CatalogueEntry*>& order, bool tellsProgress) {
-  const SkinFolder skin = folder();
+void SkinLoader::read(MakeLayout makeLayout, const SkinFolder& skin) {
   Loading loading{state_, skin, platform_.screen};
-  for (const CatalogueEntry* entry : order) {
-    if (tellsProgress && entry->progress) tell(entry->progress);
-    const Layout layout = entry->layout(state_);
-    const QString failure = readRecordFile(layout, skin.file(layout.fileName()), loading);
-    if (!failure.isEmpty()) platform_.dialogs.inform(QStringLiteral("Veneerer"), failure);
-  }
+  const Layout layout = makeLayout(state_);
+  const QString failure = readRecordFile(layout, skin.file(layout.fileName()), loading);
+  if (!failure.isEmpty()) platform_.dialogs.inform(QStringLiteral("Veneerer"), failure);
 }
 
 // A Skin without a star of its own takes the one beside the program.

@@ -22,7 +22,7 @@ public:
   void reload();
 
 private:
-  void read(const std::vector<const CatalogueEntry*>& order, bool tellsProgress);
+  void read(MakeLayout makeLayout, const SkinFolder& folder);
   void loadStars(const SkinFolder& folder);
   void showMenuPictures(const SkinFolder& folder);
   void showWindows();

@@ -13,9 +13,9 @@ void saveRecords(State& state, const SkinFolder& folder) {
   };
   std::vector<File> files;
   // All is composed before the first file is opened: a fault of ours leaves the folder as it was.
-  for (const CatalogueEntry* entry : saveOrder()) {
-    const Layout layout = entry->layout(state);
-    files.push_back({savedName(*entry, layout), composeRecords(layout)});
+  for (const SaveEntry& entry : saveOrder()) {
+    const Layout layout = entry.layout(state);
+    if (!layout.isEmpty()) files.push_back({savedName(entry, layout), composeRecords(layout)});
   }
   for (const File& file : files) writeRecordFile(folder, file.name, file.bytes);
 }

@@ -24,7 +24,7 @@ public:
   }
 
   Findings run() {
-    for (const CatalogueEntry& entry : catalogue()) checkEntry(entry);
+    for (const SaveEntry& entry : saveOrder()) checkEntry(entry);
     if (!hasRecords_) warn(QString(), QStringLiteral("no record file is here"));
     for (const QString& name : folder_.coverFiles())
       check(name, coverFile(state_, name, lastCoverOf(bytesOf(name))), true);
@@ -49,13 +49,14 @@ private:
     }
   }
 
-  void checkEntry(const CatalogueEntry& entry) {
+  void checkEntry(const SaveEntry& entry) {
     const Layout layout = entry.layout(state_);
+    if (layout.isEmpty()) return;
     const QString read = layout.fileName();
     const QString written = savedName(entry, layout);
     names_ << read << written;
     hasRecords_ |= isFile(read) || isFile(written);
-    check(read, layout, entry.load > 0);
+    check(read, layout, isLoaded(entry));
     if (read != written) checkWritten(read, written, layout);
   }
 

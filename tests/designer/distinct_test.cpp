@@ -21,7 +21,10 @@ protected:
   }
 
   // search_Choice.ini isn't read back under that name, so it is left out here.
-  static bool isReadBack(const CatalogueEntry& entry) { return entry.load > 0 && !entry.saveName; }
+  static bool isReadBack(const SaveEntry& entry) { return isLoaded(entry) && !entry.name; }
+  static bool isReloaded(const SaveEntry& entry) {
+    return std::ranges::find(reloadOrder(), entry.layout) != reloadOrder().end();
+  }
 
   Value distinct(const Slot& slot) {
     ++counter_;
@@ -49,7 +52,7 @@ protected:
   }
 
   void fill(State& state) {
-    for (const CatalogueEntry& entry : catalogue()) {
+    for (const SaveEntry& entry : saveOrder()) {
       if (!isReadBack(entry)) continue;
       const Layout layout = entry.layout(state);
       for (const Row& row : layout.rows()) {
@@ -61,8 +64,8 @@ protected:
 
   void compare(State& written, State& read, bool isReload) {
     int compared = 0;
-    for (const CatalogueEntry& entry : catalogue()) {
-      if (!isReadBack(entry) || (isReload && entry.reload == 0)) continue;
+    for (const SaveEntry& entry : saveOrder()) {
+      if (!isReadBack(entry) || (isReload && !isReloaded(entry))) continue;
       const Layout from = entry.layout(written);
       const Layout to = entry.layout(read);
       for (std::size_t i = 0; i < from.size(); ++i) {

@@ -1,6 +1,8 @@
 // Whole Skins: start-up, load, reload, save.
 #include <gtest/gtest.h>
 
+#include <QFileInfo>
+
 #include "designer/skinfixture.h"
 #include "records/recorderror.h"
 #include "skin/catalogue.h"
@@ -11,19 +13,34 @@ namespace {
 using test::SkinFixture;
 using Skin = SkinFixture;
 
-TEST(Catalogue, CarriesThreeOrders) {
-  EXPECT_EQ(saveOrder().size(), 59u);
-  EXPECT_EQ(loadOrder().size(), 51u);
-  EXPECT_EQ(reloadOrder().size(), 48u);
-  State state;
-  const auto nameAt = [&](const std::vector<const CatalogueEntry*>& order, std::size_t i) {
-    return order[i]->layout(state).fileName().toStdString();
-  };
-  EXPECT_EQ(nameAt(loadOrder(), 0), "locked_button.ini");
-  EXPECT_EQ(nameAt(loadOrder(), 13), "progress.ini");
-  EXPECT_EQ(nameAt(reloadOrder(), 9), "progress.ini");
-  EXPECT_EQ(nameAt(reloadOrder(), 47), "collections.ini");
-  EXPECT_EQ(nameAt(saveOrder(), 58), "locked_button.ini");
+TEST_F(Skin, TheSplashTellsWhatAFullLoadReadsAndAReloadTellsNothing) {
+  QStringList told;
+  state().notices.subscribe([&](const Change& change) {
+    const Element& label = *state().frmSplash.Label3;
+    if (&change.element == &label) told.append(label.as<QString>(Property::Caption));
+  });
+  start();
+  QStringList expected = {QStringLiteral("Reading Skin List..."), QStringLiteral("Setting Up Veneerer...")};
+  for (const LoadEntry& entry : loadOrder()) {
+    const QString text = QString::fromLatin1(entry.splash ? entry.splash : "");
+    if (!text.isEmpty() && text != expected.last()) expected.append(text);
+  }
+  expected.append(QStringLiteral("Loading...(MENU IMAGES)"));
+  EXPECT_EQ(told.join(u'\n').toStdString(), expected.join(u'\n').toStdString());
+  told.clear();
+  designer->reload(QStringLiteral("S"));
+  EXPECT_TRUE(told.isEmpty());
+}
+
+TEST_F(Skin, TheFileWithoutEffectIsNeitherReadNorWritten) {
+  // Larger than any record file may be: opening it would fail.
+  constexpr qint64 kSize = 17 * 1024 * 1024;
+  write(QStringLiteral("back.ini"), {});
+  ASSERT_TRUE(QFile(path(QStringLiteral("back.ini"))).resize(kSize));
+  start();
+  designer->reload(QStringLiteral("S"));
+  designer->saveTo(SkinFolder(root.path() + QStringLiteral("/Skins/S")));
+  EXPECT_EQ(QFileInfo(path(QStringLiteral("back.ini"))).size(), kSize);
 }
 
 TEST_F(Skin, StartsFromTheSettingsAndFallsBackToTheDefault) {

@@ -71,6 +71,10 @@ Layout tabFile(State& state) {
   return file;
 }
 
+Layout backFile(State& state) {
+  return {state, "back.ini"};
+}
+
 Layout generalButtonsFile(State& state) {
   Layout file(state, "genbut.ini");
   file.each(state.form6.lvButtons_H5, 0, 1, [&](Button& sample) {
