@@ -71,7 +71,7 @@ bool Button::accepts(Property property, const Value& value) const {
     case Property::CaptionAlign:
       return refusal(property, value).isEmpty();
     default:
-      return true;
+      return Element::accepts(property, value);
   }
 }
 

@@ -17,8 +17,9 @@ void RowList::addRow(const QString& row) {
   set(Property::List, list() + QStringList{row});
 }
 
-bool RowList::accepts(Property property, const Value& value) const {
-  return property != Property::ListIndex || hasRow(std::get<std::int32_t>(value));
+QString RowList::rangeFault(Property property, const Value& value) const {
+  if (property != Property::ListIndex || hasRow(std::get<std::int32_t>(value))) return {};
+  return QStringLiteral("the list has no row %1").arg(std::get<std::int32_t>(value));
 }
 
 bool RowList::isEvent(Property property) const {
@@ -33,10 +34,11 @@ void RowList::stored(Property property) {
   if (property == Property::List && listIndex() >= list().size()) store(Property::ListIndex, -1);
 }
 
-bool CheckBox::accepts(Property property, const Value& value) const {
-  if (property != Property::Value) return true;
+QString CheckBox::rangeFault(Property property, const Value& value) const {
+  if (property != Property::Value) return {};
   const int number = std::get<std::int32_t>(value);
-  return number >= 0 && number <= 2;
+  if (number >= 0 && number <= 2) return {};
+  return QStringLiteral("a check box takes 0, 1 or 2, not %1").arg(number);
 }
 
 void OptionButton::select() {

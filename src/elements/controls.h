@@ -71,9 +71,10 @@ public:
   void setRows(const QStringList& rows);
   void addRow(const QString& row);
 
+  QString rangeFault(Property property, const Value& value) const override;
+
 protected:
   using Element::Element;
-  bool accepts(Property property, const Value& value) const override;
   bool isEvent(Property property) const override;
   void stored(Property property) override;
 };
@@ -120,8 +121,7 @@ public:
   void setValue(int value) { set(Property::Value, value); }
   bool isTicked() const { return value() == 1; }
 
-protected:
-  bool accepts(Property property, const Value& value) const override;
+  QString rangeFault(Property property, const Value& value) const override;
 };
 
 /// One choice of a group: the members of its family.

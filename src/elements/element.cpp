@@ -89,8 +89,12 @@ void Element::restack(Element& sibling, int shift) {
   notify(Property::StackOrder, Value(0));
 }
 
-bool Element::accepts(Property, const Value&) const {
-  return true;
+QString Element::rangeFault(Property, const Value&) const {
+  return {};
+}
+
+bool Element::accepts(Property property, const Value& value) const {
+  return rangeFault(property, value).isEmpty();
 }
 
 bool Element::isEvent(Property) const {

@@ -59,6 +59,10 @@ public:
   /// value is the same as before or the element refuses it. The value's type must be the property's own.
   bool set(Property property, Value value);
 
+  /// What is wrong with a value outside of the property's range, such as a row that a list doesn't have;
+  /// empty for one inside. What a button refuses because of its picture or outline is no matter of range.
+  virtual QString rangeFault(Property property, const Value& value) const;
+
   template <class T>
   const T& as(Property property) const {
     return std::get<T>(get(property));
@@ -94,7 +98,8 @@ public:
 protected:
   Element(Kind kind, Window& window, Family* family, int index);
 
-  /// A kind's own rule for a value; false refuses it, which leaves the property as it was.
+  /// A kind's own rule for a value; false refuses it, which leaves the property as it was. By default the
+  /// range decides.
   virtual bool accepts(Property property, const Value& value) const;
   /// True where setting the property is an event of its own, told even when the value is the same as before.
   virtual bool isEvent(Property property) const;

@@ -20,10 +20,11 @@ void Label::setFont(const FontChoice& font) {
   set(Property::FontStrikethrough, font.strikethrough);
 }
 
-bool Label::accepts(Property property, const Value& value) const {
-  if (property != Property::Alignment) return true;
+QString Label::rangeFault(Property property, const Value& value) const {
+  if (property != Property::Alignment) return {};
   const int alignment = std::get<std::int32_t>(value);
-  return alignment >= 0 && alignment <= 2;
+  if (alignment >= 0 && alignment <= 2) return {};
+  return QStringLiteral("an alignment is 0, 1 or 2, not %1").arg(alignment);
 }
 
 }  // namespace veneerer

@@ -43,8 +43,7 @@ public:
   /// Name, size, bold, italic, underline, strikethrough, in this order.
   void setFont(const FontChoice& font);
 
-protected:
-  bool accepts(Property property, const Value& value) const override;
+  QString rangeFault(Property property, const Value& value) const override;
 };
 
 }  // namespace veneerer

@@ -73,6 +73,22 @@ TEST_F(ComboTest, NewRowsChooseNone) {
   EXPECT_EQ(combo.listIndex(), -1) << "the chosen row is gone";
 }
 
+TEST(RangeFault, SaysWhatCanNeverBeHeldAndNotWhatAButtonRefuses) {
+  TestWindow window;
+  const auto fault = [](const Element& element, Property property, int value) {
+    return element.rangeFault(property, value).toStdString();
+  };
+  EXPECT_EQ(fault(*window.Combo1, Property::ListIndex, 0), "the list has no row 0");
+  EXPECT_EQ(fault(*window.Combo1, Property::ListIndex, -1), "");
+  EXPECT_EQ(fault(*window.Check1, Property::Value, 3), "a check box takes 0, 1 or 2, not 3");
+  EXPECT_EQ(fault(*window.Check1, Property::Value, 2), "");
+  EXPECT_EQ(fault(*window.Label1, Property::Alignment, -1), "an alignment is 0, 1 or 2, not -1");
+  EXPECT_EQ(fault(*window.Label1, Property::BackColor, -1), "");
+  EXPECT_EQ(fault(window.Button1[0], Property::ButtonShape, 9), "");
+  EXPECT_FALSE(window.Button1[0].set(Property::ButtonShape, 9));
+  EXPECT_FALSE(window.Check1->set(Property::Value, 3));
+}
+
 TEST(OptionButton, OneOfAFamilyIsSelected) {
   TestWindow window;
   window.Option1[0].select();
