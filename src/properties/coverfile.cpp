@@ -16,15 +16,15 @@ constexpr int kFeatured = 28;
 // Whole twips, in an order of their own.
 void place(Layout& file, Element& element) {
   for (Property p : {Property::Width, Property::Height, Property::Left, Property::Top})
-    file.value(RowKind::Whole, element, p);
+    file.field(ValueKind::Whole, element, p);
 }
 
 void style(Layout& file, Label& label) {
   file.alignment(label);
-  file.value(RowKind::Text, label, Property::FontName);
-  file.value(RowKind::FontSize, label, Property::FontSize);
-  file.value(RowKind::Long, label, Property::ForeColor);
-  file.value(RowKind::Long, label, Property::BackColor);
+  file.field(ValueKind::Text, label, Property::FontName);
+  file.field(ValueKind::FontSize, label, Property::FontSize);
+  file.field(ValueKind::Long, label, Property::ForeColor);
+  file.field(ValueKind::Long, label, Property::BackColor);
 }
 
 void placeAndStyle(Layout& file, Label& label) {
@@ -85,7 +85,7 @@ Layout coverFile(State& state, const QString& name, int lastCover) {
   const int last = std::min(lastCover, kLastCover);
   Layout file(state, name);
   file.checkValue(*form4.Check1);
-  file.global(state.globals.LastCoverIndex);
+  file.counter(state.globals.LastCoverIndex, "LastCoverIndex");
   file.literal("Album Covers");
   file.each(form1.Image2, 0, last, [&](ImageBox& cover) {
     place(file, cover);
@@ -117,6 +117,7 @@ Layout coverFile(State& state, const QString& name, int lastCover) {
   file.each(form1.Label62, 0, last, [&](Label& year) { placeAndStyle(file, year); });
   file.literal("Album Genre");
   file.each(form1.Label63, 0, last, [&](Label& genre) { placeAndStyle(file, genre); });
+  file.scaleWholes(0, state.globals.CoverScale);
   return file;
 }
 

@@ -4,25 +4,15 @@
 
 namespace veneerer {
 
-void Loading::show(const QString& reference, Element& element) const {
-  const QString path = folder.resolve(reference);
-  if (path.isEmpty()) return;
-  const Picture picture = state.pictures.load(path);
-  if (!picture.isNull()) element.set(Property::Picture, picture);
-}
-
-Row& Layout::add(Row row) {
-  row.startsBlock = nextStartsBlock_;
-  row.isOptional = isOptional_;
+template <class Content>
+Content& Layout::add(Content content) {
+  rows_.push_back({std::move(content), nextStartsBlock_, isOptional_});
   nextStartsBlock_ = false;
-  rows_.push_back(std::move(row));
-  return rows_.back();
+  return std::get<Content>(rows_.back().content);
 }
 
-void Layout::literal(const char* text) {
-  Row row;
-  row.text = QString::fromLatin1(text);
-  add(std::move(row));
+void Layout::literal(const QString& text) {
+  add(Literal{text});
 }
 
 void Layout::labelLine(const char* prefix, const Element& captionOf) {
@@ -30,151 +20,120 @@ void Layout::labelLine(const char* prefix, const Element& captionOf) {
 }
 
 void Layout::labelLine(const QString& prefix, const Element& captionOf) {
-  Row row;
-  row.kind = RowKind::LabelLine;
-  row.text = prefix;
-  row.from = {const_cast<Element*>(&captionOf), Property::Caption};
-  add(std::move(row));
+  add(Literal{prefix, &captionOf});
 }
 
-void Layout::value(RowKind kind, Element& element, Property property) {
+Field& Layout::field(ValueKind kind, Element& element, Property property) {
   require(element.has(property), "a record row names a property that its element doesn't have");
-  Row row;
-  row.kind = kind;
-  row.into = row.from = {&element, property};
-  add(std::move(row));
+  const Slot slot{&element, property};
+  return add(Field{kind, slot, slot});
 }
 
 void Layout::versionTag(int number) {
   literal("INI Version");
-  Row row;
-  row.kind = RowKind::Version;
-  row.number = number;
-  add(std::move(row));
+  add(Counter{.name = "version", .newest = number});
+}
+
+void Layout::counter(int& number, const char* name) {
+  add(Counter{.name = name, .kept = &number});
 }
 
 void Layout::reference(StoredValue& kept, const std::vector<Element*>& boxes) {
-  Row row;
-  row.kind = RowKind::Stored;
-  row.storedInto = row.storedFrom = &kept;
-  require(boxes.size() <= row.shown.boxes.size(), "an image reference is shown in too many elements");
-  std::copy(boxes.begin(), boxes.end(), row.shown.boxes.begin());
-  add(std::move(row));
+  Reference reference{&kept, &kept};
+  require(boxes.size() <= reference.boxes.size(), "an image reference is shown in too many elements");
+  std::ranges::copy(boxes, reference.boxes.begin());
+  add(reference);
 }
 
-void Layout::global(int& number) {
-  Row row;
-  row.kind = RowKind::Global;
-  row.global = &number;
-  add(std::move(row));
+Reference& Layout::buttonImage(Button& button) {
+  StoredValue* kept = state_.names.of(button);
+  require(kept != nullptr, "a record row names a button that keeps no image name");
+  return add(Reference{kept, kept, &button});
 }
 
 void Layout::buttonRecord(Button& button) {
   const std::size_t first = size();
   plainButtonRecord(button);
-  rows_[first + 1].kind = RowKind::HeldShape;
+  for (Row* shape : rowsOf(first, {Property::ButtonShape})) std::get<Field>(shape->content).isHeldBack = true;
 }
 
 void Layout::plainButtonRecord(Button& button) {
-  value(RowKind::Text, button, Property::Caption);
+  field(ValueKind::Text, button, Property::Caption);
   for (Property p : {Property::ButtonShape, Property::ButtonStyle, Property::BackColor, Property::ForeColor,
                      Property::GradientColor, Property::GradientMode})
-    value(RowKind::Long, button, p);
+    field(ValueKind::Long, button, p);
 }
 
 void Layout::geometryQuad(Element& element) {
   for (Property p : {Property::Height, Property::Width, Property::Top, Property::Left})
-    value(RowKind::Single, element, p);
+    field(ValueKind::Single, element, p);
 }
 
 void Layout::placeQuad(Element& element) {
   for (Property p : {Property::Top, Property::Left, Property::Height, Property::Width})
-    value(RowKind::Single, element, p);
+    field(ValueKind::Single, element, p);
 }
 
 void Layout::colours(Element& element) {
-  value(RowKind::Long, element, Property::BackColor);
-  value(RowKind::Long, element, Property::ForeColor);
+  field(ValueKind::Long, element, Property::BackColor);
+  field(ValueKind::Long, element, Property::ForeColor);
 }
 
 void Layout::labelRecord(Label& label) {
   colours(label);
   placeQuad(label);
-  value(RowKind::Text, label, Property::FontName);
-  value(RowKind::FontSize, label, Property::FontSize);
+  field(ValueKind::Text, label, Property::FontName);
+  field(ValueKind::FontSize, label, Property::FontSize);
 }
 
-void Layout::buttonImage(Button& button) {
-  StoredValue* kept = state_.names.of(button);
-  require(kept != nullptr, "a record row names a button that keeps no image name");
-  reference(*kept);
-  rows_.back().shown.button = &button;
+Reference& Layout::geometryButton(Button& button, const char* labelPrefix) {
+  return singleButton(button, labelPrefix, &Layout::geometryQuad);
 }
 
-void Layout::geometryButton(Button& button) {
+Reference& Layout::placedButton(Button& button, const char* labelPrefix) {
+  return singleButton(button, labelPrefix, &Layout::placeQuad);
+}
+
+Reference& Layout::singleButton(Button& button, const char* labelPrefix, Quad quad) {
+  if (labelPrefix) labelLine(labelPrefix, button);
   block();
   buttonRecord(button);
   block();
-  geometryQuad(button);
+  (this->*quad)(button);
   block();
-  buttonImage(button);
+  Reference& image = buttonImage(button);
   block();
-}
-
-void Layout::placedButton(Button& button) {
-  block();
-  buttonRecord(button);
-  block();
-  placeQuad(button);
-  block();
-  buttonImage(button);
-  block();
-}
-
-void Layout::geometryButtons(Array<Button>& array, int first, int last) {
-  each(array, first, last, [this](Button& button) {
-    buttonRecord(button);
-    geometryQuad(button);
-    buttonImage(button);
-  });
-}
-
-void Layout::placedButtons(Array<Button>& array, int first, int last) {
-  each(array, first, last, [this](Button& button) {
-    buttonRecord(button);
-    placeQuad(button);
-    buttonImage(button);
-  });
+  return image;
 }
 
 void Layout::geometryButtons(Array<Button>& array, int first, int last, const char* labelPrefix) {
-  each(array, first, last, [&](Button& button) {
-    labelLine(labelPrefix, button);
-    buttonRecord(button);
-    geometryQuad(button);
-    buttonImage(button);
-  });
+  buttons(array, first, last, labelPrefix, &Layout::geometryQuad);
 }
 
 void Layout::placedButtons(Array<Button>& array, int first, int last, const char* labelPrefix) {
+  buttons(array, first, last, labelPrefix, &Layout::placeQuad);
+}
+
+void Layout::buttons(Array<Button>& array, int first, int last, const char* labelPrefix, Quad quad) {
   each(array, first, last, [&](Button& button) {
-    labelLine(labelPrefix, button);
+    if (labelPrefix) labelLine(labelPrefix, button);
     buttonRecord(button);
-    placeQuad(button);
+    (this->*quad)(button);
     buttonImage(button);
   });
 }
 
 void Layout::geometryImages(Array<Button>& array, int first, int last) {
-  each(array, first, last, [this](Button& button) {
-    geometryQuad(button);
-    buttonImage(button);
-  });
+  images(array, first, last, &Layout::geometryQuad);
 }
 
 void Layout::placeImages(Array<Button>& array, int first, int last) {
-  each(array, first, last, [this](Button& button) {
-    placeQuad(button);
+  images(array, first, last, &Layout::placeQuad);
+}
+
+void Layout::images(Array<Button>& array, int first, int last, Quad quad) {
+  each(array, first, last, [&](Button& button) {
+    (this->*quad)(button);
     buttonImage(button);
   });
 }
@@ -190,26 +149,40 @@ void Layout::alignedLabels(Array<Label>& array, int first, int last) {
   });
 }
 
+std::vector<Row*> Layout::rowsOf(std::size_t from, std::initializer_list<Property> properties) {
+  std::vector<Row*> found;
+  for (Row& row : std::span(rows_).subspan(from))
+    if (row.field() && std::ranges::find(properties, row.field()->into.property) != properties.end())
+      found.push_back(&row);
+  return found;
+}
+
 void Layout::applyAboveMinusOneOnly(std::size_t from, std::initializer_list<Property> properties) {
-  for (std::size_t i = from; i < rows_.size(); ++i)
-    if (rows_[i].into.element && std::ranges::find(properties, rows_[i].into.property) != properties.end())
-      rows_[i].aboveMinusOneOnly = true;
+  for (Row* row : rowsOf(from, properties)) std::get<Field>(row->content).aboveMinusOneOnly = true;
+}
+
+void Layout::needVersion(int version, std::size_t from, std::initializer_list<Property> properties) {
+  for (Row* row : rowsOf(from, properties)) row->least = version;
+}
+
+void Layout::scaleWholes(std::size_t from, const float& factor) {
+  for (Row& row : std::span(rows_).subspan(from))
+    if (Field* field = std::get_if<Field>(&row.content); field && field->kind == ValueKind::Whole)
+      field->scale = &factor;
 }
 
 void Layout::writeFrom(std::size_t from, Button& button, StoredValue& kept, const char* why) {
-  for (std::size_t i = from; i < rows_.size(); ++i) {
-    if (rows_[i].kind == RowKind::Stored)
-      rows_[i].storedFrom = &kept;
-    else
-      rows_[i].from.element = &button;
-    rows_[i].why = why;
+  for (Row& row : std::span(rows_).subspan(from)) {
+    if (Field* field = std::get_if<Field>(&row.content)) field->from.element = &button;
+    if (Reference* reference = std::get_if<Reference>(&row.content)) reference->from = &kept;
+    row.why = why;
   }
 }
 
 void Layout::writtenOnly(std::size_t from, const char* why) {
-  for (std::size_t i = from; i < rows_.size(); ++i) {
-    rows_[i].isWrittenOnly = true;
-    rows_[i].why = why;
+  for (Row& row : std::span(rows_).subspan(from)) {
+    row.isWrittenOnly = true;
+    row.why = why;
   }
 }
 

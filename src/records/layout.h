@@ -4,86 +4,14 @@
 // A layout names the very elements of one State, so it is made per State and lives no longer than it.
 #pragma once
 
-#include <QString>
-#include <array>
 #include <functional>
-#include <span>
 #include <vector>
 
 #include "elements/label.h"
-#include "forms/state.h"
-#include "platform/skinfolder.h"
+#include "records/loading.h"
+#include "records/row.h"
 
 namespace veneerer {
-
-/// How one value stands on its line.
-enum class RowKind : std::uint8_t {
-  Literal,    ///< a fixed text; read and dropped
-  LabelLine,  ///< a prefix and an element's caption, for a human reader; read and dropped
-  Version,    ///< the number of a VersionTag; read leniently
-  Text,
-  NumberText,  ///< a Text that the reader takes as a number
-  Integer,     ///< 16 bit
-  Long,        ///< 32 bit
-  Single,
-  Whole,      ///< a Single whose fraction is dropped on writing
-  FontSize,   ///< a Single of whole points, read as a whole line
-  HeldShape,  ///< ButtonShape: kept aside on reading while the shape is 0, until the image row applies it
-  Stored,     ///< an image reference, kept as read
-  Global,     ///< an Integer of the state that no element holds
-};
-
-/// A property of one element.
-struct Slot {
-  Element* element = nullptr;
-  Property property = Property::Left;
-};
-
-/// What a stored image reference is shown in.
-struct Shown {
-  Button* button = nullptr;         ///< by the image rule: picture, then held shape, then PictureSize 3
-  std::array<Element*, 3> boxes{};  ///< loaded into each when the file exists; unused ones are null
-};
-
-/// One line of a record file.
-struct Row {
-  RowKind kind = RowKind::Literal;
-  Slot into;                          ///< what the reader fills; no element: the value is dropped
-  Slot from;                          ///< what the writer takes; the same as into in nearly every row
-  StoredValue* storedInto = nullptr;  ///< Stored: where the reader keeps the reference
-  StoredValue* storedFrom = nullptr;  ///< Stored: where the writer takes it
-  int* global = nullptr;              ///< Global
-  Shown shown;                        ///< Stored
-  QString text;                       ///< Literal, and the prefix of a LabelLine
-  std::int32_t number = 0;            ///< Version
-  bool startsBlock = false;           ///< the file may end ahead of this row, once it has become optional
-  bool isOptional = false;
-  bool aboveMinusOneOnly = false;   ///< the value is applied only when greater than -1
-  bool needsVersion2 = false;       ///< absent from a file whose VersionTag isn't 2
-  bool isWrittenOnly = false;       ///< the reader never takes this line
-  bool skipEmptyReference = false;  ///< Stored on a button: an empty reference leaves the picture alone
-  const char* why = nullptr;        ///< the reason, where reader and writer differ
-};
-
-/// What a loader does when a value fails.
-enum class OnFailure {
-  Fatal,   ///< RecordError
-  Resume,  ///< the failing step is passed over and the next one runs
-  Report,  ///< the rest of the file is left out, with a message box
-};
-
-/// What the steps of a loader need to know.
-struct Loading {
-  State& state;
-  const SkinFolder& folder;
-  const Screen& screen;
-  /// For each row of the layout the line on which its value stood, 0 where it was passed over. Shorter than
-  /// the layout when an optional tail was left out.
-  std::vector<int> lines = {};
-
-  /// Loads the file that the reference names into the element; leaves it alone when there is none.
-  void show(const QString& reference, Element& element) const;
-};
 
 class Layout {
 public:
@@ -96,21 +24,30 @@ public:
   const std::vector<Row>& rows() const { return rows_; }
   OnFailure onFailure() const { return onFailure_; }
   const QString& failureMessage() const { return failureMessage_; }
+  std::size_t size() const { return rows_.size(); }
+  /// No line at all: a file that is named and neither read, written nor removed.
+  bool isEmpty() const { return rows_.empty(); }
+  /// How many lines a save writes.
+  int lineCount() const { return static_cast<int>(rows_.size()); }
 
   // Single lines. Each continues the current block.
-  void literal(const char* text);
+  void literal(const char* text) { literal(QString::fromLatin1(text)); }
+  void literal(const QString& text);
   void labelLine(const char* prefix, const Element& captionOf);
   void labelLine(const QString& prefix, const Element& captionOf);
-  void value(RowKind kind, Element& element, Property property);
+  /// The field that was added, to mark it.
+  Field& field(ValueKind kind, Element& element, Property property);
   /// "INI Version" and the number.
   void versionTag(int number);
+  /// A number of the state that no element holds; name is for messages.
+  void counter(int& number, const char* name);
   /// An image reference; each of at most three boxes shows the file when it exists.
   void reference(StoredValue& kept, const std::vector<Element*>& boxes = {});
-  /// A row of the layout as it stands, for the places where reader and writer differ.
-  Row& add(Row row);
+  /// The reference of a button's picture, with the image rule.
+  Reference& buttonImage(Button& button);
 
   // Field groups.
-  /// Caption, shape, style, four colours and the gradient mode; the shape is held until the image row.
+  /// Caption, shape, style, four colours and the gradient mode; the shape is held back until the image row.
   void buttonRecord(Button& button);
   /// The same with the shape applied as it is read, for files that hold no image.
   void plainButtonRecord(Button& button);
@@ -122,12 +59,9 @@ public:
   void colours(Element& element);
   /// BackColor, ForeColor, Top, Left, Height, Width, font name, font size.
   void labelRecord(Label& label);
-  void global(int& number);
-  void alignment(Label& label) { value(RowKind::Integer, label, Property::Alignment); }
-  void listIndex(RowList& list) { value(RowKind::Integer, list, Property::ListIndex); }
-  void checkValue(CheckBox& box) { value(RowKind::Integer, box, Property::Value); }
-  /// The reference of a button's picture, with the image rule.
-  void buttonImage(Button& button);
+  void alignment(Label& label) { field(ValueKind::Integer, label, Property::Alignment); }
+  void listIndex(RowList& list) { field(ValueKind::Integer, list, Property::ListIndex); }
+  void checkValue(CheckBox& box) { field(ValueKind::Integer, box, Property::Value); }
 
   // Blocks: the units ahead of which an optional tail may end.
   void block() { nextStartsBlock_ = true; }
@@ -136,10 +70,11 @@ public:
     isOptional_ = true;
     block();
   }
-  /// buttonRecord, geometryQuad and buttonImage, each a block of its own.
-  void geometryButton(Button& button);
-  /// buttonRecord, placeQuad and buttonImage, each a block of its own.
-  void placedButton(Button& button);
+  /// buttonRecord, geometryQuad and buttonImage, each a block of its own; ahead of them the label line, when
+  /// there is a prefix.
+  Reference& geometryButton(Button& button, const char* labelPrefix = nullptr);
+  /// The same with placeQuad.
+  Reference& placedButton(Button& button, const char* labelPrefix = nullptr);
 
   // Counted loops over an array, one block for each index from first to last.
   /// body is called once per member.
@@ -151,11 +86,13 @@ public:
     }
     block();
   }
-  void geometryButtons(Array<Button>& array, int first, int last);
-  void placedButtons(Array<Button>& array, int first, int last);
-  void geometryButtons(Array<Button>& array, int first, int last, const char* labelPrefix);
-  void placedButtons(Array<Button>& array, int first, int last, const char* labelPrefix);
+  /// A label line when there is a prefix, buttonRecord, geometryQuad, buttonImage.
+  void geometryButtons(Array<Button>& array, int first, int last, const char* labelPrefix = nullptr);
+  /// The same with placeQuad.
+  void placedButtons(Array<Button>& array, int first, int last, const char* labelPrefix = nullptr);
+  /// geometryQuad and buttonImage.
   void geometryImages(Array<Button>& array, int first, int last);
+  /// placeQuad and buttonImage.
   void placeImages(Array<Button>& array, int first, int last);
   void labels(Array<Label>& array, int first, int last);
   void alignedLabels(Array<Label>& array, int first, int last);
@@ -165,19 +102,16 @@ public:
   }
 
   // Marks on what has been added since from (see size()).
-  int lineCount() const { return static_cast<int>(rows_.size()); }
-  std::size_t size() const { return rows_.size(); }
-  /// No line at all: a file that is named and neither read, written nor removed.
-  bool isEmpty() const { return rows_.empty(); }
+  /// Those of these properties are applied only when greater than -1.
   void applyAboveMinusOneOnly(std::size_t from, std::initializer_list<Property> properties);
-  void needVersion2(std::size_t row) { rows_[row].needsVersion2 = true; }
+  /// Those of these properties are absent from a file whose version is lower.
+  void needVersion(int version, std::size_t from, std::initializer_list<Property> properties);
+  /// Every Whole is multiplied by the factor on reading.
+  void scaleWholes(std::size_t from, const float& factor);
   /// The writer takes these lines from another button of the same fields than the reader fills.
   void writeFrom(std::size_t from, Button& button, StoredValue& kept, const char* why);
   /// The writer writes these lines and no reader ever takes them.
   void writtenOnly(std::size_t from, const char* why);
-
-  /// The last row added, to mark it.
-  Row& last() { return rows_.back(); }
 
   // Steps beside the lines.
   /// Runs once the last row added so far has been read.
@@ -200,6 +134,15 @@ private:
     std::size_t row;
     Step step;
   };
+  using Quad = void (Layout::*)(Element&);
+
+  template <class Content>
+  Content& add(Content content);
+  Reference& singleButton(Button& button, const char* labelPrefix, Quad quad);
+  void buttons(Array<Button>& array, int first, int last, const char* labelPrefix, Quad quad);
+  void images(Array<Button>& array, int first, int last, Quad quad);
+  /// The rows since from that hold one of these properties.
+  std::vector<Row*> rowsOf(std::size_t from, std::initializer_list<Property> properties);
 
   State& state_;
   QString fileName_;

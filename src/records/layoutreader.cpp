@@ -2,13 +2,11 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <cmath>
-#include <limits>
 
-#include "elements/numbers.h"
 #include "elements/printable.h"
+#include "records/fieldvalue.h"
+#include "records/linewalk.h"
 #include "records/recorderror.h"
-#include "records/recordreader.h"
 
 namespace veneerer {
 
@@ -17,76 +15,41 @@ namespace {
 /// Far more than any record file has; a stranger's may be endless.
 constexpr qint64 kMostBytes = 16 * 1024 * 1024;
 
-/// What is wrong with one value; the walk adds the place.
-struct BadValue {
-  QString what;
-};
-
-/// A number that its field can't hold.
-struct OutOfRange {};
-
-QString asText(const RecordValue& value) {
-  if (const auto* text = std::get_if<QString>(&value)) return *text;
-  if (const auto* number = std::get_if<double>(&value)) return plainNumber(*number);
-  if (const auto* truth = std::get_if<bool>(&value))
-    return *truth ? QStringLiteral("True") : QStringLiteral("False");
-  if (const auto* odd = std::get_if<OddValue>(&value))
-    throw BadValue{QStringLiteral("%1 is a value that no field takes").arg(excerpt(odd->text))};
-  return {};
+QString elementOf(const Row& row) {
+  if (const Field* field = row.field()) return field->into.element->key();
+  if (const Counter* counter = row.counter()) return QString::fromLatin1(counter->name);
+  return row.reference() ? QStringLiteral("image reference") : QStringLiteral("label line");
 }
 
-double asNumber(const RecordValue& value) {
-  if (std::holds_alternative<std::monostate>(value)) return 0;
-  if (const auto* number = std::get_if<double>(&value)) return *number;
-  if (const auto* truth = std::get_if<bool>(&value)) return *truth ? -1 : 0;
-  const QString text = excerpt(asText(value));
-  throw BadValue{QStringLiteral("a number is due here, but \"%1\" stands in its place").arg(text)};
+QString fieldOf(const Row& row) {
+  return row.field() ? QString(propertyName(row.field()->into.property)) : QString();
 }
 
-float asSingle(double number) {
-  if (!(std::abs(number) <= std::numeric_limits<float>::max())) throw OutOfRange();
-  return static_cast<float>(number);
-}
-
-std::int32_t asWhole(double number, RowKind kind) {
-  const std::optional<std::int32_t> whole = toWhole(number);
-  const bool fits = whole && (kind != RowKind::Integer || (*whole >= -32768 && *whole <= 32767));
-  if (!fits) throw OutOfRange();
-  return *whole;
-}
-
-StoredValue asStored(const RecordValue& value) {
-  if (const auto* number = std::get_if<double>(&value)) return StoredValue(*number);
-  return StoredValue(asText(value));
-}
-
-class Walk {
+class Reading {
 public:
-  Walk(const Layout& layout, const QByteArray& bytes, Loading& loading, OnFailure policy)
-      : layout_(layout), reader_(bytes), loading_(loading), policy_(policy) {}
+  Reading(const Layout& layout, const QByteArray& bytes, Loading& loading, OnFailure policy)
+      : layout_(layout), walk_(layout.rows()), reader_(bytes), loading_(loading), policy_(policy) {}
 
   void run() {
-    const std::vector<Row>& rows = layout_.rows();
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-      const Row& row = rows[i];
-      if (row.isWrittenOnly || (row.needsVersion2 && version_ != 2)) {
-        loading_.lines.push_back(0);
-        continue;
-      }
-      if (row.startsBlock && row.isOptional && reader_.atEnd()) return;
-      loading_.lines.push_back(reader_.line());
-      if (!step(row)) continue;
-      if (const Layout::Step* then = layout_.stepAfter(i)) (*then)(loading_);
+    std::vector<int>& lines = loading_.lines;
+    while (const Row* row = walk_.next()) {
+      if (row->isWrittenOnly) continue;
+      lines.resize(walk_.index());
+      if (row->startsBlock && row->isOptional && reader_.atEnd()) return;
+      lines.push_back(reader_.line());
+      if (!takeLine(*row)) continue;
+      if (const Layout::Step* step = layout_.stepAfter(walk_.index())) (*step)(loading_);
     }
+    lines.resize(layout_.size());
   }
 
 private:
-  /// Reads one row. False when its value failed and the layout goes on all the same.
-  bool step(const Row& row) {
+  /// False when the value failed and the layout goes on all the same.
+  bool takeLine(const Row& row) {
     const int line = reader_.line();
     try {
       if (reader_.atEnd()) throw BadValue{QStringLiteral("the file ends where a value is due")};
-      take(row);
+      std::visit([this](const auto& content) { take(content); }, row.content);
       return true;
     } catch (const OutOfRange&) {
       const QString number = excerpt(reader_.lastText().trimmed());
@@ -99,130 +62,59 @@ private:
   /// False where the layout goes on all the same.
   bool fail(const Row& row, int line, const QString& what) const {
     if (policy_ == OnFailure::Resume) return false;
-    const bool hasElement = row.into.element != nullptr;
-    throw RecordError(layout_.fileName(), line, elementOf(row), hasElement ? fieldOf(row) : QString(), what);
+    throw RecordError(layout_.fileName(), line, elementOf(row), fieldOf(row), what);
   }
 
-  static QString elementOf(const Row& row) {
-    if (row.into.element) return row.into.element->key();
-    if (row.kind == RowKind::Global) return QStringLiteral("LastCoverIndex");
-    return row.kind == RowKind::Stored ? QStringLiteral("image reference") : QStringLiteral("label line");
+  void take(const Literal&) { reader_.readValue(); }
+
+  void take(const Field& field) {
+    Value value = readField(reader_, field);
+    if (field.aboveMinusOneOnly && std::get<float>(value) <= -1) return;
+    if (field.isHeldBack) heldBack_ = std::exchange(value, Value(0));
+    Element& element = *field.into.element;
+    const QString fault = element.rangeFault(field.into.property, value);
+    if (!fault.isEmpty()) throw BadValue{fault};
+    element.set(field.into.property, std::move(value));
   }
 
-  static QString fieldOf(const Row& row) { return propertyName(row.into.property); }
-
-  void take(const Row& row) {
-    switch (row.kind) {
-      case RowKind::Literal:
-      case RowKind::LabelLine:
-        reader_.readValue();
-        return;
-      case RowKind::Version:
-        takeVersion(reader_.readValue());
-        return;
-      case RowKind::FontSize:
-        row.into.element->set(row.into.property, asSingle(leadingNumber(reader_.readLine())));
-        return;
-      case RowKind::Global:
-        *row.global = asWhole(asNumber(reader_.readValue()), RowKind::Integer);
-        return;
-      case RowKind::Stored:
-        takeReference(row, asStored(reader_.readValue()));
-        return;
-      case RowKind::HeldShape:
-        heldShape_ = asWhole(asNumber(reader_.readValue()), row.kind);
-        row.into.element->set(row.into.property, 0);
-        return;
-      case RowKind::Text:
-      case RowKind::NumberText:
-      case RowKind::Integer:
-      case RowKind::Long:
-      case RowKind::Single:
-      case RowKind::Whole:
-        assign(row, reader_.readValue());
-        return;
-    }
-  }
-
-  // Any second line but the number 2 means the older layout.
-  void takeVersion(const RecordValue& value) {
-    const auto* number = std::get_if<double>(&value);
-    version_ = number && *number == 2 ? 2 : 1;
-  }
-
-  void assign(const Row& row, const RecordValue& value) {
-    Element& element = *row.into.element;
-    switch (row.kind) {
-      case RowKind::Text:
-        element.set(row.into.property, asText(value));
-        return;
-      case RowKind::NumberText:
-        element.set(row.into.property, plainNumber(asNumber(value)));
-        return;
-      case RowKind::Single:
-      case RowKind::Whole: {
-        const float number = asSingle(asNumber(value));
-        if (!row.aboveMinusOneOnly || number > -1) element.set(row.into.property, scaled(row, number));
-        return;
-      }
-      default:
-        assignWhole(row, asWhole(asNumber(value), row.kind));
-    }
-  }
-
-  float scaled(const Row& row, float number) const {
-    return row.kind == RowKind::Whole ? asSingle(double(number) * loading_.state.globals.CoverScale) : number;
-  }
-
-  static void assignWhole(const Row& row, std::int32_t number) {
-    Element& element = *row.into.element;
-    const auto check = [&](bool holds, const char* what) {
-      if (!holds) throw BadValue{QString::fromLatin1(what).arg(number)};
-    };
-    switch (row.into.property) {
-      case Property::ListIndex: {
-        // Setting a row counts as a selection, also when it is the same.
-        auto& list = static_cast<RowList&>(element);
-        check(list.hasRow(number), "the list has no row %1");
-        list.select(number);
-        return;
-      }
-      case Property::Alignment:
-        check(number >= 0 && number <= 2, "an alignment is 0, 1 or 2, not %1");
-        break;
-      case Property::Value:
-        check(number >= 0 && number <= 2, "a check box takes 0, 1 or 2, not %1");
-        break;
-      default:
-        break;
-    }
-    element.set(row.into.property, number);
-  }
-
-  void takeReference(const Row& row, const StoredValue& value) {
-    *row.storedInto = value;
-    if (row.shown.button) applyImageRule(row, *row.shown.button, value);
-    for (Element* box : row.shown.boxes)
+  void take(const Reference& reference) {
+    const StoredValue value = readStored(reader_);
+    *reference.into = value;
+    if (reference.button) showOnButton(reference, value);
+    for (Element* box : reference.boxes)
       if (box) loading_.show(value.text(), *box);
   }
 
+  void take(const Counter& counter) {
+    if (counter.kept) *counter.kept = readInteger(reader_);
+    walk_.setCount(counter.kept ? *counter.kept : readVersion(counter.newest));
+  }
+
+  // Any other number, and what is no number at all, is an older version.
+  int readVersion(int newest) {
+    const RecordValue value = reader_.readValue();
+    const auto* number = std::get_if<double>(&value);
+    return number && *number == newest ? newest : newest - 1;
+  }
+
   // The shape goes on after the picture: a custom outline is made from it and is refused without.
-  void applyImageRule(const Row& row, Button& button, const StoredValue& value) {
+  void showOnButton(const Reference& reference, const StoredValue& value) {
+    Button& button = *reference.button;
     const QString path = loading_.folder.resolve(value.text());
     if (!path.isEmpty())
       button.setPicture(loading_.state.pictures.load(path));
-    else if (!value.isEmpty() || !row.skipEmptyReference)
+    else if (!value.isEmpty() || !reference.keepsPictureWhenEmpty)
       button.setPicture(Picture());
-    button.setButtonShape(heldShape_);
+    button.set(Property::ButtonShape, heldBack_);
     button.setPictureSize(3);
   }
 
   const Layout& layout_;
+  LineWalk walk_;
   RecordReader reader_;
   Loading& loading_;
   OnFailure policy_;
-  int version_ = 1;
-  std::int32_t heldShape_ = 0;
+  Value heldBack_ = 0;
 };
 
 }  // namespace
@@ -231,7 +123,7 @@ QString readRecords(const Layout& layout, const QByteArray& bytes, Loading& load
   const OnFailure policy = failures == Failures::AllFatal ? OnFailure::Fatal : layout.onFailure();
   loading.lines.clear();
   try {
-    Walk(layout, bytes, loading, policy).run();
+    Reading(layout, bytes, loading, policy).run();
   } catch (const RecordError&) {
     if (policy != OnFailure::Report) throw;
     return layout.failureMessage();

@@ -23,7 +23,7 @@ QString counted(const char* text, int count, const Layout& layout) {
 
 QString damageOf(const RawValue& value, const SkinFolder& folder, PictureStore& pictures) {
   const QString damage = rowDamage(value);
-  if (!damage.isEmpty() || value.row->kind != RowKind::Stored) return damage;
+  if (!damage.isEmpty() || !value.row->reference()) return damage;
   return referenceDamage(folder, pictures, valueText(value.value));
 }
 

@@ -35,8 +35,8 @@ std::vector<RawValue> rawValues(const Layout& layout, const std::vector<int>& ro
     if (rowLines[i] == 0) continue;
     const Row& row = layout.rows()[i];
     const int line = reader.line();
-    const RecordValue value =
-        row.kind == RowKind::FontSize ? RecordValue(reader.readLine()) : reader.readValue();
+    const bool isWholeLine = row.field() && row.field()->kind == ValueKind::FontSize;
+    const RecordValue value = isWholeLine ? RecordValue(reader.readLine()) : reader.readValue();
     const bool endsLine = reader.atEnd() || reader.line() > line;
     values.push_back({&row, value, line, texts.of(line), startsLine, endsLine});
     startsLine = endsLine;

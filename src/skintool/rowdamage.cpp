@@ -19,25 +19,20 @@ enum class Sort : std::uint8_t {
   Number,     ///< comes back as it stands but for the blanks around it
 };
 
-bool isNumberText(const Row& row) {
+bool isFontSize(const Row& row) {
+  return row.field() && row.field()->kind == ValueKind::FontSize;
+}
+
+Sort sortOf(const Field& field) {
   // Boxes that show a number fill their text with the sign's blank in front.
-  return row.kind == RowKind::NumberText || row.from.property == Property::Text;
+  const bool isText = field.kind == ValueKind::Text && field.from.property != Property::Text;
+  return isText ? Sort::Text : Sort::Number;
 }
 
 Sort sortOf(const Row& row) {
-  switch (row.kind) {
-    case RowKind::Literal:
-    case RowKind::LabelLine:
-    case RowKind::Version:
-      return Sort::Dropped;
-    case RowKind::Stored:
-      return Sort::Reference;
-    case RowKind::Text:
-    case RowKind::NumberText:
-      return isNumberText(row) ? Sort::Number : Sort::Text;
-    default:
-      return Sort::Number;
-  }
+  if (row.field()) return sortOf(*row.field());
+  if (row.counter()) return row.counter()->kept ? Sort::Number : Sort::Dropped;
+  return row.reference() ? Sort::Reference : Sort::Dropped;
 }
 
 QString nameOf(const Row& row) {
@@ -47,10 +42,10 @@ QString nameOf(const Row& row) {
     case Sort::Reference:
       return QStringLiteral("image reference");
     case Sort::Text:
-      return row.from.property == Property::FontName ? QStringLiteral("font name")
-                                                     : QStringLiteral("caption");
+      return row.field()->from.property == Property::FontName ? QStringLiteral("font name")
+                                                              : QStringLiteral("caption");
     case Sort::Number:
-      return row.kind == RowKind::FontSize ? QStringLiteral("font size") : QStringLiteral("number");
+      return isFontSize(row) ? QStringLiteral("font size") : QStringLiteral("number");
   }
   return {};
 }
@@ -60,29 +55,33 @@ QString wholeText(double number) {
   return whole ? QString::number(*whole) : QString();
 }
 
-/// How a save writes the number in that row, less the blanks around it; empty when the row can't hold it.
-QString writtenNumber(const Row& row, double number) {
+/// How a save writes the number, less the blanks around it; empty when the field can't hold it.
+QString writtenNumber(ValueKind kind, double number) {
   const bool isSingle = std::abs(number) <= std::numeric_limits<float>::max();
-  switch (row.kind) {
-    case RowKind::Single:
+  switch (kind) {
+    case ValueKind::Single:
       return isSingle ? singleText(static_cast<float>(number)) : QString();
-    case RowKind::FontSize:
+    case ValueKind::FontSize:
       return isSingle ? singleText(std::trunc(static_cast<float>(number))) : QString();
-    case RowKind::Whole:
+    case ValueKind::Whole:
       return wholeText(std::trunc(number));
-    case RowKind::Text:
-    case RowKind::NumberText:
-    case RowKind::Stored:
+    case ValueKind::Text:
+    case ValueKind::NumberText:
       return plainNumber(number);
     default:
       return wholeText(number);
   }
 }
 
+QString writtenNumber(const Row& row, double number) {
+  if (row.reference()) return plainNumber(number);
+  return writtenNumber(row.field() ? row.field()->kind : ValueKind::Integer, number);
+}
+
 QString numberDamage(const RawValue& raw) {
   const QString text = raw.text.trimmed();
   const auto* number = std::get_if<double>(&raw.value);
-  const bool isSize = raw.row->kind == RowKind::FontSize && !text.isEmpty();
+  const bool isSize = isFontSize(*raw.row) && !text.isEmpty();
   if (!number && !isSize) return {};
   const QString back = writtenNumber(*raw.row, number ? *number : leadingNumber(raw.text));
   if (back.isEmpty() || back == text) return {};
@@ -98,7 +97,9 @@ QString quotesDamage(const QString& what, const RawValue& raw) {
 
 /// Blanks at the start are part of what a caption shows; no other text misses them.
 QString shownText(const RawValue& raw) {
-  return raw.row->from.property == Property::Caption ? raw.text : withoutLeadingBlanks(raw.text);
+  const Field* field = raw.row->field();
+  const bool isCaption = field && field->from.property == Property::Caption;
+  return isCaption ? raw.text : withoutLeadingBlanks(raw.text);
 }
 
 QString firstOf(std::initializer_list<QString> damages) {

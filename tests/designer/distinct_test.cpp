@@ -11,13 +11,18 @@ namespace {
 
 class Distinct : public test::SkinFixture {
 protected:
+  static const Value& valueOf(const Row& row) {
+    return row.field()->into.element->get(row.field()->into.property);
+  }
+
   // The saver writes these and no loader reads them back into the same place.
-  static bool isCrossed(const Element& element) {
-    const QString key = element.key();
+  static bool isCrossed(const Row& row) {
     static const QSet<QString> crossed = {QStringLiteral("Form1.lvButtons_H42(3)"),
                                           QStringLiteral("Form1.lvButtons_H49(7)"),
                                           QStringLiteral("Form1.lvButtons_H49(8)")};
-    return crossed.contains(key);
+    const Element* element = row.field() ? row.field()->into.element : nullptr;
+    if (row.reference()) element = row.reference()->button;
+    return element && crossed.contains(element->key());
   }
 
   // search_Choice.ini isn't read back under that name, so it is left out here.
@@ -56,8 +61,9 @@ protected:
       if (!isReadBack(entry)) continue;
       const Layout layout = entry.layout(state);
       for (const Row& row : layout.rows()) {
-        if (row.kind == RowKind::Stored) *row.storedFrom = QStringLiteral("\\images\\%1.bmp").arg(++counter_);
-        if (row.into.element) row.into.element->set(row.into.property, distinct(row.into));
+        if (row.reference()) *row.reference()->from = QStringLiteral("\\images\\%1.bmp").arg(++counter_);
+        if (const Field* field = row.field())
+          field->into.element->set(field->into.property, distinct(field->into));
       }
     }
   }
@@ -71,15 +77,13 @@ protected:
       for (std::size_t i = 0; i < from.size(); ++i) {
         const Row& row = from.rows()[i];
         const std::string where = QStringLiteral("%1:%2").arg(from.fileName()).arg(i + 1).toStdString();
-        if (row.isWrittenOnly || row.why || (row.into.element && isCrossed(*row.into.element))) continue;
-        if (row.shown.button && isCrossed(*row.shown.button)) continue;
-        if (row.kind == RowKind::Stored) {
-          EXPECT_EQ(*row.storedInto, *to.rows()[i].storedInto) << where;
+        if (row.why || isCrossed(row)) continue;
+        if (row.reference()) {
+          EXPECT_EQ(*row.reference()->into, *to.rows()[i].reference()->into) << where;
         }
-        if (row.into.element) {
-          EXPECT_EQ(row.into.element->get(row.into.property),
-                    to.rows()[i].into.element->get(row.into.property))
-              << where << " " << row.into.element->key().toStdString();
+        if (row.field()) {
+          EXPECT_EQ(valueOf(row), valueOf(to.rows()[i]))
+              << where << " " << row.field()->into.element->key().toStdString();
           ++compared;
         }
       }

@@ -4,23 +4,13 @@ namespace veneerer {
 
 namespace {
 
-// A file whose VersionTag isn't 2 lacks the lines of the container's size and of each button's Top and Left.
-void needVersion2(Layout& file, std::size_t from, std::initializer_list<Property> properties) {
-  std::size_t at = from;
-  for (const Row& row : std::span(file.rows()).subspan(from)) {
-    for (Property p : properties)
-      if (row.kind == RowKind::Single && row.into.property == p) file.needVersion2(at);
-    ++at;
-  }
-}
-
 void menuButtons(Layout& file, Array<Button>& buttons) {
   const std::size_t first = file.size();
   // An older file of 9 buttons loads; each further one is looked for by itself.
   file.geometryButtons(buttons, 0, 8, "Menu Button ");
   file.optionalFromHere();
   file.geometryButtons(buttons, 9, 13, "Menu Button ");
-  needVersion2(file, first, {Property::Top, Property::Left});
+  file.needVersion(2, first, {Property::Top, Property::Left});
 }
 
 }  // namespace
@@ -29,17 +19,17 @@ Layout menuFile(State& state) {
   Layout file(state, "menu.ini");
   file.versionTag(2);
   const std::size_t head = file.size();
-  file.value(RowKind::Single, state.form1.Picture2[0], Property::Height);
-  file.value(RowKind::Single, state.form1.Picture2[0], Property::Width);
-  needVersion2(file, head, {Property::Height, Property::Width});
+  file.field(ValueKind::Single, state.form1.Picture2[0], Property::Height);
+  file.field(ValueKind::Single, state.form1.Picture2[0], Property::Width);
+  file.needVersion(2, head, {Property::Height, Property::Width});
   menuButtons(file, state.form1.lvButtons_H1);
   return file;
 }
 
 Layout menuV2File(State& state) {
   Layout file(state, "menu_v2.ini");
-  file.value(RowKind::Single, state.form1.Picture2[0], Property::Height);
-  file.value(RowKind::Single, state.form1.Picture2[0], Property::Width);
+  file.field(ValueKind::Single, state.form1.Picture2[0], Property::Height);
+  file.field(ValueKind::Single, state.form1.Picture2[0], Property::Width);
   file.geometryImages(state.form1.lvButtons_H1, 0, 13);
   return file;
 }
@@ -49,7 +39,7 @@ Layout menuPopupFile(State& state) {
   file.versionTag(2);
   const std::size_t head = file.size();
   file.geometryQuad(*state.form1.Picture23);
-  needVersion2(file, head, {Property::Height, Property::Width, Property::Top, Property::Left});
+  file.needVersion(2, head, {Property::Height, Property::Width, Property::Top, Property::Left});
   menuButtons(file, state.form1.lvButtons_H54);
   return file;
 }

@@ -81,8 +81,7 @@ Layout decadesSelectorFile(State& state) {
   file.places(form1.Picture16, 0, 5);
   file.labels(form1.Label43, 0, 5);
   file.optionalFromHere();
-  file.labelLine("Decade Choice Buttons ", *form1.lvButtons_H15);
-  file.placedButton(*form1.lvButtons_H15);
+  file.placedButton(*form1.lvButtons_H15, "Decade Choice Buttons ");
   return file;
 }
 

@@ -92,8 +92,7 @@ Layout freeCreditFile(State& state) {
   file.reference(state.names.FreeCreditName.value(), {&form1.Picture1[29]});
   file.placeQuad(form1.Picture1[29]);
   file.labels(form1.Label38, 4, 5);
-  file.labelLine("Pick A Box - ", form1.lvButtons_H57[5]);
-  file.geometryButton(form1.lvButtons_H57[5]);
+  file.geometryButton(form1.lvButtons_H57[5], "Pick A Box - ");
   return file;
 }
 

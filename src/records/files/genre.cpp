@@ -40,7 +40,7 @@ Layout genreFile(State& state) {
   file.places(form1.Picture20, 0, 27);
   const std::size_t numberBlock = file.size();
   file.literal("Genre Numbers");
-  file.value(RowKind::NumberText, *state.form4.Combo7, Property::Text);
+  file.field(ValueKind::NumberText, *state.form4.Combo7, Property::Text);
   file.places(form1.Picture2, 9, 9);
   file.labels(form1.Label59, 0, 27);
   file.places(form1.Picture26, 0, 111);
@@ -80,9 +80,9 @@ Layout filterFile(State& state) {
   file.optionalFromHere();
   file.placeQuad(*form1.Picture24);
   file.block();
-  file.value(RowKind::Long, *form1.Picture24, Property::BackColor);
+  file.field(ValueKind::Long, *form1.Picture24, Property::BackColor);
   file.block();
-  file.value(RowKind::Long, *form1.Picture24, Property::ForeColor);
+  file.field(ValueKind::Long, *form1.Picture24, Property::ForeColor);
   return file;
 }
 

@@ -8,14 +8,14 @@ namespace {
 void aligned(Layout& file, Array<Label>& labels, int first, int last) {
   file.each(labels, first, last, [&](Label& label) {
     const QString name = QStringLiteral("%1 (%2)").arg(label.family()->name()).arg(label.index());
-    file.literal(name.toLatin1().constData());
+    file.literal(name);
     file.alignment(label);
   });
 }
 
 void aligned(Layout& file, Single<Label>& label) {
   file.block();
-  file.literal(label.name().toLatin1().constData());
+  file.literal(label.name());
   file.alignment(*label);
 }
 

@@ -76,7 +76,7 @@ Layout skinFile(State& state) {
   file.literal("Logo");
   file.reference(names[14], {&*state.form5.Image4, &state.form1.Picture2[2]});
   file.literal("Number of tracks shown");
-  file.value(RowKind::Text, *state.form4.Combo1, Property::Text);
+  file.field(ValueKind::Text, *state.form4.Combo1, Property::Text);
   file.then(showTrackRows);
   file.optionalFromHere();
   file.literal("Genre Icons");
@@ -93,8 +93,8 @@ Layout resolutionFile(State& state) {
   file.literal("Merlane Skins File V2");
   file.literal("----------------------");
   file.literal("Resolution");
-  file.value(RowKind::Text, state.form4.Text1[0], Property::Text);
-  file.value(RowKind::Text, state.form4.Text1[1], Property::Text);
+  file.field(ValueKind::Text, state.form4.Text1[0], Property::Text);
+  file.field(ValueKind::Text, state.form4.Text1[1], Property::Text);
   file.atEnd([](Loading& loading) {
     // The window's frame: 4 pixels across, 500 twips down.
     loading.state.form1.setWidth(windowSide(loading, 0, 4));
@@ -128,7 +128,7 @@ Layout fontFile(State& state) {
 
 Layout keyHighlightFile(State& state) {
   Layout file(state, "key_highlight.ini");
-  file.value(RowKind::Long, *state.form6.Picture1, Property::BackColor);
+  file.field(ValueKind::Long, *state.form6.Picture1, Property::BackColor);
   return file;
 }
 

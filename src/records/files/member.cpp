@@ -24,8 +24,7 @@ Layout myVQuillFile(State& state) {
   file.placeQuad(form1.Picture1[25]);
   file.optionalFromHere();
   file.places(form1.Picture25, 2, 2);
-  file.labelLine("My V-Quill Buttons ", buttons[9]);
-  file.placedButton(buttons[9]);
+  file.placedButton(buttons[9], "My V-Quill Buttons ");
   file.labelRecord(form1.Label27[4]);
   file.block();
   file.alignment(form1.Label27[4]);

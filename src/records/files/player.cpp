@@ -10,12 +10,8 @@ Layout playerFile(State& state) {
   file.geometryButtons(form1.lvButtons_H2, 0, 4, "Version 2 Player Button ");
   file.geometryQuad(*form1.Picture6);
   file.optionalFromHere();
-  file.labelLine("Pop Up Player - ", form1.lvButtons_H57[3]);
-  file.geometryButton(form1.lvButtons_H57[3]);
-  file.last().skipEmptyReference = true;
-  file.labelLine("Pop Up Player BUTTON ", form1.lvButtons_H2[5]);
-  file.geometryButton(form1.lvButtons_H2[5]);
-  file.last().skipEmptyReference = true;
+  file.geometryButton(form1.lvButtons_H57[3], "Pop Up Player - ").keepsPictureWhenEmpty = true;
+  file.geometryButton(form1.lvButtons_H2[5], "Pop Up Player BUTTON ").keepsPictureWhenEmpty = true;
   return file;
 }
 
@@ -25,8 +21,7 @@ Layout playerV2File(State& state) {
   file.listIndex(*state.form4.Combo10);
   file.geometryImages(form1.lvButtons_H2, 0, 5);
   file.geometryQuad(*form1.Picture6);
-  file.labelLine("Pop Up Player - ", form1.lvButtons_H57[3]);
-  file.geometryButton(form1.lvButtons_H57[3]);
+  file.geometryButton(form1.lvButtons_H57[3], "Pop Up Player - ");
   return file;
 }
 
@@ -57,8 +52,7 @@ Layout navFile(State& state) {
   slider(file, form1, 0);
   slider(file, form1, 1);
   file.optionalFromHere();
-  file.labelLine("Tab Button ", form1.lvButtons_H4[7]);
-  file.geometryButton(form1.lvButtons_H4[7]);
+  file.geometryButton(form1.lvButtons_H4[7], "Tab Button ");
   file.placeQuad(form1.Picture31[7]);
   return file;
 }
@@ -72,8 +66,7 @@ Layout nav2File(State& state) {
   file.literal("Current Position Label");
   file.labelRecord(*form1.Label55);
   file.optionalFromHere();
-  file.labelLine("Free Credits - ", form1.lvButtons_H57[4]);
-  file.geometryButton(form1.lvButtons_H57[4]);
+  file.geometryButton(form1.lvButtons_H57[4], "Free Credits - ");
   return file;
 }
 
@@ -81,7 +74,7 @@ Layout nav2File(State& state) {
 Layout progressFile(State& state) {
   Layout file(state, "progress.ini");
   for (Property p : {Property::Top, Property::Left, Property::Width, Property::Height})
-    file.value(RowKind::Single, *state.form1.Picture18, p);
+    file.field(ValueKind::Single, *state.form1.Picture18, p);
   file.resumeOnError();
   return file;
 }

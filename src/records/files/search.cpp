@@ -37,16 +37,14 @@ Layout searchResultsFile(State& state) {
   file.labelRecord(*form1.Label18);
   file.placedButtons(form1.lvButtons_H26, 0, 4, "search Results Buttons ");
   file.placedButtons(form1.lvButtons_H28, 0, 1, "search Results Buttons ");
-  file.labelLine("search Results Buttons ", *form1.lvButtons_H27);
-  file.placedButton(*form1.lvButtons_H27);
+  file.placedButton(*form1.lvButtons_H27, "search Results Buttons ");
   file.each(form1.Picture7, 0, 6, [&](PictureBox& row) {
     file.colours(row);
     file.placeQuad(row);
   });
   file.optionalFromHere();
   for (int i = 2; i <= 4; ++i) {
-    file.labelLine("search Results Buttons ", form1.lvButtons_H28[i]);
-    file.placedButton(form1.lvButtons_H28[i]);
+    file.placedButton(form1.lvButtons_H28[i], "search Results Buttons ");
   }
   file.labels(form1.Label16, 7, 13);
   return file;
@@ -64,8 +62,7 @@ Layout searchResultsV2File(State& state) {
   file.labelRecord(*form1.Label18);
   file.placeImages(form1.lvButtons_H28, 0, 4);
   file.placeImages(form1.lvButtons_H26, 0, 1);
-  file.labelLine("search Results Buttons ", *form1.lvButtons_H27);
-  file.placedButton(*form1.lvButtons_H27);
+  file.placedButton(*form1.lvButtons_H27, "search Results Buttons ");
   file.each(form1.Picture7, 0, 6, [&](PictureBox& row) {
     file.colours(row);
     file.placeQuad(row);
@@ -81,8 +78,7 @@ Layout searchChoiceFile(State& state) {
   file.placedButtons(form1.lvButtons_H25, 0, 2, "search Buttons ");
   file.labelRecord(*form1.Label39);
   file.optionalFromHere();
-  file.labelLine("search Buttons ", *form1.lvButtons_H14);
-  file.placedButton(*form1.lvButtons_H14);
+  file.placedButton(*form1.lvButtons_H14, "search Buttons ");
   file.places(form1.Picture2, 11, 11);
   file.atEnd([](Loading& loading) {
     for (Element* box :
