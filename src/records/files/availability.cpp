@@ -1,4 +1,6 @@
-// Which buttons of the jukebox are on offer: check boxes of Form2 only, no element of the canvas.
+// Which buttons of the jukebox are on offer: the check boxes of Form2, family by family, which isn't the
+// order of the frames that show them. No element of the canvas changes by them, a reload leaves them as they
+// are, and the file is also written alone by Form2's own command.
 #include "records/recordfiles.h"
 
 namespace veneerer {

@@ -1,3 +1,9 @@
+// The buttons that stand round every screen: the menu bar and its pop-up, the "more" button, the tabs, the
+// two general buttons.
+//
+// The number of the VersionTag decides which lines there are in menu.ini and menupopup.ini and nowhere else.
+// tab.ini has the looks of the tabs alone: nav.ini, which is read before it, has the looks as well and the
+// places. The general buttons are samples on Form6 and stand on no screen.
 #include "records/recordfiles.h"
 
 namespace veneerer {

@@ -1,3 +1,8 @@
+// The decades screen and its selectors of year, month and decade.
+//
+// The VersionTag of decades2.ini is written and never tested. The years came in two lots: decades_year.ini
+// has the later ten behind its optional tail, its twin all 67 in one run. Buttons are placed Height first
+// here, all but that of the decade selector.
 #include "elements/numbers.h"
 #include "records/recordfiles.h"
 

@@ -1,5 +1,8 @@
-// The dialog screens but play options. Label38 is shared: 0 and 1 belong to the pin screen, 2 and 3 to the
-// confirmation, 4 and 5 to the free credit screen.
+// The dialog screens but play options.
+//
+// Label38 is shared: 0 and 1 belong to the pin screen, 2 and 3 to the confirmation, 4 and 5 to the free
+// credit screen. A reload reads neither confirm.ini nor free_credit.ini. options.ini is the one file whose
+// failure is told in a message box and doesn't end the load.
 #include "records/recordfiles.h"
 
 namespace veneerer {

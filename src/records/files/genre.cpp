@@ -1,3 +1,8 @@
+// The genre screen, the genre bar and the filter screen.
+//
+// What is shown is decided when all of genre.ini is read, over what the panel's rules did when its lists were
+// set on the way. The alignments at its end aren't the last word: label_align.ini is read later and names
+// the same labels.
 #include "elements/numbers.h"
 #include "records/recordfiles.h"
 

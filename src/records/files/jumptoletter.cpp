@@ -1,3 +1,5 @@
+// The two jump to letter keyboards. The second is another keyboard, no newer form of the first. The images of
+// lvButtons_H23 stand in the table of lvButtons_H22, from entry 26 on.
 #include "records/recordfiles.h"
 
 namespace veneerer {

@@ -1,4 +1,8 @@
-// The text alignment of nearly every label: pairs of a label line and a value.
+// The text alignment of nearly every label: pairs of the label's name and a value.
+//
+// The names are for a human reader and are never tested: the place counts. Labels that came later are missing
+// and have their alignment in their own screen's file, or nowhere. Where a screen's file holds it too, this
+// one is read later and wins.
 #include "records/recordfiles.h"
 
 namespace veneerer {

@@ -1,4 +1,8 @@
 // The listing screens but the track list.
+//
+// A row of a listing is a picture; each column of texts is a family of labels of its own. Columns that came
+// later stand in the optional tail, far from those beside them on the screen. now_playing.ini places its one
+// button Height first among elements that are placed Top first.
 #include "records/recordfiles.h"
 
 namespace veneerer {

@@ -1,4 +1,8 @@
 // What belongs to the Skin as a whole rather than to one screen.
+//
+// main.ini isn't the file of the Main Screen: it places the frames and the containers of the screens 0 to 13;
+// all later containers stand in their own screens' files. font.ini and key_highlight.ini hold no font and no
+// key, only the colours of two samples on Form6.
 #include "elements/numbers.h"
 #include "elements/printable.h"
 #include "records/recorderror.h"

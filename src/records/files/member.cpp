@@ -1,3 +1,7 @@
+// The member's screens, the collections, the agreement page and the frames of the album covers.
+//
+// frames.ini belongs to the covers, whose own command writes it as well. Label27 is shared with main.ini:
+// the agreement page has 3 and 5, the member's home screen has 4.
 #include "records/recordfiles.h"
 
 namespace veneerer {
@@ -52,7 +56,6 @@ Layout collectionsFile(State& state) {
   return file;
 }
 
-// Label27(4) belongs to the member home screen.
 Layout licenceFile(State& state) {
   Layout file(state, "licence.ini");
   file.labelRecord(state.form1.Label27[3]);

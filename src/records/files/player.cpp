@@ -1,4 +1,8 @@
-// Player and navigation. Each file opens with the row of the list that selects the style of what it stores.
+// Player and navigation.
+//
+// Each file opens with the row of the list that selects the style of what it stores. Setting that row runs
+// the panel's rule for it at once, ahead of every value that follows. nav.ini and tab.ini both hold the looks
+// of the tabs, and tab.ini is read later.
 #include "records/recordfiles.h"
 
 namespace veneerer {

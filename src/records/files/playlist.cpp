@@ -1,3 +1,5 @@
+// The playlist screen and its dialogs for loading and saving. The last block of playlist.ini is crossed: it
+// is written from button 8 and read into button 7.
 #include "records/recordfiles.h"
 
 namespace veneerer {

@@ -1,3 +1,6 @@
+// The play options screen with its keyboard, lvButtons_H62. A value of -1 or below in a label's place means
+// that the label keeps its own. The reference between the keyboard's buttons is shown by no element: it is
+// kept and written back.
 #include "records/recordfiles.h"
 
 namespace veneerer {

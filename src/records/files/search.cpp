@@ -1,3 +1,7 @@
+// The search keyboard and its results, the choice bar, the tabs, the online search screen, the text hint.
+//
+// The choice bar is read under one name and written under another; of the tabs one more is written than is
+// read. Label39 stands in search.ini and in search_choice.ini, which is read later and wins.
 #include "records/recordfiles.h"
 
 namespace veneerer {

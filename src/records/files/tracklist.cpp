@@ -1,3 +1,7 @@
+// The album's track list.
+//
+// The screen grew over the years, and each step stands behind the one before: a family such as Label1 has its
+// first members up front and the others far behind, where any step may be missing.
 #include "records/recordfiles.h"
 
 namespace veneerer {
