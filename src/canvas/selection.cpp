@@ -26,6 +26,8 @@ void Selection::click(Element& element) {
   if (element.family()->isArray()) state_.globals.ElementIndex = element.index();
   if (section->clearsIndex) state_.globals.ElementIndex = 0;
   putClickPlaceholder(state_, element);
+  // Nothing but the element was chosen: what the fields' handlers are refused is no answer to that.
+  const QuietRefusals quiet(state_.notices);
   fillFields(element);
 }
 

@@ -4,6 +4,7 @@
 
 #include "canvas/canvasinput.h"
 #include "canvas/design.h"
+#include "designer/refusalnotes.h"
 #include "properties/coverlayout.h"
 #include "properties/skinproperties.h"
 #include "properties/textureviewer.h"
@@ -49,6 +50,7 @@ struct Designer::Parts {
 
   Platform& platform;
   std::unique_ptr<State> state = makeState();
+  RefusalNotes refusals{*state};
   SkinProperties properties{*state, platform.screen};
   CoverLayouts covers{*state, platform, properties};
   TextureViewer textures{*state, platform};
@@ -97,6 +99,7 @@ void Designer::fillFonts() {
 }
 
 void Designer::click(Element& element) {
+  const RefusalNotes::Command command(parts_->refusals);
   State& state = *parts_->state;
   Window& window = element.window();
   if (&window == &state.form1)

@@ -42,9 +42,7 @@ public:
   /// Sets the four colours back to the platform's standard.
   void resetDefaultColors();
 
-  /// Why a value is refused, or draws a remark, in the words of the button; empty when it is taken silently.
-  /// Setting a refused value leaves the property as it was.
-  QString refusal(Property property, const Value& value) const;
+  QString refusal(Property property, const Value& value) const override;
 
 protected:
   bool accepts(Property property, const Value& value) const override;

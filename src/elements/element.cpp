@@ -38,11 +38,16 @@ bool Element::set(Property property, Value value) {
   require(at >= 0, "the element has no such property");
   Value& stored = values_[static_cast<std::size_t>(at)];
   require(stored.index() == value.index(), "the value is not of the property's type");
-  if ((stored == value && !isEvent(property)) || !accepts(property, value)) return false;
-  const Value old = std::exchange(stored, std::move(value));
-  this->stored(property);
-  notify(property, old);
-  return true;
+  if (stored == value && !isEvent(property)) return false;
+  const QString words = refusal(property, value);
+  const bool isAccepted = accepts(property, value);
+  if (isAccepted) {
+    const Value old = std::exchange(stored, std::move(value));
+    this->stored(property);
+    notify(property, old);
+  }
+  if (!words.isEmpty()) window_.notices().send(Refusal{*this, property, words});
+  return isAccepted;
 }
 
 void Element::place(float left, float top, float width, float height) {
@@ -87,6 +92,10 @@ void Element::restack(Element& sibling, int shift) {
   std::erase(order, this);
   order.insert(std::find(order.begin(), order.end(), &sibling) + shift, this);
   notify(Property::StackOrder, Value(0));
+}
+
+QString Element::refusal(Property, const Value&) const {
+  return {};
 }
 
 QString Element::rangeFault(Property, const Value&) const {

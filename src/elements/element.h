@@ -55,8 +55,9 @@ public:
   /// The value of a property that this kind has; any other is an error of the program.
   const Value& get(Property property) const;
 
-  /// The one gate for change: compares, stores, and gives notice. Returns false when there was no notice: the
-  /// value is the same as before or the element refuses it. The value's type must be the property's own.
+  /// The one gate for change: compares, stores, and gives notice, of a refusal as well. Returns false when
+  /// nothing changed: the value is the same as before or the element refuses it. The value's type must be the
+  /// property's own.
   bool set(Property property, Value value);
 
   /// What is wrong with a value outside of the property's range, such as a row that a list doesn't have;
@@ -67,6 +68,10 @@ public:
   const T& as(Property property) const {
     return std::get<T>(get(property));
   }
+
+  /// Why a value would be refused, or what is remarked on it, in the words of the element; empty for a value
+  /// that is taken, or passed over, without a word.
+  virtual QString refusal(Property property, const Value& value) const;
 
   float left() const { return as<float>(Property::Left); }
   float top() const { return as<float>(Property::Top); }

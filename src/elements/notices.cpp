@@ -16,4 +16,8 @@ void ChangeNotices::send(const Change& change) const {
   for (std::size_t i = 0; i < subscriptions_.size(); ++i) subscriptions_[i].listener(change);
 }
 
+void ChangeNotices::send(const Refusal& refusal) const {
+  if (refusalListener_ && quiet_ == 0) refusalListener_(refusal);
+}
+
 }  // namespace veneerer

@@ -122,6 +122,7 @@ private:
 QString readRecords(const Layout& layout, const QByteArray& bytes, Loading& loading, Failures failures) {
   const OnFailure policy = failures == Failures::AllFatal ? OnFailure::Fatal : layout.onFailure();
   loading.lines.clear();
+  const QuietRefusals quiet(loading.state.notices);
   try {
     Reading(layout, bytes, loading, policy).run();
   } catch (const RecordError&) {
