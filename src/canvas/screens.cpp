@@ -8,6 +8,7 @@ namespace {
 
 constexpr int kMemberScreens = 30;
 constexpr int kGenreSelectionBar = 30;
+constexpr int kPopUpMenu = 31;
 constexpr int kGenreScreen = 13;
 constexpr int kCollectionsScreen = 27;
 
@@ -35,6 +36,8 @@ void showScreen(State& state, int entry) {
   Element& screen = screenOf(state, entry);
   screen.setVisible(true);
   if (entry < kMemberScreens) screen.bringToFront();
+  // Whatever stays shown behind a screen, these two stand in front of it.
+  for (int overlay : {kGenreSelectionBar, kPopUpMenu}) screenOf(state, overlay).bringToFront();
 }
 
 }  // namespace veneerer

@@ -51,8 +51,7 @@ Element& screenOf(State& state, int entry);
 /// Hides every screen but the two that the Skin's properties keep shown.
 void hideAllScreens(State& state);
 
-/// Shows the screen of an entry alone and, where it is a member of Picture1, in front. No row (-1) shows
-/// nothing new. The current Section stays.
+/// Shows the screen of an entry alone and in front. No row (-1) shows nothing new. The current Section stays.
 void showScreen(State& state, int entry);
 
 }  // namespace veneerer
