@@ -1,9 +1,11 @@
 #include "components/textlayouts.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QRawFont>
 #include <QTextLayout>
 #include <algorithm>
+#include <cmath>
 
 namespace veneerer {
 
@@ -25,8 +27,6 @@ QFont fontOf(const TextRequest& request) {
   font.setPixelSize(std::max(1, request.fontPixels));
   font.setBold(request.fontFlags & kBold);
   font.setItalic(request.fontFlags & kItalic);
-  font.setUnderline(request.fontFlags & kUnderline);
-  font.setStrikeOut(request.fontFlags & kStrikethrough);
   return font;
 }
 
@@ -66,19 +66,35 @@ void prune(QGlyphRun& run, const QRectF& sight) {
   run.setPositions(keptPlaces);
 }
 
+// Underlines and strikethroughs of one line. Left to the glyph runs they would all begin at the first line's
+// left edge, wherever the line stands.
+void ruleLine(const QTextLine& line, const QFontMetricsF& font, int flags, LaidOutText& made) {
+  const QRectF text = line.naturalTextRect();
+  const double baseline = line.y() + line.ascent();
+  const double width = std::max(1.0, std::round(font.lineWidth()));
+  const auto rule = [&](double y) {
+    if (text.width() > 0) made.rules.append(QRectF(text.x(), std::round(y), text.width(), width));
+  };
+  if (flags & kUnderline) rule(baseline + font.underlinePos());
+  if (flags & kStrikethrough) rule(baseline - font.strikeOutPos());
+}
+
 void breakLines(QTextLayout& layout, const TextRequest& request, LaidOutText& made) {
+  const QFontMetricsF font(layout.font());
   layout.beginLayout();
   for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
     line.setLineWidth(request.width);
     line.setPosition(QPointF(0, made.height));
     made.height += line.height();
     made.ink |= line.naturalTextRect();
+    ruleLine(line, font, request.fontFlags, made);
     made.width = std::max(made.width, line.naturalTextWidth());
     if (made.height > request.height) break;
   }
   layout.endLayout();
   // Glyphs may lean a little out of their line.
   made.ink.adjust(-kLean, 0, kLean, 0);
+  for (const QRectF& rule : std::as_const(made.rules)) made.ink |= rule;
 }
 
 int costOf(const LaidOutText& text) {
@@ -107,6 +123,7 @@ int fontFlags(const Element& element) {
 
 void LaidOutText::draw(QPainter& painter, QPointF at) const {
   for (const QGlyphRun& run : runs) painter.drawGlyphRun(at, run);
+  for (const QRectF& rule : rules) painter.fillRect(rule.translated(at), painter.pen().color());
 }
 
 TextLayouts::TextLayouts() : made_(kCachedGlyphs) {}

@@ -33,7 +33,8 @@ int fontFlags(const Element& element);
 
 struct LaidOutText {
   QList<QGlyphRun> runs;  ///< with their own places; the origin is the top left of the first line
-  QRectF ink;             ///< what the glyphs and their decorations can touch
+  QList<QRectF> rules;    ///< underlines and strikethroughs, in whole pixels down
+  QRectF ink;             ///< what the glyphs and the rules can touch
   double width = 0;       ///< of the widest line, pixels
   double height = 0;      ///< of all lines, pixels
 

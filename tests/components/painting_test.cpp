@@ -172,6 +172,45 @@ TEST_F(Painting, AbsurdNumbersAreDrawnAsNothing) {
     }
 }
 
+TEST_F(Painting, UnderlinesStandUnderTheirText) {
+  Label& label = form.Label16[0];
+  put(label, form, 0, 0, 90, 60);
+  label.setBackColor(kBlue);
+  label.setForeColor(kRed);
+  label.setFontSize(12);
+  label.setCaption(QStringLiteral("iii iii iii iii iii iii iii iii iii"));
+  // The pixels of each row that are as red as a rule is, which no row of this text alone comes close to.
+  const auto ruled = [&](const QImage& image) {
+    std::vector<QRect> rows;
+    for (int y = 0; y < 60; ++y) {
+      int first = 100, last = -1, count = 0;
+      for (int x = 0; x < 100; ++x)
+        if (image.pixelColor(x, y) == Qt::red) {
+          first = std::min(first, x);
+          last = x;
+          ++count;
+        }
+      if (count > 20 && count == last - first + 1) rows.push_back(QRect(first, y, count, 1));
+    }
+    return rows;
+  };
+  EXPECT_TRUE(ruled(paint()).empty());
+  for (const Property flag : {Property::FontUnderline, Property::FontStrikethrough}) {
+    label.set(flag, true);
+    label.setAlignment(Alignment::Left);
+    const std::vector<QRect> left = ruled(paint());
+    ASSERT_GE(left.size(), 2u) << "one for each line of a wrapped text";
+    EXPECT_LT(left[0].left(), 3);
+    label.setAlignment(Alignment::Right);
+    EXPECT_GT(ruled(paint())[0].right(), 86);
+    label.setAlignment(Alignment::Center);
+    const QRect centred = ruled(paint())[0];
+    EXPECT_NEAR(centred.center().x(), 45, 2);
+    EXPECT_EQ(centred.width(), left[0].width());
+    label.set(flag, false);
+  }
+}
+
 TEST(TextLayouts, HoldNoMoreThanCanBeSeen) {
   TextLayouts layouts;
   const auto glyphs = [&](const TextRequest& request) {
