@@ -110,7 +110,8 @@ void drawnFace(benchmark::State& state) {
 BENCHMARK(drawnFace)->DenseRange(0, 7)->Unit(benchmark::kMicrosecond);
 
 void keptFace(benchmark::State& state) {
-  ButtonFaces faces;
+  CutOuts cutOuts;
+  ButtonFaces faces(cutOuts);
   const FaceLook look = lookOf(0);
   for (auto _ : state) benchmark::DoNotOptimize(faces.face(look, QImage()));
 }

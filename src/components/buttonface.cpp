@@ -6,8 +6,8 @@
 
 #include "components/buttonshape.h"
 #include "components/buttonstyle.h"
-#include "components/customoutline.h"
 #include "components/facecanvas.h"
+#include "components/scaledimages.h"
 #include "elements/button.h"
 
 namespace veneerer {
@@ -15,28 +15,12 @@ namespace veneerer {
 namespace {
 
 constexpr qsizetype kCachedKiB = 32 * 1024;
-constexpr qsizetype kCachedCutOutsKiB = 12 * 1024;
 constexpr QColor kDisabledVeil(128, 128, 128, 120);
 
-qsizetype kibOf(const QImage& image) {
-  return 1 + image.sizeInBytes() / 1024;
-}
-
-QRectF centred(QSizeF inner, QSizeF outer) {
-  return QRectF(QPointF((outer.width() - inner.width()) / 2, (outer.height() - inner.height()) / 2), inner);
-}
-
-// Where the picture of a custom shape or of a covering size lies, in device pixels.
+// Where a picture of a covering size lies, in device pixels.
 QRectF pictureRect(const FaceLook& look, QSize picture) {
-  const QSizeF face = look.size;
-  if (look.shape == Button::kLastShape) {
-    const QSizeF own = QSizeF(picture) * look.scale;
-    const bool fits = own.width() <= face.width() && own.height() <= face.height();
-    return centred(fits ? own : own.scaled(face, Qt::KeepAspectRatio), face);
-  }
-  if (look.shape < Button::kFirstCustomShape && look.pictureSize > kFirstCoveringSize)
-    return centred(QSizeF(picture).scaled(face, Qt::KeepAspectRatio), face);
-  return QRectF(QPointF(), face);
+  const QRectF all(QPointF(), look.size);
+  return look.pictureSize > kFirstCoveringSize ? fitted(picture, all) : all;
 }
 
 // Scaled ahead of painting: a painter's own scaling is coarse when it makes much smaller.
@@ -75,7 +59,7 @@ QImage plainBase(const FaceLook& look, double radius) {
 }
 
 QImage cutBase(const FaceLook& look, const QImage& cut, QSize pictureSize) {
-  const QRectF place = pictureRect(look, pictureSize);
+  const QRectF place = cutOutRect(look.shape, pictureSize, look.size, look.scale);
   QImage face = emptyFace(look);
   QPainter painter(&face);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -131,19 +115,12 @@ QImage drawFace(const FaceLook& look, const QImage& picture, QSize pictureSize) 
   return isCutOut(look) ? drawCut(look, picture, pictureSize) : drawPlain(look, picture);
 }
 
-ButtonFaces::ButtonFaces() : made_(kCachedKiB), cutOuts_(kCachedCutOutsKiB) {}
+ButtonFaces::ButtonFaces(CutOuts& cutOuts) : made_(kCachedKiB), cutOuts_(cutOuts) {}
 
 QImage ButtonFaces::face(const FaceLook& look, const QImage& picture) {
   if (const QImage* known = made_.object(look)) return *known;
-  const QImage made = drawFace(look, isCutOut(look) ? cutOutOf(picture) : picture, picture.size());
+  const QImage made = drawFace(look, isCutOut(look) ? cutOuts_.of(picture) : picture, picture.size());
   made_.insert(look, new QImage(made), kibOf(made));
-  return made;
-}
-
-QImage ButtonFaces::cutOutOf(const QImage& picture) {
-  if (const QImage* known = cutOuts_.object(picture.cacheKey())) return *known;
-  const QImage made = cutOut(picture);
-  cutOuts_.insert(picture.cacheKey(), new QImage(made), kibOf(made));
   return made;
 }
 

@@ -6,7 +6,7 @@
 #include <QColor>
 #include <QImage>
 
-#include "components/scaledimages.h"
+#include "components/customoutline.h"
 
 namespace veneerer {
 
@@ -40,23 +40,22 @@ size_t qHash(const FaceLook& look, size_t seed = 0);
 /// True for a face that is cut from its picture.
 bool isCutOut(const FaceLook& look);
 
-/// Draws a face of a keepable size. Shape 7 is cut from the picture stretched over the face, shape 8 from the
-/// picture in its own size in the middle, made smaller where it doesn't fit. Without a picture both are
-/// rectangles. The picture comes with its own size and, for a cut face, as cutOut() has left it.
+/// Draws a face of a keepable size; its alpha is the button's outline. The custom shapes are cut from the
+/// picture, see cutOutRect(); without one they are rectangles. The picture comes with its own size and, for a
+/// cut face, as cutOut() has left it.
 QImage drawFace(const FaceLook& look, const QImage& picture, QSize pictureSize);
 
 class ButtonFaces {
 public:
-  ButtonFaces();
+  /// The cut-outs must outlive the faces.
+  explicit ButtonFaces(CutOuts& cutOuts);
 
   /// The face of that look; the picture is the one whose key the look holds, null for none.
   QImage face(const FaceLook& look, const QImage& picture);
 
 private:
   QCache<FaceLook, QImage> made_;
-  QCache<qint64, QImage> cutOuts_;  // by the picture's key
-
-  QImage cutOutOf(const QImage& picture);
+  CutOuts& cutOuts_;
 };
 
 }  // namespace veneerer

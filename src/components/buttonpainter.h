@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "components/buttonface.h"
+#include "components/customoutline.h"
 #include "components/pixels.h"
 #include "components/scaledimages.h"
 #include "components/textlayouts.h"
@@ -21,7 +22,8 @@ struct ButtonState {
 class ButtonPainter {
 public:
   /// The caches must outlive the painter.
-  ButtonPainter(TextLayouts& texts, ScaledImages& images) : texts_(texts), images_(images) {}
+  ButtonPainter(TextLayouts& texts, ScaledImages& images, CutOuts& cutOuts)
+      : texts_(texts), images_(images), faces_(cutOuts) {}
 
   /// Paints the button over a rectangle; what lies outside the clip isn't touched. Both in pixels. A face
   /// that is too large to keep (see kLargestKeptImage) is painted as its plain colour.

@@ -15,13 +15,6 @@ void paintNatural(QPainter& painter, const QImage& image, QPointF at, const QRec
   drawWithin(painter, QRectF(at, QSizeF(image.size())), image, clip);
 }
 
-// The largest rectangle of the image's proportions in the middle of another.
-QRectF fitted(QSize image, const QRectF& rect) {
-  const QSizeF size = QSizeF(image).scaled(rect.size(), Qt::KeepAspectRatio);
-  return QRectF(rect.x() + (rect.width() - size.width()) / 2, rect.y() + (rect.height() - size.height()) / 2,
-                size.width(), size.height());
-}
-
 // A line one pixel wide along the inner edge, drawn as four bars: only those in sight cost anything.
 void paintBorder(QPainter& painter, const QRectF& rect, const QRectF& clip) {
   const QRectF bars[] = {

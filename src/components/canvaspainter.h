@@ -53,7 +53,8 @@ public:
 private:
   TextLayouts texts_;
   ScaledImages images_;
-  ButtonPainter buttons_{texts_, images_};
+  CutOuts cutOuts_;
+  ButtonPainter buttons_{texts_, images_, cutOuts_};
   FrameSource frames_;
   const Element* hovered_ = nullptr;
   PixelScale scale_;

@@ -3,11 +3,15 @@
 #include <cstdlib>
 #include <vector>
 
+#include "components/scaledimages.h"
+#include "elements/button.h"
+
 namespace veneerer {
 
 namespace {
 
 constexpr int kLongestSide = 1024;
+constexpr qsizetype kCachedKiB = 12 * 1024;
 // A JPEG doesn't keep its background in one exact colour; the sum of the differences of the three parts.
 constexpr int kTolerance = 60;
 // Along the outline a picture with soft edges has a pale fringe, one pixel wide, which may differ this much.
@@ -88,6 +92,23 @@ QImage cutOut(const QImage& picture) {
   image = std::move(image).convertToFormat(QImage::Format_ARGB32_Premultiplied);
   if (!hasTransparentPixels(image)) Flood(image).run();
   return image;
+}
+
+QRectF cutOutRect(int shape, QSize picture, QSizeF face, double scale) {
+  const QRectF all(QPointF(), face);
+  if (shape != Button::kLastShape) return all;
+  const QSizeF own = QSizeF(picture) * scale;
+  const bool fits = own.width() <= face.width() && own.height() <= face.height();
+  return fits ? centred(own, all) : fitted(own, all);
+}
+
+CutOuts::CutOuts() : made_(kCachedKiB) {}
+
+QImage CutOuts::of(const QImage& picture) {
+  if (const QImage* known = made_.object(picture.cacheKey())) return *known;
+  const QImage made = cutOut(picture);
+  made_.insert(picture.cacheKey(), new QImage(made), kibOf(made));
+  return made;
 }
 
 }  // namespace veneerer

@@ -6,11 +6,11 @@ namespace {
 
 constexpr qsizetype kCachedKiB = 40 * 1024;
 
+}  // namespace
+
 qsizetype kibOf(const QImage& image) {
   return 1 + image.sizeInBytes() / 1024;
 }
-
-}  // namespace
 
 bool isKeepable(QSize size) {
   return !size.isEmpty() && static_cast<qint64>(size.width()) * size.height() <= kLargestKeptImage;
@@ -25,6 +25,15 @@ QImage ScaledImages::scaled(const QImage& image, QSize size) {
   const QImage made = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   made_.insert(key, new QImage(made), kibOf(made));
   return made;
+}
+
+QRectF centred(QSizeF size, const QRectF& outer) {
+  return QRectF(outer.x() + (outer.width() - size.width()) / 2,
+                outer.y() + (outer.height() - size.height()) / 2, size.width(), size.height());
+}
+
+QRectF fitted(QSizeF proportions, const QRectF& outer) {
+  return centred(proportions.scaled(outer.size(), Qt::KeepAspectRatio), outer);
 }
 
 void drawWithin(QPainter& painter, const QRectF& target, const QImage& image, const QRectF& clip) {

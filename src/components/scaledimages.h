@@ -10,6 +10,9 @@ namespace veneerer {
 /// The largest image that is kept ready made, in device pixels: a screen of 4096 by 2160.
 inline constexpr qint64 kLargestKeptImage = 4096LL * 2160;
 
+/// What an image costs in a cache: its size in KiB, at least 1.
+qsizetype kibOf(const QImage& image);
+
 /// True for a size in device pixels that is worth an image of its own.
 bool isKeepable(QSize devicePixels);
 
@@ -32,6 +35,12 @@ private:
   }
   QCache<Key, QImage> made_;
 };
+
+/// A rectangle of that size in the middle of another.
+QRectF centred(QSizeF size, const QRectF& outer);
+
+/// The largest rectangle of those proportions in the middle of another.
+QRectF fitted(QSizeF proportions, const QRectF& outer);
 
 /// Draws the image over the target, both in pixels of the painter, but only the part within the clip:
 /// however large the target is, the work is that of what can be seen.

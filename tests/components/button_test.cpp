@@ -50,7 +50,8 @@ protected:
   Button& button = *single;
   TextLayouts texts;
   ScaledImages images;
-  ButtonPainter painter{texts, images};
+  CutOuts cutOuts;
+  ButtonPainter painter{texts, images, cutOuts};
 };
 
 int count(const QImage& image, QColor colour) {
