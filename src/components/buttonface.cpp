@@ -67,36 +67,35 @@ QImage cutBase(const FaceLook& look, const QImage& cut, QSize pictureSize) {
   return face;
 }
 
-// On a face that a picture covers, the style's shading would never be seen; what tells the pointer's work is.
-void tellState(FaceCanvas& canvas, const FaceLook& look) {
-  if (look.pressed) canvas.fill(QColor(0, 0, 0, 60));
-  if (look.hover && !look.pressed) canvas.fill(QColor(255, 255, 255, 40));
+// Where a picture covers the style's shading, the picture itself tells what the pointer does.
+QImage told(const QImage& picture, const FaceLook& look) {
+  if (!look.pressed && !look.hover) return picture;
+  FaceCanvas canvas(picture.convertToFormat(QImage::Format_ARGB32_Premultiplied), look.scale);
+  canvas.fill(look.pressed ? QColor(0, 0, 0, 60) : QColor(255, 255, 255, 40));
+  return canvas.face();
+}
+
+// What lies over the colours and the picture.
+QImage finished(FaceCanvas canvas, const FaceLook& look) {
+  const ButtonStyle& style = buttonStyle(look.style);
+  style.edge(canvas, {look.hover, look.pressed});
+  if (!look.enabled) canvas.fill(kDisabledVeil);
+  return canvas.face();
 }
 
 QImage drawCut(const FaceLook& look, const QImage& cut, QSize pictureSize) {
-  FaceCanvas canvas(cutBase(look, cut, pictureSize), look.scale);
-  tellState(canvas, look);
-  buttonStyle(look.style).edge(canvas, {look.hover, look.pressed});
-  if (!look.enabled) canvas.fill(kDisabledVeil);
-  return canvas.face();
+  return finished(FaceCanvas(told(cutBase(look, cut, pictureSize), look), look.scale), look);
 }
 
 QImage drawPlain(const FaceLook& look, const QImage& picture) {
   const ButtonStyle& style = buttonStyle(look.style);
-  const StyleState state{look.hover, look.pressed};
-  const bool isCovered = look.pictureSize == kFirstCoveringSize && !picture.isNull();
   FaceCanvas canvas(plainBase(look, style.radius * look.scale), look.scale);
-  if (!isCovered) style.shade(canvas, state);
+  style.shade(canvas, {look.hover, look.pressed});
   if (!picture.isNull()) {
     const QRectF place = pictureRect(look, picture.size());
-    canvas.draw(atSize(picture, place.size()), place);
+    canvas.draw(told(atSize(picture, place.size()), look), place);
   }
-  if (isCovered)
-    tellState(canvas, look);
-  else
-    style.edge(canvas, state);
-  if (!look.enabled) canvas.fill(kDisabledVeil);
-  return canvas.face();
+  return finished(std::move(canvas), look);
 }
 
 }  // namespace

@@ -16,9 +16,9 @@ struct ButtonStyle {
   const char* name;
   /// Rounding of the corners in pixels; a face's height is the most.
   double radius;
-  /// Light and shade on the face, under a picture that covers it.
+  /// Light and shade on the face, under its picture.
   void (*shade)(FaceCanvas&, const StyleState&);
-  /// The edges, over all.
+  /// The edges, over the picture.
   void (*edge)(FaceCanvas&, const StyleState&);
 };
 

@@ -16,6 +16,12 @@ namespace {
 
 constexpr QSize kSize(60, 30);
 
+Picture filled(const QColor& colour) {
+  QImage image(100, 100, QImage::Format_ARGB32_Premultiplied);
+  image.fill(colour);
+  return Picture::drawn(image);
+}
+
 // A red disc in the middle of white, without an alpha channel.
 QImage disc(QSize size = kSize) {
   QImage image(size, QImage::Format_RGB32);
@@ -119,9 +125,8 @@ TEST_F(ButtonPainting, ACustomShapeFollowsItsPicture) {
 }
 
 TEST_F(ButtonPainting, PicturesFollowTheirSize) {
-  QImage blue(100, 100, QImage::Format_RGB32);
-  blue.fill(Qt::blue);
-  button.setPicture(Picture::drawn(blue));
+  button.setPicture(filled(Qt::blue));
+  button.setButtonStyle(2);  // no edges
   int covered[5];
   for (int size = 0; size < 5; ++size) {
     button.setPictureSize(size);
@@ -133,6 +138,33 @@ TEST_F(ButtonPainting, PicturesFollowTheirSize) {
   EXPECT_EQ(covered[3], 60 * 30);
   EXPECT_GT(covered[4], 26 * 26);
   EXPECT_LT(covered[4], covered[3]);
+}
+
+TEST_F(ButtonPainting, AStyleShowsUnderASeeThroughPictureAndAroundAnyOther) {
+  for (int style = 0; style < 8; ++style) {
+    button.setButtonStyle(style);
+    button.setPicture(Picture());
+    const QImage plain = paint();
+    const QImage pressed = paint({.pressed = true});
+    button.setPictureSize(3);
+    button.setPicture(filled(Qt::transparent));
+    EXPECT_EQ(paint(), plain) << style;
+    EXPECT_EQ(paint({.pressed = true}), pressed) << style;
+    button.setPicture(filled(Qt::blue));
+    EXPECT_EQ(paint().pixelColor(30, 15), QColor(Qt::blue)) << style;
+    EXPECT_NE(paint({.pressed = true}).pixelColor(30, 15), QColor(Qt::blue)) << style;
+    if (style != 2) {
+      EXPECT_LT(count(paint(), Qt::blue), 60 * 28) << "no edge of style " << style;
+    }
+  }
+}
+
+TEST_F(ButtonPainting, APictureOfTheFacesProportionsLooksAlikeInBothCoveringSizes) {
+  button.setPicture(Picture::drawn(disc(kSize * 2)));
+  button.setPictureSize(3);
+  const QImage stretched = paint();
+  button.setPictureSize(4);
+  EXPECT_EQ(paint(), stretched);
 }
 
 TEST_F(ButtonPainting, StatesShowAndNoFaceOutlivesItsProperties) {
