@@ -79,6 +79,7 @@ QImage told(const QImage& picture, const FaceLook& look) {
 QImage finished(FaceCanvas canvas, const FaceLook& look) {
   const ButtonStyle& style = buttonStyle(look.style);
   style.edge(canvas, {look.hover, look.pressed});
+  if (look.hover && !look.pressed) raise(canvas, style);
   if (!look.enabled) canvas.fill(kDisabledVeil);
   return canvas.face();
 }

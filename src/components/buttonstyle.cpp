@@ -50,7 +50,7 @@ void outlinedEdge(FaceCanvas& face, const StyleState&) {
 }
 
 void hoverEdge(FaceCanvas& face, const StyleState& state) {
-  if (state.hover || state.pressed) bevel(face, 0, face.device(1), state.pressed, 200, 150);
+  if (state.pressed) bevel(face, 0, face.device(1), true, 200, 150);
 }
 
 void softShade(FaceCanvas& face, const StyleState& state) {
@@ -125,16 +125,21 @@ void metalEdge(FaceCanvas& face, const StyleState& state) {
 constexpr double kPill = 1000;
 
 constexpr ButtonStyle kStyles[kButtonStyleCount] = {
-    {"Raised", 0, dim, raisedEdge},     {"Outlined", 0, dim, outlinedEdge},
-    {"Hover frame", 0, dim, hoverEdge}, {"Soft", 4, softShade, softEdge},
-    {"Gel", kPill, gelShade, gelEdge},  {"Groove", 2, grooveShade, grooveEdge},
-    {"Accent", 7, dim, accentEdge},     {"Metal", 3, metalShade, metalEdge},
+    {"Raised", 0, 2, dim, raisedEdge},     {"Outlined", 0, 2, dim, outlinedEdge},
+    {"Hover frame", 0, 0, dim, hoverEdge}, {"Soft", 4, 2, softShade, softEdge},
+    {"Gel", kPill, 1, gelShade, gelEdge},  {"Groove", 2, 2, grooveShade, grooveEdge},
+    {"Accent", 7, 0, dim, accentEdge},     {"Metal", 3, 2, metalShade, metalEdge},
 };
 
 }  // namespace
 
 const ButtonStyle& buttonStyle(int number) {
   return kStyles[number >= 0 && number < kButtonStyleCount ? number : 0];
+}
+
+void raise(FaceCanvas& face, const ButtonStyle& style) {
+  const int inset = style.edgeWidth > 0 ? face.device(style.edgeWidth) : 0;
+  bevel(face, inset, face.device(1), false, 200, 150);
 }
 
 }  // namespace veneerer

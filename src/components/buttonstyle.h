@@ -16,6 +16,8 @@ struct ButtonStyle {
   const char* name;
   /// Rounding of the corners in pixels; a face's height is the most.
   double radius;
+  /// How far the edges reach into the face, pixels.
+  int edgeWidth;
   /// Light and shade on the face, under its picture.
   void (*shade)(FaceCanvas&, const StyleState&);
   /// The edges, over the picture.
@@ -26,5 +28,9 @@ struct ButtonStyle {
 const ButtonStyle& buttonStyle(int number);
 
 inline constexpr int kButtonStyleCount = 8;
+
+/// Raises the face along the inside of the style's edges, as every button under the pointer is: light and
+/// shade together are seen on any colour and any picture.
+void raise(FaceCanvas& face, const ButtonStyle& style);
 
 }  // namespace veneerer

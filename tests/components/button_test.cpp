@@ -167,6 +167,26 @@ TEST_F(ButtonPainting, APictureOfTheFacesProportionsLooksAlikeInBothCoveringSize
   EXPECT_EQ(paint(), stretched);
 }
 
+TEST_F(ButtonPainting, EveryFaceAnswersThePointerWithItsHoverColoursLocked) {
+  const QImage silhouette = disc();
+  for (int style = 0; style < 8; ++style)
+    for (const std::int32_t back : {0xFFFFFF, 0x000000, 0x808080})
+      for (const Picture& picture : {Picture(), filled(Qt::white), Picture::drawn(silhouette)}) {
+        button.setButtonShape(0);
+        button.setPicture(picture);
+        button.setPictureSize(3);
+        if (picture.image().size() == kSize) button.setButtonShape(7);
+        button.setButtonStyle(style);
+        button.setBackColor(back);
+        const QImage rest = paint();
+        const QImage hover = paint({.hover = true});
+        int changed = 0;
+        for (int y = 0; y < 30; ++y)
+          for (int x = 0; x < 60; ++x) changed += hover.pixel(x, y) != rest.pixel(x, y);
+        EXPECT_GT(changed, 40) << style << ' ' << back << ' ' << picture.image().width();
+      }
+}
+
 TEST_F(ButtonPainting, StatesShowAndNoFaceOutlivesItsProperties) {
   button.setCaption(QStringLiteral("OK"));
   const QImage plain = paint();
