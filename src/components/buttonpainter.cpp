@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "components/buttonlayout.h"
+#include "components/buttonoutline.h"
 #include "components/clipping.h"
 #include "components/colours.h"
 
@@ -88,6 +89,40 @@ struct ButtonPainter::Task {
     return toQColor(
         shownColour(button, state.hover, kForeLocked, Property::ForeColor, Property::HoverForeColor));
   }
+  FaceLook look(QSize size, const QImage& picture) const;
+};
+
+FaceLook ButtonPainter::Task::look(QSize size, const QImage& picture) const {
+  FaceLook made{.size = size,
+                .scale = scale.device,
+                .shape = button.buttonShape(),
+                .style = button.buttonStyle(),
+                .gradient = button.gradientMode(),
+                .back = back().rgb(),
+                .second = toQColor(button.gradientColor()).rgb(),
+                .pictureSize = picture.isNull() ? 0 : button.pictureSize(),
+                .pictureKey = picture.isNull() ? 0 : picture.cacheKey(),
+                .hover = state.hover,
+                .pressed = isDown,
+                .enabled = isEnabled};
+  // Colours that a picture hides would only make more faces of one.
+  if (isCutOut(made)) {
+    made.gradient = 0;
+    made.back = 0;
+    made.second = 0;
+  }
+  return made;
+}
+
+/// What stands on a face, laid out.
+struct ButtonPainter::Contents {
+  QRectF room;
+  QImage picture;       ///< the small one
+  QRectF picturePlace;  ///< empty for none
+  const LaidOutText* text = nullptr;
+  QPointF textPlace;
+
+  QRectF ink() const { return text ? text->ink.translated(textPlace) : QRectF(); }
 };
 
 void ButtonPainter::paint(QPainter& painter, const Button& button, const QRectF& rect, const QRectF& clip,
@@ -103,41 +138,28 @@ void ButtonPainter::paint(QPainter& painter, const Button& button, const QRectF&
     task.isDown = false;
     task.nudge = 0;
   }
-  paintFace(task);
-  paintContents(task);
+  const QImage face = paintFace(task);
+  const Contents contents = layOut(task);
+  if (face.isNull() || isWithinOutline(button, task.rect, contents.ink()))
+    paintContents(painter, task, contents);
+  else
+    paintWithinOutline(task, contents, face);
 }
 
-void ButtonPainter::paintFace(const Task& task) {
+// Returns the painted face, null for one that is too large to keep.
+QImage ButtonPainter::paintFace(const Task& task) {
   const QSize size = (task.rect.size() * task.scale.device).toSize();
-  const QColor back = task.back();
   if (!isKeepable(size)) {
-    task.painter.fillRect(task.clip, back);
-    return;
+    task.painter.fillRect(task.clip, task.back());
+    return {};
   }
-  const Button& button = task.button;
-  const QImage picture = coversFace(button) ? button.picture().image() : QImage();
-  FaceLook look{.size = size,
-                .scale = task.scale.device,
-                .shape = button.buttonShape(),
-                .style = button.buttonStyle(),
-                .gradient = button.gradientMode(),
-                .back = back.rgb(),
-                .second = toQColor(button.gradientColor()).rgb(),
-                .pictureSize = picture.isNull() ? 0 : button.pictureSize(),
-                .pictureKey = picture.isNull() ? 0 : picture.cacheKey(),
-                .hover = task.state.hover,
-                .pressed = task.isDown,
-                .enabled = task.isEnabled};
-  // Colours that a picture hides would only make more faces of one.
-  if (isCutOut(look)) {
-    look.gradient = 0;
-    look.back = 0;
-    look.second = 0;
-  }
-  drawWithin(task.painter, task.rect, faces_.face(look, picture), task.clip);
+  const QImage picture = coversFace(task.button) ? task.button.picture().image() : QImage();
+  const QImage face = faces_.face(task.look(size, picture), picture);
+  drawWithin(task.painter, task.rect, face, task.clip);
+  return face;
 }
 
-const LaidOutText* ButtonPainter::layOut(const Task& task, QSizeF room) {
+const LaidOutText* ButtonPainter::layOutCaption(const Task& task, QSizeF room) {
   const Button& button = task.button;
   const int height = fontPixels(button.as<float>(Property::FontSize), task.scale.y);
   if (button.caption().isEmpty() || height == 0) return nullptr;
@@ -146,35 +168,63 @@ const LaidOutText* ButtonPainter::layOut(const Task& task, QSizeF room) {
                      static_cast<int>(std::ceil(room.height())), captionAlignment(button)});
 }
 
-void ButtonPainter::paintContents(const Task& task) {
+ButtonPainter::Contents ButtonPainter::layOut(const Task& task) {
   const Button& button = task.button;
-  const QRectF contents = contentsRect(button, task.rect);
-  const QImage image = coversFace(button) ? QImage() : button.picture().image();
-  const QSizeF picture =
-      image.isNull() ? QSizeF() : smallPictureSize(button.pictureSize(), image.size(), contents.size());
-  const QRectF room = captionRoom(button, contents, picture);
-  const LaidOutText* text = layOut(task, room.size());
-  const QSizeF textSize = text ? QSizeF(text->width, text->height) : QSizeF(0, 0);
-  const ButtonPlaces places = placeContents(button, contents, picture, room, textSize);
+  Contents made;
+  made.room = contentsRect(button, task.rect);
+  if (!coversFace(button)) made.picture = button.picture().image();
+  QSizeF picture;
+  if (!made.picture.isNull())
+    picture = smallPictureSize(button.pictureSize(), made.picture.size(), made.room.size());
+  const QRectF captions = captionRoom(button, made.room, picture);
+  made.text = layOutCaption(task, captions.size());
+  const QSizeF text = made.text ? QSizeF(made.text->width, made.text->height) : QSizeF(0, 0);
+  const ButtonPlaces places = placeContents(button, made.room, picture, captions, text);
   const QPointF nudge(task.nudge, task.nudge);
-  if (!picture.isEmpty()) paintSmallPicture(task, image, QRectF(places.picture + nudge, picture));
-  if (text) {
-    const QPointF at(task.scale.snapped(places.caption.x()), task.scale.snapped(places.caption.y()));
-    paintCaption(task.painter, *text, at + nudge, task.clip, effectOf(button, task.isEnabled), task.fore());
-  }
-  if (task.state.focused && button.as<bool>(Property::ShowFocusRect))
-    paintFocus(task.painter, contents, task.clip);
+  made.picturePlace = QRectF(places.picture + nudge, picture);
+  made.textPlace =
+      QPointF(task.scale.snapped(places.caption.x()), task.scale.snapped(places.caption.y())) + nudge;
+  return made;
 }
 
-void ButtonPainter::paintSmallPicture(const Task& task, const QImage& image, const QRectF& place) {
+void ButtonPainter::paintContents(QPainter& painter, const Task& task, const Contents& contents) {
+  const Button& button = task.button;
+  if (!contents.picturePlace.isEmpty()) paintSmallPicture(painter, task, contents);
+  if (contents.text)
+    paintCaption(painter, *contents.text, contents.textPlace, task.clip, effectOf(button, task.isEnabled),
+                 task.fore());
+  if (task.state.focused && button.as<bool>(Property::ShowFocusRect))
+    paintFocus(painter, contents.room, task.clip);
+}
+
+// Paints the contents on a layer of their own, which the outline then cuts.
+void ButtonPainter::paintWithinOutline(const Task& task, const Contents& contents, const QImage& face) {
+  const QImage outline = task.button.isCustomShaped() ? outlineMask(face) : face;
+  QImage layer(outline.size(), QImage::Format_ARGB32_Premultiplied);
+  layer.fill(Qt::transparent);
+  {
+    QPainter painter(&layer);
+    painter.setRenderHints(task.painter.renderHints());
+    painter.scale(task.scale.device, task.scale.device);
+    painter.translate(-task.rect.topLeft());
+    paintContents(painter, task, contents);
+    painter.resetTransform();
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.drawImage(0, 0, outline);
+  }
+  drawWithin(task.painter, task.rect, layer, task.clip);
+}
+
+void ButtonPainter::paintSmallPicture(QPainter& painter, const Task& task, const Contents& contents) {
   const PixelScale& scale = task.scale;
+  const QRectF& place = contents.picturePlace;
   const QSize device = (place.size() * scale.device).toSize().expandedTo(QSize(1, 1));
   const QRectF snapped(QPointF(scale.snapped(place.x()), scale.snapped(place.y())),
                        QSizeF(device) / scale.device);
-  const double opacity = task.painter.opacity();
-  if (!task.isEnabled) task.painter.setOpacity(opacity * kDisabledOpacity);
-  drawWithin(task.painter, snapped, images_.scaled(image, device), task.clip);
-  task.painter.setOpacity(opacity);
+  const double opacity = painter.opacity();
+  if (!task.isEnabled) painter.setOpacity(opacity * kDisabledOpacity);
+  drawWithin(painter, snapped, images_.scaled(contents.picture, device), task.clip);
+  painter.setOpacity(opacity);
 }
 
 }  // namespace veneerer

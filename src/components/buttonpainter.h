@@ -25,22 +25,26 @@ public:
   ButtonPainter(TextLayouts& texts, ScaledImages& images, CutOuts& cutOuts)
       : texts_(texts), images_(images), faces_(cutOuts) {}
 
-  /// Paints the button over a rectangle; what lies outside the clip isn't touched. Both in pixels. A face
-  /// that is too large to keep (see kLargestKeptImage) is painted as its plain colour.
+  /// Paints the button over a rectangle; what lies outside the clip isn't touched. Both in pixels. Nothing
+  /// shows past the button's outline. A face that is too large to keep (see kLargestKeptImage) is painted as
+  /// its plain colour, which fills the rectangle.
   void paint(QPainter& painter, const Button& button, const QRectF& rect, const QRectF& clip,
              const PixelScale& scale, const ButtonState& state);
 
 private:
   struct Task;
+  struct Contents;
 
   TextLayouts& texts_;
   ScaledImages& images_;
   ButtonFaces faces_;
 
-  void paintFace(const Task& task);
-  void paintContents(const Task& task);
-  const LaidOutText* layOut(const Task& task, QSizeF room);
-  void paintSmallPicture(const Task& task, const QImage& image, const QRectF& place);
+  QImage paintFace(const Task& task);
+  Contents layOut(const Task& task);
+  const LaidOutText* layOutCaption(const Task& task, QSizeF room);
+  void paintContents(QPainter& painter, const Task& task, const Contents& contents);
+  void paintWithinOutline(const Task& task, const Contents& contents, const QImage& face);
+  void paintSmallPicture(QPainter& painter, const Task& task, const Contents& contents);
 };
 
 }  // namespace veneerer

@@ -52,8 +52,7 @@ QPointF onTheWay(QPointF corner, QPointF neighbour, double radius) {
 // A rectangle may become a pill; a sloping shape keeps its slopes.
 double largestRadius(int shape, QSizeF size) {
   constexpr double kOfSlopingShapes = 0.28;  // of the height
-  const bool isRectangle = &cornersOf(shape) == &kShapes[0];
-  return isRectangle ? std::min(size.width(), size.height()) / 2 : size.height() * kOfSlopingShapes;
+  return isRectangle(shape) ? std::min(size.width(), size.height()) / 2 : size.height() * kOfSlopingShapes;
 }
 
 QPainterPath rounded(const QPolygonF& polygon, double radius) {
@@ -79,6 +78,10 @@ QPainterPath rounded(const QPolygonF& polygon, double radius) {
 }
 
 }  // namespace
+
+bool isRectangle(int shape) {
+  return &cornersOf(shape) == &kShapes[0];
+}
 
 QPainterPath outlineOf(int shape, QSizeF size, double radius) {
   const QPolygonF polygon = polygonOf(shape, size);

@@ -13,6 +13,9 @@ namespace veneerer {
 /// 5 narrow bottom; 6 pointed on both sides.
 QPainterPath outlineOf(int shape, QSizeF size, double radius);
 
+/// True for the numbers that give the rectangle.
+bool isRectangle(int shape);
+
 /// How far the sloping sides reach into the face, for the room of the caption.
 struct SideRoom {
   double left = 0;

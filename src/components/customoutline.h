@@ -12,6 +12,12 @@ namespace veneerer {
 /// with the picture's edge. Large pictures come back smaller: no side is longer than 1024 pixels.
 QImage cutOut(const QImage& picture);
 
+/// False for a pixel that is too faint to be seen.
+constexpr bool isSeen(QRgb pixel) {
+  constexpr int kFaintest = 16;  // of 255
+  return qAlpha(pixel) >= kFaintest;
+}
+
 /// Where the picture of a custom shape lies on a face of that size, which begins at the origin: shape 7
 /// stretched over it, shape 8 in its own size in the middle, made smaller where it doesn't fit. Both sizes in
 /// device pixels, of which so many make a pixel.

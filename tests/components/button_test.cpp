@@ -187,6 +187,35 @@ TEST_F(ButtonPainting, EveryFaceAnswersThePointerWithItsHoverColoursLocked) {
       }
 }
 
+TEST_F(ButtonPainting, CaptionsEndAtTheOutline) {
+  button.set(Property::FontSize, 11.0f);
+  for (int shape = 1; shape <= 7; ++shape) {
+    if (shape == 7) button.setPicture(Picture::drawn(disc()));
+    button.setButtonShape(shape);
+    button.setCaption(QString());
+    const QImage bare = paint();
+    button.setCaption(QStringLiteral("MMMMMMMM||MMMMMMMM"));
+    const QImage lettered = paint();
+    EXPECT_NE(lettered, bare) << shape;
+    int spilt = 0;
+    for (int y = 0; y < 30; ++y)
+      for (int x = 0; x < 60; ++x)
+        spilt += bare.pixelColor(x, y) == Qt::magenta && lettered.pixelColor(x, y) != Qt::magenta;
+    EXPECT_EQ(spilt, 0) << shape;
+  }
+}
+
+TEST_F(ButtonPainting, ACaptionOnGlassIsntGlass) {
+  QImage glass = filled(QColor(255, 255, 255, 100)).image();
+  glass.setPixelColor(0, 0, Qt::transparent);
+  button.setPicture(Picture::drawn(glass));
+  button.setButtonShape(7);
+  button.set(Property::FontSize, 16.0f);
+  button.set(Property::FontBold, true);
+  button.setCaption(QStringLiteral("MM"));
+  EXPECT_GT(count(paint(), Qt::red), 30);
+}
+
 TEST_F(ButtonPainting, StatesShowAndNoFaceOutlivesItsProperties) {
   button.setCaption(QStringLiteral("OK"));
   const QImage plain = paint();
