@@ -40,7 +40,8 @@ public:
         pixels_(reinterpret_cast<QRgb*>(image.bits())),
         background_(pixels_[0]) {}
 
-  void run() {
+  /// False when nothing but background was there.
+  bool run() {
     for (int x = 0; x < width_; ++x) {
       reach(x, 0);
       reach(x, height_ - 1);
@@ -54,6 +55,7 @@ public:
     const std::size_t background = cleared_.size();
     tolerance_ = kFringeTolerance;
     for (std::size_t next = 0; next < background; ++next) spread(cleared_[next]);
+    return cleared_.size() < static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_);
   }
 
 private:
@@ -90,8 +92,9 @@ QImage cutOut(const QImage& picture) {
   if (image.width() > kLongestSide || image.height() > kLongestSide)
     image = image.scaled(kLongestSide, kLongestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
   image = std::move(image).convertToFormat(QImage::Format_ARGB32_Premultiplied);
-  if (!hasTransparentPixels(image)) Flood(image).run();
-  return image;
+  if (hasTransparentPixels(image)) return image;
+  QImage cut = image;
+  return Flood(cut).run() ? cut : image;
 }
 
 QRectF cutOutRect(int shape, QSize picture, QSizeF face, double scale) {

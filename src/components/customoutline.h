@@ -9,7 +9,8 @@ namespace veneerer {
 
 /// The picture with everything outside its outline made transparent. A picture with transparent pixels is its
 /// own outline. In any other, the colour of the top left pixel is the background, as far as it is connected
-/// with the picture's edge. Large pictures come back smaller: no side is longer than 1024 pixels.
+/// with the picture's edge; where that is all, nothing is cut. Large pictures come back smaller: no side is
+/// longer than 1024 pixels.
 QImage cutOut(const QImage& picture);
 
 /// False for a pixel that is too faint to be seen.

@@ -249,9 +249,9 @@ TEST_F(ButtonPainting, HoverColoursActUnlessTheyAreLocked) {
 TEST(CustomOutline, CopesWithAnyPicture) {
   QImage plain(3000, 5, QImage::Format_RGB32);
   plain.fill(Qt::red);
-  const QImage nothingLeft = cutOut(plain);
-  EXPECT_LE(nothingLeft.width(), 1024);
-  EXPECT_EQ(nothingLeft.pixelColor(0, 0).alpha(), 0);
+  const QImage onlyBackground = cutOut(plain);
+  EXPECT_LE(onlyBackground.width(), 1024);
+  EXPECT_EQ(onlyBackground.pixelColor(0, 0), Qt::red) << "a button that is nowhere could never be clicked";
   EXPECT_TRUE(cutOut(QImage()).isNull());
   EXPECT_EQ(cutOut(QImage(1, 1, QImage::Format_Mono)).size(), QSize(1, 1));
 }
