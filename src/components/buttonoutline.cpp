@@ -5,7 +5,6 @@
 
 #include "components/buttonshape.h"
 #include "components/buttonstyle.h"
-#include "components/customoutline.h"
 
 namespace veneerer {
 
@@ -46,6 +45,23 @@ QImage outlineMask(QImage face) {
     for (int x = 0; x < face.width(); ++x) row[x] = isSeen(row[x]) ? qRgb(0, 0, 0) : 0;
   }
   return face;
+}
+
+bool isSeenAt(const Button& button, QSizeF face, QPointF at, CutOuts& cutOuts) {
+  const int shape = button.buttonShape();
+  if (isCut(button)) {
+    const QImage& picture = button.picture().image();
+    return isSeenAt(cutOuts.of(picture), cutOutRect(shape, picture.size(), face, 1), at);
+  }
+  const double radius = radiusOf(button);
+  return (radius == 0 && isRectangle(shape)) || outlineOf(shape, face, radius).contains(at);
+}
+
+bool isSeenAt(const QImage& image, const QRectF& place, QPointF at) {
+  if (image.isNull() || !place.contains(at)) return false;
+  const int x = static_cast<int>((at.x() - place.x()) * image.width() / place.width());
+  const int y = static_cast<int>((at.y() - place.y()) * image.height() / place.height());
+  return image.valid(x, y) && isSeen(image.pixel(x, y));
 }
 
 }  // namespace veneerer

@@ -1,9 +1,10 @@
-// Where a button is: what of its rectangle its captions may take.
+// Where a button is: what of its rectangle its captions may take and what takes the mouse.
 #pragma once
 
 #include <QImage>
 #include <QRectF>
 
+#include "components/customoutline.h"
 #include "elements/button.h"
 
 namespace veneerer {
@@ -15,5 +16,11 @@ bool isWithinOutline(const Button& button, const QRectF& face, const QRectF& ink
 /// The outline of a face that was cut from a picture: opaque wherever anything is seen. The face may be
 /// glass; what stands on it isn't.
 QImage outlineMask(QImage face);
+
+/// Whether the button is seen at a point of a face of that size, in pixels from the face's top left.
+bool isSeenAt(const Button& button, QSizeF face, QPointF at, CutOuts& cutOuts);
+
+/// Whether an image that is shown over a place is seen at a point.
+bool isSeenAt(const QImage& image, const QRectF& place, QPointF at);
 
 }  // namespace veneerer

@@ -33,6 +33,9 @@ public:
   /// for none.
   void setHovered(const Element* element) { hovered_ = element; }
 
+  /// The outlines of custom shapes, for a hit test of what is painted here.
+  CutOuts& cutOuts() { return cutOuts_; }
+
   /// Paints the canvas window: its colour, its picture in its own size at the top left, then the visible
   /// elements in stacking order, each within its containers. Only what touches the exposed rectangle
   /// (device-independent pixels) is painted. A screen of 96 dots per inch has 1/15 pixels per twip. Pictures

@@ -13,7 +13,7 @@ namespace veneerer {
 /// longer than 1024 pixels.
 QImage cutOut(const QImage& picture);
 
-/// False for a pixel that is too faint to be seen.
+/// False for a pixel that is too faint to be seen: what lies beneath it takes the mouse.
 constexpr bool isSeen(QRgb pixel) {
   constexpr int kFaintest = 16;  // of 255
   return qAlpha(pixel) >= kFaintest;

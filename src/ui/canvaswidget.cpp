@@ -8,7 +8,6 @@
 #include <cmath>
 
 #include "canvas/sections.h"
-#include "components/hittest.h"
 
 namespace veneerer {
 
@@ -37,6 +36,7 @@ CanvasWidget::CanvasWidget(const Ui& ui)
       pixelsPerTwipX_(1 / ui.hands.screen().twipsPerPixelX()),
       pixelsPerTwipY_(1 / ui.hands.screen().twipsPerPixelY()),
       subscription_(state_.notices.subscribe([this](const Change& change) { changed(change); })),
+      hits_(painter_.cutOuts(), {pixelsPerTwipX_, pixelsPerTwipY_}),
       dirty_(pixelsPerTwipX_, pixelsPerTwipY_),
       frames_(state_.form1, [this](const Element& frame) { repaintElement(frame); }) {
   painter_.setFrameSource([this](const Element& frame) { return frames_.frame(frame); });
@@ -178,7 +178,7 @@ QPointF CanvasWidget::inside(const Element& element, QPointF pixels) const {
 
 Element* CanvasWidget::at(QPointF pixels) const {
   const QPointF twips = toTwips(pixels);
-  return elementAt(state_.form1, static_cast<float>(twips.x()), static_cast<float>(twips.y()));
+  return hits_.elementAt(state_.form1, static_cast<float>(twips.x()), static_cast<float>(twips.y()));
 }
 
 }  // namespace veneerer

@@ -5,14 +5,15 @@
 
 #include "components/anigif.h"
 #include "components/canvaspainter.h"
+#include "components/hittest.h"
 #include "ui/bindings.h"
 #include "ui/dirtyarea.h"
 
 namespace veneerer {
 
 /// Paints what has changed, and turns the mouse into clicks, presses and moves of the elements under it. An
-/// element that takes a press keeps the mouse until the button is released. A thin outline that isn't part of
-/// the Skin marks the element in hand.
+/// element that takes a left press keeps the mouse until the button is released. A thin outline that isn't
+/// part of the Skin marks the element in hand.
 class CanvasWidget : public QWidget {
   Q_OBJECT
 
@@ -57,6 +58,7 @@ private:
   double pixelsPerTwipY_;
   int subscription_;
   CanvasPainter painter_;
+  HitTest hits_;
   DirtyArea dirty_;
   bool repaintScheduled_ = false;
   ucAniGIF frames_;

@@ -44,10 +44,21 @@ protected:
     return image;
   }
 
+  Element* at(float x, float y) { return hits.elementAt(form, x * 15, y * 15); }
+
   ChangeNotices notices;
   Form1 form{notices};
   CanvasPainter painter;
+  HitTest hits{painter.cutOuts()};
 };
+
+// The right half is see-through.
+Picture halfPicture(QSize size, const QColor& left) {
+  QImage image(size, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter(&image).fillRect(0, 0, size.width() / 2, size.height(), left);
+  return Picture::drawn(image);
+}
 
 bool holdsColour(const QImage& image, const QRect& in, QColor colour) {
   for (int y = in.top(); y <= in.bottom(); ++y)
@@ -104,13 +115,13 @@ TEST_F(Painting, ChildrenAreClippedToTheirContainersAndHiddenWithThem) {
   form.Picture2[4].setBackColor(kRed);
   EXPECT_EQ(paint().pixelColor(35, 35), Qt::red);
   EXPECT_EQ(paint().pixelColor(45, 45), Qt::black);
-  EXPECT_EQ(elementAt(form, 35 * 15, 35 * 15), &form.Picture2[4]);
-  EXPECT_EQ(elementAt(form, 45 * 15, 45 * 15), nullptr);
+  EXPECT_EQ(at(35, 35), &form.Picture2[4]);
+  EXPECT_EQ(at(45, 45), nullptr);
   EXPECT_EQ(windowRect(form.Picture2[4]), QRectF(30 * 15, 30 * 15, 70 * 15, 70 * 15));
   form.Picture2[3].setVisible(false);
   EXPECT_EQ(paint().pixelColor(35, 35), Qt::black);
   EXPECT_FALSE(isShown(form.Picture2[4]));
-  EXPECT_EQ(elementAt(form, 35 * 15, 35 * 15), nullptr);
+  EXPECT_EQ(at(35, 35), nullptr);
 }
 
 TEST_F(Painting, TheMainScreenShowsNothingButItsChildren) {
@@ -121,9 +132,57 @@ TEST_F(Painting, TheMainScreenShowsNothingButItsChildren) {
   form.Picture2[4].setBackColor(kRed);
   EXPECT_EQ(paint().pixelColor(10, 10), Qt::green);
   EXPECT_EQ(paint().pixelColor(70, 70), Qt::red);
-  EXPECT_EQ(elementAt(form, 10 * 15, 10 * 15), &form.Picture2[3]);
-  EXPECT_EQ(elementAt(form, 70 * 15, 70 * 15), &form.Picture2[4]);
-  EXPECT_EQ(elementAt(form, 90 * 15, 90 * 15), nullptr);
+  EXPECT_EQ(at(10, 10), &form.Picture2[3]);
+  EXPECT_EQ(at(70, 70), &form.Picture2[4]);
+  EXPECT_EQ(at(90, 90), nullptr);
+}
+
+TEST_F(Painting, FramesAndAlphaImagesLetTheMouseThroughWhereTheyAreSeeThrough) {
+  put(form.Image2[0], form, 10, 10, 80, 80);
+  put(form.ucAniGIF1[0], form, 0, 0, 100, 100);
+  EXPECT_EQ(at(50, 50), &form.Image2[0]) << "a frame without a picture";
+  form.ucAniGIF1[0].setPicture(halfPicture({20, 20}, Qt::red));
+  EXPECT_EQ(at(20, 50), &form.ucAniGIF1[0]);
+  EXPECT_EQ(at(60, 50), &form.Image2[0]);
+  EXPECT_EQ(at(95, 50), nullptr);
+  form.ucAniGIF1[0].setPicture(halfPicture({20, 20}, QColor(255, 0, 0, 3)));
+  EXPECT_EQ(at(20, 50), &form.Image2[0]) << "too faint to be seen";
+
+  put(form.aicAlphaImage1[0], form, 0, 0, 100, 100);
+  form.aicAlphaImage1[0].setPicture(halfPicture({40, 20}, Qt::red));
+  EXPECT_EQ(at(20, 50), &form.aicAlphaImage1[0]);
+  EXPECT_EQ(at(60, 50), &form.Image2[0]);
+  EXPECT_EQ(at(20, 20), &form.Image2[0]) << "above a picture that keeps its proportions";
+}
+
+// What takes the mouse is what is painted, but for the pixels along the outline.
+TEST_F(Painting, AButtonTakesTheMouseWithinItsOutline) {
+  put(form.Picture2[3], form, 0, 0, 100, 100);
+  form.Picture2[3].setBackColor(kGreen);
+  Button& button = form.lvButtons_H1[0];
+  put(button, form, 10, 10, 80, 40);
+  button.setBackColor(kRed);
+  QImage cross(60, 30, QImage::Format_RGB32);
+  cross.fill(Qt::white);
+  QPainter(&cross).fillRect(4, 10, 52, 10, Qt::blue);
+  QPainter(&cross).fillRect(20, 3, 12, 24, Qt::blue);
+  for (int shape = 0; shape <= Button::kLastShape; ++shape)
+    for (const int style : {0, 4}) {
+      if (shape == Button::kFirstCustomShape) button.setPicture(Picture::drawn(cross));
+      button.setButtonShape(shape);
+      button.setButtonStyle(style);
+      const QImage image = paint();
+      int wrong = 0;
+      for (int y = 0; y < 60; ++y)
+        for (int x = 0; x < 100; ++x) {
+          const bool isBare = image.pixelColor(x, y) == Qt::green;
+          const auto centre = [](int pixel) { return static_cast<float>(pixel) + 0.5f; };
+          wrong += isBare != (at(centre(x), centre(y)) == &form.Picture2[3]);
+        }
+      EXPECT_LT(wrong, 120) << "shape " << shape << ", style " << style;
+    }
+  EXPECT_EQ(at(20, 30), &form.Picture2[3]) << "shape 8 keeps its picture's size";
+  EXPECT_EQ(at(26, 30), &button);
 }
 
 TEST_F(Painting, PicturesKeepTheirSizeUnlessTheyStretch) {

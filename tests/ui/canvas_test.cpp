@@ -1,6 +1,7 @@
 // The canvas: mouse, outline, repainting, size.
 #include <limits>
 
+#include "canvas/sections.h"
 #include "support/pictures.h"
 #include "ui/description.h"
 #include "ui/dirtyarea.h"
@@ -82,6 +83,28 @@ TEST_F(Canvas, AButtonUnderThePointerShowsItsHoverColours) {
   QEvent leave(QEvent::Leave);
   QApplication::sendEvent(&canvas(), &leave);
   EXPECT_EQ(pixel(at), plain);
+}
+
+TEST_F(Canvas, APressGoesThroughAFrameToItsCover) {
+  form6().Combo6->select(9);
+  QImage ring(40, 40, QImage::Format_ARGB32_Premultiplied);
+  ring.fill(Qt::red);
+  QPainter painter(&ring);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  painter.fillRect(5, 5, 30, 30, Qt::transparent);
+  painter.end();
+  AnimatedFrame& frame = form1().ucAniGIF1[0];
+  frame.setPicture(Picture::drawn(ring));
+  const float left = form1().Image2[0].left();
+  const QPoint at = middle(frame);
+  QTest::mousePress(&canvas(), Qt::LeftButton, {}, at);
+  QTest::mouseMove(&canvas(), at + QPoint(3, 0));
+  QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, at + QPoint(3, 0));
+  EXPECT_EQ(form1().Image2[0].left(), left + 45);
+  EXPECT_EQ(state().globals.SectionNumber, sectionOf(state(), form1().Image2));
+  const QPoint corner = (windowRect(frame).topLeft() / 15).toPoint() + QPoint(2, 2);
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, corner);
+  EXPECT_EQ(state().globals.SectionNumber, sectionOf(state(), form1().ucAniGIF1));
 }
 
 TEST_F(Canvas, FollowsTheWindowsSizeWithinReason) {
