@@ -82,7 +82,7 @@ void CanvasPainter::paintOne(QPainter& painter, const Element& element, const QR
       return paintLabel(painter, static_cast<const Label&>(element), rect, clip);
     case Kind::Button:
       return buttons_.paint(painter, static_cast<const Button&>(element), rect, clip, scale_,
-                            {.hover = &element == hovered_});
+                            {.hover = &element == hovered_, .pressed = &element == pressed_});
     case Kind::PictureBox:
       return paintPictureBox(painter, static_cast<const PictureBox&>(element), rect, clip);
     case Kind::ImageBox:

@@ -32,6 +32,8 @@ public:
   /// The element that the operator is pointing at: a button among the canvas's elements is painted so. Null
   /// for none.
   void setHovered(const Element* element) { hovered_ = element; }
+  /// The element that the mouse holds down: a button is painted so. Null for none.
+  void setPressed(const Element* element) { pressed_ = element; }
 
   /// The outlines of custom shapes, for a hit test of what is painted here.
   CutOuts& cutOuts() { return cutOuts_; }
@@ -60,6 +62,7 @@ private:
   ButtonPainter buttons_{texts_, images_, cutOuts_};
   FrameSource frames_;
   const Element* hovered_ = nullptr;
+  const Element* pressed_ = nullptr;
   PixelScale scale_;
 
   void begin(QPainter& painter, double pixelsPerTwipX, double pixelsPerTwipY);

@@ -117,7 +117,7 @@ void CanvasWidget::mousePressEvent(QMouseEvent* event) {
   const auto x = static_cast<float>(place.x());
   const auto y = static_cast<float>(place.y());
   if (event->button() == Qt::LeftButton) {
-    grabbed_ = element;
+    hold(element);
     hands_.press(*element, x, y, MouseButton::Left);
   } else if (event->button() == Qt::RightButton) {
     hands_.press(*element, x, y, MouseButton::Right);
@@ -132,7 +132,8 @@ void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
 
 void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !grabbed_) return;
-  Element* element = std::exchange(grabbed_, nullptr);
+  Element* element = grabbed_;
+  hold(nullptr);
   if (windowRect(*element).contains(toTwips(event->position()))) hands_.click(*element);
 }
 
@@ -152,6 +153,13 @@ void CanvasWidget::showToolTip(const QPoint& global, const QPoint& place) {
   if (!element || element->toolTipText().isEmpty()) return QToolTip::hideText();
   QToolTip::showText(global, plainToolTip(element->toolTipText()), this,
                      dirty_.pixelsOf(windowRect(*element)) & rect());
+}
+
+void CanvasWidget::hold(Element* element) {
+  const Element* before = std::exchange(grabbed_, element);
+  painter_.setPressed(element);
+  for (const Element* e : {before, static_cast<const Element*>(element)})
+    if (e && e->kind() == Kind::Button) repaintElement(*e);
 }
 
 void CanvasWidget::point(Element* element) {

@@ -46,6 +46,7 @@ private:
   void repaintDirty();
   QRect outlineRect() const;
   void paintOutline(QPainter& painter) const;
+  void hold(Element* element);
   void point(Element* element);
   void showToolTip(const QPoint& global, const QPoint& at);
   QPointF toTwips(QPointF pixels) const;

@@ -270,6 +270,18 @@ TEST_F(Painting, UnderlinesStandUnderTheirText) {
   }
 }
 
+TEST_F(Painting, AHeldButtonLooksPressed) {
+  put(form.lvButtons_H1[0], form, 10, 10, 40, 20);
+  put(form.lvButtons_H1[1], form, 10, 40, 40, 20);
+  const QImage rest = paint();
+  painter.setPressed(&form.lvButtons_H1[0]);
+  const QImage held = paint();
+  EXPECT_NE(held.copy(0, 0, 100, 35), rest.copy(0, 0, 100, 35));
+  EXPECT_EQ(held.copy(0, 35, 100, 65), rest.copy(0, 35, 100, 65));
+  painter.setPressed(nullptr);
+  EXPECT_EQ(paint(), rest);
+}
+
 TEST(TextLayouts, HoldNoMoreThanCanBeSeen) {
   TextLayouts layouts;
   const auto glyphs = [&](const TextRequest& request) {

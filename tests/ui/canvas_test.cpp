@@ -85,6 +85,18 @@ TEST_F(Canvas, AButtonUnderThePointerShowsItsHoverColours) {
   EXPECT_EQ(pixel(at), plain);
 }
 
+TEST_F(Canvas, AHeldButtonLooksPressedUntilItIsReleased) {
+  Button& button = form1().lvButtons_H1[2];
+  const QPoint at = middle(button) + QPoint(0, 24);
+  QTest::mouseMove(&canvas(), at);
+  const QColor hovered = pixel(at);
+  QTest::mousePress(&canvas(), Qt::LeftButton, {}, at);
+  const QColor held = pixel(at);
+  EXPECT_LT(held.lightness(), hovered.lightness());
+  QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, at);
+  EXPECT_EQ(pixel(at), hovered);
+}
+
 TEST_F(Canvas, APressGoesThroughAFrameToItsCover) {
   form6().Combo6->select(9);
   QImage ring(40, 40, QImage::Format_ARGB32_Premultiplied);
