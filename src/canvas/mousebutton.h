@@ -2,6 +2,6 @@
 
 namespace veneerer {
 
-enum class MouseButton { None, Left, Right };
+enum class MouseButton { None, Left, Right, Middle };
 
 }  // namespace veneerer

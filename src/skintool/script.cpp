@@ -29,6 +29,12 @@ bool isWord(const ScriptWord& word, QStringView text) {
   return !word.isQuoted && word.text == text;
 }
 
+MouseButton otherButton(const ScriptWord& word) {
+  if (isWord(word, u"right")) return MouseButton::Right;
+  if (isWord(word, u"middle")) return MouseButton::Middle;
+  throw ScriptError(QStringLiteral("press knows only the words \"right\" and \"middle\""));
+}
+
 ScriptWord quotedWord(const QString& line, qsizetype& at) {
   ScriptWord word{{}, true};
   for (++at; at < line.size() && line[at] != u'"'; ++at) {
@@ -147,11 +153,9 @@ void ScriptPlayer::click(const Words& words) {
 }
 
 void ScriptPlayer::press(const Words& words) {
-  const bool isRight = words.size() == 4;
-  if (isRight && !isWord(words[3], u"right"))
-    throw ScriptError(QStringLiteral("press knows only the word \"right\""));
-  designer_.press(element(words[0]), number(words[1]), number(words[2]),
-                  isRight ? MouseButton::Right : MouseButton::Left);
+  MouseButton button = MouseButton::Left;
+  if (words.size() == 4) button = otherButton(words[3]);
+  designer_.press(element(words[0]), number(words[1]), number(words[2]), button);
 }
 
 void ScriptPlayer::move(const Words& words) {

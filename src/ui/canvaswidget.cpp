@@ -23,6 +23,19 @@ int sidePixels(double pixels) {
   return std::isnan(pixels) ? 1 : static_cast<int>(std::clamp(std::ceil(pixels), 1.0, kLargestSide));
 }
 
+MouseButton buttonOf(const QMouseEvent& event) {
+  switch (event.button()) {
+    case Qt::LeftButton:
+      return MouseButton::Left;
+    case Qt::RightButton:
+      return MouseButton::Right;
+    case Qt::MiddleButton:
+      return MouseButton::Middle;
+    default:
+      return MouseButton::None;
+  }
+}
+
 QRect reach(const QRect& outline) {
   constexpr int r = kOutlineReach;
   return outline.isNull() ? outline : outline.adjusted(-r, -r, r, r);
@@ -112,16 +125,11 @@ void CanvasWidget::paintOutline(QPainter& painter) const {
 
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
   Element* element = at(event->position());
-  if (!element) return;
+  const MouseButton button = buttonOf(*event);
+  if (!element || button == MouseButton::None) return;
   const QPointF place = inside(*element, event->position());
-  const auto x = static_cast<float>(place.x());
-  const auto y = static_cast<float>(place.y());
-  if (event->button() == Qt::LeftButton) {
-    hold(element);
-    hands_.press(*element, x, y, MouseButton::Left);
-  } else if (event->button() == Qt::RightButton) {
-    hands_.press(*element, x, y, MouseButton::Right);
-  }
+  if (button == MouseButton::Left) hold(element);
+  hands_.press(*element, static_cast<float>(place.x()), static_cast<float>(place.y()), button);
 }
 
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {

@@ -136,6 +136,18 @@ TEST_F(CanvasInputTest, PressStoresTheAnchorAndPutsPlaceholders) {
   EXPECT_EQ(globals.SectionNumber, 0);
 }
 
+TEST_F(CanvasInputTest, AMiddlePressIsAPressLikeAnyOther) {
+  form1.Label41->setOpaque(false);
+  input.press(*form1.Label41, 30, 40, MouseButton::Middle);
+  EXPECT_EQ(globals.DragAnchorX, 30);
+  EXPECT_FALSE(form1.Label41->isOpaque());
+  input.press(*form1.Label12, 1, 1, MouseButton::Middle);
+  EXPECT_EQ(form1.Label12->caption(), u"Text Exmaple");
+  input.press(form1.lvButtons_H1[0], 5, 6, MouseButton::Middle);
+  EXPECT_EQ(globals.DragAnchorY, 6);
+  EXPECT_TRUE(world.dialogs.filters.isEmpty()) << "only the right button asks for a picture";
+}
+
 TEST_F(CanvasInputTest, RightPressGivesAButtonItsPicture) {
   QTemporaryDir folder;
   const QString good = folder.filePath(QStringLiteral("up.bmp"));

@@ -68,6 +68,12 @@ TEST_F(Skintool, PlaysWhatAnOperatorDoes) {
   EXPECT_EQ(state[u"tables"].toObject()[u"ImageName"].toArray().size(), 16);
 }
 
+TEST_F(Skintool, PressesWithAnyButton) {
+  const QJsonObject state = dump("press Form1.lvButtons_H1(3) 40 50.5 middle\n");
+  EXPECT_EQ(state[u"globals"].toObject()[u"DragAnchorX"].toDouble(), 40);
+  EXPECT_EQ(state[u"globals"].toObject()[u"DragAnchorY"].toDouble(), 50.5);
+}
+
 TEST_F(Skintool, StopsAtAWrongScriptBeforeItWrites) {
   const struct {
     const char* script;
@@ -80,6 +86,7 @@ TEST_F(Skintool, StopsAtAWrongScriptBeforeItWrites) {
       {"set Form1.Label5 \"x\"\n", "nothing can be typed"},
       {"reload Gone\n", "there is no Skin"},
       {"set Form6.Text1 \"open\n", "isn't closed"},
+      {"press Form1.lvButtons_H1(3) 1 1 both\n", "press knows only"},
   };
   for (const auto& c : cases) {
     write(path("script"), c.script);
