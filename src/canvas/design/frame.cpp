@@ -93,7 +93,7 @@ void composeStatus(Composer& c) {
   c.panel(f.Picture2[3], f, c.plan.statusOnBackdrop ? rule : c.plan.status, kBar);
   Box area = c.plan.status.inset(c.px(10), c.px(4));
   const auto next = [&](int index, const char* caption, const ButtonLook& look) {
-    const Box at = area.cutRight(c.px(70), c.px(5));
+    const Box at = area.cutRight(c.px(66), c.px(4));
     c.button(f.lvButtons_H57[index], f, at, QString::fromLatin1(caption), look, 8);
   };
   next(4, "Free||Credits?", c.theme.primary);
@@ -102,7 +102,8 @@ void composeStatus(Composer& c) {
   next(0, "Back", c.theme.plain);
   next(1, "Jump To||Letter", c.theme.plain);
   composeStatusTexts(c, area.cutLeft(c.px(176), c.px(5)));
-  c.line(*f.Label55, f, area, QStringLiteral("Page: 0/0"), {c.theme.bar.body, 8, false, Alignment::Right});
+  c.line(*f.Label55, f, area, QStringLiteral("Current Page: 0/0"),
+         {c.theme.bar.body, 8, false, Alignment::Right});
 }
 
 // What is seen where no screen stands.
