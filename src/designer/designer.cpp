@@ -1,7 +1,5 @@
 #include "designer/designer.h"
 
-#include <QFontDatabase>
-
 #include "canvas/canvasinput.h"
 #include "canvas/design.h"
 #include "designer/refusalnotes.h"
@@ -11,6 +9,7 @@
 #include "skin/skinloader.h"
 #include "skin/skinsaver.h"
 #include "skin/startup.h"
+#include "tools/fontlist.h"
 #include "tools/toolspalette.h"
 
 namespace veneerer {
@@ -36,9 +35,21 @@ struct Designer::Parts {
 
   void listChosen(const Change& change) {
     if (change.property != Property::ListIndex) return;
-    if (&change.element == &*state->form4.Combo3 && state->form4.Combo3->listIndex() >= 0) loader.reload();
-    if (&change.element == &*state->form3.List1 && state->form3.List1->listIndex() >= 0)
+    if (&change.element == &*state->form4.Combo3 && state->form4.Combo3->listIndex() >= 0) reload();
+    if (&change.element == &*state->form3.List1 && state->form3.List1->listIndex() >= 0) {
       chooseSkin(*state, state->form3.List1->text(), loader);
+      followFonts();
+    }
+  }
+
+  void reload() {
+    loader.reload();
+    followFonts();
+  }
+
+  /// The list of fonts, once there is one, knows the families of the Skin that is loaded.
+  void followFonts() {
+    if (!state->form6.List1->list().isEmpty()) listFonts(*state);
   }
 
   void save(const SkinFolder& folder) {
@@ -73,7 +84,9 @@ const Platform& Designer::platform() const {
 }
 
 bool Designer::startUp() {
-  return veneerer::startUp(*parts_->state, parts_->platform, parts_->loader);
+  const bool isLoaded = veneerer::startUp(*parts_->state, parts_->platform, parts_->loader);
+  parts_->followFonts();
+  return isLoaded;
 }
 
 void Designer::openChooser() {
@@ -82,7 +95,7 @@ void Designer::openChooser() {
 
 void Designer::reload(const QString& skinName) {
   parts_->state->form4.Combo3->setText(skinName);
-  parts_->loader.reload();
+  parts_->reload();
 }
 
 void Designer::save() {
@@ -94,8 +107,7 @@ void Designer::saveTo(const SkinFolder& folder) {
 }
 
 void Designer::fillFonts() {
-  ListBox& fonts = *parts_->state->form6.List1;
-  if (fonts.list().isEmpty()) fonts.setRows(QFontDatabase::families());
+  if (parts_->state->form6.List1->list().isEmpty()) listFonts(*parts_->state);
 }
 
 void Designer::click(Element& element) {

@@ -41,8 +41,8 @@ public:
   /// Save Skin into another folder, which must be there.
   void saveTo(const SkinFolder& folder);
 
-  /// Fills the list of fonts, Form6.List1. It grows slow with the user's fonts, so a shell asks for it when
-  /// its first paint is done or the list is needed.
+  /// Fills the list of fonts, Form6.List1; from then on it follows the Skin that is loaded. It grows slow
+  /// with the user's fonts, so a shell asks for it when its first paint is done or the list is needed.
   void fillFonts();
 
   // What an operator does. Typing, ticking and choosing are changes of the elements themselves

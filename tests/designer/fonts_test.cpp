@@ -1,0 +1,55 @@
+// The list of fonts: what the machine has and what the Skin names.
+#include "designer/skinfixture.h"
+#include "tools/fontlist.h"
+
+namespace veneerer {
+namespace {
+
+class Fonts : public test::SkinFixture {
+protected:
+  const QStringList& rows() { return state().form6.List1->list(); }
+};
+
+TEST_F(Fonts, StandOnceAndWithoutAFoundry) {
+  start();
+  form1().Label16[0].setFontName(QStringLiteral("Quill Gothic"));
+  form1().Label16[1].setFontName(QStringLiteral("quill gothic"));
+  form1().Label16[2].setFontName(QString());
+  designer->fillFonts();
+  ASSERT_GT(rows().size(), 2);
+  EXPECT_EQ(rows().filter(QStringLiteral("Quill Gothic"), Qt::CaseInsensitive).size(), 1);
+  for (qsizetype i = 1; i < rows().size(); ++i)
+    EXPECT_LT(rows()[i - 1].toCaseFolded(), rows()[i].toCaseFolded()) << rows()[i].toStdString();
+  EXPECT_TRUE(rows().filter(QStringLiteral("]")).isEmpty()) << rows().join(u'\n').toStdString();
+}
+
+TEST_F(Fonts, FollowASkinThatIsLoadedLater) {
+  start();
+  makeSkin(QStringLiteral("T"));
+  Label& label = form1().Label16[0];
+  const QString before = label.fontName();
+  label.setFontName(QStringLiteral("Quill Gothic"));
+  designer->saveTo(SkinFolder(world.platform.folder, QStringLiteral("T")));
+  label.setFontName(before);
+  designer->fillFonts();
+  EXPECT_FALSE(rows().contains(QStringLiteral("Quill Gothic")));
+  state().form6.List1->select(1);
+  const QString chosen = state().form6.List1->text();
+  designer->reload(QStringLiteral("T"));
+  EXPECT_TRUE(rows().contains(QStringLiteral("Quill Gothic")));
+  EXPECT_EQ(state().form6.List1->text(), chosen);
+  EXPECT_EQ(rows().value(state().form6.List1->listIndex()), chosen);
+}
+
+TEST(FontNames, LoseTheFoundryAlone) {
+  const auto bare = [](const char* family) {
+    return withoutFoundry(QString::fromLatin1(family)).toStdString();
+  };
+  EXPECT_EQ(bare("C059 [UKWN]"), "C059");
+  EXPECT_EQ(bare("Nimbus Sans"), "Nimbus Sans");
+  EXPECT_EQ(bare("[odd]"), "[odd]");
+  EXPECT_EQ(bare("Odd [one] Sans"), "Odd [one] Sans");
+}
+
+}  // namespace
+}  // namespace veneerer
