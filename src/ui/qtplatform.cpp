@@ -4,13 +4,13 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFontDialog>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QScreen>
 #include <QSettings>
 
 #include "components/colours.h"
+#include "ui/fontdialog.h"
 
 namespace veneerer {
 
@@ -29,22 +29,6 @@ bool runBox(const QString& title, const QString& text, QMessageBox::Icon icon,
   box.setTextFormat(Qt::PlainText);
   box.setText(text);
   return box.exec() == QMessageBox::Ok;
-}
-
-QFont toQFont(const FontChoice& choice) {
-  QFont font(choice.name);
-  if (choice.size > 0) font.setPointSizeF(choice.size);
-  font.setBold(choice.bold);
-  font.setItalic(choice.italic);
-  font.setUnderline(choice.underline);
-  font.setStrikeOut(choice.strikethrough);
-  return font;
-}
-
-FontChoice fromQFont(const QFont& font) {
-  return {font.family(),    static_cast<float>(font.pointSizeF()),
-          font.bold(),      font.italic(),
-          font.underline(), font.strikeOut()};
 }
 
 }  // namespace
@@ -70,10 +54,7 @@ std::optional<std::int32_t> QtDialogs::chooseColour(std::int32_t initial) {
 }
 
 std::optional<FontChoice> QtDialogs::chooseFont(const FontChoice& initial) {
-  bool chosen = false;
-  const QFont font = QFontDialog::getFont(&chosen, toQFont(initial), dialogParent());
-  if (!chosen) return std::nullopt;
-  return fromQFont(font);
+  return runFontDialog(initial, dialogParent());
 }
 
 QtProgress::QtProgress() = default;
