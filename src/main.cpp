@@ -5,7 +5,6 @@
 #include <QTimer>
 
 #include "designer/designer.h"
-#include "platform/skinfolder.h"
 #include "ui/application.h"
 #include "ui/designerwindows.h"
 #include "ui/qtplatform.h"
@@ -37,11 +36,12 @@ int main(int argc, char** argv) {
   const QTemporaryDir notes;
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, notes.path());
 
-  QtDialogs dialogs(SkinsRoot(folder).path());
+  QtDialogs dialogs;
   IniSettings settings;
   QtProgress progress;
   Platform platform{dialogs, settings, primaryScreen(), folder, &progress};
   Designer designer(platform);
+  dialogs.setSkin([&designer] { return designer.skinFolder(); });
   DesignerWindows windows(designer);
   QTimer::singleShot(0, [&] { designer.startUp(); });
   return Application::exec();

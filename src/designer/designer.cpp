@@ -83,6 +83,10 @@ const Platform& Designer::platform() const {
   return parts_->platform;
 }
 
+SkinFolder Designer::skinFolder() const {
+  return parts_->skinFolder();
+}
+
 bool Designer::startUp() {
   const bool isLoaded = veneerer::startUp(*parts_->state, parts_->platform, parts_->loader);
   parts_->followFonts();

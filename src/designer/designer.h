@@ -21,6 +21,8 @@ public:
 
   State& state();
   const Platform& platform() const;
+  /// The folder of the current Skin, whether or not it is there.
+  SkinFolder skinFolder() const;
 
   // The calls below, and a change of an element that stands for an operator's choice, throw RecordError when
   // a file is malformed or can't be written. Such an error is fatal: the shell shows it and ends the program.

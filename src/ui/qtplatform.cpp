@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QColorDialog>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProgressDialog>
@@ -11,6 +10,7 @@
 
 #include "components/colours.h"
 #include "ui/fontdialog.h"
+#include "ui/picturedialog.h"
 
 namespace veneerer {
 
@@ -42,8 +42,9 @@ bool QtDialogs::ask(const QString& title, const QString& text) {
 }
 
 QString QtDialogs::chooseFile(const QString& filter) {
-  const QString file = QFileDialog::getOpenFileName(dialogParent(), QString(), folder_, dialogFilter(filter));
-  if (!file.isEmpty()) folder_ = QFileInfo(file).path();
+  const QString file =
+      runPictureDialog(pictureFolder(skin_(), lastFolder_), dialogFilter(filter), dialogParent());
+  if (!file.isEmpty()) lastFolder_ = QFileInfo(file).path();
   return file;
 }
 

@@ -1,9 +1,11 @@
 // The real world: message boxes, the common dialogs, the settings store and the screen.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "platform/platform.h"
+#include "platform/skinfolder.h"
 
 class QProgressDialog;
 
@@ -11,8 +13,9 @@ namespace veneerer {
 
 class QtDialogs : public Dialogs {
 public:
-  /// The first file dialog opens in that folder, later ones where a file was chosen last.
-  explicit QtDialogs(const QString& folder) : folder_(folder) {}
+  /// Which Skin is loaded: file dialogs open in its folder, or where a file within it was chosen last. To be
+  /// given before the first file dialog.
+  void setSkin(std::function<SkinFolder()> skin) { skin_ = std::move(skin); }
 
   void inform(const QString& title, const QString& text) override;
   bool ask(const QString& title, const QString& text) override;
@@ -21,7 +24,8 @@ public:
   std::optional<FontChoice> chooseFont(const FontChoice& initial) override;
 
 private:
-  QString folder_;
+  std::function<SkinFolder()> skin_;
+  QString lastFolder_;
 };
 
 /// A small window with a bar, while something takes long. The other windows go on being painted but take no
