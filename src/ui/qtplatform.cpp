@@ -16,10 +16,21 @@ namespace veneerer {
 
 namespace {
 
+constexpr int kBelowSplash = 16;  // pixels
+
 // The window that a dialog belongs to. The splash is none: it goes while its question may still stand.
 QWidget* dialogParent() {
   QWidget* active = QApplication::activeWindow();
   return active && active->windowType() != Qt::SplashScreen ? active : nullptr;
+}
+
+// A question of the start stands below the splash, which tells what it is about.
+void placeBelowSplash(QWidget& box) {
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->windowType() != Qt::SplashScreen || !window->isVisible()) continue;
+    const QRect splash = window->frameGeometry();
+    box.move(splash.center().x() - box.sizeHint().width() / 2, splash.bottom() + kBelowSplash);
+  }
 }
 
 bool runBox(const QString& title, const QString& text, QMessageBox::Icon icon,
@@ -28,6 +39,7 @@ bool runBox(const QString& title, const QString& text, QMessageBox::Icon icon,
   // A Skin's name is part of some texts.
   box.setTextFormat(Qt::PlainText);
   box.setText(text);
+  placeBelowSplash(box);
   return box.exec() == QMessageBox::Ok;
 }
 

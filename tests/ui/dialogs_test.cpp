@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QListView>
+#include <QMessageBox>
 #include <QSettings>
 
 #include "support/pictures.h"
@@ -165,6 +166,22 @@ TEST_F(PictureDialog, TheSketchIsSmallAndBearsHostileFiles) {
   // Opening a pipe would wait for somebody to write into it.
   ASSERT_EQ(mkfifo(qPrintable(at("pipe.bmp")), 0600), 0);
   EXPECT_FALSE(sketchOf(at("pipe.bmp"), QSize(200, 200)).size.isValid());
+}
+
+class Questions : public test::UiFixture {};
+
+TEST_F(Questions, LeaveTheSplashInSight) {
+  state().frmSplash.setVisible(true);
+  const QRect splash = widget<QWidget>("frmSplash").frameGeometry();
+  QRect box;
+  const test::OnModal<QMessageBox> operation([&](QMessageBox& question) {
+    box = question.frameGeometry();
+    question.accept();
+  });
+  QtDialogs().ask(QStringLiteral("Load Current Skin"), QStringLiteral("Do you?"));
+  EXPECT_TRUE(operation.came());
+  EXPECT_FALSE(box.intersects(splash));
+  EXPECT_TRUE(QGuiApplication::primaryScreen()->availableGeometry().contains(box));
 }
 
 }  // namespace
