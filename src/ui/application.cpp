@@ -10,7 +10,7 @@ namespace veneerer {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("veneerer"));
-  setApplicationDisplayName(QStringLiteral("Veneerer"));
+  // There is no display name: the toolkit would hang it behind the title of every window.
   setApplicationVersion(programVersion());
   // No window is open for a moment between the splash and the others.
   setQuitOnLastWindowClosed(false);

@@ -3,9 +3,13 @@
 namespace veneerer {
 
 Binding::Binding(BindingTable& table, const Element& element, QWidget& widget)
-    : QObject(&widget), table_(table), element_(element) {
-  table_.bindings_.insert(&element, this);
+    : Binding(table, element, static_cast<QObject*>(&widget)) {
   widget.setObjectName(element.key());
+}
+
+Binding::Binding(BindingTable& table, const Element& element, QObject* owner)
+    : QObject(owner), table_(table), element_(element) {
+  table_.bindings_.insert(&element, this);
 }
 
 Binding::~Binding() {

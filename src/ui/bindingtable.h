@@ -4,6 +4,7 @@
 
 #include <QMultiHash>
 #include <QWidget>
+#include <functional>
 
 #include "elements/element.h"
 
@@ -22,11 +23,25 @@ public:
   virtual void show(Property changed) = 0;
 
 protected:
+  /// The widget takes the element's name.
   Binding(BindingTable& table, const Element& element, QWidget& widget);
+  /// For one that only watches: the owner, whose life it shares, keeps its own name.
+  Binding(BindingTable& table, const Element& element, QObject* owner);
 
 private:
   BindingTable& table_;
   const Element& element_;
+};
+
+/// Does something after each change of an element.
+class Watch : public Binding {
+public:
+  Watch(BindingTable& table, const Element& element, QObject* owner, std::function<void()> act)
+      : Binding(table, element, owner), act_(std::move(act)) {}
+  void show(Property) override { act_(); }
+
+private:
+  std::function<void()> act_;
 };
 
 /// Must outlive the windows.

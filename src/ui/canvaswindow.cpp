@@ -44,7 +44,6 @@ CanvasWindow::CanvasWindow(const Ui& ui)
       canvas_(new CanvasWidget(ui)),
       status_(new QLabel),
       room_(screen()->availableGeometry().size()) {
-  setWindowTitle(QStringLiteral("Veneerer"));
   view_->setFrameShape(QFrame::NoFrame);
   view_->setWidget(canvas_);
   view_->setBackgroundRole(QPalette::Dark);

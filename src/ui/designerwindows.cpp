@@ -21,6 +21,13 @@ QSize roomForCanvas(QSize available, QSize tools) {
   return QSize(beside < kNarrowestCanvas ? available.width() : beside, available.height()) - kFrame;
 }
 
+QString mainTitle(QString skin, const QString& caption) {
+  if (skin.isEmpty()) return caption;
+  // The toolkit's mark for changes, doubled, stands for itself.
+  skin.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+  return skin + QStringLiteral(" — ") + caption;
+}
+
 }  // namespace
 
 DesignerWindows::DesignerWindows(Designer& designer)
@@ -40,25 +47,34 @@ DesignerWindows::DesignerWindows(Designer& designer)
   bind(state.form3, chooser_, OnClose::EndProgram)->beforeFirstShow([this] {
     chooser_.move(splash_.geometry().topRight() + QPoint(8, 0));
   });
-  bindBeside(state.form1, canvas_, OnClose::EndProgram);
+  bindCanvas(state);
   bindBeside(state.form2, buttons_, OnClose::Hide);
   bindBeside(state.form4, settings_, OnClose::Hide);
   bindBeside(state.form5, textures_, OnClose::Hide);
   bindBeside(state.form6, tools_, OnClose::Hide);
 }
 
+void DesignerWindows::bindCanvas(State& state) {
+  WindowBinding* binding = bindBeside(state.form1, canvas_, OnClose::EndProgram);
+  const ComboBox& skin = *state.form4.Combo3;
+  binding->setTitle([&state, &skin] { return mainTitle(skin.text(), state.form1.caption()); });
+  new Watch(bindings_, skin, &canvas_, [binding] { binding->show(Property::Caption); });
+}
+
 WindowBinding* DesignerWindows::bind(Window& element, QWidget& widget, OnClose onClose) {
   return new WindowBinding(bindings_, element, widget, onClose);
 }
 
-void DesignerWindows::bindBeside(Window& element, QWidget& widget, OnClose onClose) {
-  bind(element, widget, onClose)->beforeFirstShow([this] { placeAll(); });
+WindowBinding* DesignerWindows::bindBeside(Window& element, QWidget& widget, OnClose onClose) {
+  WindowBinding* binding = bind(element, widget, onClose);
+  binding->beforeFirstShow([this] { placeAll(); });
   QObject::connect(&canvas_, &CanvasWindow::asked, &widget, [&](const Window* asked) {
     if (asked != &element) return;
     element.setVisible(true);
     widget.raise();
     widget.activateWindow();
   });
+  return binding;
 }
 
 void DesignerWindows::placeAll() {

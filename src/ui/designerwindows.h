@@ -19,7 +19,8 @@ public:
 
 private:
   WindowBinding* bind(Window& element, QWidget& widget, OnClose onClose);
-  void bindBeside(Window& element, QWidget& widget, OnClose onClose);
+  WindowBinding* bindBeside(Window& element, QWidget& widget, OnClose onClose);
+  void bindCanvas(State& state);
   void placeAll();
 
   Operator hands_;

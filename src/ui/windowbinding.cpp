@@ -13,9 +13,15 @@ WindowBinding::WindowBinding(BindingTable& table, Window& element, QWidget& widg
 
 void WindowBinding::show(Property changed) {
   if (changed == Property::Visible) showOrHide();
-  if (changed == Property::Caption) widget_.setWindowTitle(window_.caption());
+  if (changed == Property::Caption) widget_.setWindowTitle(title_ ? title_() : window_.caption());
 }
 
+void WindowBinding::setTitle(std::function<QString()> title) {
+  title_ = std::move(title);
+  show(Property::Caption);
+}
+
+// Where a window stood is forgotten with its frame: one that comes back would slip under the screen's edge.
 void WindowBinding::showOrHide() {
   if (window_.isVisible() && beforeFirstShow_) std::exchange(beforeFirstShow_, nullptr)();
   widget_.setVisible(window_.isVisible());

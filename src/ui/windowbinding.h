@@ -15,6 +15,9 @@ class WindowBinding : public Binding {
 public:
   WindowBinding(BindingTable& table, Window& element, QWidget& widget, OnClose onClose);
 
+  /// What the title is, where it isn't the caption alone.
+  void setTitle(std::function<QString()> title);
+
   /// Called once, before the window is shown for the first time.
   void beforeFirstShow(std::function<void()> action) { beforeFirstShow_ = std::move(action); }
 
@@ -29,6 +32,7 @@ private:
   Window& window_;
   QWidget& widget_;
   OnClose onClose_;
+  std::function<QString()> title_;
   std::function<void()> beforeFirstShow_;
 };
 
