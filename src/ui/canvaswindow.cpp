@@ -42,16 +42,14 @@ CanvasWindow::CanvasWindow(const Ui& ui)
       state_(ui.hands.state()),
       view_(new QScrollArea),
       canvas_(new CanvasWidget(ui)),
-      status_(new QLabel),
+      status_(new StatusLine),
       room_(screen()->availableGeometry().size()) {
   view_->setFrameShape(QFrame::NoFrame);
   view_->setWidget(canvas_);
   view_->setBackgroundRole(QPalette::Dark);
   setCentralWidget(view_);
-  status_->setTextFormat(Qt::PlainText);
-  // However long the line is, the window needn't be as wide.
-  status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   statusBar()->addWidget(status_, 1);
+  state_.notes.setListener([this](const QString& note) { status_->tell(note); });
   connect(canvas_, &CanvasWidget::resized, this, &CanvasWindow::fitCanvas);
   connect(canvas_, &CanvasWidget::pointed, this, &CanvasWindow::pointed);
   addFileMenu();
@@ -59,6 +57,10 @@ CanvasWindow::CanvasWindow(const Ui& ui)
   addWindowMenu();
   addHelpMenu();
   fitCanvas();
+}
+
+CanvasWindow::~CanvasWindow() {
+  state_.notes.setListener({});
 }
 
 QSize CanvasWindow::sizeHint() const {
@@ -165,7 +167,7 @@ void CanvasWindow::fitCanvas() {
 }
 
 void CanvasWindow::pointed(const Element* element) {
-  status_->setText(element ? describe(state_, *element, ui_.hands.screen()) : QString());
+  status_->describe(element ? describe(state_, *element, ui_.hands.screen()) : QString());
 }
 
 }  // namespace veneerer

@@ -6,6 +6,7 @@
 #include <QScrollArea>
 
 #include "ui/canvaswidget.h"
+#include "ui/statusline.h"
 
 namespace veneerer {
 
@@ -15,6 +16,7 @@ class CanvasWindow : public QMainWindow {
 
 public:
   explicit CanvasWindow(const Ui& ui);
+  ~CanvasWindow() override;
 
   QSize sizeHint() const override;
 
@@ -41,7 +43,7 @@ private:
   State& state_;
   QScrollArea* view_;
   CanvasWidget* canvas_;
-  QLabel* status_;
+  StatusLine* status_;
   QSize room_;
 };
 

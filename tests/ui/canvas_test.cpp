@@ -1,4 +1,7 @@
 // The canvas: mouse, outline, repainting, size.
+#include <QAccessible>
+#include <QMainWindow>
+#include <QStatusBar>
 #include <limits>
 
 #include "canvas/sections.h"
@@ -67,6 +70,29 @@ TEST_F(Canvas, ShowsChangesAndOutlinesTheElementInHand) {
   const QColor line = pixel(edge);
   EXPECT_NE(line, before);
   EXPECT_TRUE(line == Qt::white || line == Qt::black);
+}
+
+TEST_F(Canvas, ANoteOutlastsThePointerAndEndsWithTheNextPress) {
+  auto* line = widget<QMainWindow>("Form1").statusBar()->findChild<QLabel*>();
+  ASSERT_TRUE(line);
+  const auto shown = [&] { return line->text().toStdString(); };
+  state().notes.say(QStringLiteral("One <b>refused</b>."));
+  state().notes.say(QStringLiteral("Two left."));
+  EXPECT_EQ(shown(), "One <b>refused</b>.   Two left.");
+  EXPECT_EQ(line->textFormat(), Qt::PlainText);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(line)->text(QAccessible::Name).toStdString(),
+            "Note: One <b>refused</b>.   Two left.");
+  QTest::mouseMove(&canvas(), middle(form1().Label4[0]));
+  QTest::qWait(1);
+  EXPECT_EQ(shown(), "One <b>refused</b>.   Two left.");
+  QTest::mousePress(&canvas(), Qt::LeftButton, {}, middle(form1().Label4[0]));
+  EXPECT_TRUE(line->text().startsWith(QStringLiteral("Label4(0)"))) << shown();
+  QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, middle(form1().Label4[0]));
+  state().notes.say(QStringLiteral("Three."));
+  EXPECT_EQ(shown(), "Three.");
+  QTest::qWait(1);
+  QTest::keyClick(&canvas(), Qt::Key_A);
+  EXPECT_NE(shown(), "Three.");
 }
 
 TEST_F(Canvas, AButtonUnderThePointerShowsItsHoverColours) {
