@@ -5,7 +5,9 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
+#include <QShowEvent>
 #include <QStatusBar>
+#include <QTimer>
 
 #include "canvas/screens.h"
 #include "ui/description.h"
@@ -168,6 +170,17 @@ void CanvasWindow::fitCanvas() {
 
 void CanvasWindow::pointed(const Element* element) {
   status_->describe(element ? describe(state_, *element, ui_.hands.screen()) : QString());
+}
+
+// The other windows come up in the same breath, so the focus is asked for behind them.
+void CanvasWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (!event->spontaneous()) QTimer::singleShot(0, this, &CanvasWindow::takeFocus);
+}
+
+void CanvasWindow::takeFocus() {
+  activateWindow();
+  canvas_->setFocus();
 }
 
 }  // namespace veneerer

@@ -10,7 +10,8 @@
 
 namespace veneerer {
 
-/// The canvas keeps Form1's size; sizing this window only opens or closes the view on it.
+/// The canvas keeps Form1's size; sizing this window only opens or closes the view on it. When the window
+/// comes up it is the active one, with the focus on the canvas.
 class CanvasWindow : public QMainWindow {
   Q_OBJECT
 
@@ -22,6 +23,9 @@ public:
 
   /// The window takes no more than that by itself, pixels; a larger canvas is scrolled.
   void setRoom(QSize room);
+
+protected:
+  void showEvent(QShowEvent* event) override;
 
 Q_SIGNALS:
   /// The operator wants that window in front.
@@ -36,6 +40,7 @@ private:
   QAction* addCommand(QMenu* menu, const QString& text, const QKeySequence& keys, const QString& tip);
   void showScreen(int step);
   void fitCanvas();
+  void takeFocus();
   void pointed(const Element* element);
   void about();
 

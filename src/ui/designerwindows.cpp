@@ -52,6 +52,9 @@ DesignerWindows::DesignerWindows(Designer& designer)
   bindBeside(state.form4, settings_, OnClose::Hide);
   bindBeside(state.form5, textures_, OnClose::Hide);
   bindBeside(state.form6, tools_, OnClose::Hide);
+  // The keys belong to the canvas when the windows come up, whichever of them comes last.
+  for (QWidget* window : std::initializer_list<QWidget*>{&buttons_, &settings_, &textures_, &tools_})
+    window->setAttribute(Qt::WA_ShowWithoutActivating);
 }
 
 void DesignerWindows::bindCanvas(State& state) {

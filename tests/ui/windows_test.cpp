@@ -65,6 +65,19 @@ TEST_F(Windows, TitlesAreTheirCaptionsAndTheCanvasBeginsWithTheSkin) {
   EXPECT_EQ(QGuiApplication::applicationDisplayName(), QCoreApplication::applicationName());
 }
 
+TEST_F(Windows, TheCanvasHasTheKeysAtTheEndOfTheStart) {
+  windows.reset();
+  Designer other(world.platform);
+  DesignerWindows others(other);
+  world.dialogs.answers.enqueue(true);
+  ASSERT_TRUE(other.startUp());
+  const auto nameOf = [](const QWidget* one) {
+    return one ? one->objectName().toStdString() : std::string();
+  };
+  EXPECT_TRUE(QTest::qWaitFor([&] { return nameOf(QApplication::activeWindow()) == "Form1"; }));
+  EXPECT_EQ(nameOf(QApplication::focusWidget()), "canvas");
+}
+
 TEST_F(Windows, ScreensAreChosenFromTheMenuAndByKeys) {
   QAction* history = menuEntry("History Screen");
   ASSERT_TRUE(history);
