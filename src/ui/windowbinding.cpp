@@ -23,8 +23,13 @@ void WindowBinding::setTitle(std::function<QString()> title) {
 
 // Where a window stood is forgotten with its frame: one that comes back would slip under the screen's edge.
 void WindowBinding::showOrHide() {
-  if (window_.isVisible() && beforeFirstShow_) std::exchange(beforeFirstShow_, nullptr)();
-  widget_.setVisible(window_.isVisible());
+  if (!window_.isVisible()) {
+    if (widget_.isVisible()) corner_ = widget_.geometry().topLeft();
+    return widget_.hide();
+  }
+  if (beforeFirstShow_) std::exchange(beforeFirstShow_, nullptr)();
+  if (corner_) widget_.setGeometry(QRect(*corner_, widget_.size()));
+  widget_.show();
 }
 
 bool WindowBinding::eventFilter(QObject*, QEvent* event) {

@@ -1,7 +1,9 @@
 // Ties a window element to the window on the screen: whether it is shown, and its title.
 #pragma once
 
+#include <QPoint>
 #include <functional>
+#include <optional>
 
 #include "elements/window.h"
 #include "ui/bindingtable.h"
@@ -34,6 +36,7 @@ private:
   OnClose onClose_;
   std::function<QString()> title_;
   std::function<void()> beforeFirstShow_;
+  std::optional<QPoint> corner_;  ///< within the frame, when the window was last on the screen
 };
 
 }  // namespace veneerer
