@@ -1,7 +1,6 @@
 #include "ui/canvaswindow.h"
 
-#include <QCoreApplication>
-#include <QLabel>
+#include <QActionGroup>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
@@ -107,10 +106,12 @@ void CanvasWindow::addViewMenu() {
 }
 
 void CanvasWindow::addScreenMenu(QMenu* menu) {
+  auto* oneOfThem = new QActionGroup(menu);
   for (int i = 0; i < static_cast<int>(kScreenEntries.size()); ++i) {
     const QStringView text = kScreenEntries[static_cast<std::size_t>(i)];
     QAction* entry = menu->addAction(plainMenuText(text.toString()));
     entry->setCheckable(true);
+    oneOfThem->addAction(entry);
     connect(entry, &QAction::triggered, this, [this, i] { state_.form6.Combo6->select(i); });
   }
   new ScreenMenuBinding(ui_, *state_.form6.Combo6, *menu);

@@ -1,7 +1,6 @@
 // Form1's window: the canvas, the menus and the line that tells what is under the pointer.
 #pragma once
 
-#include <QActionGroup>
 #include <QMainWindow>
 #include <QScrollArea>
 

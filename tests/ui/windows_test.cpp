@@ -1,4 +1,5 @@
 // The windows as windows: closing and coming back, places, keys, failures.
+#include <QActionGroup>
 #include <QMenuBar>
 #include <QMessageBox>
 
@@ -85,6 +86,8 @@ TEST_F(Windows, ScreensAreChosenFromTheMenuAndByKeys) {
   EXPECT_EQ(form6().Combo6->listIndex(), 1);
   EXPECT_TRUE(form1().Picture1[1].isVisible());
   EXPECT_TRUE(history->isChecked());
+  ASSERT_TRUE(history->actionGroup());
+  EXPECT_TRUE(history->actionGroup()->isExclusive()) << "a mark for one of many";
   menuEntry("&Previous Screen")->trigger();
   menuEntry("&Previous Screen")->trigger();
   EXPECT_EQ(form6().Combo6->listIndex(), 0) << "there is nothing ahead of the first";
