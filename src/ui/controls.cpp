@@ -55,10 +55,7 @@ bool TextCombo::event(QEvent* event) {
 }
 
 void TextCombo::wheelEvent(QWheelEvent* event) {
-  if (hasFocus())
-    QComboBox::wheelEvent(event);
-  else
-    event->ignore();
+  event->ignore();
 }
 
 QSize TightButton::sizeHint() const {

@@ -8,8 +8,8 @@
 
 namespace veneerer {
 
-/// A combo box whose shown text need not be one of its rows, and that the mouse wheel leaves alone unless it
-/// has the focus: a row chosen by accident would restyle the Skin.
+/// A combo box whose shown text need not be one of its rows, and that the mouse wheel leaves alone: a row
+/// chosen in passing would restyle the Skin, or load another one. The wheel scrolls what the box stands in.
 class TextCombo : public QComboBox {
 public:
   explicit TextCombo(QWidget* parent = nullptr);

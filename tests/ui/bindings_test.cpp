@@ -14,6 +14,15 @@ protected:
       if (&change.element == &element && change.property == property) ++changes;
     });
   }
+  /// The wheel over a control, as the screen tells its window; -1 is one step down.
+  static void turnWheel(QWidget& over, int steps) {
+    QWidget& window = *over.window();
+    const QPointF at = over.mapTo(&window, QRectF(over.rect()).center());
+    QWheelEvent turn(at, window.mapToGlobal(at), {}, {0, 120 * steps}, {}, {}, Qt::NoScrollPhase, false);
+    // An event that the program sends itself isn't handed on to what lies below.
+    QSpontaneKeyEvent::setSpontaneous(&turn);
+    qApp->notify(window.windowHandle(), &turn);
+  }
   static void type(QLineEdit& field, const char* text) {
     field.selectAll();
     QTest::keyClicks(&field, QString::fromLatin1(text));
@@ -67,13 +76,26 @@ TEST_F(Bindings, ACombosRowsAndTextFollow) {
   EXPECT_EQ(widget<QComboBox>("Form4.Combo1").currentIndex(), -1);
 }
 
-TEST_F(Bindings, TheWheelChoosesNothingInPassing) {
-  auto& combo = widget<QComboBox>("Form4.Combo10");
-  combo.clearFocus();
-  const QPointF at = QRectF(combo.rect()).center();
-  QWheelEvent turn(at, combo.mapToGlobal(at), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&combo, &turn);
-  EXPECT_EQ(form4().Combo10->listIndex(), 0);
+TEST_F(Bindings, TheWheelChoosesNothingEvenInTheBoxWithTheKeys) {
+  form4().Combo3->setRows({QStringLiteral("R"), QStringLiteral("S"), QStringLiteral("T")});
+  form4().Combo3->setText(QStringLiteral("S"));
+  int choices = 0;
+  state().notices.subscribe([&](const Change& change) {
+    const bool isList = change.property == Property::ListIndex || change.property == Property::Text;
+    if (isList) ++choices;
+  });
+  int boxes = 0;
+  for (const char* window : {"Form4", "Form5", "Form6"})
+    for (QComboBox* box : widget<QWidget>(window).findChildren<QComboBox*>()) {
+      box->setFocus();
+      turnWheel(*box, -1);
+      turnWheel(*box, 1);
+      ++boxes;
+    }
+  turnWheel(*widget<QListView>("Form6.List1").viewport(), -1);
+  turnWheel(*widget<QListView>("Form4.File1").viewport(), -1);
+  EXPECT_EQ(choices, 0);
+  EXPECT_GE(boxes, 17);
 }
 
 TEST_F(Bindings, ABoxTogglesBetweenItsTwoStatesAndShowsTheThird) {
