@@ -104,8 +104,12 @@ void CanvasWidget::paintEvent(QPaintEvent* event) {
   paintOutline(painter);
 }
 
+const Element* CanvasWidget::outlined() const {
+  return grabbed_ ? grabbed_ : currentElement(state_);
+}
+
 QRect CanvasWidget::outlineRect() const {
-  const Element* element = currentElement(state_);
+  const Element* element = outlined();
   if (!element || &element->window() != &state_.form1 || !isShown(*element)) return QRect();
   // Only what can be in sight: a dashed line around an absurd size would take for ever.
   return dirty_.pixelsOf(windowRect(*element)) & reach(rect());
@@ -142,6 +146,7 @@ void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !grabbed_) return;
   Element* element = grabbed_;
   hold(nullptr);
+  scheduleRepaint();
   if (windowRect(*element).contains(toTwips(event->position()))) hands_.click(*element);
 }
 

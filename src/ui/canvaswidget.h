@@ -13,7 +13,7 @@ namespace veneerer {
 
 /// Paints what has changed, and turns the mouse into clicks, presses and moves of the elements under it. An
 /// element that takes a left press keeps the mouse until the button is released. A thin outline that isn't
-/// part of the Skin marks the element in hand.
+/// part of the Skin marks the element that is held, else the one in hand.
 class CanvasWidget : public QWidget {
   Q_OBJECT
 
@@ -44,6 +44,7 @@ private:
   void repaintElement(const Element& element);
   void scheduleRepaint();
   void repaintDirty();
+  const Element* outlined() const;
   QRect outlineRect() const;
   void paintOutline(QPainter& painter) const;
   void hold(Element* element);

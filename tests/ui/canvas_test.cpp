@@ -72,6 +72,19 @@ TEST_F(Canvas, ShowsChangesAndOutlinesTheElementInHand) {
   EXPECT_TRUE(line == Qt::white || line == Qt::black);
 }
 
+TEST_F(Canvas, OutlinesTheElementThatIsHeldAsLongAsItIsHeld) {
+  const Label& label = form1().Label4[0];
+  const QPoint edge(middle(label).x(), qRound(windowRect(label).bottom() / 15));
+  const QColor before = pixel(edge);
+  QTest::mousePress(&canvas(), Qt::LeftButton, {}, middle(label));
+  QTest::qWait(1);
+  const QColor line = pixel(edge);
+  EXPECT_TRUE(line != before && (line == Qt::white || line == Qt::black));
+  QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, QPoint(1, 1));
+  QTest::qWait(1);
+  EXPECT_EQ(pixel(edge), before) << "let go elsewhere it isn't in hand";
+}
+
 TEST_F(Canvas, ANoteOutlastsThePointerAndEndsWithTheNextPress) {
   auto* line = widget<QMainWindow>("Form1").statusBar()->findChild<QLabel*>();
   ASSERT_TRUE(line);
