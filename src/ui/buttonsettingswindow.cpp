@@ -22,14 +22,14 @@ QGroupBox* boxesFrame(const Ui& ui, const QString& title, const Array<CheckBox>&
 ButtonSettingsWindow::ButtonSettingsWindow(const Ui& ui) {
   Form2& form = ui.hands.state().form2;
   setWindowTitle(QStringLiteral("Button Settings"));
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(8, 8, 8, 8);
+  auto* grid = new QGridLayout;
   grid->addWidget(boxesFrame(ui, QStringLiteral("Misc Buttons"), form.Check1, 0, 4), 0, 0);
   grid->addWidget(boxesFrame(ui, QStringLiteral("Tabs"), form.Check3, 0, 5), 0, 1);
   grid->addWidget(boxesFrame(ui, QStringLiteral("Play Button Options"), form.Check1, 5, 13), 1, 0);
   grid->addWidget(boxesFrame(ui, QStringLiteral("Menu Bar Items"), form.Check2, 0, 15, 2), 1, 1);
   grid->addWidget(makeCommand(ui, *form.Command1), 2, 0, 1, 2, Qt::AlignRight);
   grid->setRowStretch(1, 1);
+  setContent(*this, grid);
   assignMnemonics(*this);
 }
 

@@ -1,6 +1,7 @@
 #include "ui/designerwindows.h"
 
 #include <QScreen>
+#include <QStyle>
 
 #include "ui/placement.h"
 
@@ -19,6 +20,14 @@ constexpr int kNarrowestCanvas = 640;
 QSize roomForCanvas(QSize available, QSize tools) {
   const int beside = available.width() - tools.width();
   return QSize(beside < kNarrowestCanvas ? available.width() : beside, available.height()) - kFrame;
+}
+
+// A window that is higher than the screen scrolls, and its bar takes room as well.
+QSize roomFor(const QWidget& window, QSize available) {
+  QSize whole = window.sizeHint() + kFrame;
+  if (whole.height() > available.height())
+    whole.rwidth() += window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  return whole.boundedTo(available);
 }
 
 QString mainTitle(QString skin, const QString& caption) {
@@ -87,7 +96,7 @@ void DesignerWindows::placeAll() {
   canvas_.move(available.topLeft());
   QWidget* const windows[] = {&tools_, &settings_, &textures_, &buttons_};
   QList<QSize> sizes;
-  for (QWidget* window : windows) sizes.append(window->sizeHint() + kFrame);
+  for (QWidget* window : windows) sizes.append(roomFor(*window, available.size()));
   const QList<QRect> places = placeBeside(available, canvas_.size() + kFrame, sizes);
   for (qsizetype i = 0; i < places.size(); ++i) {
     windows[i]->move(places[i].topLeft());

@@ -1,6 +1,7 @@
 #include "ui/layouts.h"
 
 #include <QAbstractButton>
+#include <QScrollArea>
 #include <QSet>
 
 namespace veneerer {
@@ -35,6 +36,22 @@ QChar mnemonicOf(QString text) {
   return at < 0 || at + 1 >= text.size() ? QChar() : text[at + 1].toUpper();
 }
 
+// Asks for all the room that its content would like, and sees no background of its own: its window paints it.
+class ContentArea : public QScrollArea {
+public:
+  explicit ContentArea(QLayout* layout) {
+    auto* content = new QWidget;
+    content->setLayout(layout);
+    setWidget(content);
+    setWidgetResizable(true);
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    content->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+  }
+  QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
 template <class W>
 void assignTo(const QList<W*>& widgets, QSet<QChar>& taken) {
   for (W* widget : widgets)
@@ -63,6 +80,13 @@ QLabel* makeLabel(const QString& text, QWidget* control) {
 void addField(QGridLayout* grid, int row, int column, const QString& label, QWidget* control) {
   grid->addWidget(makeLabel(label, control), row, column);
   grid->addWidget(control, row, column + 1);
+}
+
+void setContent(QWidget& window, QLayout* content) {
+  content->setContentsMargins(8, 8, 8, 8);
+  auto* whole = new QVBoxLayout(&window);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(new ContentArea(content));
 }
 
 void assignMnemonics(QWidget& window) {

@@ -24,6 +24,9 @@ L* compact(L* layout) {
   return layout;
 }
 
+/// Gives a window its content, which scrolls where the window has less room than it needs.
+void setContent(QWidget& window, QLayout* content);
+
 /// Gives each label, box and button of a window without a mnemonic one of its own, as far as the letters go.
 /// The first letters of words go first.
 void assignMnemonics(QWidget& window);

@@ -121,12 +121,12 @@ QGroupBox* coversFrame(const Ui& ui, Form4& form) {
 SettingsWindow::SettingsWindow(const Ui& ui) {
   Form4& form = ui.hands.state().form4;
   setWindowTitle(QStringLiteral("File Controls/Settings"));
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(8, 8, 8, 8);
+  auto* column = new QVBoxLayout;
   column->addWidget(fileFrame(ui, form));
   column->addWidget(skinFrame(ui, form));
   column->addWidget(resolutionFrame(ui, form));
   column->addWidget(coversFrame(ui, form), 1);
+  setContent(*this, column);
   assignMnemonics(*this);
 }
 

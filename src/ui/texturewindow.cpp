@@ -109,10 +109,10 @@ QLayout* frameLayout(const Ui& ui, Form5& form) {
 TextureWindow::TextureWindow(const Ui& ui) {
   Form5& form = ui.hands.state().form5;
   setWindowTitle(QStringLiteral("Texture Viewer"));
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(8, 8, 8, 8);
+  auto* column = new QVBoxLayout;
   column->addLayout(gridLayout(ui, form), 1);
   column->addWidget(makeFrame(QStringLiteral("Album Frame"), frameLayout(ui, form)));
+  setContent(*this, column);
   assignMnemonics(*this);
 }
 

@@ -183,10 +183,10 @@ ToolsWindow::ToolsWindow(const Ui& ui) : hands_(ui.hands) {
   right->addWidget(fontFrame(ui, form), 1);
   right->addWidget(labelFrame(ui, form));
   right->addWidget(previewFrame(ui, form));
-  auto* columns = new QHBoxLayout(this);
-  columns->setContentsMargins(8, 8, 8, 8);
+  auto* columns = new QHBoxLayout;
   columns->addLayout(left, 1);
   columns->addLayout(right, 1);
+  setContent(*this, columns);
   assignMnemonics(*this);
 }
 

@@ -98,6 +98,15 @@ TEST_F(Bindings, TheWheelChoosesNothingEvenInTheBoxWithTheKeys) {
   EXPECT_GE(boxes, 17);
 }
 
+TEST_F(Bindings, TheWheelOverABoxScrollsWhatItStandsIn) {
+  auto& tools = widget<QWidget>("Form6");
+  tools.resize(tools.width(), 300);
+  auto* bar = tools.findChild<QScrollArea*>()->verticalScrollBar();
+  ASSERT_GT(bar->maximum(), 0);
+  turnWheel(widget<QComboBox>("Form6.Combo6"), -1);
+  EXPECT_GT(bar->value(), 0);
+}
+
 TEST_F(Bindings, ABoxTogglesBetweenItsTwoStatesAndShowsTheThird) {
   auto& box = widget<QCheckBox>("Form4.Check9");
   const QPoint mark(8, box.height() / 2);

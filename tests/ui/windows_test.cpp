@@ -113,6 +113,7 @@ TEST_F(Windows, FitBesideTheCanvasOnASmallScreen) {
     const QSize size = widget<QWidget>(key).sizeHint();
     EXPECT_LE(size.width(), room.width()) << key;
     EXPECT_LE(size.height() + 30, room.height()) << key;
+    EXPECT_LE(widget<QWidget>(key).minimumSizeHint().height(), 300) << key << " scrolls on a smaller one";
   }
 }
 
