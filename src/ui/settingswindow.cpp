@@ -23,48 +23,51 @@ QGroupBox* fileFrame(const Ui& ui, Form4& form) {
   return makeFrame(QStringLiteral("File Options"), row);
 }
 
-// One list to a row, each behind its label, with room for that many letters at least.
-QLayout* listsLayout(const Ui& ui, int letters, std::initializer_list<ListRow> rows) {
+void addList(QGridLayout* grid, int row, int column, int columns, const Ui& ui, const ListRow& entry) {
+  TextCombo* list = makeCombo(ui, *entry.list);
+  grid->addWidget(makeLabel(QString::fromLatin1(entry.label), list), row, column);
+  grid->addWidget(list, row, column + 1, 1, columns);
+}
+
+// The texts of the rows are long, so each list has the whole width; the numbers share one.
+QLayout* listsLayout(const Ui& ui, Form4& form) {
   auto* grid = new QGridLayout;
   grid->setSpacing(4);
   int row = 0;
-  for (const ListRow& entry : rows) {
-    TextCombo* list = makeCombo(ui, *entry.list);
-    list->setMinimumContentsLength(letters);
-    addField(grid, row++, 0, QString::fromLatin1(entry.label), list);
-  }
+  for (const ListRow& entry : {ListRow{"Default Screen:", &*form.Combo8},
+                               {"Default HOME Screen:", &*form.Combo9},
+                               {"Player Style:", &*form.Combo10},
+                               {"Navigation Style:", &*form.Combo6},
+                               {"Jump To Letter:", &*form.Combo2},
+                               {"Genre Style:", &*form.Combo5},
+                               {"Genre Nav:", &*form.Combo11},
+                               {"Other Albums:", &*form.Combo12}})
+    addList(grid, row++, 0, 3, ui, entry);
+  addList(grid, row, 0, 1, ui, {"Number of genres shown:", &*form.Combo7});
+  addList(grid, row, 2, 1, ui, {"Number of tracks shown:", &*form.Combo1});
   grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(3, 1);
   return grid;
 }
 
-QLayout* stylesLayout(const Ui& ui, Form4& form) {
-  return listsLayout(ui, 10,
-                     {{"Default Screen:", &*form.Combo8},
-                      {"Default HOME Screen:", &*form.Combo9},
-                      {"Player Style:", &*form.Combo10},
-                      {"Navigation Style:", &*form.Combo6},
-                      {"Jump To Letter:", &*form.Combo2},
-                      {"Genre Style:", &*form.Combo5},
-                      {"Genre Nav:", &*form.Combo11},
-                      {"Other Albums:", &*form.Combo12}});
-}
-
-QLayout* countsAndBoxesLayout(const Ui& ui, Form4& form) {
+QLayout* boxesLayout(const Ui& ui, Form4& form) {
   CheckBox* const boxes[] = {&*form.Check2,  &*form.Check8,  &*form.Check9,
                              &*form.Check12, &*form.Check10, &*form.Check11};
-  auto* column = new QVBoxLayout;
-  column->addLayout(listsLayout(
-      ui, 2, {{"Number of genres shown:", &*form.Combo7}, {"Number of tracks shown:", &*form.Combo1}}));
-  for (CheckBox* box : boxes) column->addWidget(makeCheck(ui, *box));
-  return column;
+  auto* grid = new QGridLayout;
+  grid->setSpacing(4);
+  int place = 0;
+  for (CheckBox* box : boxes) {
+    grid->addWidget(makeCheck(ui, *box), place / 2, place % 2);
+    ++place;
+  }
+  return grid;
 }
 
 QGroupBox* skinFrame(const Ui& ui, Form4& form) {
-  auto* row = compact(new QHBoxLayout);
-  row->addLayout(stylesLayout(ui, form), 1);
-  row->addSpacing(8);
-  row->addLayout(countsAndBoxesLayout(ui, form));
-  return makeFrame(QStringLiteral("Main Skin Properties"), row);
+  auto* column = compact(new QVBoxLayout);
+  column->addLayout(listsLayout(ui, form));
+  column->addLayout(boxesLayout(ui, form));
+  return makeFrame(QStringLiteral("Main Skin Properties"), column);
 }
 
 QGroupBox* resolutionFrame(const Ui& ui, Form4& form) {

@@ -100,7 +100,6 @@ QLayout* frameLayout(const Ui& ui, Form5& form) {
   row->addWidget(frame);
   row->addWidget(makeCommand(ui, *form.Command2));
   row->addStretch();
-  row->addWidget(makeCommand(ui, *form.Command1));
   return row;
 }
 
@@ -112,6 +111,7 @@ TextureWindow::TextureWindow(const Ui& ui) {
   auto* column = new QVBoxLayout;
   column->addLayout(gridLayout(ui, form), 1);
   column->addWidget(makeFrame(QStringLiteral("Album Frame"), frameLayout(ui, form)));
+  column->addWidget(makeCommand(ui, *form.Command1), 0, Qt::AlignRight);
   setContent(*this, column);
   assignMnemonics(*this);
 }

@@ -1,5 +1,6 @@
 // The windows as windows: closing and coming back, places, keys, failures.
 #include <QActionGroup>
+#include <QComboBox>
 #include <QMenuBar>
 #include <QMessageBox>
 
@@ -114,6 +115,18 @@ TEST_F(Windows, FitBesideTheCanvasOnASmallScreen) {
     EXPECT_LE(size.width(), room.width()) << key;
     EXPECT_LE(size.height() + 30, room.height()) << key;
     EXPECT_LE(widget<QWidget>(key).minimumSizeHint().height(), 300) << key << " scrolls on a smaller one";
+  }
+}
+
+TEST_F(Windows, TheListsOfThePropertiesCutNoRowOff) {
+  for (const QComboBox* box : widget<QWidget>("Form4").findChildren<QComboBox*>()) {
+    QStyleOptionComboBox option;
+    option.initFrom(box);
+    const int room =
+        box->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box).width();
+    for (int row = 0; row < box->count(); ++row)
+      EXPECT_LE(box->fontMetrics().horizontalAdvance(box->itemText(row)), room)
+          << box->objectName().toStdString() << ": " << box->itemText(row).toStdString();
   }
 }
 
