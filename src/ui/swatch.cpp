@@ -5,6 +5,7 @@
 
 #include "canvas/sections.h"
 #include "components/colours.h"
+#include "ui/frames.h"
 
 namespace veneerer {
 
@@ -35,9 +36,8 @@ QSize Swatch::sizeHint() const {
 
 void Swatch::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
-  painter.setBrush(toQColor(box_.backColor()));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  painter.fillRect(rect(), toQColor(box_.backColor()));
+  paintFrame(painter, *this);
 }
 
 Sample::Sample(const Ui& ui, Element& element) : hands_(ui.hands), element_(element) {

@@ -6,6 +6,7 @@
 
 #include "components/anigif.h"
 #include "components/canvaspainter.h"
+#include "ui/frames.h"
 #include "ui/layouts.h"
 #include "ui/thumbnail.h"
 
@@ -32,8 +33,7 @@ protected:
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::Base));
     painter_.paintElement(painter, frame_, rect());
-    painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    paintFrame(painter, *this);
   }
 
 private:

@@ -1,8 +1,9 @@
 #include "ui/thumbnail.h"
 
 #include <QPainter>
-#include <QStyleOption>
 #include <QtConcurrentRun>
+
+#include "ui/frames.h"
 
 namespace veneerer {
 
@@ -49,12 +50,10 @@ void Thumbnail::paintEvent(QPaintEvent*) {
     target.moveCenter(QRectF(rect()).center());
     painter.drawImage(target, shown_);
   } else if (picture().isNull()) {
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.setPen(palette().color(QPalette::Text));
     painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("No picture"));
   }
-  const bool stressed = hasFocus() || (underMouse() && isEnabled());
-  painter.setPen(palette().color(stressed ? QPalette::Highlight : QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  paintFrame(painter, *this);
 }
 
 void Thumbnail::fetch() {

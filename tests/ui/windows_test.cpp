@@ -143,6 +143,28 @@ TEST_F(Windows, ThumbnailsFollowTheirPicturesAndBearBrokenOnes) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return shown().pixelColor(centre) != QColor(Qt::green); }, 5000));
 }
 
+TEST_F(Windows, ThumbnailsAreReadInADarkThemeAndTellFocusFromHover) {
+  auto& thumbnail = widget<QAbstractButton>("Form5.Image1(3)");
+  form5().Image1[3].setPicture(Picture());
+  QPalette dark(QColor(42, 46, 50));
+  dark.setColor(QPalette::Base, QColor(35, 38, 41));
+  dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+  thumbnail.setPalette(dark);
+  const QImage plain = thumbnail.grab().toImage();
+  int lightest = 0;
+  for (int y = 5; y < plain.height() - 5; ++y)
+    for (int x = 5; x < plain.width() - 5; ++x) lightest = std::max(lightest, qGray(plain.pixel(x, y)));
+  EXPECT_GT(lightest, 150) << "\"No picture\"";
+  thumbnail.setAttribute(Qt::WA_UnderMouse);
+  const QImage hovered = thumbnail.grab().toImage();
+  thumbnail.setAttribute(Qt::WA_UnderMouse, false);
+  thumbnail.window()->activateWindow();
+  thumbnail.setFocus();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return thumbnail.hasFocus(); }));
+  const QImage focused = thumbnail.grab().toImage();
+  EXPECT_TRUE(plain != hovered && plain != focused && hovered != focused);
+}
+
 TEST_F(Windows, ThumbnailsChooseTheirPictures) {
   test::writePicture(path(QStringLiteral("back.bmp")), 40, 30, Qt::blue);
   world.dialogs.files.enqueue(path(QStringLiteral("back.bmp")));
