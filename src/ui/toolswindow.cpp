@@ -112,7 +112,9 @@ QLayout* colourInHandLayout(const Ui& ui, Form6& form) {
   grid->addWidget(makeLabel(QStringLiteral("Selected Colour:"), swatch), 0, 0, 1, 2);
   grid->addWidget(swatch, 1, 0);
   QLineEdit* text = makeField(ui, *form.Text2);
-  text->setToolTip(QStringLiteral("A number, &H and hexadecimal digits, or # and six of them"));
+  text->setToolTip(
+      QStringLiteral("A number, &H and hexadecimal digits, or # and six of them, whose pairs are read in the "
+                     "order first, third, second: #112233 is blue 11, green 33, red 22"));
   text->setAccessibleName(QStringLiteral("Colour"));
   text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   grid->addWidget(text, 1, 1);
