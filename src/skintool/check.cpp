@@ -52,7 +52,7 @@ private:
   void checkEntry(const SaveEntry& entry) {
     const Layout layout = entry.layout(state_);
     if (layout.isEmpty()) return;
-    const QString read = layout.fileName();
+    const QString& read = layout.fileName();
     const QString written = savedName(entry, layout);
     names_ << read << written;
     hasRecords_ |= isFile(read) || isFile(written);
