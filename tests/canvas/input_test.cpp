@@ -153,7 +153,7 @@ TEST_F(CanvasInputTest, RightPressGivesAButtonItsPicture) {
   const QString good = folder.filePath(QStringLiteral("up.bmp"));
   ASSERT_TRUE(QImage(4, 4, QImage::Format_RGB32).save(good));
   const QString bad = folder.filePath(QStringLiteral("broken.jpg"));
-  ASSERT_TRUE(QFile::copy(QStringLiteral(__FILE__), bad));
+  ASSERT_TRUE(QFile::copy(QStringLiteral(VENEERER_SOURCE_DIR "/README.md"), bad));
   Button& button = form1.lvButtons_H23[1];
   StoredValue& name = *state.names.of(button);
   for (const QString& file : {good, bad, QString(), good}) world.dialogs.files.enqueue(file);
