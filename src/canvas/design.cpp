@@ -10,7 +10,7 @@ void applyBuiltInDesign(State& state) {
   const design::Plan plan = design::builtInPlan();
   design::Composer composer(state, plan, design::blackAndBlue());
   design::composeCanvas(composer);
-  design::showStartState(state.form1);
+  design::showStartState(state);
   design::composeToolWindows(state);
 }
 

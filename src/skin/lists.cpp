@@ -82,6 +82,8 @@ void fillOtherLists(State& state) {
   Form4& form4 = state.form4;
   const QStringList covers = numbered("", 1, 28, "");
   form4.Combo4->setRows(covers);
+  // The number of covers in use, as a cover file shows it.
+  form4.Combo4->setText(QString::number(state.globals.LastCoverIndex + 1));
   state.form5.Combo1->setRows(covers);
   form4.Combo1->setRows(numbered("", 1, 20, ""));
   form4.Combo7->setRows(covers);

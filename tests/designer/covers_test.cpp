@@ -9,28 +9,46 @@ namespace {
 
 class Covers : public test::SkinFixture {
 protected:
-  Covers() {
-    start();
-    form4().Check5->setValue(1);
-  }
+  Covers() { start(); }
 
   void chooseCount(int covers) { form4().Combo4->select(covers - 1); }
   void saveAs(const char* name) {
     form4().Text2->setText(QString::fromLatin1(name));
     designer->click(*form4().Command1);
   }
+  QStringList visible() {
+    QStringList keys;
+    for (const Family* family : form1().families())
+      for (const Element* element : family->members())
+        if (element->isVisible()) keys.append(element->key());
+    return keys;
+  }
+  static int linesOf(int covers) { return 5 + covers * 44 + 7 + 4 + 4 + 18 + 2 + 2; }
+
   void load(const char* name) {
     form4().File1->setText(QString::fromLatin1(name));
     designer->doubleClick(*form4().File1);
   }
 };
 
+TEST_F(Covers, TheBuiltInDesignComesBackAsItStands) {
+  EXPECT_EQ(form4().Combo4->text().toStdString(), "10");
+  saveAs("first.cov");
+  EXPECT_EQ(bytes(QStringLiteral("first.cov")).count("\r\n"), linesOf(10));
+  const QStringList before = visible();
+  EXPECT_TRUE(before.contains(QStringLiteral("Form1.ucAniGIF1(9)")));
+  const bool wasOpaque = form1().Label9[9].isOpaque();
+  load("first.cov");
+  EXPECT_EQ(visible(), before);
+  EXPECT_EQ(form1().Label9[9].isOpaque(), wasOpaque);
+}
+
 TEST_F(Covers, LayoutsOfDifferentLengthComeBackWhole) {
   form1().Image2[3].place(100.75f, -20.5f, 300, 400);
   form1().Label9[9].setFontName(QStringLiteral("Verdana"));
   chooseCount(10);
   saveAs("ten.cov");
-  EXPECT_EQ(bytes(QStringLiteral("ten.cov")).count("\r\n"), 5 + 10 * 44 + 7 + 4 + 4 + 18 + 2 + 2);
+  EXPECT_EQ(bytes(QStringLiteral("ten.cov")).count("\r\n"), linesOf(10));
   form1().Image2[3].setLeft(7);
   form1().Label9[9].setFontName(QStringLiteral("Arial"));
   chooseCount(28);

@@ -12,7 +12,10 @@ void showRange(Array<T>& family, int first, int last, bool shown) {
   for (int i = first; i <= last; ++i) family[i].setVisible(shown);
 }
 
-void showCovers(Form1& f) {
+void showCovers(State& state) {
+  state.globals.LastCoverIndex = kShownCovers - 1;
+  state.form4.Check5->setValue(1);
+  Form1& f = state.form1;
   for (int i = 0; i <= kFeatured; ++i) {
     const bool shown = i < kShownCovers;
     f.Image2[i].setVisible(shown);
@@ -49,12 +52,13 @@ void showGenres(Form1& f) {
 
 }  // namespace
 
-void showStartState(Form1& f) {
+void showStartState(State& state) {
+  Form1& f = state.form1;
   for (int i = 1; i < 30; ++i) f.Picture1[i].setVisible(false);
   f.Picture1[0].setVisible(true);
   f.Picture12[0].setVisible(false);
   f.Picture23->setVisible(false);
-  showCovers(f);
+  showCovers(state);
   showNavigation(f);
   showPlayer(f);
   showGenres(f);
