@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <algorithm>
+#include <iterator>
 
 #include "properties/coverfile.h"
 #include "records/layoutreader.h"
@@ -14,6 +15,14 @@ namespace veneerer {
 namespace {
 
 constexpr int kLastCover = 27;
+
+/// Whether the file held a value for that box. An older file ends ahead of it.
+bool wasRead(const CheckBox& box, const Layout& layout, const Loading& loading) {
+  const std::vector<Row>& rows = layout.rows();
+  const auto row =
+      std::ranges::find_if(rows, [&](const Row& r) { return r.field() && r.field()->into.element == &box; });
+  return std::distance(rows.begin(), row) < std::ssize(loading.lines);
+}
 
 }  // namespace
 
@@ -37,9 +46,10 @@ void CoverLayouts::load(const QString& path) {
   const QByteArray bytes = recordFileBytes(path);
   const SkinFolder skin = folder();
   Loading loading{state_, skin, platform_.screen};
-  readRecords(coverFile(state_, QFileInfo(path).fileName(), lastCoverOf(bytes)), bytes, loading);
+  const Layout layout = coverFile(state_, QFileInfo(path).fileName(), lastCoverOf(bytes));
+  readRecords(layout, bytes, loading);
   showCount();
-  applyBoxes();
+  if (wasRead(*state_.form4.Check5, layout, loading)) applyBoxes();
 }
 
 // Counts as a change of the text even when the number is the one shown before.

@@ -102,8 +102,12 @@ TEST_F(Covers, AnOlderFileLeavesTheCaptionsAlone) {
 
 TEST_F(Covers, BoxesOfTheFileActOnTheCoversInUse) {
   form4().Check3->setValue(1);
+  form1().Label10[2].setOpaque(false);
+  form4().Check5->setValue(0);
   form4().Check5->setValue(0);
   chooseCount(4);
+  EXPECT_FALSE(form1().Label10[2].isOpaque());
+  EXPECT_TRUE(form1().ucAniGIF1[2].isVisible()) << "the file says nothing of frames";
   saveAs("plain.cov");
   form4().Check3->setValue(0);
   for (int i : {2, 20}) form1().Label9[i].setOpaque(true);
