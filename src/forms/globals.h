@@ -1,9 +1,19 @@
 // The few values of a Skin's state that no element holds.
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 
 namespace veneerer {
+
+/// The last index that every cover family has, that of the featured album. No cover in use lies beyond it.
+inline constexpr int kHighestCover = 28;
+
+/// A number as an index of the last cover in use: the nearest one from -1, none, to kHighestCover.
+inline int toLastCoverIndex(double number) {
+  return static_cast<int>(std::nearbyint(std::clamp(number, -1.0, double(kHighestCover))));
+}
 
 struct Globals {
   int SectionNumber = 0;  ///< the current edit target, 0 before the first click
@@ -11,7 +21,7 @@ struct Globals {
   float DragAnchorX = 0;  ///< where the last press hit its element, twips
   float DragAnchorY = 0;
   std::int32_t CurrentColour = 0;  ///< the colour in hand, 0x00BBGGRR
-  int LastCoverIndex = 0;          ///< the index of the last album cover in use; -1 when there is none
+  int LastCoverIndex = 0;          ///< the index of the last album cover in use, -1 (none) to kHighestCover
   float CoverScale = 1;            ///< multiplies every coordinate of a cover file; nothing changes it
 };
 

@@ -10,8 +10,9 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kLastCover = 27;
-constexpr int kFeatured = 28;
+constexpr int kFeatured = kHighestCover;
+constexpr int kMostRows = 1000;  // of each family; a stranger's file may be endless
+constexpr int kPlaceLines = 4;
 
 // Whole twips, in an order of their own.
 void place(Layout& file, Element& element) {
@@ -42,6 +43,18 @@ void stack(Form1& form1, int cover, int lastCover) {
     form1.Image2[cover].stackBelow(form1.Image2[cover - 1]);
 }
 
+// A row for each cover. A stranger's file may hold more of them than there are covers.
+template <class T, class Body>
+void rows(Layout& file, Array<T>& family, int last, Body body) {
+  const int before = file.lineCount();
+  file.each(family, 0, std::min(last, kHighestCover), body);
+  const int linesOfOne = (file.lineCount() - before) / (kHighestCover + 1);
+  for (int i = kHighestCover + 1; i <= last; ++i) {
+    for (int line = 0; line < linesOfOne; ++line) file.literal("");
+    file.block();
+  }
+}
+
 Layout::Step coverPlaced(int cover, int lastCover) {
   return [cover, lastCover](Loading& loading) {
     ImageBox& image = loading.state.form1.Image2[cover];
@@ -49,6 +62,24 @@ Layout::Step coverPlaced(int cover, int lastCover) {
     image.setStretch(true);
     stack(loading.state.form1, cover, lastCover);
   };
+}
+
+// An empty value counts as 0 here as it does when the line is read.
+double asNumber(const RecordValue& value) {
+  if (std::holds_alternative<std::monostate>(value)) return 0;
+  if (const auto* truth = std::get_if<bool>(&value)) return *truth ? -1 : 0;
+  const auto* number = std::get_if<double>(&value);
+  return number ? *number : -1;
+}
+
+/// The rows of the covers, from their heading to the next one.
+int rowsAhead(RecordReader& reader) {
+  if (!reader.atEnd()) reader.readValue();
+  int values = 0;
+  while (values < kMostRows * kPlaceLines && !reader.atEnd() &&
+         !std::holds_alternative<QString>(reader.readValue()))
+    ++values;
+  return values / kPlaceLines;
 }
 
 void featuredAlbum(Layout& file, State& state) {
@@ -67,46 +98,41 @@ void featuredAlbum(Layout& file, State& state) {
 
 }  // namespace
 
-// An empty value counts as 0 here as it does when the line is read.
 int lastCoverOf(const QByteArray& bytes) {
   RecordReader reader(bytes);
   if (!reader.atEnd()) reader.readValue();
   if (reader.atEnd()) return -1;
-  const RecordValue value = reader.readValue();
-  if (std::holds_alternative<std::monostate>(value)) return 0;
-  if (const auto* truth = std::get_if<bool>(&value)) return *truth ? -1 : 0;
-  const auto* number = std::get_if<double>(&value);
-  return number ? static_cast<int>(std::clamp(std::nearbyint(*number), -1.0, double(kLastCover))) : -1;
+  const double told = std::nearbyint(asNumber(reader.readValue()));
+  return told <= kHighestCover ? toLastCoverIndex(told) : rowsAhead(reader) - 1;
 }
 
-Layout coverFile(State& state, const QString& name, int lastCover) {
+Layout coverFile(State& state, const QString& name, int last) {
   Form1& form1 = state.form1;
   Form4& form4 = state.form4;
-  const int last = std::min(lastCover, kLastCover);
   Layout file(state, name);
   file.checkValue(*form4.Check1);
-  file.counter(state.globals.LastCoverIndex, "LastCoverIndex");
+  file.counter(state.globals.LastCoverIndex, "LastCoverIndex", toLastCoverIndex);
   file.literal("Album Covers");
-  file.each(form1.Image2, 0, last, [&](ImageBox& cover) {
+  rows(file, form1.Image2, last, [&](ImageBox& cover) {
     place(file, cover);
-    file.then(coverPlaced(cover.index(), last));
+    file.then(coverPlaced(cover.index(), std::min(last, kHighestCover)));
   });
   file.literal("Album Frames");
-  file.each(form1.ucAniGIF1, 0, last, [&](AnimatedFrame& frame) { place(file, frame); });
+  rows(file, form1.ucAniGIF1, last, [&](AnimatedFrame& frame) { place(file, frame); });
   file.literal("Album Title");
   // Older files end somewhere behind this heading.
   file.optionalFromHere();
-  file.each(form1.Label9, 0, last, [&](Label& title) { place(file, title); });
+  rows(file, form1.Label9, last, [&](Label& title) { place(file, title); });
   file.literal("Artist Title");
-  file.each(form1.Label10, 0, last, [&](Label& artist) { place(file, artist); });
+  rows(file, form1.Label10, last, [&](Label& artist) { place(file, artist); });
   file.checkValue(*form4.Check3);
   file.checkValue(*form4.Check4);
   file.checkValue(*form4.Check5);
   file.block();
   file.literal("Album Title (Colour and Font)");
-  file.each(form1.Label9, 0, last, [&](Label& title) { style(file, title); });
+  rows(file, form1.Label9, last, [&](Label& title) { style(file, title); });
   file.literal("Artist Title (Colour and Font)");
-  file.each(form1.Label10, 0, last, [&](Label& artist) { style(file, artist); });
+  rows(file, form1.Label10, last, [&](Label& artist) { style(file, artist); });
   featuredAlbum(file, state);
   file.block();
   file.checkValue(*form4.Check11);
@@ -114,9 +140,9 @@ Layout coverFile(State& state, const QString& name, int lastCover) {
   file.checkValue(*form4.Check6);
   file.block();
   file.literal("Album Year");
-  file.each(form1.Label62, 0, last, [&](Label& year) { placeAndStyle(file, year); });
+  rows(file, form1.Label62, last, [&](Label& year) { placeAndStyle(file, year); });
   file.literal("Album Genre");
-  file.each(form1.Label63, 0, last, [&](Label& genre) { placeAndStyle(file, genre); });
+  rows(file, form1.Label63, last, [&](Label& genre) { placeAndStyle(file, genre); });
   file.scaleWholes(0, state.globals.CoverScale);
   return file;
 }

@@ -5,11 +5,13 @@
 
 namespace veneerer {
 
-/// The index of the last cover that a cover file speaks of, -1 to 27; -1 when its second value is no number.
+/// The index of the last row of each family that a cover file holds: the number that it tells, no less than
+/// -1. One that tells of more covers than there are is asked for its rows, at most 1000 of them. -1 when its
+/// second value is no number.
 int lastCoverOf(const QByteArray& bytes);
 
-/// The file's lines, whose number depends on the index of the last cover. Covers beyond 27 don't exist and
-/// have no lines.
-Layout coverFile(State& state, const QString& name, int lastCover);
+/// The file's lines, whose number depends on the index of the last cover. The lines of covers beyond
+/// kHighestCover are read and dropped.
+Layout coverFile(State& state, const QString& name, int last);
 
 }  // namespace veneerer

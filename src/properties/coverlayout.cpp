@@ -14,8 +14,6 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kLastCover = 27;
-
 /// Whether the file held a value for that box. An older file ends ahead of it.
 bool wasRead(const CheckBox& box, const Layout& layout, const Loading& loading) {
   const std::vector<Row>& rows = layout.rows();
@@ -65,8 +63,7 @@ void CoverLayouts::showCount() {
 void CoverLayouts::applyBoxes() {
   Form1& form1 = state_.form1;
   const bool isOpaque = !state_.form4.Check3->isTicked();
-  const int last = std::min(state_.globals.LastCoverIndex, kLastCover);
-  for (int i = 0; i <= last; ++i) {
+  for (int i = 0; i <= state_.globals.LastCoverIndex; ++i) {
     form1.Label9[i].setOpaque(isOpaque);
     form1.Label10[i].setOpaque(isOpaque);
     if (!state_.form4.Check5->isTicked()) form1.ucAniGIF1[i].setVisible(false);

@@ -158,7 +158,7 @@ void SkinProperties::quickjumpNames() {
 // too. Unticked, it never hides those.
 void SkinProperties::dateAndGenre() {
   const bool isTicked = state_.form4.Check6->isTicked();
-  const int last = isTicked ? std::clamp(state_.globals.LastCoverIndex, -1, kCovers) + 1 : kCovers - 1;
+  const int last = isTicked ? state_.globals.LastCoverIndex + 1 : kCovers - 1;
   show(state_.form1.Label62, 0, last, isTicked);
   show(state_.form1.Label63, 0, last, isTicked);
 }
@@ -176,12 +176,12 @@ void SkinProperties::textOnlyList() {
   state_.form4.Combo4->setRows(numbers(state_.form4.Check1->isTicked() ? 50 : 13));
 }
 
-// A text-only list has rows beyond the covers that exist; the surplus is passed over.
+// A text-only list has rows beyond the elements that exist; they act as the last row that has some.
 void SkinProperties::coverCountChosen() {
   const int row = state_.form4.Combo4->listIndex();
   if (row < 0) return;
   Form1& form1 = state_.form1;
-  const int shown = std::min(row, kCovers - 1);
+  const int shown = toLastCoverIndex(row);
   const bool hasPictures = !state_.form4.Check1->isTicked();
   show(form1.Label10, 0, shown, true);
   show(form1.Label9, 0, shown, true);
@@ -194,12 +194,12 @@ void SkinProperties::coverCountChosen() {
   for (const Family* family : std::initializer_list<const Family*>{
            &form1.Label10, &form1.Label9, &form1.ucAniGIF1, &form1.Image2, &form1.Label62, &form1.Label63})
     show(*family, shown + 1, kCovers - 1, false);
-  state_.globals.LastCoverIndex = row;
+  state_.globals.LastCoverIndex = shown;
 }
 
 void SkinProperties::coverTextChanged() {
   Form1& form1 = state_.form1;
-  const int last = std::clamp(state_.globals.LastCoverIndex, -1, kCovers - 1);
+  const int last = state_.globals.LastCoverIndex;
   for (const Family* family : std::initializer_list<const Family*>{
            &form1.Label10, &form1.Label9, &form1.ucAniGIF1, &form1.Image2, &form1.Label62, &form1.Label63})
     show(*family, last + 1, kCovers - 1, false);
@@ -207,12 +207,9 @@ void SkinProperties::coverTextChanged() {
   for (const Family* family :
        std::initializer_list<const Family*>{&form1.Label10, &form1.Label9, &form1.ucAniGIF1, &form1.Image2})
     show(*family, 0, last, true);
-  // The captions of the last cover are hidden with those behind it and come back only with the box. A last
-  // cover beyond those that exist hides none.
-  if (state_.globals.LastCoverIndex < kCovers) {
-    show(form1.Label62, last, last, false);
-    show(form1.Label63, last, last, false);
-  }
+  // The captions of the last cover are hidden with those behind it and come back only with the box.
+  show(form1.Label62, last, kCovers - 1, false);
+  show(form1.Label63, last, kCovers - 1, false);
   if (!state_.form4.Check6->isTicked()) return;
   show(form1.Label62, 0, last, true);
   show(form1.Label63, 0, last, true);

@@ -74,8 +74,8 @@ Value readField(RecordReader& reader, const Field& field) {
   }
 }
 
-std::int32_t readInteger(RecordReader& reader) {
-  return asInteger(asNumber(reader.readValue()));
+double readNumber(RecordReader& reader) {
+  return asNumber(reader.readValue());
 }
 
 StoredValue readStored(RecordReader& reader) {

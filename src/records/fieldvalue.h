@@ -19,8 +19,7 @@ struct OutOfRange {};
 /// The field's next value, of the type of its property. Throws BadValue when what stands there is no such
 /// value, and OutOfRange, as do the functions below.
 Value readField(RecordReader& reader, const Field& field);
-/// A whole number of 16 bits.
-std::int32_t readInteger(RecordReader& reader);
+double readNumber(RecordReader& reader);
 /// The next value as it stands: a number, else its text.
 StoredValue readStored(RecordReader& reader);
 

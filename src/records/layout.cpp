@@ -34,8 +34,8 @@ void Layout::versionTag(int number) {
   add(Counter{.name = "version", .newest = number});
 }
 
-void Layout::counter(int& number, const char* name) {
-  add(Counter{.name = name, .kept = &number});
+void Layout::counter(int& number, const char* name, int (*intoRange)(double)) {
+  add(Counter{.name = name, .kept = &number, .intoRange = intoRange});
 }
 
 void Layout::reference(StoredValue& kept, const std::vector<Element*>& boxes) {

@@ -39,8 +39,9 @@ public:
   Field& field(ValueKind kind, Element& element, Property property);
   /// "INI Version" and the number.
   void versionTag(int number);
-  /// A number of the state that no element holds; name is for messages.
-  void counter(int& number, const char* name);
+  /// A number of the state that no element holds; name is for messages, intoRange brings what a file tells to
+  /// what the state can hold.
+  void counter(int& number, const char* name, int (*intoRange)(double));
   /// An image reference; each of at most three boxes shows the file when it exists.
   void reference(StoredValue& kept, const std::vector<Element*>& boxes = {});
   /// The reference of a button's picture, with the image rule.

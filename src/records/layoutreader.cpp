@@ -86,7 +86,7 @@ private:
   }
 
   void take(const Counter& counter) {
-    if (counter.kept) *counter.kept = readInteger(reader_);
+    if (counter.kept) *counter.kept = counter.intoRange(readNumber(reader_));
     walk_.setCount(counter.kept ? *counter.kept : readVersion(counter.newest));
   }
 

@@ -61,7 +61,8 @@ struct Reference {
 struct Counter {
   const char* name;     ///< for messages
   int* kept = nullptr;  ///< the number of the state, null for a version
-  int newest = 0;       ///< the newest version
+  int (*intoRange)(double) = nullptr;  ///< what becomes of the file's number where it is kept
+  int newest = 0;                      ///< the newest version
 
   /// The number that a save writes.
   int number() const { return kept ? *kept : newest; }

@@ -23,6 +23,14 @@ protected:
         if (element->isVisible()) keys.append(element->key());
     return keys;
   }
+  /// A cover file up to its boxes that tells of a last cover and holds that many rows of each family.
+  static QByteArray layoutOf(const char* lastCover, int rows) {
+    const QByteArray place = " 150 \r\n 75 \r\n 30 \r\n 45 \r\n";
+    QByteArray file = QByteArray(" 1 \r\n ") + lastCover + " \r\n";
+    for (const char* heading : {"Album Covers", "Album Frames", "Album Title", "Artist Title"})
+      file += heading + QByteArray("\r\n") + place.repeated(rows);
+    return file + " 1 \r\n 1 \r\n 0 \r\n";
+  }
   static int linesOf(int covers) { return 5 + covers * 44 + 7 + 4 + 4 + 18 + 2 + 2; }
 
   void load(const char* name) {
@@ -94,20 +102,20 @@ TEST_F(Covers, AnOlderFileLeavesTheCaptionsAlone) {
   const QList<QByteArray> lines = bytes(QStringLiteral("old.cov")).split('\n');
   write(QStringLiteral("old.cov"), lines.mid(0, 5 + 3 * 8).join('\n') + '\n');
   form1().Label9[0].setLeft(4321);
+  form1().Label10[2].setOpaque(false);
+  form4().Check5->setValue(0);
   load("old.cov");
   EXPECT_EQ(form1().Label9[0].left(), 4321);
+  EXPECT_FALSE(form1().Label10[2].isOpaque());
+  EXPECT_TRUE(form1().ucAniGIF1[2].isVisible()) << "the file says nothing of frames";
   write(QStringLiteral("old.cov"), lines.mid(0, 5 + 3 * 8 + 2).join('\n') + '\n');
   EXPECT_THROW(load("old.cov"), RecordError);
 }
 
 TEST_F(Covers, BoxesOfTheFileActOnTheCoversInUse) {
   form4().Check3->setValue(1);
-  form1().Label10[2].setOpaque(false);
-  form4().Check5->setValue(0);
   form4().Check5->setValue(0);
   chooseCount(4);
-  EXPECT_FALSE(form1().Label10[2].isOpaque());
-  EXPECT_TRUE(form1().ucAniGIF1[2].isVisible()) << "the file says nothing of frames";
   saveAs("plain.cov");
   form4().Check3->setValue(0);
   for (int i : {2, 20}) form1().Label9[i].setOpaque(true);
@@ -124,13 +132,37 @@ TEST_F(Covers, BoxesOfTheFileActOnTheCoversInUse) {
   EXPECT_LT(place(3), place(2)) << "behind the middle the covers stack downward";
 }
 
+TEST_F(Covers, RowsOfCoversBeyondTheLastAreReadAndDropped) {
+  const struct {
+    const char* told;
+    int rows;
+  } files[] = {{"40", 41}, {"40", 28}, {"29", 30}, {"28", 29}, {"2147483647", 29}, {"1E+300", 200}};
+  for (const auto& [told, rows] : files) {
+    SCOPED_TRACE(told);
+    form1().Label10[27].setLeft(7);
+    form4().Check3->setValue(0);
+    write(QStringLiteral("long.cov"), layoutOf(told, rows));
+    load("long.cov");
+    EXPECT_EQ(state().globals.LastCoverIndex, 28);
+    EXPECT_EQ(form1().Label10[27].left(), 30);
+    EXPECT_TRUE(form4().Check3->isTicked());
+    EXPECT_EQ(form4().Combo4->text().toStdString(), "29");
+    world.dialogs.answers.enqueue(true);
+    saveAs("again.cov");
+    EXPECT_EQ(bytes(QStringLiteral("again.cov")).count("\r\n"), linesOf(29));
+    load("again.cov");
+  }
+}
+
 TEST_F(Covers, AHostileCountIsKeptInBounds) {
   write(QStringLiteral("bad.cov"), " 0 \r\n 32000 \r\nAlbum Covers\r\n");
   EXPECT_THROW(load("bad.cov"), RecordError);
   write(QStringLiteral("worse.cov"), " 0 \r\n-7 \r\nAlbum Covers\r\nAlbum Frames\r\nAlbum Title\r\n");
   load("worse.cov");
+  EXPECT_EQ(state().globals.LastCoverIndex, -1);
   EXPECT_FALSE(form1().Image2[0].isVisible());
   saveAs("again.cov");
+  EXPECT_EQ(bytes(QStringLiteral("again.cov")).count("\r\n"), linesOf(0));
 }
 
 }  // namespace
