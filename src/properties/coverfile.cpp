@@ -147,4 +147,13 @@ Layout coverFile(State& state, const QString& name, int last) {
   return file;
 }
 
+QString coverFileName(const QString& typed) {
+  const QString ending = QStringLiteral(".cov");
+  const QString name = typed.contains(u'.') ? typed : typed + ending;
+  const auto separates = [](QChar c) { return c == u'/' || c == u'\\' || c.isNull(); };
+  const bool isPlain =
+      !name.startsWith(u'.') && !name.contains(QStringLiteral("..")) && std::ranges::none_of(name, separates);
+  return isPlain && name.endsWith(ending, Qt::CaseInsensitive) ? name : QString();
+}
+
 }  // namespace veneerer

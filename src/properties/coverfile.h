@@ -1,4 +1,4 @@
-// The lines of a cover file, for a given number of covers in use.
+// The lines of a cover file, for a given number of covers in use, and the name that one may have.
 #pragma once
 
 #include "records/layout.h"
@@ -13,5 +13,9 @@ int lastCoverOf(const QByteArray& bytes);
 /// The file's lines, whose number depends on the index of the last cover. The lines of covers beyond
 /// kHighestCover are read and dropped.
 Layout coverFile(State& state, const QString& name, int last);
+
+/// The name under which a cover file is saved when the operator types this one: without an extension it gets
+/// ".cov". Empty when that is no plain, visible file name that ends in ".cov".
+QString coverFileName(const QString& typed);
 
 }  // namespace veneerer

@@ -82,20 +82,22 @@ QString CoverLayouts::firstFile() const {
   return state_.form4.File1->list().value(0);
 }
 
-bool CoverLayouts::mayWrite(const SkinFolder& target, const QString& name) const {
+QString CoverLayouts::nameToWrite(const SkinFolder& target) const {
   const QString title = QStringLiteral("Save Cover File");
-  if (name.isEmpty() || name.contains(u'/') || name.contains(u'\\')) {
-    platform_.dialogs.inform(title, QStringLiteral("Type a plain file name for the cover layout first."));
-    return false;
-  }
-  return !QFileInfo::exists(target.file(name)) ||
-         platform_.dialogs.ask(title, QStringLiteral("Do You want to overwrite this cover file?"));
+  const QString name = coverFileName(state_.form4.Text2->text());
+  if (name.isEmpty())
+    platform_.dialogs.inform(
+        title, QStringLiteral("Type a plain file name that ends in .cov for the cover layout first."));
+  else if (QFileInfo::exists(target.file(name)) &&
+           !platform_.dialogs.ask(title, QStringLiteral("Do You want to overwrite this cover file?")))
+    return {};
+  return name;
 }
 
 void CoverLayouts::saveNamed() {
   const SkinFolder target = folder();
-  const QString name = state_.form4.Text2->text();
-  if (!mayWrite(target, name)) return;
+  const QString name = nameToWrite(target);
+  if (name.isEmpty()) return;
   save(target, name);
   const Layout frames = framesFile(state_);
   writeRecordFile(target, frames.fileName(), composeRecords(frames));
@@ -113,8 +115,8 @@ void CoverLayouts::offerSave(const SkinFolder& target) {
   if (!platform_.dialogs.ask(QStringLiteral("Warning"),
                              QStringLiteral("Do you want to save the COVER Layout Too?")))
     return;
-  const QString name = state_.form4.Text2->text();
-  if (mayWrite(target, name)) save(target, name);
+  const QString name = nameToWrite(target);
+  if (!name.isEmpty()) save(target, name);
   listFiles();
 }
 

@@ -39,7 +39,8 @@ public:
 private:
   void askToLoad();
   SkinFolder folder() const;
-  bool mayWrite(const SkinFolder& target, const QString& name) const;
+  /// The cover file that Text2 names. Empty when it names none or the operator keeps the one that is there.
+  QString nameToWrite(const SkinFolder& target) const;
   void showCount();
   void applyBoxes();
 

@@ -6,6 +6,7 @@
 
 #include "canvas/screens.h"
 #include "platform/version.h"
+#include "properties/coverfile.h"
 
 namespace veneerer {
 
@@ -70,8 +71,8 @@ void checkSkins(const CommandEntry& command, const QStringList& skins) {
 
 void checkCover(const QCommandLineParser& parser, const QString& name) {
   if (!parser.isSet(QStringLiteral("cover"))) return;
-  if (name.isEmpty() || name.contains(u'/') || name.contains(u'\\'))
-    throw UsageError(QStringLiteral("--cover takes a plain file name"));
+  if (coverFileName(name).isEmpty())
+    throw UsageError(QStringLiteral("--cover takes a plain file name that ends in .cov"));
 }
 
 void checkEntries(const QStringList& entries) {

@@ -154,6 +154,24 @@ TEST_F(Covers, RowsOfCoversBeyondTheLastAreReadAndDropped) {
   }
 }
 
+TEST_F(Covers, ANameWithoutExtensionGetsOneAndOthersAreRefused) {
+  saveAs("mine");
+  form4().Text2->setText(QStringLiteral("Other.COV"));
+  world.dialogs.answers.enqueue(true);
+  designer->save();
+  EXPECT_EQ(form4().File1->list(), (QStringList{QStringLiteral("mine.cov"), QStringLiteral("Other.COV")}));
+  const QStringList before = files();
+  for (const char* name : {"", "..", ".cov", "mine.txt", "mine.", "a/b.cov", "a\\b.cov", "a..cov", "..\\x"}) {
+    saveAs(name);
+    EXPECT_EQ(world.dialogs.messages.last().title.toStdString(), "Save Cover File") << name;
+    world.dialogs.messages.clear();
+    world.dialogs.answers.enqueue(true);
+    designer->save();
+    EXPECT_EQ(world.dialogs.messages.size(), 2) << name;
+  }
+  EXPECT_EQ(files(), before);
+}
+
 TEST_F(Covers, AHostileCountIsKeptInBounds) {
   write(QStringLiteral("bad.cov"), " 0 \r\n 32000 \r\nAlbum Covers\r\n");
   EXPECT_THROW(load("bad.cov"), RecordError);

@@ -107,6 +107,10 @@ TEST_F(Skintool, AnswersWrongUseAndBrokenSkinsByTheirStatus) {
   EXPECT_EQ(run({QStringLiteral("dump"), skin(), QStringLiteral("--screen"), QStringLiteral("800x 600")}), 2);
   EXPECT_EQ(run({QStringLiteral("dump"), skin(), QStringLiteral("--script"), QString()}), 2);
   EXPECT_EQ(run({QStringLiteral("dump"), skin(), QStringLiteral("--cover"), QStringLiteral("x")}), 2);
+  for (const char* name : {"x.txt", "../x.cov", ""})
+    EXPECT_EQ(run({QStringLiteral("save"), skin(), QStringLiteral("--to"), path("out"),
+                   QStringLiteral("--cover"), QString::fromLatin1(name)}),
+              2);
   write(skin() + QStringLiteral("/menu.ini"), "INI Version\r\n 2 \r\n 10 \r\nwide\r\n");
   EXPECT_EQ(run({QStringLiteral("save"), skin(), QStringLiteral("--to"), path("out")}), 1);
   EXPECT_TRUE(err.startsWith("menu.ini:4: Form1.Picture2(0) Width: ")) << err.toStdString();
@@ -142,9 +146,10 @@ TEST_F(Skintool, AnswersHelpAndVersionOnStandardOutput) {
 
 TEST_F(Skintool, SavesWithTheCoverOnDemandAndRendersTheChosenScreens) {
   ASSERT_EQ(run({QStringLiteral("save"), skin(), QStringLiteral("--to"), skin(), QStringLiteral("--cover"),
-                 QStringLiteral("mine.cov")}),
+                 QStringLiteral("mine")}),
             0);
   EXPECT_EQ(QDir(skin()).entryList(QDir::Files).size(), 60);
+  EXPECT_TRUE(QFile::exists(skin() + QStringLiteral("/mine.cov")));
   ASSERT_EQ(
       run({QStringLiteral("render"), skin(), QStringLiteral("--to"), path("png"), QStringLiteral("--only"),
            QStringLiteral("Queue Screen"), QStringLiteral("--only"), QStringLiteral("Pop Up Menu")}),
