@@ -1,6 +1,7 @@
 #include "properties/skinproperties.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "elements/numbers.h"
 
@@ -216,15 +217,20 @@ void SkinProperties::coverTextChanged() {
 }
 
 void SkinProperties::skinWidth() {
-  const int pixels = leadingWhole(state_.form4.Text1[0].text());
-  const auto twips = PixelsToTwips(screen_, pixels, 0);
-  if (pixels > 0 && twips) state_.form1.setWidth(static_cast<float>(*twips));
+  sizeWindow(0, Property::Width);
 }
 
 void SkinProperties::skinHeight() {
-  const int pixels = leadingWhole(state_.form4.Text1[1].text());
-  const auto twips = PixelsToTwips(screen_, pixels, 1);
-  if (pixels > 0 && twips) state_.form1.setHeight(static_cast<float>(*twips));
+  sizeWindow(1, Property::Height);
+}
+
+void SkinProperties::sizeWindow(int direction, Property side) {
+  const double pixels = std::nearbyint(leadingNumber(state_.form4.Text1[direction].text()));
+  if (pixels <= 0) return;
+  if (const auto twips = PixelsToTwips(screen_, pixels, direction))
+    state_.form1.set(side, static_cast<float>(*twips));
+  else
+    state_.notes.say(QStringLiteral("A canvas of so many pixels is too large; it keeps its size."));
 }
 
 }  // namespace veneerer

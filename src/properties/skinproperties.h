@@ -47,6 +47,7 @@ private:
   void coverCountChosen();
   void skinWidth();
   void skinHeight();
+  void sizeWindow(int direction, Property side);
 
   State& state_;
   const Screen screen_;

@@ -114,8 +114,12 @@ TEST_F(Properties, TheResolutionSizesTheWindowAlone) {
   EXPECT_EQ(form1().width(), 15360);
   EXPECT_EQ(form1().height(), 9500);
   EXPECT_EQ(form1().Label5->left(), left);
-  form4().Text1[0].setText(QStringLiteral("99999999999"));
-  EXPECT_EQ(form1().width(), 15360);
+  int told = 0;
+  for (const char* beyond : {"99999999999", "143165577", "1E300"}) {
+    form4().Text1[0].setText(QString::fromLatin1(beyond));
+    EXPECT_EQ(form1().width(), 15360);
+    EXPECT_EQ(state().notes.texts().size(), ++told) << beyond;
+  }
 }
 
 TEST_F(Properties, TexturesReachTheCanvasAndTheNames) {
