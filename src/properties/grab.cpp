@@ -65,9 +65,8 @@ Piece composePiece(const State& state, PictureBox& panel, const char* name, cons
 SkinFolder imagesFolder(const SkinFolder& skin) {
   SkinFolder images(skin.path() + QStringLiteral("/images"));
   if (skin.exists()) QDir().mkpath(images.path());
-  if (!skin.contains(images.path()))
-    throw RecordError(QStringLiteral("images"), 0, {}, {},
-                      QStringLiteral("the folder lies outside the Skin's folder"));
+  const QString refusal = skin.refusal(images.path());
+  if (!refusal.isEmpty()) throw RecordError(QStringLiteral("images"), 0, {}, {}, refusal);
   return images;
 }
 

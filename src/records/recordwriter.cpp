@@ -38,8 +38,7 @@ void writeRecordFile(const SkinFolder& folder, const QString& name, const QByteA
   const auto fail = [&](const QString& what) { throw RecordError(name, 0, {}, {}, what); };
   // A stranger's folder may hold a link to elsewhere, or a pipe that never lets go, under a record file's
   // name.
-  if (!folder.contains(path))
-    fail(QStringLiteral("the file lies outside the Skin's folder and isn't written"));
+  if (const QString refusal = folder.refusal(path); !refusal.isEmpty()) fail(refusal);
   const QFileInfo info(path);
   if (info.exists() && !info.isFile())
     fail(QStringLiteral("there is something under this name that is no file"));
