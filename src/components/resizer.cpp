@@ -10,6 +10,9 @@ namespace veneerer {
 
 namespace {
 
+constexpr std::int16_t kDesignWidth = 1024;  // pixels
+constexpr std::int16_t kDesignHeight = 768;
+
 // An assignment whose value is beyond a Single fails, and the walk goes on.
 void scale(Element& element, Property property, float factor) {
   if (!element.has(property)) return;
@@ -45,6 +48,16 @@ std::int16_t screenPixels(int pixels, double twipsPerPixel) {
   return static_cast<std::int16_t>(*whole);
 }
 
+float screenFactorX(const Screen& screen) {
+  return static_cast<float>(screenPixels(screen.width, screen.twipsPerPixelX())) /
+         static_cast<float>(kDesignWidth);
+}
+
+float screenFactorY(const Screen& screen) {
+  return static_cast<float>(screenPixels(screen.height, screen.twipsPerPixelY())) /
+         static_cast<float>(kDesignHeight);
+}
+
 float ratio(float size, std::int32_t remembered) {
   if (remembered == 0) throw ScaleFault("a window of no size can't be scaled");
   const float factor = size / static_cast<float>(remembered);
@@ -58,6 +71,11 @@ std::int32_t wholeTwips(float twips) {
   return *whole;
 }
 
+void requireSide(float now, float screenFactor, float wanted) {
+  if (wholeTwips(now * screenFactor) <= 0) throw ScaleFault("a window of no size can't be scaled");
+  if (wholeTwips(wanted) <= 0) throw ScaleFault("the new size must be above 0");
+}
+
 }  // namespace
 
 void Resizer::ScaleAll(float factorX, float factorY, Window& window) {
@@ -68,14 +86,15 @@ void Resizer::ScaleAll(float factorX, float factorY, Window& window) {
   if (windowMoves_) move(window, factorX, factorY);
 }
 
+void Resizer::requireScale(const Window& window, const Screen& screen, float width, float height) {
+  requireSide(window.width(), screenFactorX(screen), width);
+  requireSide(window.height(), screenFactorY(screen), height);
+}
+
 void Resizer::scaleToScreen(Window& window, const Screen& screen) {
-  designWidth_ = 1024;
-  designHeight_ = 768;
   windowMoves_ = true;
-  screenWidth_ = screenPixels(screen.width, screen.twipsPerPixelX());
-  screenHeight_ = screenPixels(screen.height, screen.twipsPerPixelY());
-  factorX_ = static_cast<float>(screenWidth_) / static_cast<float>(designWidth_);
-  factorY_ = static_cast<float>(screenHeight_) / static_cast<float>(designHeight_);
+  factorX_ = screenFactorX(screen);
+  factorY_ = screenFactorY(screen);
   ScaleAll(factorX_, factorY_, window);
   remember(window);
 }

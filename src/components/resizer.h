@@ -24,6 +24,10 @@ public:
   /// after scaleToScreen.
   void ScaleAll(float factorX, float factorY, Window& window);
 
+  /// Throws ScaleFault when scaleToScreen and then scaleOnResize for a window of the new size, twips,
+  /// couldn't compute their factors. Changes nothing.
+  static void requireScale(const Window& window, const Screen& screen, float width, float height);
+
   /// Scales a window that was designed for a screen of 1024 by 768 to the given one, and moves it with its
   /// elements. Throws ScaleFault, before anything has moved, for a screen beyond 32767 pixels.
   void scaleToScreen(Window& window, const Screen& screen);
@@ -34,10 +38,6 @@ public:
   void scaleOnResize(Window& window);
 
 private:
-  std::int16_t designWidth_ = 1024;  // pixels
-  std::int16_t designHeight_ = 768;
-  std::int16_t screenWidth_ = 0;
-  std::int16_t screenHeight_ = 0;
   float factorX_ = 1;
   float factorY_ = 1;
   bool windowMoves_ = false;

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "elements/numbers.h"
+#include <cmath>
 #include "platform/skinfolder.h"
 #include "tools/rescaletables.h"
 
@@ -19,7 +20,7 @@ void Rescale::run() {
   try {
     scaleElements();
   } catch (const ScaleFault& fault) {
-    inform(QString::fromLatin1(fault.what()));
+    inform(QStringLiteral("Nothing is rescaled: %1.").arg(QString::fromLatin1(fault.what())));
     return;
   }
   if (state_.form6.Check2->isTicked()) resampleImages();
@@ -32,8 +33,10 @@ void Rescale::scaleElements() {
   resizeWindow(Property::Height, *state_.form6.Text8, 1);
 }
 
-void Rescale::resizeWindow(Property edge, const TextBox& field, int direction) {
-  const auto twips = PixelsToTwips(platform_.screen, leadingWhole(field.text()), direction);
+float Rescale::newSide(const TextBox& field, int direction) const {
+  const double pixels = std::nearbyint(leadingNumber(field.text()));
+  if (pixels <= 0) throw ScaleFault("width and height must be above 0 pixels");
+  const auto twips = PixelsToTwips(platform_.screen, pixels, direction);
   if (!twips) throw ScaleFault("the new size is beyond 32 bits");
   if (state_.form1.set(edge, static_cast<float>(*twips))) resizer_.scaleOnResize(state_.form1);
 }
@@ -53,6 +56,10 @@ void Rescale::resampleImages() {
 
 /// One job a file, so that files can be worked on side by side while the sizes of one file keep their order.
 std::vector<ImageJob> Rescale::collectJobs() {
+  const float width = newSide(*state_.form6.Text7, 0);
+  const float height = newSide(*state_.form6.Text8, 1);
+  Resizer::requireScale(state_.form1, platform_.screen, width, height);
+  // From here on nothing can fail.
   const SkinFolder skin(platform_.folder, state_.form4.Combo3->text());
   std::vector<ImageJob> jobs;
   QHash<QString, std::size_t> byFile;

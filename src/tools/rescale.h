@@ -18,14 +18,15 @@ public:
   Rescale(State& state, Platform& platform, Progress* progress)
       : state_(state), platform_(platform), progress_(progress) {}
 
-  /// Text7 and Text8 of Form6 give the new size in pixels. An empty field gives a window of no size. When the
-  /// scale can't be computed the command tells so and stops; what it moved stays. A call that comes in
-  /// while the images are being resampled does nothing.
+  /// Text7 and Text8 of Form6 give the new size in pixels. When one of them isn't above 0 or the scale can't
+  /// be computed, the command tells so and changes nothing. A call that comes in while the images
+  /// are being resampled does nothing.
   void run();
 
 private:
   void scaleElements();
-  void resizeWindow(Property edge, const TextBox& field, int direction);
+  float newSide(const TextBox& field, int direction) const;
+  void resizeWindow(Property edge, float twips);
   void resampleImages();
   std::vector<ImageJob> collectJobs();
   void measure(const Element& target);

@@ -69,13 +69,37 @@ TEST_F(RescaleTest, ElementsFollowTheWindow) {
   EXPECT_EQ(form1.Label1[0].left(), 200);
 }
 
-TEST_F(RescaleTest, AWindowOfNoSizeIsSurvived) {
-  rescale("", "768");
-  EXPECT_EQ(form1.width(), 0);
-  EXPECT_EQ(form1.Label1[0].width(), 0);
-  rescale("99999999999", "0");
-  rescale("2000000000", "768");
-  EXPECT_FALSE(world.dialogs.messages.isEmpty());
+TEST_F(RescaleTest, WhatCannotBeScaledIsToldAndChangesNothing) {
+  int changes = 0;
+  state.notices.subscribe([&](const Change& change) { changes += &change.element.window() == &form1; });
+  const auto refuses = [&](const char* width, const char* height, const char* why) {
+    SCOPED_TRACE(std::string(width) + " x " + height);
+    changes = 0;
+    world.dialogs.messages.clear();
+    rescale(width, height);
+    EXPECT_EQ(changes, 0);
+    ASSERT_EQ(world.dialogs.messages.size(), 1);
+    EXPECT_EQ(world.dialogs.messages[0].title, u"Rescale SKIN");
+    EXPECT_TRUE(world.dialogs.messages[0].text.contains(QLatin1String(why)))
+        << world.dialogs.messages[0].text.toStdString();
+  };
+  for (const char* nothing : {"", "0", "-5", "wide", "-99999999999"}) {
+    refuses(nothing, "768", "above 0");
+    refuses("1024", nothing, "above 0");
+  }
+  // The last of these fits into 32 bits, but not the Single that holds it.
+  for (const char* huge : {"99999999999", "1E300", "143165577", "143165576"}) {
+    refuses(huge, "768", "beyond 32 bits");
+    refuses("1024", huge, "beyond 32 bits");
+  }
+  for (float side : {0.0f, 0.4f, -300.0f}) {
+    form1.setHeight(side);
+    refuses("1024", "768", "no size");
+  }
+  form1.setHeight(3e38f);
+  refuses("1024", "768", "beyond 32 bits");
+  world.platform.screen.width = 40'000;
+  refuses("1024", "768", "screen");
 }
 
 TEST_F(RescaleTest, BackdropsTakeTheSizeOfTheirElement) {
