@@ -22,9 +22,10 @@ JpegResult encode(const cImage& image) {
 
 QString replaceFile(const QString& path, const QByteArray& bytes) {
   QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) return file.errorString();
-  file.write(bytes);
-  return file.commit() ? QString() : file.errorString();
+  const bool isOpen = file.open(QIODevice::WriteOnly);
+  if (isOpen) file.write(bytes);
+  if (isOpen && file.commit()) return {};
+  return QStringLiteral("can't be written (%1)").arg(file.errorString());
 }
 
 QString resample(const QString& path, QSize size) {
@@ -32,10 +33,10 @@ QString resample(const QString& path, QSize size) {
   PictureStore store;
   const Picture picture = store.load(path);
   cImage source;
-  if (!source.CopyPicture(picture.image())) return QStringLiteral("the image can't be read");
+  if (!source.CopyPicture(picture.image())) return QStringLiteral("can't be decoded");
   const cImage target = source.stretched(size);
   if (target.isEmpty())
-    return QStringLiteral("no image can have %1 by %2 pixels").arg(size.width()).arg(size.height());
+    return QStringLiteral("can't have %1 by %2 pixels").arg(size.width()).arg(size.height());
   const JpegResult jpeg = encode(target);
   return jpeg.isOk() ? replaceFile(path, jpeg.bytes) : jpeg.error;
 }

@@ -16,8 +16,8 @@ struct ImageJob {
 };
 
 /// Resamples the file to each size and replaces it by a JPEG of the same name. The file is replaced only by a
-/// complete new one; nothing else is left on the disk. Returns why that failed, empty when it is done. Safe
-/// to run beside other jobs.
+/// complete new one; nothing else is left on the disk. Returns in a few words why that failed ("can't be
+/// decoded"), empty when it is done. Safe to run beside other jobs.
 QString resampleFile(const ImageJob& job);
 
 }  // namespace veneerer

@@ -1,18 +1,40 @@
 #include "tools/rescale.h"
 
 #include <QFileInfo>
+#include <QMap>
 #include <QScopedValueRollback>
 #include <QSet>
 #include <QThreadPool>
 #include <QtConcurrentRun>
 #include <algorithm>
+#include <cmath>
 
 #include "elements/numbers.h"
-#include <cmath>
 #include "platform/skinfolder.h"
 #include "tools/rescaletables.h"
 
 namespace veneerer {
+
+namespace {
+
+/// One sentence: how many images were resized, and for each reason those that weren't.
+QString outcome(const std::vector<ImageJob>& jobs, const QStringList& failures) {
+  QMap<QString, QStringList> others;
+  for (qsizetype i = 0; i < failures.size(); ++i)
+    if (!failures[i].isEmpty()) others[failures[i]].append(jobs[static_cast<std::size_t>(i)].reference);
+  QString note =
+      QStringLiteral("%1 of %2 images were resized").arg(failures.count(QString())).arg(failures.size());
+  for (auto it = others.cbegin(); it != others.cend(); ++it)
+    note += QStringLiteral("; ") + it.key() + QStringLiteral(": ") + it->join(QStringLiteral(", "));
+  return note + u'.';
+}
+
+QString work(const ImageJob& job, bool isOurs) {
+  if (job.path.isEmpty()) return QStringLiteral("missing");
+  return isOurs ? resampleFile(job) : QStringLiteral("outside the Skin's folder");
+}
+
+}  // namespace
 
 void Rescale::run() {
   if (isRunning_) return;
@@ -28,9 +50,13 @@ void Rescale::run() {
 
 // An ordinary change of the canvas window's size moves nothing; only here does one scale the elements.
 void Rescale::scaleElements() {
+  const float width = newSide(*state_.form6.Text7, 0);
+  const float height = newSide(*state_.form6.Text8, 1);
+  Resizer::requireScale(state_.form1, platform_.screen, width, height);
+  // From here on nothing can fail.
   resizer_.scaleToScreen(state_.form1, platform_.screen);
-  resizeWindow(Property::Width, *state_.form6.Text7, 0);
-  resizeWindow(Property::Height, *state_.form6.Text8, 1);
+  resizeWindow(Property::Width, width);
+  resizeWindow(Property::Height, height);
 }
 
 float Rescale::newSide(const TextBox& field, int direction) const {
@@ -38,40 +64,37 @@ float Rescale::newSide(const TextBox& field, int direction) const {
   if (pixels <= 0) throw ScaleFault("width and height must be above 0 pixels");
   const auto twips = PixelsToTwips(platform_.screen, pixels, direction);
   if (!twips) throw ScaleFault("the new size is beyond 32 bits");
-  if (state_.form1.set(edge, static_cast<float>(*twips))) resizer_.scaleOnResize(state_.form1);
+  return static_cast<float>(*twips);
+}
+
+void Rescale::resizeWindow(Property edge, float twips) {
+  if (state_.form1.set(edge, twips)) resizer_.scaleOnResize(state_.form1);
 }
 
 void Rescale::resampleImages() {
   inform(QStringLiteral("Now Resizing images Do not Loose Focus on main screen"));
-  const bool wasShown = state_.form1.Picture21->isVisible();
   const std::vector<ImageJob> jobs = collectJobs();
   const QStringList failures = runJobs(jobs);
   showAnew(jobs);
   // The work element has done its part; left up, it would cover the canvas.
-  state_.form1.Picture21->setVisible(wasShown);
+  state_.form1.Picture21->setVisible(false);
+  state_.notes.say(outcome(jobs, failures));
   inform(QStringLiteral("Images resized"));
-  if (!failures.isEmpty())
-    inform(QStringLiteral("These images could not be resized:\n") + failures.join(u'\n'));
 }
 
 /// One job a file, so that files can be worked on side by side while the sizes of one file keep their order.
+/// A file that is missing has one too, for the count.
 std::vector<ImageJob> Rescale::collectJobs() {
-  const float width = newSide(*state_.form6.Text7, 0);
-  const float height = newSide(*state_.form6.Text8, 1);
-  Resizer::requireScale(state_.form1, platform_.screen, width, height);
-  // From here on nothing can fail.
   const SkinFolder skin(platform_.folder, state_.form4.Combo3->text());
   std::vector<ImageJob> jobs;
   QHash<QString, std::size_t> byFile;
   for (const RescaleTarget& target : kRescaleTargets) {
     measure(*target.family(state_).find(target.index));
     const QString reference = target.name(state_.names).text();
+    if (reference.isEmpty()) continue;
     const QString path = skin.resolve(reference);
-    if (path.isEmpty()) continue;
-    state_.form1.Picture21->setVisible(true);
-    state_.form1.Picture21->setPicture(Picture());
-    state_.form1.Image1->setPicture(state_.pictures.load(path));
-    const QString file = QFileInfo(path).canonicalFilePath();
+    if (!path.isEmpty()) showSource(path);
+    const QString file = path.isEmpty() ? u'?' + reference : QFileInfo(path).canonicalFilePath();
     if (!byFile.contains(file)) {
       byFile.insert(file, jobs.size());
       jobs.push_back({path, reference, {}});
@@ -79,6 +102,12 @@ std::vector<ImageJob> Rescale::collectJobs() {
     jobs[byFile.value(file)].sizes.push_back(measuredPixels());
   }
   return jobs;
+}
+
+void Rescale::showSource(const QString& path) {
+  state_.form1.Picture21->setVisible(true);
+  state_.form1.Picture21->setPicture(Picture());
+  state_.form1.Image1->setPicture(state_.pictures.load(path));
 }
 
 /// Picture21 lends its size to whatever is resampled.
@@ -94,24 +123,20 @@ QSize Rescale::measuredPixels() const {
           toWhole(surface.height() / screen.twipsPerPixelY()).value_or(0)};
 }
 
-/// Returns what failed, one line a file; a failure doesn't keep the others back.
+/// Returns for each job why it failed, empty where it is done; a failure doesn't keep the others back.
 QStringList Rescale::runJobs(const std::vector<ImageJob>& jobs) {
   const SkinFolder skin(platform_.folder, state_.form4.Combo3->text());
   QThreadPool pool;
   QList<QFuture<QString>> results;
-  for (const ImageJob& job : jobs) {
-    const bool isOurs = skin.contains(job.path);
-    results.append(QtConcurrent::run(&pool, [job, isOurs] {
-      return isOurs ? resampleFile(job) : QStringLiteral("the file lies outside the Skin's folder");
+  for (const ImageJob& job : jobs)
+    results.append(QtConcurrent::run(&pool, [job, isOurs = skin.contains(job.path)] {
+      return work(job, isOurs);
     }));
-  }
   QStringList failures;
   const int total = static_cast<int>(jobs.size());
   for (int i = 0; i < total; ++i) {
-    const QString& reference = jobs[static_cast<std::size_t>(i)].reference;
-    report(i, total, reference);
-    const QString error = results[i].result();
-    if (!error.isEmpty()) failures.append(reference + QStringLiteral(": ") + error);
+    report(i, total, jobs[static_cast<std::size_t>(i)].reference);
+    failures.append(results[i].result());
   }
   report(total, total, QString());
   return failures;

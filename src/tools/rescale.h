@@ -19,8 +19,8 @@ public:
       : state_(state), platform_(platform), progress_(progress) {}
 
   /// Text7 and Text8 of Form6 give the new size in pixels. When one of them isn't above 0 or the scale can't
-  /// be computed, the command tells so and changes nothing. A call that comes in while the images
-  /// are being resampled does nothing.
+  /// be computed, the command tells so and changes nothing. How many images were resized, and why others
+  /// weren't, is a note. A call that comes in while the images are being resampled does nothing.
   void run();
 
 private:
@@ -29,6 +29,7 @@ private:
   void resizeWindow(Property edge, float twips);
   void resampleImages();
   std::vector<ImageJob> collectJobs();
+  void showSource(const QString& path);
   void measure(const Element& target);
   QSize measuredPixels() const;
   QStringList runJobs(const std::vector<ImageJob>& jobs);

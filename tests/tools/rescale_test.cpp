@@ -121,7 +121,9 @@ TEST_F(RescaleTest, BackdropsTakeTheSizeOfTheirElement) {
   EXPECT_LT(qAbs(qRed(QImage(file("/history.bmp"), "JPEG").pixel(50, 50)) - 255), 4);
   EXPECT_EQ(form1.Picture1[1].picture().image().size(), QSize(100, 200));
   EXPECT_EQ(form1.Picture21->width(), 600);
-  EXPECT_TRUE(form1.Picture21->isVisible());
+  EXPECT_FALSE(form1.Picture21->isVisible());
+  EXPECT_EQ(state.notes.texts(),
+            QStringList(QStringLiteral("2 of 3 images were resized; missing: \\missing.bmp.")));
   ASSERT_EQ(world.dialogs.messages.size(), 2);
   EXPECT_EQ(world.dialogs.messages[0].text, u"Now Resizing images Do not Loose Focus on main screen");
   EXPECT_EQ(world.dialogs.messages[1].text, u"Images resized");
@@ -178,9 +180,13 @@ TEST_F(RescaleTest, WhatFailsStaysAsItWasAndTheOthersGoOn) {
   EXPECT_EQ(bytes(file("/broken.bmp")), "BM no picture");
   EXPECT_EQ(bytes(file("/flat.bmp")), flat);
   EXPECT_EQ(bytes(file("/../outside.bmp")), outside);
-  ASSERT_EQ(world.dialogs.messages.size(), 3);
-  for (const char* name : {"broken.bmp", "flat.bmp", "..\\outside.bmp"})
-    EXPECT_TRUE(world.dialogs.messages[2].text.contains(QLatin1String(name))) << name;
+  EXPECT_EQ(world.dialogs.messages.size(), 2);
+  ASSERT_EQ(state.notes.texts().size(), 1);
+  const QString note = state.notes.texts().first();
+  EXPECT_TRUE(note.startsWith(QStringLiteral("1 of 4 images were resized; "))) << note.toStdString();
+  for (const char* reason : {"; can't be decoded: \\broken.bmp", "pixels: \\flat.bmp",
+                             "; outside the Skin's folder: \\..\\outside.bmp"})
+    EXPECT_TRUE(note.contains(QLatin1String(reason))) << reason << note.toStdString();
 }
 
 }  // namespace veneerer
