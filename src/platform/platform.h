@@ -52,7 +52,8 @@ public:
 class Progress {
 public:
   virtual ~Progress() = default;
-  /// Step done of total (0 of total at the start), with what is being worked on.
+  /// Step done of total (0 of total at the start, total of total at the end), with what is being worked on. A
+  /// step that takes long is told again and again.
   virtual void step(int done, int total, const QString& what) = 0;
 };
 

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QMap>
 #include <QScopedValueRollback>
+#include <QSemaphore>
 #include <QSet>
 #include <QThreadPool>
 #include <QtConcurrentRun>
@@ -16,6 +17,9 @@
 namespace veneerer {
 
 namespace {
+
+// How long the progress may stand still, milliseconds.
+constexpr int kPatience = 40;
 
 /// One sentence: how many images were resized, and for each reason those that weren't.
 QString outcome(const std::vector<ImageJob>& jobs, const QStringList& failures) {
@@ -126,16 +130,23 @@ QSize Rescale::measuredPixels() const {
 /// Returns for each job why it failed, empty where it is done; a failure doesn't keep the others back.
 QStringList Rescale::runJobs(const std::vector<ImageJob>& jobs) {
   const SkinFolder skin(platform_.folder, state_.form4.Combo3->text());
+  QSemaphore done;
   QThreadPool pool;
   QList<QFuture<QString>> results;
   for (const ImageJob& job : jobs)
-    results.append(QtConcurrent::run(&pool, [job, isOurs = skin.contains(job.path)] {
+    results.append(QtConcurrent::run(&pool, [job, isOurs = skin.contains(job.path), &done] {
+      const QSemaphoreReleaser release(done);
       return work(job, isOurs);
     }));
   QStringList failures;
   const int total = static_cast<int>(jobs.size());
   for (int i = 0; i < total; ++i) {
     report(i, total, jobs[static_cast<std::size_t>(i)].reference);
+    // A window that shows the progress is painted, and answers, only while it is told something.
+    while (!results[i].isFinished()) {
+      done.tryAcquire(1, kPatience);
+      report(i, total, jobs[static_cast<std::size_t>(i)].reference);
+    }
     failures.append(results[i].result());
   }
   report(total, total, QString());

@@ -4,7 +4,6 @@
 #include <QColorDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QProgressDialog>
 #include <QScreen>
 #include <QSettings>
 
@@ -12,6 +11,7 @@
 #include "ui/fontdialog.h"
 #include "ui/picturedialog.h"
 
+#include "ui/progresswindow.h"
 namespace veneerer {
 
 namespace {
@@ -76,16 +76,8 @@ QtProgress::~QtProgress() = default;
 
 void QtProgress::step(int done, int total, const QString& what) {
   if (done >= total) return window_.reset();
-  if (!window_) {
-    window_ = std::make_unique<QProgressDialog>(dialogParent());
-    window_->setWindowModality(Qt::ApplicationModal);
-    window_->setCancelButton(nullptr);
-    window_->setMinimumDuration(0);
-    window_->setMaximum(total);
-  }
-  window_->setLabelText(what);
-  // A modal bar lets pending events run.
-  window_->setValue(done);
+  if (!window_) window_ = std::make_unique<ProgressWindow>();
+  window_->tell(done, total, what);
 }
 
 QString IniSettings::value(const QString& section, const QString& key, const QString& defaultValue) const {

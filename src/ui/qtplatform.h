@@ -7,8 +7,6 @@
 #include "platform/platform.h"
 #include "platform/skinfolder.h"
 
-class QProgressDialog;
-
 namespace veneerer {
 
 class QtDialogs : public Dialogs {
@@ -37,7 +35,7 @@ public:
   void step(int done, int total, const QString& what) override;
 
 private:
-  std::unique_ptr<QProgressDialog> window_;
+  std::unique_ptr<ProgressWindow> window_;
 };
 
 /// One file of the user's configuration folder, "V-Quill 8.ini".

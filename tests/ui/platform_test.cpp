@@ -1,11 +1,14 @@
 // The real settings store and the words of the real dialogs.
 #include <gtest/gtest.h>
 
+#include <QLabel>
+#include <QProgressBar>
 #include <QSettings>
 #include <QTemporaryDir>
 
 #include "support/pictures.h"
 #include "ui/qtplatform.h"
+#include "uifixture.h"
 
 namespace veneerer {
 namespace {
@@ -34,6 +37,64 @@ TEST(Dialogs, FiltersTakeTheToolkitsForm) {
   EXPECT_EQ(form("Image Files|*.bmp;*.jpg;*.gif"), "Image Files (*.bmp *.jpg *.gif)");
   EXPECT_EQ(form("GIF Files|*.gif|All|*.*"), "GIF Files (*.gif);;All (*.*)");
   EXPECT_EQ(form("odd"), "");
+}
+
+/// Sees every bar that is painted, and at which step.
+class PaintedBars : public QObject {
+public:
+  PaintedBars() { qApp->installEventFilter(this); }
+  bool eventFilter(QObject* object, QEvent* event) override {
+    auto* bar = qobject_cast<QProgressBar*>(object);
+    if (bar && event->type() == QEvent::Paint && bar->isVisible()) {
+      last = bar;
+      if (!steps.contains(bar->value())) steps.append(bar->value());
+    }
+    return false;
+  }
+  QPointer<QProgressBar> last;
+  QList<int> steps;
+};
+
+TEST(Progress, IsPaintedAtEveryStepAndCannotBeClosed) {
+  PaintedBars bars;
+  QtProgress progress;
+  progress.step(0, 3, QStringLiteral("<b>one</b> \\a.bmp"));
+  ASSERT_TRUE(bars.last);
+  QWidget* window = bars.last->window();
+  const auto* what = window->findChild<QLabel*>();
+  EXPECT_EQ(what->text().toStdString(), "<b>one</b> \\a.bmp");
+  EXPECT_EQ(what->textFormat(), Qt::PlainText);
+  window->close();
+  QTest::keyClick(window, Qt::Key_Escape);
+  EXPECT_TRUE(window->isVisible());
+  progress.step(1, 3, QStringLiteral("two"));
+  progress.step(2, 3, QStringLiteral("three"));
+  EXPECT_EQ(bars.steps, (QList<int>{0, 1, 2}));
+  progress.step(3, 3, QString());
+  EXPECT_TRUE(bars.last.isNull());
+}
+
+class Rescaling : public test::UiFixture {
+protected:
+  Rescaling() {
+    world.platform.progress = &progress;
+    designer = std::make_unique<Designer>(world.platform);
+    for (int i = 1; i < 4; ++i)
+      test::writePicture(path(QStringLiteral("images/%1.bmp").arg(i)), 640, 480, Qt::blue);
+  }
+  QtProgress progress;
+};
+
+TEST_F(Rescaling, ShowsItsProgressWhileTheOperatorWaits) {
+  for (int i = 1; i < 4; ++i) state().names.ImageName[i] = QStringLiteral("\\images\\%1.bmp").arg(i);
+  form6().Check2->setValue(1);
+  form6().Text7->setText(QStringLiteral("1024"));
+  form6().Text8->setText(QStringLiteral("768"));
+  PaintedBars bars;
+  QTest::mouseClick(&widget<QWidget>("Form6.Command10"), Qt::LeftButton);
+  EXPECT_EQ(bars.steps, (QList<int>{0, 1, 2}));
+  EXPECT_EQ(state().notes.texts().last().toStdString(), "3 of 3 images were resized.");
+  EXPECT_EQ(world.dialogs.messages.last().text.toStdString(), "Images resized");
 }
 
 }  // namespace
