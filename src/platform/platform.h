@@ -31,8 +31,8 @@ public:
 
 /// The screen that the program stands on.
 struct Screen {
-  int width = 1024;  ///< pixels
-  int height = 768;  ///< pixels
+  int width = 1024;  ///< device pixels
+  int height = 768;  ///< device pixels
   double dpiX = 96;  ///< dots per logical inch, across
   double dpiY = 96;  ///< dots per logical inch, down
 

@@ -6,12 +6,13 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QSettings>
+#include <cmath>
 
 #include "components/colours.h"
 #include "ui/fontdialog.h"
 #include "ui/picturedialog.h"
-
 #include "ui/progresswindow.h"
+
 namespace veneerer {
 
 namespace {
@@ -101,10 +102,10 @@ Screen primaryScreen() {
   Screen screen;
   const QScreen* primary = QGuiApplication::primaryScreen();
   if (!primary) return screen;
-  screen.width = primary->size().width();
-  screen.height = primary->size().height();
-  screen.dpiX = qRound(primary->logicalDotsPerInchX());
-  screen.dpiY = qRound(primary->logicalDotsPerInchY());
+  const QSizeF size = QSizeF(primary->size()) * primary->devicePixelRatio();
+  // The size was rounded to whole units of the desktop's; halves to even, as screens have even sides.
+  screen.width = static_cast<int>(std::nearbyint(size.width()));
+  screen.height = static_cast<int>(std::nearbyint(size.height()));
   return screen;
 }
 

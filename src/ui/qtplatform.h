@@ -9,6 +9,8 @@
 
 namespace veneerer {
 
+class ProgressWindow;
+
 class QtDialogs : public Dialogs {
 public:
   /// Which Skin is loaded: file dialogs open in its folder, or where a file within it was chosen last. To be
@@ -48,7 +50,8 @@ public:
 /// Further pairs of name and patterns become further filters.
 QString dialogFilter(const QString& filter);
 
-/// The primary screen, in device-independent pixels.
+/// The primary screen's size in device pixels, at 96 dots per logical inch whatever the desktop's scale is:
+/// the numbers in the files don't depend on the desktop.
 Screen primaryScreen();
 
 }  // namespace veneerer
