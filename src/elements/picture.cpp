@@ -1,69 +1,80 @@
 #include "elements/picture.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
 #include <QHash>
-#include <QImageReader>
+#include <atomic>
 #include <mutex>
+
+#include "elements/picturecache.h"
+#include "elements/pictureformat.h"
+#include "files/plainfile.h"
 
 namespace veneerer {
 
-namespace {
-
-// A stranger's picture may claim any size. This bound, in MiB of decoded pixels, leaves room for every screen
-// that a jukebox has and keeps the process alive.
-constexpr int kDecodeLimitMiB = 192;
-
-QImage decode(const QString& path) {
-  QImageReader::setAllocationLimit(kDecodeLimitMiB);
-  QImageReader reader(path);
-  reader.setDecideFormatFromContent(true);
-  QImage image = reader.read();
-  if (image.isNull()) return image;
-  // The raster engine's own formats paint fastest; converting once here spares it at every repaint.
-  return std::move(image).convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
-                                                                  : QImage::Format_RGB32);
-}
-
-enum class Format { None, Picture, Icon };
-
-// By the first bytes alone: decoding waits until the picture is seen.
-Format formatOf(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return Format::None;
-  const QByteArray head = file.read(8);
-  for (const QByteArray& icon : {QByteArray("\0\0\1\0", 4), QByteArray("\0\0\2\0", 4)})
-    if (head.startsWith(icon)) return Format::Icon;
-  for (const char* picture : {"BM", "\xFF\xD8\xFF", "GIF8", "\x89PNG"})
-    if (head.startsWith(picture)) return Format::Picture;
-  return Format::None;
-}
-
-}  // namespace
-
 class PictureFile {
 public:
-  PictureFile(QString path, bool isIcon) : path_(std::move(path)), isIcon_(isIcon) {}
-  explicit PictureFile(QImage image) : image_(std::move(image)) {
-    std::call_once(decoded_, [] {});
+  PictureFile(QString path, bool isIcon, std::shared_ptr<PictureCache> cache)
+      : path_(std::move(path)), isIcon_(isIcon), cache_(std::move(cache)) {}
+  explicit PictureFile(const QImage& image) : drawn_{image, image} {}
+  ~PictureFile() {
+    if (cache_) cache_->drop(this);
   }
+  PictureFile(const PictureFile&) = delete;
+  PictureFile& operator=(const PictureFile&) = delete;
 
   const QString& path() const { return path_; }
+  bool isIcon() const { return isIcon_; }
+  PictureCache* cache() const { return cache_.get(); }
 
-  const QImage& image() const {
-    std::call_once(decoded_, [this] { image_ = decode(path_); });
-    return image_;
+  /// What can be had without decoding: nothing for a picture that must be decoded first.
+  std::optional<DecodedPicture> atHand() const {
+    if (!cache_) return drawn_;
+    std::optional<DecodedPicture> kept = cache_->find(this);
+    return !kept && isBroken_ ? DecodedPicture() : kept;
   }
 
-  bool isIcon() const { return isIcon_; }
+  DecodedPicture decoded() const {
+    // One thread decodes, those that want the same picture wait for it.
+    const std::lock_guard lock(decoding_);
+    if (const std::optional<DecodedPicture> kept = atHand()) return *kept;
+    const DecodedPicture made = decodePicture(path_);
+    if (made.isNull())
+      isBroken_ = true;
+    else
+      cache_->keep(this, made);
+    return made;
+  }
 
 private:
   QString path_;
   bool isIcon_ = false;
-  mutable std::once_flag decoded_;
-  mutable QImage image_;
+  std::shared_ptr<PictureCache> cache_;  // null for a drawn picture
+  DecodedPicture drawn_;
+  mutable std::mutex decoding_;
+  mutable std::atomic<bool> isBroken_ = false;
 };
+
+namespace {
+
+DecodedPicture decodedOf(const std::shared_ptr<PictureFile>& file) {
+  if (!file) return {};
+  const std::optional<DecodedPicture> atHand = file->atHand();
+  return atHand ? *atHand : file->decoded();
+}
+
+DecodedPicture shownOf(const std::shared_ptr<PictureFile>& file) {
+  if (!file || !file->cache() || !file->cache()->fetch) return decodedOf(file);
+  if (const std::optional<DecodedPicture> atHand = file->atHand()) return *atHand;
+  file->cache()->fetch(Picture(file));
+  return file->atHand().value_or(DecodedPicture());
+}
+
+bool covers(QSize size, QSize other) {
+  return size.width() >= other.width() && size.height() >= other.height();
+}
+
+}  // namespace
 
 Picture Picture::drawn(const QImage& image) {
   return Picture(std::make_shared<PictureFile>(image));
@@ -81,22 +92,47 @@ bool Picture::isIcon() const {
   return file_ && !isDrawn() && file_->isIcon();
 }
 
-const QImage& Picture::image() const {
-  static const QImage none;
-  return file_ ? file_->image() : none;
+QImage Picture::image() const {
+  return decodedOf(file_).whole;
+}
+
+QImage Picture::shown() const {
+  return shownOf(file_).whole;
+}
+
+QImage Picture::shown(QSize devicePixels) const {
+  const DecodedPicture picture = shownOf(file_);
+  return covers(picture.reduced.size(), devicePixels) ? picture.reduced : picture.whole;
+}
+
+QImage Picture::thumbnail(QSize within) const {
+  if (!file_) return {};
+  const std::optional<DecodedPicture> atHand = file_->atHand();
+  if (!atHand) return decodeThumbnail(file_->path(), within);
+  const QImage& image = atHand->reduced;
+  if (image.isNull() || covers(within, image.size())) return image;
+  const QSize size = image.size().scaled(within, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+  return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 struct PictureStore::Entries {
+  explicit Entries(qint64 decodedBytes) : cache(std::make_shared<PictureCache>(decodedBytes)) {}
+
   struct Entry {
     qint64 modified = 0;  // milliseconds since the epoch
     qint64 size = 0;      // bytes
     std::weak_ptr<PictureFile> file;
   };
+  std::shared_ptr<PictureCache> cache;
   QHash<QString, Entry> byPath;
 };
 
-PictureStore::PictureStore() : entries_(std::make_unique<Entries>()) {}
-PictureStore::~PictureStore() = default;
+PictureStore::PictureStore() : PictureStore(kDecodedBytes) {}
+PictureStore::PictureStore(qint64 decodedBytes) : entries_(std::make_unique<Entries>(decodedBytes)) {}
+PictureStore::~PictureStore() {
+  // Pictures may outlive the store, but not who fetched them.
+  fetchWith({});
+}
 
 Picture PictureStore::load(const QString& path) {
   const QFileInfo info(path);
@@ -105,12 +141,20 @@ Picture PictureStore::load(const QString& path) {
   Entries::Entry& entry = entries_->byPath[path];
   std::shared_ptr<PictureFile> file = entry.file.lock();
   if (!file || entry.modified != modified || entry.size != info.size()) {
-    const Format format = formatOf(path);
-    if (format == Format::None) return {};
-    file = std::make_shared<PictureFile>(path, format == Format::Icon);
+    const PictureFormat format = formatOf(headOfFile(path, kPictureHead));
+    if (format == PictureFormat::None) return {};
+    file = std::make_shared<PictureFile>(path, format == PictureFormat::Icon, entries_->cache);
     entry = {modified, info.size(), file};
   }
   return Picture(file);
+}
+
+void PictureStore::fetchWith(std::function<void(const Picture&)> fetch) {
+  entries_->cache->fetch = std::move(fetch);
+}
+
+qint64 PictureStore::decodedBytes() const {
+  return entries_->cache->bytes();
 }
 
 }  // namespace veneerer

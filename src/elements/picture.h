@@ -1,13 +1,16 @@
 // What an element shows: a picture file or a picture drawn by the program. A Picture is a small value; the
-// file behind it is decoded at the first call of image(), once for all elements that show it.
+// file behind it is decoded when its pixels are asked for, once for all elements that show it. Decoded pixels
+// are kept within a budget, so those of a picture that wasn't seen for long may be decoded once more.
 #pragma once
 
 #include <QImage>
 #include <QString>
+#include <functional>
 #include <memory>
 
 namespace veneerer {
 
+class PictureCache;
 class PictureFile;
 
 class Picture {
@@ -29,9 +32,21 @@ public:
   /// True for a file that holds an icon or a cursor, which can't give a button its outline.
   bool isIcon() const;
 
-  /// The decoded picture; a null image when there is none or the file can't be decoded. Safe to call from
-  /// several threads.
-  const QImage& image() const;
+  /// The decoded picture; a null image when there is none or the file can't be decoded. Waits for the
+  /// decoding where it isn't at hand. Safe to call from several threads.
+  QImage image() const;
+
+  /// The same for painting: where the store has somebody who fetches pictures, one that isn't at hand in time
+  /// is a null image for now. Only for the thread that set the store up.
+  QImage shown() const;
+
+  /// As shown(), for scaling to that size in device pixels: of a very large picture a smaller copy, if it has
+  /// pixels enough.
+  QImage shown(QSize devicePixels) const;
+
+  /// The picture in the largest size of its proportions within that one, never larger than it is. What is
+  /// decoded for this alone isn't kept. Waits for the decoding; safe to call from several threads.
+  QImage thumbnail(QSize within) const;
 
   /// A number that differs between any two pictures alive at the same time; a key for caches.
   quintptr id() const { return reinterpret_cast<quintptr>(file_.get()); }
@@ -47,11 +62,21 @@ private:
 class PictureStore {
 public:
   PictureStore();
+  /// A budget of its own for the decoded pixels, bytes.
+  explicit PictureStore(qint64 decodedBytes);
   ~PictureStore();
 
   /// The picture of that file: a bitmap, JPEG, GIF, PNG or icon. Only its first bytes are read, it isn't
   /// decoded yet. A file that isn't there, or holds something else, gives a null Picture.
   Picture load(const QString& path);
+
+  /// From now on a picture that is to be shown and isn't at hand is asked of that function, which sees to it
+  /// that somebody calls image() on another thread and may wait a moment for it. A null function has them
+  /// decoded on the spot again.
+  void fetchWith(std::function<void(const Picture&)> fetch);
+
+  /// What the decoded pictures take now, bytes.
+  qint64 decodedBytes() const;
 
 private:
   struct Entries;

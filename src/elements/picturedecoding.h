@@ -1,0 +1,50 @@
+// From the bytes of a picture file to its pixels. A stranger's picture may claim any size and cost any time;
+// what is beyond the bounds here can't be decoded.
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+namespace veneerer {
+
+/// The most pixels that a picture file may hold: room for every screen that a jukebox has.
+inline constexpr qint64 kMostPicturePixels = 48LL * 1024 * 1024;
+
+/// The most bytes of a picture file: a bitmap of the most pixels, 4 bytes each, and its head.
+inline constexpr qint64 kMostPictureBytes = 4 * kMostPicturePixels + 1024 * 1024;
+
+/// The most scans of a JPEG file.
+inline constexpr int kMostJpegScans = 100;
+
+/// Pixels above this are walked too slowly to be scaled again and again: so much of a larger picture is kept
+/// beside it, ready for scaling.
+inline constexpr qint64 kMostScaledPixels = 4LL * 1024 * 1024;
+
+qint64 pixelsOf(QSize size);
+
+/// A picture as it is kept for painting.
+struct DecodedPicture {
+  QImage whole;    ///< null for a picture that can't be decoded
+  QImage reduced;  ///< the same within kMostScaledPixels, its proportions kept; whole itself if that is
+
+  bool isNull() const { return whole.isNull(); }
+  qint64 bytes() const;
+};
+
+/// The picture of that file in a format that paints fast.
+DecodedPicture decodePicture(const QString& path);
+
+/// The same in the largest size of its proportions within that one, never larger than it is.
+QImage decodeThumbnail(const QString& path, QSize within);
+
+/// How large the picture of a file is and what decoding it costs, from what can be told without doing it.
+struct PictureCost {
+  bool canBeDecoded = false;  ///< false for what is beyond the bounds, or no picture
+  QSize size;         ///< pixels; as the file's head tells, so the pixels themselves may yet be damaged
+  qint64 walked = 0;  ///< pixels that a decoder walks: of a JPEG each scan counts
+};
+PictureCost costOfPicture(const QString& path);
+
+}  // namespace veneerer
