@@ -40,8 +40,9 @@ SkinFolder CoverLayouts::folder() const {
 }
 
 void CoverLayouts::load(const QString& path) {
-  if (!QFileInfo(path).isFile()) return;
-  const QByteArray bytes = recordFileBytes(path);
+  const std::optional<QByteArray> file = recordFileIfThere(path);
+  if (!file) return;
+  const QByteArray& bytes = *file;
   const SkinFolder skin = folder();
   Loading loading{state_, skin, platform_.screen};
   const Layout layout = coverFile(state_, QFileInfo(path).fileName(), lastCoverOf(bytes));

@@ -1,9 +1,9 @@
 #include "records/layoutreader.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include "elements/printable.h"
+#include "files/plainfile.h"
 #include "records/fieldvalue.h"
 #include "records/linewalk.h"
 #include "records/recorderror.h"
@@ -11,9 +11,6 @@
 namespace veneerer {
 
 namespace {
-
-/// Far more than any record file has; a stranger's may be endless.
-constexpr qint64 kMostBytes = 16 * 1024 * 1024;
 
 QString elementOf(const Row& row) {
   if (const Field* field = row.field()) return field->into.element->key();
@@ -133,21 +130,24 @@ QString readRecords(const Layout& layout, const QByteArray& bytes, Loading& load
   return {};
 }
 
+std::optional<QByteArray> recordFileIfThere(const QString& path) {
+  const QFileInfo info(path);
+  const FileContent file = readFileInside(info.path(), path, kMostRecordBytes);
+  if (file.outcome == FileContent::Outcome::Refused)
+    throw RecordError(info.fileName(), 0, {}, {}, file.reason);
+  return file.isRead() ? std::optional(file.bytes) : std::nullopt;
+}
+
 QByteArray recordFileBytes(const QString& path) {
-  QFile file(path);
-  const auto fail = [&](const QString& what) {
-    throw RecordError(QFileInfo(path).fileName(), 0, {}, {}, what);
-  };
-  if (!file.open(QIODevice::ReadOnly)) fail(QStringLiteral("the file can't be read: ") + file.errorString());
-  if (file.size() > kMostBytes) fail(QStringLiteral("the file is too large for a record file"));
-  return file.readAll();
+  if (const std::optional<QByteArray> bytes = recordFileIfThere(path)) return *bytes;
+  throw RecordError(QFileInfo(path).fileName(), 0, {}, {}, QStringLiteral("the file isn't there"));
 }
 
 QString readRecordFile(const Layout& layout, const QString& path, Loading& loading) {
-  // Only a plain file is a record file: a pipe or a device under its name could hang the program.
-  if (layout.isEmpty() || !QFileInfo(path).isFile()) return {};
+  if (layout.isEmpty()) return {};
   try {
-    return readRecords(layout, recordFileBytes(path), loading);
+    const std::optional<QByteArray> bytes = recordFileIfThere(path);
+    return bytes ? readRecords(layout, *bytes, loading) : QString();
   } catch (const RecordError&) {
     if (layout.onFailure() == OnFailure::Report) return layout.failureMessage();
     // Under Resume no value fails the walk, so it was the file: each of its values counts as failed.

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <optional>
 
 #include "records/layout.h"
 
@@ -22,7 +23,15 @@ QString readRecords(const Layout& layout, const QByteArray& bytes, Loading& load
 /// the file isn't even opened.
 QString readRecordFile(const Layout& layout, const QString& path, Loading& loading);
 
-/// The whole file. Raises RecordError when it can't be read or is larger than 16 MiB.
+/// Far more than any record file has; a stranger's may be endless.
+inline constexpr qint64 kMostRecordBytes = 16LL * 1024 * 1024;
+
+/// The whole record or cover file of that path; nothing when there is none of that name. Raises RecordError
+/// when it can't be read, is no plain file, is larger than kMostRecordBytes, or is a link that leads out of
+/// the folder that it stands in.
+std::optional<QByteArray> recordFileIfThere(const QString& path);
+
+/// The same; raises RecordError when it isn't there, too.
 QByteArray recordFileBytes(const QString& path);
 
 }  // namespace veneerer

@@ -1,5 +1,6 @@
 // Files read into elements: optional tails, failures with their place, and the rules of images.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
@@ -9,6 +10,7 @@
 #include "records/layoutwriter.h"
 #include "records/recorderror.h"
 #include "records/recordfiles.h"
+#include "support/pictures.h"
 
 namespace veneerer {
 namespace {
@@ -163,6 +165,37 @@ TEST_F(Reading, SomeLoadersGoOnAfterAFailure) {
   EXPECT_EQ(state.form1.Picture18->height(), 4);
   EXPECT_EQ(read(optionsFile, "only\r\n").toStdString(), "Options screen load error");
   read(skinFile, "a\r\nb\r\n");
+}
+
+TEST_F(Reading, WhatIsNoPlainFileOfTheSkinIsRefusedUnread) {
+  const QString skin = root.path() + QStringLiteral("/Skins/S");
+  const SkinFolder folder(skin);
+  const Screen screen;
+  Loading loading{state, folder, screen};
+  const auto refusal = [&](const Layout& layout) {
+    try {
+      readRecordFile(layout, folder.file(layout.fileName()), loading);
+    } catch (const RecordError& error) {
+      return error.message().toStdString();
+    }
+    return std::string();
+  };
+  EXPECT_EQ(refusal(menuFile(state)), "") << "a file that isn't there changes nothing";
+  test::writeBytes(root.filePath(QStringLiteral("secret")), "secret text\r\n");
+  QFile::link(root.filePath(QStringLiteral("secret")), folder.file(QStringLiteral("menu.ini")));
+  EXPECT_EQ(refusal(menuFile(state)), "menu.ini: the file lies outside the Skin's folder");
+  ASSERT_EQ(::mkfifo(QFile::encodeName(folder.file(QStringLiteral("nav.ini"))).constData(), 0600), 0);
+  EXPECT_EQ(refusal(navFile(state)), "nav.ini: there is something under this name that is no file");
+  QFile large(folder.file(QStringLiteral("main.ini")));
+  ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(kMostRecordBytes + 1));
+  EXPECT_EQ(refusal(mainFile(state)), "main.ini: the file is too large");
+
+  // Each by its own policy, as after a failure of its values.
+  QDir(skin).mkpath(QStringLiteral("options.ini"));
+  EXPECT_EQ(readRecordFile(optionsFile(state), folder.file(QStringLiteral("options.ini")), loading),
+            u"Options screen load error");
+  QFile::link(QStringLiteral("/dev/zero"), folder.file(QStringLiteral("progress.ini")));
+  EXPECT_EQ(refusal(progressFile(state)), "");
 }
 
 TEST_F(Reading, CaptionsThatLookLikeNumbersComeBackPlain) {
