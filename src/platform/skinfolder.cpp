@@ -5,6 +5,16 @@
 
 namespace veneerer {
 
+namespace {
+
+// Character by character, as a comparison without regard to case does it.
+QString folded(QString name) {
+  for (QChar& c : name) c = c.toCaseFolded();
+  return name;
+}
+
+}  // namespace
+
 SkinsRoot::SkinsRoot(const ProgramFolder& program) : path_(program.skinsRoot) {
   if (!path_.isEmpty()) return;
   const QString first = program.path + QStringLiteral("/Skins");
@@ -28,7 +38,8 @@ QString SkinFolder::file(const QString& name) const {
 }
 
 QString SkinFolder::resolve(const QString& reference) const {
-  if (reference.isEmpty() || reference.contains(QChar::Null)) return {};
+  if (reference.isEmpty() || reference.size() > kLongestReference || reference.contains(QChar::Null))
+    return {};
   QString plain = reference;
   plain.replace(u'\\', u'/');
   const QString exact = path_ + plain;
@@ -39,26 +50,36 @@ QString SkinFolder::resolve(const QString& reference) const {
 QString SkinFolder::findIgnoringCase(const QStringList& parts) const {
   QString found = path_;
   for (const QString& part : parts) {
-    const QString exact = found + u'/' + part;
-    if (part == u".." || part == u"." || QFileInfo::exists(exact)) {
-      found = exact;
+    if (part == u".") continue;
+    if (part == u"..") {
+      found = above(found);
       continue;
     }
-    const QStringList& names = listing(found);
-    const auto same = std::find_if(names.begin(), names.end(), [&](const QString& name) {
-      return name.compare(part, Qt::CaseInsensitive) == 0;
-    });
-    if (same == names.end()) return {};
-    found += u'/' + *same;
+    const QString exact = found + u'/' + part;
+    const QString name = QFileInfo::exists(exact) ? part : listing(found).value(folded(part));
+    if (name.isEmpty()) return {};
+    found += u'/' + name;
   }
   return QFileInfo(found).isFile() ? found : QString();
 }
 
-const QStringList& SkinFolder::listing(const QString& folder) const {
+// A way down and up again leaves nothing in the path: a reference may go it a thousand times. Where a link
+// leads elsewhere, the system finds the way back.
+QString SkinFolder::above(const QString& folder) const {
+  const QFileInfo info(folder);
+  const bool isWayBack =
+      folder.size() > path_.size() && !folder.endsWith(u"/..") && info.isDir() && !info.isSymLink();
+  return isWayBack ? folder.left(folder.lastIndexOf(u'/')) : folder + QStringLiteral("/..");
+}
+
+const SkinFolder::Names& SkinFolder::listing(const QString& folder) const {
   const auto known = listings_.constFind(folder);
   if (known != listings_.constEnd()) return *known;
-  return *listings_.insert(folder,
-                           QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+  Names names;
+  const QStringList found = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+  // Of names that differ in case alone the first one stays.
+  for (auto name = found.rbegin(); name != found.rend(); ++name) names.insert(folded(*name), *name);
+  return *listings_.insert(folder, names);
 }
 
 bool SkinFolder::contains(const QString& path) const {

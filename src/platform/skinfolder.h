@@ -24,6 +24,9 @@ private:
   QString path_;
 };
 
+/// The longest image reference, characters: no path on any system is longer.
+inline constexpr int kLongestReference = 4096;
+
 /// One Skin's folder. Cheap to make; it remembers folder listings for as long as it lives, so make a new one
 /// for each load or command.
 class SkinFolder {
@@ -39,8 +42,8 @@ public:
   QString file(const QString& name) const;
 
   /// The plain file that an image reference ("\images\menu.bmp") leads to: the exact spelling first, then
-  /// without regard to case. Both kinds of slash separate. Empty when there is no such plain file. A
-  /// reference may lead out of the folder.
+  /// without regard to case. Both kinds of slash separate. Empty when there is no such plain file
+  /// or the reference is longer than kLongestReference. A reference may lead out of the folder.
   QString resolve(const QString& reference) const;
 
   /// True when the path, links resolved, lies inside this folder: only such a file may be deleted or
@@ -55,10 +58,13 @@ public:
   QStringList coverFiles() const;
 
 private:
-  QString path_;
-  mutable QHash<QString, QStringList> listings_;
+  using Names = QHash<QString, QString>;  ///< by their folded case
 
-  const QStringList& listing(const QString& folder) const;
+  QString path_;
+  mutable QHash<QString, Names> listings_;
+
+  const Names& listing(const QString& folder) const;
+  QString above(const QString& folder) const;
   QString findIgnoringCase(const QStringList& parts) const;
 };
 

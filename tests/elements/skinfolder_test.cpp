@@ -47,6 +47,25 @@ TEST_F(SkinFolderTest, OnlyAPlainFileIsFound) {
   EXPECT_EQ(blue().resolve(QString::fromLatin1("\\images\\Menu.bmp\0x", 18)), QString());
 }
 
+TEST_F(SkinFolderTest, AnEndlessReferenceLeadsNowhere) {
+  const QString name = QStringLiteral("\\images\\Menu.bmp");
+  for (const char* detour : {"\\.", "\\IMAGES\\.."}) {
+    const QString way = QString::fromLatin1(detour);
+    const qsizetype most = (kLongestReference - name.size()) / way.size();
+    EXPECT_EQ(QDir::cleanPath(blue().resolve(way.repeated(most) + name)), at("Skins/Blue/images/Menu.bmp"))
+        << detour;
+    EXPECT_EQ(blue().resolve(way.repeated(most + 1) + name), QString()) << detour;
+  }
+}
+
+TEST_F(SkinFolderTest, AWayBackLeadsWhereTheSystemLeads) {
+  QDir().mkpath(at("elsewhere/inner"));
+  test::writeBytes(at("elsewhere/a.bmp"), "x");
+  QFile::link(at("elsewhere/inner"), at("Skins/Blue/link"));
+  EXPECT_EQ(QFileInfo(resolve("\\Link\\..\\A.bmp")).canonicalFilePath(), at("elsewhere/a.bmp"));
+  EXPECT_EQ(resolve("\\MENU.INI\\..\\images\\menu.bmp"), QString()) << "a file has no way back";
+}
+
 TEST_F(SkinFolderTest, AReferenceMayLeadOutOfTheFolder) {
   EXPECT_EQ(QDir::cleanPath(resolve("\\..\\..\\outside.bmp")), at("outside.bmp"));
   EXPECT_FALSE(blue().contains(resolve("\\..\\..\\outside.bmp")));
