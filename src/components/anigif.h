@@ -16,6 +16,12 @@ class QMovie;
 
 namespace veneerer {
 
+/// The most that an animation may have and still be played; of a larger one the first frame stands still.
+/// Every frame is decoded while the operator waits.
+inline constexpr qint64 kMostPlayedPixels = 2LL * 1024 * 1024;    ///< of a frame
+inline constexpr qint64 kMostPlayedBytes = 4LL * 1024 * 1024;     ///< of the file
+inline constexpr qint64 kMostPlayedTogether = 4LL * 1024 * 1024;  ///< pixels of all that play at one time
+
 class ucAniGIF {
 public:
   /// Told which element shows another frame than before.
@@ -41,10 +47,11 @@ private:
   Repaint repaint_;
   int subscription_;
   QTimer pending_;
-  std::vector<AnimatedFrame*> elements_;
+  std::vector<const AnimatedFrame*> elements_;
   QHash<quintptr, std::shared_ptr<Playing>> playing_;  // by the picture's id
 
   std::shared_ptr<Playing> play(const Picture& picture);
+  qint64 playedPixels() const;
   void tell(const Playing& playing) const;
 };
 

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QFile>
 #include <QPainter>
 #include <QTemporaryDir>
 
@@ -10,6 +9,8 @@
 #include "components/cimage.h"
 #include "components/cjpeg.h"
 #include "forms/form1.h"
+#include "support/hostilepictures.h"
+#include "support/pictures.h"
 
 namespace veneerer {
 namespace {
@@ -119,26 +120,18 @@ TEST(Jpeg, FailuresAreValues) {
   EXPECT_TRUE(tooWide.bytes.isEmpty());
 }
 
-// Two frames of one pixel, red and blue, 20 ms each, repeated for ever.
-QByteArray blinkingGif() {
-  const QByteArray control("\x21\xF9\x04\x00\x02\x00\x00\x00", 8);
-  const QByteArray descriptor("\x2C\x00\x00\x00\x00\x01\x00\x01\x00\x00", 10);
-  return QByteArray("GIF89a\x01\x00\x01\x00\x80\x00\x00\xFF\x00\x00\x00\x00\xFF", 19) +
-         QByteArray("\x21\xFF\x0BNETSCAPE2.0\x03\x01\x00\x00\x00", 19) + control + descriptor +
-         QByteArray("\x02\x02\x44\x01\x00", 5) + control + descriptor +
-         QByteArray("\x02\x02\x4C\x01\x00", 5) + ';';
-}
-
 class Animation : public testing::Test {
 protected:
   Animation() {
-    const QString path = folder.filePath(QStringLiteral("frame.gif"));
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly)) file.write(blinkingGif());
-    file.close();
     form.Picture2[3].setContainer(form);
     form.ucAniGIF1[0].setContainer(form.Picture2[3]);
-    form.ucAniGIF1[0].setPicture(pictures.load(path));
+    form.ucAniGIF1[0].setPicture(picture("frame.gif", test::blinkingGif()));
+  }
+
+  Picture picture(const char* name, const QByteArray& bytes) {
+    const QString path = folder.filePath(QString::fromLatin1(name));
+    test::writeBytes(path, bytes);
+    return pictures.load(path);
   }
 
   template <class Condition>
@@ -180,16 +173,50 @@ TEST_F(Animation, PicturesThatDoNotMoveAreLeftAlone) {
   const QString still = folder.filePath(QStringLiteral("still.bmp"));
   gradient(QSize(4, 4)).save(still);
   form.ucAniGIF1[1].setPicture(pictures.load(still));
-  const QString broken = folder.filePath(QStringLiteral("broken.gif"));
-  QFile file(broken);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(blinkingGif().left(30));
-  file.close();
   form.ucAniGIF1[2].setContainer(form);
-  form.ucAniGIF1[2].setPicture(pictures.load(broken));
+  form.ucAniGIF1[2].setPicture(picture("broken.gif", test::blinkingGif().left(30)));
   ucAniGIF player(form, [](const Element&) {});
   QCoreApplication::processEvents();
   for (int i = 0; i < 3; ++i) EXPECT_TRUE(player.frame(form.ucAniGIF1[i]).isNull()) << i;
+}
+
+TEST_F(Animation, WhatIsTooLargeToBePlayedStandsStill) {
+  const auto show = [&](int index, const char* name, const QByteArray& bytes) {
+    form.ucAniGIF1[index].setContainer(form);
+    form.ucAniGIF1[index].setPicture(picture(name, bytes));
+  };
+  show(1, "wide.gif", test::blinkingGif(2000, 1048));
+  show(2, "wider.gif", test::blinkingGif(2000, 1049));
+  // The blocks of a comment, which each frame's decoding walks over.
+  QByteArray comment("\x21\xFE", 2);
+  for (qint64 i = 0; i <= kMostPlayedBytes / 256; ++i) comment += '\xFF' + QByteArray(255, ' ');
+  QByteArray heavy = test::blinkingGif();
+  heavy.insert(heavy.size() - 1, comment + '\0');
+  show(3, "heavy.gif", heavy);
+  ucAniGIF player(form, [](const Element&) {});
+  const auto plays = [&](int index) { return !player.frame(form.ucAniGIF1[index]).isNull(); };
+  EXPECT_TRUE(plays(0) && plays(1));
+  EXPECT_FALSE(plays(2) || plays(3));
+  EXPECT_EQ(form.ucAniGIF1[2].picture().image().size(), QSize(2000, 1049)) << "its first frame shows";
+}
+
+TEST_F(Animation, WhatPlaysAtOneTimeIsBoundedToo) {
+  for (int i = 1; i <= 4; ++i) {
+    form.ucAniGIF1[i].setContainer(form);
+    const QByteArray name = QByteArray::number(i) + ".gif";
+    form.ucAniGIF1[i].setPicture(picture(name.constData(), test::blinkingGif(2000, 1000)));
+  }
+  ucAniGIF player(form, [](const Element&) {});
+  const auto playing = [&] {
+    QList<int> indices;
+    for (int i = 0; i <= 4; ++i)
+      if (!player.frame(form.ucAniGIF1[i]).isNull()) indices.append(i);
+    return indices;
+  };
+  EXPECT_EQ(playing(), (QList<int>{0, 1, 2}));
+  form.ucAniGIF1[1].setVisible(false);
+  form.ucAniGIF1[3].setPicture(picture("5.gif", test::blinkingGif(2000, 1000)));
+  EXPECT_TRUE(waitFor([&] { return playing() == QList<int>{0, 2, 3}; })) << "what goes makes room";
 }
 
 }  // namespace
