@@ -1,7 +1,5 @@
 #include "skintool/filecheck.h"
 
-#include <QFileInfo>
-
 #include "records/layoutreader.h"
 #include "records/recorderror.h"
 #include "skintool/referencedamage.h"
@@ -35,11 +33,12 @@ Findings checkFile(State& state, const SkinFolder& folder, const Screen& screen,
   const auto warn = [&](int line, const QString& text) {
     if (!text.isEmpty()) findings.append({FindingKind::Warning, name, line, text});
   };
-  if (!QFileInfo(folder.file(name)).isFile()) return {};
   Loading loading{state, folder, screen};
   QByteArray bytes;
   try {
-    bytes = recordFileBytes(folder.file(name));
+    const std::optional<QByteArray> content = recordFileIfThere(folder.file(name));
+    if (!content) return {};
+    bytes = *content;
     const int lines = lineCount(bytes);
     if (lines > layout.lineCount()) warn(0, counted("has %1 lines where the format has %2", lines, layout));
     readRecords(layout, bytes, loading, Failures::AllFatal);
