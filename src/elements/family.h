@@ -1,5 +1,6 @@
 // A family: one control, or an array of controls addressed by index, under one name. The names are those of
-// the record format; they are the identity of each field.
+// the record format; they are the identity of each field. Whoever has a window as const reads its elements by
+// their names and changes none.
 #pragma once
 
 #include <QString>
@@ -49,8 +50,10 @@ public:
     element_ = element.get();
     add(std::move(element), 0);
   }
-  T& operator*() const { return *element_; }
-  T* operator->() const { return element_; }
+  T& operator*() { return *element_; }
+  const T& operator*() const { return *element_; }
+  T* operator->() { return element_; }
+  const T* operator->() const { return element_; }
 
 private:
   T* element_;
@@ -68,8 +71,12 @@ public:
       : Family(window, QString::fromLatin1(name), true) {
     for (int i : indices) add(std::make_unique<T>(window, this, i), i);
   }
-  /// The member must exist.
-  T& operator[](int index) const {
+  // The member must exist.
+  T& operator[](int index) { return member(index); }
+  const T& operator[](int index) const { return member(index); }
+
+private:
+  T& member(int index) const {
     Element* element = find(index);
     require(element != nullptr, "the array has no such member");
     return static_cast<T&>(*element);

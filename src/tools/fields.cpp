@@ -17,7 +17,7 @@ void applyRow(State& state, const ComboBox& list, ToolField field, Property prop
   if (element && list.listIndex() >= 0) element->set(property, list.listIndex());
 }
 
-void alignCovers(const Array<Label>& captions, int clicked, int lastCover, int alignment) {
+void alignCovers(Array<Label>& captions, int clicked, int lastCover, int alignment) {
   const int first = clicked < kFeaturedCover ? 0 : kFeaturedCover;
   const int last = clicked < kFeaturedCover ? lastCover : kFeaturedCover;
   for (int i = first; i <= last && captions.find(i); ++i) captions[i].setAlignment(alignment);
@@ -54,7 +54,7 @@ void applyAlignment(State& state) {
   if (section != kArtistCaptions && section != kAlbumCaptions) {
     applyRow(state, *state.form6.Combo5, ToolField::Alignment, Property::Alignment);
   } else if (row >= 0) {
-    const auto& captions = section == kArtistCaptions ? state.form1.Label9 : state.form1.Label10;
+    auto& captions = section == kArtistCaptions ? state.form1.Label9 : state.form1.Label10;
     alignCovers(captions, state.globals.ElementIndex, state.globals.LastCoverIndex, row);
   }
 }

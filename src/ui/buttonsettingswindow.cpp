@@ -7,7 +7,7 @@ namespace veneerer {
 namespace {
 
 // A frame of check boxes, the members first to last of one family, read down its columns.
-QGroupBox* boxesFrame(const Ui& ui, const QString& title, const Array<CheckBox>& boxes, int first, int last,
+QGroupBox* boxesFrame(const Ui& ui, const QString& title, Array<CheckBox>& boxes, int first, int last,
                       int columns = 1) {
   auto* grid = compact(new QGridLayout);
   const int rows = (last - first + columns) / columns;
