@@ -79,9 +79,13 @@ void Layout::colours(Element& element) {
   field(ValueKind::Long, element, Property::ForeColor);
 }
 
+void Layout::colouredPlace(Element& element) {
+  colours(element);
+  placeQuad(element);
+}
+
 void Layout::labelRecord(Label& label) {
-  colours(label);
-  placeQuad(label);
+  colouredPlace(label);
   field(ValueKind::Text, label, Property::FontName);
   field(ValueKind::FontSize, label, Property::FontSize);
 }
@@ -136,6 +140,10 @@ void Layout::images(Array<Button>& array, int first, int last, Quad quad) {
     (this->*quad)(button);
     buttonImage(button);
   });
+}
+
+void Layout::colouredPlaces(Array<PictureBox>& array, int first, int last) {
+  each(array, first, last, [this](PictureBox& box) { colouredPlace(box); });
 }
 
 void Layout::labels(Array<Label>& array, int first, int last) {

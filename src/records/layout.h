@@ -58,7 +58,9 @@ public:
   void placeQuad(Element& element);
   /// BackColor, ForeColor.
   void colours(Element& element);
-  /// BackColor, ForeColor, Top, Left, Height, Width, font name, font size.
+  /// colours and placeQuad.
+  void colouredPlace(Element& element);
+  /// colouredPlace, font name, font size.
   void labelRecord(Label& label);
   void alignment(Label& label) { field(ValueKind::Integer, label, Property::Alignment); }
   void listIndex(RowList& list) { field(ValueKind::Integer, list, Property::ListIndex); }
@@ -101,6 +103,7 @@ public:
   void places(Array<T>& array, int first, int last) {
     each(array, first, last, [this](T& member) { placeQuad(member); });
   }
+  void colouredPlaces(Array<PictureBox>& array, int first, int last);
 
   // Marks on what has been added since from (see size()).
   /// Those of these properties are applied only when greater than -1.

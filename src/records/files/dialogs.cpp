@@ -14,8 +14,7 @@ Layout optionsFile(State& state) {
   file.placedButton(*form1.lvButtons_H31);
   file.placedButton(*form1.lvButtons_H32);
   file.placedButton(*form1.lvButtons_H33);
-  file.colours(*form1.Picture9);
-  file.placeQuad(*form1.Picture9);
+  file.colouredPlace(*form1.Picture9);
   file.labelRecord(*form1.Label29);
   file.placedButtons(form1.lvButtons_H30, 9, 11);
   file.optionalFromHere();
@@ -33,8 +32,7 @@ Layout optionsV2File(State& state) {
   file.placeQuad(*form1.lvButtons_H32);
   file.buttonImage(*form1.lvButtons_H32);
   file.placedButton(*form1.lvButtons_H33);
-  file.colours(*form1.Picture9);
-  file.placeQuad(*form1.Picture9);
+  file.colouredPlace(*form1.Picture9);
   file.labelRecord(*form1.Label29);
   return file;
 }

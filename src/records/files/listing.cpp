@@ -11,10 +11,7 @@ Layout nowPlayingFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "now_playing.ini");
   std::size_t from = file.size();
-  file.each(form1.Picture3, 0, 3, [&](PictureBox& picture) {
-    file.colours(picture);
-    file.placeQuad(picture);
-  });
+  file.colouredPlaces(form1.Picture3, 0, 3);
   file.applyAboveMinusOneOnly(from, {Property::Top, Property::Left});
   from = file.size();
   file.labels(form1.Label7, 0, 2);
@@ -43,10 +40,7 @@ Layout top20File(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "top20.ini");
   file.placedButtons(form1.lvButtons_H13, 0, 1);
-  file.each(form1.Picture11, 0, 9, [&](PictureBox& row) {
-    file.colours(row);
-    file.placeQuad(row);
-  });
+  file.colouredPlaces(form1.Picture11, 0, 9);
   file.labels(form1.Label8, 0, 9);
   file.placedButton(*form1.lvButtons_H19);
   file.placedButtons(form1.lvButtons_H29, 0, 2);
@@ -66,10 +60,7 @@ Layout historyFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "history.ini");
   file.placedButtons(form1.lvButtons_H24, 0, 4, "History Buttons ");
-  file.each(form1.Picture5, 0, 8, [&](PictureBox& row) {
-    file.colours(row);
-    file.placeQuad(row);
-  });
+  file.colouredPlaces(form1.Picture5, 0, 8);
   file.labels(form1.Label11, 0, 8);
   file.labelRecord(*form1.Label12);
   file.optionalFromHere();

@@ -35,8 +35,7 @@ namespace {
 void slider(Layout& file, Form1& form1, int i) {
   file.block();
   file.literal("Slider Config");
-  file.colours(form1.Picture13[i]);
-  file.placeQuad(form1.Picture13[i]);
+  file.colouredPlace(form1.Picture13[i]);
   file.buttonRecord(form1.lvButtons_H5[i]);
   file.geometryQuad(form1.lvButtons_H5[i]);
   file.buttonImage(form1.lvButtons_H5[i]);

@@ -13,8 +13,7 @@ Layout searchFile(State& state) {
   file.placedButtons(form1.lvButtons_H7, 0, 3);
   file.placedButton(*form1.lvButtons_H9);
   const std::size_t from = file.size();
-  file.colours(*form1.Label32);
-  file.placeQuad(*form1.Label32);
+  file.colouredPlace(*form1.Label32);
   file.applyAboveMinusOneOnly(from, {Property::Top, Property::Left});
   file.labels(form1.Label19, 0, 3);
   file.placedButtons(form1.lvButtons_H36, 0, 9, "search Buttons ");
@@ -42,10 +41,7 @@ Layout searchResultsFile(State& state) {
   file.placedButtons(form1.lvButtons_H26, 0, 4, "search Results Buttons ");
   file.placedButtons(form1.lvButtons_H28, 0, 1, "search Results Buttons ");
   file.placedButton(*form1.lvButtons_H27, "search Results Buttons ");
-  file.each(form1.Picture7, 0, 6, [&](PictureBox& row) {
-    file.colours(row);
-    file.placeQuad(row);
-  });
+  file.colouredPlaces(form1.Picture7, 0, 6);
   file.optionalFromHere();
   for (int i = 2; i <= 4; ++i) {
     file.placedButton(form1.lvButtons_H28[i], "search Results Buttons ");
@@ -67,10 +63,7 @@ Layout searchResultsV2File(State& state) {
   file.placeImages(form1.lvButtons_H28, 0, 4);
   file.placeImages(form1.lvButtons_H26, 0, 1);
   file.placedButton(*form1.lvButtons_H27, "search Results Buttons ");
-  file.each(form1.Picture7, 0, 6, [&](PictureBox& row) {
-    file.colours(row);
-    file.placeQuad(row);
-  });
+  file.colouredPlaces(form1.Picture7, 0, 6);
   return file;
 }
 
