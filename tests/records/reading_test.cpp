@@ -33,11 +33,14 @@ protected:
     lines[line - 1] = text + '\r';
     return lines.join('\n');
   }
-  QString read(Layout (*make)(State&), const QByteArray& bytes) {
+  QString read(Layout (*make)(State&), const QByteArray& bytes) { return read(make(state), bytes); }
+  QString read(const Layout& layout, const QByteArray& bytes) {
     const SkinFolder folder(ProgramFolder{root.path()}, QStringLiteral("S"));
     const Screen screen;
     Loading loading{state, folder, screen};
-    return readRecords(make(state), bytes, loading);
+    const QString message = readRecords(layout, bytes, loading);
+    rowLines = loading.lines;
+    return message;
   }
   std::string failure(Layout (*make)(State&), const QByteArray& bytes) {
     try {
@@ -50,6 +53,7 @@ protected:
 
   QTemporaryDir root;
   State state;
+  std::vector<int> rowLines;  ///< of the rows of the file that was read last
 };
 
 TEST_F(Reading, ErrorsNameFileLineElementAndField) {
@@ -64,8 +68,15 @@ TEST_F(Reading, ErrorsNameFileLineElementAndField) {
   EXPECT_NE(failure(menuFile, composed(menuFile)), "");
   EXPECT_NE(failure(playerFile, withLine(composed(playerFile), 1, " 7 ")).find("the list has no row 7"),
             std::string::npos);
-  EXPECT_NE(failure(intelliFile, withLine(composed(intelliFile), 9, " 3 ")), "");
+  EXPECT_NE(failure(fontFile, "99999999999\r\n 0 \r\n").find("out of the field's range"), std::string::npos);
+  EXPECT_EQ(failure(intelliFile, withLine(composed(intelliFile), 9, " 3 ")),
+            "intelli.ini:9: Form1.Label52 Alignment: an alignment is 0, 1 or 2, not 3");
+  EXPECT_EQ(failure(lockedButtonFile, withLine(composed(lockedButtonFile), 36, "-1 ")),
+            "locked_button.ini:36: Form2.Check3(5) Value: a check box takes 0, 1 or 2, not -1");
   EXPECT_NE(failure(lockedButtonFile, withLine(composed(lockedButtonFile), 36, "#NULL#")), "");
+  EXPECT_EQ(failure(menuFile, "INI Version\r\n"), "menu.ini:2: version: the file ends where a value is due");
+  EXPECT_EQ(failure(filterFile, ""), "filter.ini:1: image reference: the file ends where a value is due");
+  EXPECT_EQ(failure(genreBarFile, ""), "genre_bar.ini:1: label line: the file ends where a value is due");
 }
 
 TEST_F(Reading, ErrorsQuoteAValueAsItStandsAndNoMoreOfIt) {
@@ -123,6 +134,8 @@ TEST_F(Reading, AnOlderMenuKeepsThePlacesOfTheDesign) {
   EXPECT_EQ(first.left(), 100);
   EXPECT_EQ(first.height(), 0) << "the size is in the older file too";
   EXPECT_EQ(state.form1.Picture2[0].height(), 77);
+  EXPECT_EQ(rowLines.size(), 121u) << "the five later buttons were left out";
+  EXPECT_EQ((std::vector<int>(rowLines.begin(), rowLines.begin() + 5)), (std::vector<int>{1, 2, 0, 0, 3}));
   EXPECT_TRUE(composed(menuFile).startsWith("INI Version\r\n 2 \r\n"));
 }
 
@@ -196,6 +209,27 @@ TEST_F(Reading, WhatIsNoPlainFileOfTheSkinIsRefusedUnread) {
             u"Options screen load error");
   QFile::link(QStringLiteral("/dev/zero"), folder.file(QStringLiteral("progress.ini")));
   EXPECT_EQ(refusal(progressFile(state)), "");
+}
+
+TEST_F(Reading, WhatACounterKeepsAndAWholeIsScaledByGoWithTheLayout) {
+  int count = 4;
+  float scale = 2;
+  Layout file(state, "any.cov");
+  file.counter(count, "Count", toLastCoverIndex);
+  file.field(ValueKind::Whole, state.form1.Image2[0], Property::Left);
+  file.scaleWholes(1, scale);
+  file.field(ValueKind::Whole, state.form1.Image2[0], Property::Top);
+  read(file, " 7 \r\n 10.5 \r\n 10.5 \r\n");
+  EXPECT_EQ(count, 7);
+  EXPECT_EQ(state.form1.Image2[0].left(), 21);
+  EXPECT_EQ(state.form1.Image2[0].top(), 10.5f) << "it was added after the mark";
+  EXPECT_EQ(composeRecords(file), " 7 \r\n 21 \r\n 10 \r\n") << "the fraction is dropped";
+  try {
+    read(file, "many\r\n");
+    FAIL();
+  } catch (const RecordError& error) {
+    EXPECT_EQ(error.element().toStdString(), "Count");
+  }
 }
 
 TEST_F(Reading, CaptionsThatLookLikeNumbersComeBackPlain) {

@@ -49,8 +49,8 @@ const Words kPlace = {QStringLiteral("Top"), QStringLiteral("Left"), QStringLite
                       QStringLiteral("Width")};
 const Words kStyle = Words{QStringLiteral("ButtonStyle")} + kColours +
                      Words{QStringLiteral("GradientColor"), QStringLiteral("GradientMode")};
-const Words kWhole = {QStringLiteral("Width as a whole"), QStringLiteral("Height as a whole"),
-                      QStringLiteral("Left as a whole"), QStringLiteral("Top as a whole")};
+const Words kWhole = {QStringLiteral("Width as a whole, scaled"), QStringLiteral("Height as a whole, scaled"),
+                      QStringLiteral("Left as a whole, scaled"), QStringLiteral("Top as a whole, scaled")};
 const Group kGroups[] = {
     {"ButtonRecord", Words{QStringLiteral("Caption"), QStringLiteral("ButtonShape~")} + kStyle},
     {"plain ButtonRecord", Words{QStringLiteral("Caption"), QStringLiteral("ButtonShape")} + kStyle},
@@ -59,7 +59,7 @@ const Group kGroups[] = {
     {"LabelRecord", kColours + kPlace + Words{QStringLiteral("FontName"), QStringLiteral("FontSize")}},
     {"colours", kColours},
     {"PlaceQuad", kPlace},
-    {"whole Width, Height, Left, Top", kWhole},
+    {"cover place", kWhole},
 };
 
 /// Puts the group's name in the place of its words. Only its first word may be one ahead of which the file
@@ -67,11 +67,13 @@ const Group kGroups[] = {
 void fold(Words& words, const Group& group) {
   for (qsizetype at = 0; at + group.words.size() <= words.size(); ++at) {
     Words run = words.mid(at, group.words.size());
-    const QString mark = run.first().startsWith(u'?') ? QStringLiteral("?") : QString();
-    run.first().remove(0, mark.size());
+    const QString end = run.first().startsWith(u'?') ? QStringLiteral("?") : QString();
+    const QString step = run.last().endsWith(u'!') ? QStringLiteral("!") : QString();
+    run.first().remove(0, end.size());
+    run.last().chop(step.size());
     if (run != group.words) continue;
     words.remove(at, group.words.size());
-    words.insert(at, mark + QLatin1String(group.name));
+    words.insert(at, end + QLatin1String(group.name) + step);
   }
 }
 
@@ -150,10 +152,11 @@ private:
     return counter.kept ? QStringLiteral("count") : QString::number(counter.newest);
   }
 
-  static QString wordOf(const Field& field) {
+  QString wordOf(const Field& field) const {
     QString word = propertyName(field.into.property);
     if (field.kind == ValueKind::NumberText) word += QStringLiteral(" as a number");
     if (field.kind == ValueKind::Whole) word += QStringLiteral(" as a whole");
+    if (field.scale == &state_.globals.CoverScale) word += QStringLiteral(", scaled");
     if (field.isHeldBack) word += u'~';
     if (field.aboveMinusOneOnly) word += u'^';
     return word;
