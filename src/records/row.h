@@ -59,8 +59,8 @@ struct Reference {
 /// is either the version of the file's form, of which a save always writes the newest and all others count as
 /// older; or a number of the state, such as that of the covers in use, for which the layout was made.
 struct Counter {
-  const char* name;     ///< for messages
-  int* kept = nullptr;  ///< the number of the state, null for a version
+  const char* name;                    ///< for messages
+  int* kept = nullptr;                 ///< the number of the state, null for a version
   int (*intoRange)(double) = nullptr;  ///< what becomes of the file's number where it is kept
   int newest = 0;                      ///< the newest version
 

@@ -18,7 +18,7 @@ void paintLine(QPainter& painter, const QRect& area, const QColor& colour, int w
 }  // namespace
 
 void paintFrame(QPainter& painter, const QAbstractButton& control) {
-  const QPalette colours = control.palette();
+  const QPalette& colours = control.palette();
   const QRect area = control.rect();
   const bool isPointedAt = control.underMouse() && control.isEnabled();
   if (control.hasFocus()) paintLine(painter, area, colours.color(QPalette::Highlight), 3);

@@ -103,7 +103,8 @@ Screen primaryScreen() {
   const QScreen* primary = QGuiApplication::primaryScreen();
   if (!primary) return screen;
   const QSizeF size = QSizeF(primary->size()) * primary->devicePixelRatio();
-  // The size was rounded to whole units of the desktop's; halves to even, as screens have even sides.
+  // The desktop's units round the size. Of a half the even neighbour is the likely one: screens have even
+  // sides.
   screen.width = static_cast<int>(std::nearbyint(size.width()));
   screen.height = static_cast<int>(std::nearbyint(size.height()));
   return screen;
