@@ -82,7 +82,7 @@ void composeStatusTexts(Composer& c, const Box& area) {
   for (int i = 0; i < 4; ++i) {
     const Chip& chip = chips[i];
     c.panel(chip.panel, f, grid.cell(i), kCardBack);
-    c.line(chip.label, f, grid.cell(i).inset(c.px(6), 0), QString::fromLatin1(chip.caption),
+    c.line(chip.label, f, grid.cell(i).inset(c.px(4), 0), QString::fromLatin1(chip.caption),
            {chip.ink, 9, chip.bold, Alignment::Center});
   }
 }
@@ -93,7 +93,7 @@ void composeStatus(Composer& c) {
   c.panel(f.Picture2[3], f, c.plan.statusOnBackdrop ? rule : c.plan.status, kBar);
   Box area = c.plan.status.inset(c.px(10), c.px(4));
   const auto next = [&](int index, const char* caption, const ButtonLook& look) {
-    const Box at = area.cutRight(c.px(66), c.px(4));
+    const Box at = area.cutRight(c.px(70), c.px(3));
     c.button(f.lvButtons_H57[index], f, at, QString::fromLatin1(caption), look, 8);
   };
   next(4, "Free||Credits?", c.theme.primary);
@@ -101,7 +101,7 @@ void composeStatus(Composer& c) {
   next(2, "Forward", c.theme.plain);
   next(0, "Back", c.theme.plain);
   next(1, "Jump To||Letter", c.theme.plain);
-  composeStatusTexts(c, area.cutLeft(c.px(176), c.px(5)));
+  composeStatusTexts(c, area.cutLeft(c.px(162), c.px(5)));
   c.line(*f.Label55, f, area, QStringLiteral("Current Page: 0/0"),
          {c.theme.bar.body, 8, false, Alignment::Right});
 }
