@@ -1,6 +1,7 @@
 #include "records/layout.h"
 
 #include <algorithm>
+#include <span>
 
 namespace veneerer {
 
