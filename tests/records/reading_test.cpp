@@ -71,6 +71,8 @@ TEST_F(Reading, ErrorsNameFileLineElementAndField) {
   EXPECT_NE(failure(fontFile, "99999999999\r\n 0 \r\n").find("out of the field's range"), std::string::npos);
   EXPECT_EQ(failure(intelliFile, withLine(composed(intelliFile), 9, " 3 ")),
             "intelli.ini:9: Form1.Label52 Alignment: an alignment is 0, 1 or 2, not 3");
+  EXPECT_EQ(failure(intelliFile, withLine(composed(intelliFile), 9, " 32768 ")),
+            "intelli.ini:9: Form1.Label52 Alignment: the number 32768 is out of the field's range");
   EXPECT_EQ(failure(lockedButtonFile, withLine(composed(lockedButtonFile), 36, "-1 ")),
             "locked_button.ini:36: Form2.Check3(5) Value: a check box takes 0, 1 or 2, not -1");
   EXPECT_NE(failure(lockedButtonFile, withLine(composed(lockedButtonFile), 36, "#NULL#")), "");
@@ -111,7 +113,7 @@ TEST_F(Reading, AFileMayEndAheadOfAnOptionalBlockAndNotInsideOne) {
   } cases[] = {{menuFile, 121, 122},  {playerFile, 71, 72},    {navFile, 153, 155},
                {tabFile, 40, -1},     {mainFile, 176, 170},    {trackListFile, 991, 993},
                {genreFile, 226, 228}, {genreFile, 1484, 1431}, {playlistFile, 236, 238},
-               {framesFile, 13, 11},  {framesFile, 21, -1},    {optionsFile, 194, -1}};
+               {framesFile, 12, 11},  {framesFile, 21, -1},    {optionsFile, 194, -1}};
   for (const auto& c : cases) {
     const QByteArray whole = composed(c.make);
     EXPECT_EQ(failure(c.make, cut(whole, c.end)), "") << c.end;
@@ -134,7 +136,7 @@ TEST_F(Reading, AnOlderMenuKeepsThePlacesOfTheDesign) {
   EXPECT_EQ(first.left(), 100);
   EXPECT_EQ(first.height(), 0) << "the size is in the older file too";
   EXPECT_EQ(state.form1.Picture2[0].height(), 77);
-  EXPECT_EQ(rowLines.size(), 121u) << "the five later buttons were left out";
+  ASSERT_EQ(rowLines.size(), 121u) << "the five later buttons were left out";
   EXPECT_EQ((std::vector<int>(rowLines.begin(), rowLines.begin() + 5)), (std::vector<int>{1, 2, 0, 0, 3}));
   EXPECT_TRUE(composed(menuFile).startsWith("INI Version\r\n 2 \r\n"));
 }
@@ -178,6 +180,32 @@ TEST_F(Reading, SomeLoadersGoOnAfterAFailure) {
   EXPECT_EQ(state.form1.Picture18->height(), 4);
   EXPECT_EQ(read(optionsFile, "only\r\n").toStdString(), "Options screen load error");
   read(skinFile, "a\r\nb\r\n");
+
+  int steps = 0;
+  Layout file(state, "any.ini");
+  file.resumeOnError();
+  file.field(ValueKind::Single, *state.form1.Picture18, Property::Top);
+  file.then([&](Loading&) { ++steps; });
+  read(file, "wrong\r\n");
+  EXPECT_EQ(steps, 0) << "the step of a line that failed";
+  read(file, " 5 \r\n");
+  EXPECT_EQ(steps, 1);
+}
+
+TEST_F(Reading, LinesThatNoOneReadsAreNoTailThatIsMissing) {
+  read(searchTabFile, composed(searchTabFile));
+  ASSERT_EQ(rowLines.size(), 52u);
+  EXPECT_EQ(rowLines[38], 39);
+  EXPECT_EQ(rowLines[39], 0);
+  EXPECT_EQ(rowLines[51], 0);
+}
+
+TEST_F(Reading, AFontSizeIsTheNumberThatItsWholeLineBeginsWith) {
+  Label& label = *state.form1.Label52;
+  read(intelliFile, withLine(withLine(composed(intelliFile), 8, "12.75 pt, bold"), 9, " 1 "));
+  EXPECT_EQ(label.fontSize(), 12.75f);
+  EXPECT_EQ(label.alignment(), 1);
+  EXPECT_TRUE(composed(intelliFile).endsWith("\r\n 12 \r\n 1 \r\n")) << "written without its fraction";
 }
 
 TEST_F(Reading, WhatIsNoPlainFileOfTheSkinIsRefusedUnread) {
@@ -219,11 +247,11 @@ TEST_F(Reading, WhatACounterKeepsAndAWholeIsScaledByGoWithTheLayout) {
   file.field(ValueKind::Whole, state.form1.Image2[0], Property::Left);
   file.scaleWholes(1, scale);
   file.field(ValueKind::Whole, state.form1.Image2[0], Property::Top);
-  read(file, " 7 \r\n 10.5 \r\n 10.5 \r\n");
-  EXPECT_EQ(count, 7);
+  read(file, " 32767 \r\n 10.5 \r\n 10.5 \r\n");
+  EXPECT_EQ(count, kHighestCover) << "brought into its range";
   EXPECT_EQ(state.form1.Image2[0].left(), 21);
   EXPECT_EQ(state.form1.Image2[0].top(), 10.5f) << "it was added after the mark";
-  EXPECT_EQ(composeRecords(file), " 7 \r\n 21 \r\n 10 \r\n") << "the fraction is dropped";
+  EXPECT_EQ(composeRecords(file), " 28 \r\n 21 \r\n 10 \r\n") << "the fraction is dropped";
   try {
     read(file, "many\r\n");
     FAIL();
