@@ -8,8 +8,8 @@
 #include <QWidget>
 #include <memory>
 
-#include "components/hittest.h"
 #include "designer/designer.h"
+#include "painting/hittest.h"
 #include "ui/designerwindows.h"
 
 namespace veneerer {

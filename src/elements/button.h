@@ -1,4 +1,4 @@
-// lvButtons_H, the one owner-drawn button of the system. Its drawing is in components/.
+// lvButtons_H, the one owner-drawn button of the system. Its drawing is in painting/.
 #pragma once
 
 #include "elements/element.h"

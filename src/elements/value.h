@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <variant>
 
-#include "elements/picture.h"
+#include "images/picture.h"
 
 namespace veneerer {
 

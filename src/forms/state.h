@@ -4,7 +4,6 @@
 
 #include "elements/notes.h"
 #include "elements/notices.h"
-#include "elements/picture.h"
 #include "forms/form1.h"
 #include "forms/form2.h"
 #include "forms/form3.h"
@@ -14,6 +13,7 @@
 #include "forms/globals.h"
 #include "forms/imagenames.h"
 #include "forms/splash.h"
+#include "images/picture.h"
 
 namespace veneerer {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "forms/state.h"
+#include "panels/coverlayout.h"
 #include "platform/platform.h"
-#include "properties/coverlayout.h"
 #include "skin/catalogue.h"
 
 namespace veneerer {

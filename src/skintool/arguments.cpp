@@ -6,7 +6,7 @@
 
 #include "canvas/screens.h"
 #include "platform/version.h"
-#include "properties/coverfile.h"
+#include "records/coverfile.h"
 
 namespace veneerer {
 

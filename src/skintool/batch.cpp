@@ -4,10 +4,9 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include "components/buttonsheet.h"
-#include "components/resizer.h"
 #include "designer/designer.h"
 #include "elements/printable.h"
+#include "painting/buttonsheet.h"
 #include "records/recorderror.h"
 #include "skintool/arguments.h"
 #include "skintool/batchdialogs.h"
@@ -17,6 +16,7 @@
 #include "skintool/render.h"
 #include "skintool/script.h"
 #include "skintool/statejson.h"
+#include "tools/resizer.h"
 
 namespace veneerer {
 

@@ -2,8 +2,8 @@
 
 #include <QFileInfo>
 
-#include "canvas/design.h"
-#include "properties/coverfile.h"
+#include "design/design.h"
+#include "records/coverfile.h"
 #include "records/layoutreader.h"
 #include "records/recorderror.h"
 #include "skin/catalogue.h"

@@ -1,7 +1,7 @@
 // What is wrong or risky in an image reference.
 #pragma once
 
-#include "elements/picture.h"
+#include "images/picture.h"
 #include "platform/skinfolder.h"
 
 namespace veneerer {

@@ -7,7 +7,7 @@
 #include <future>
 
 #include "canvas/screens.h"
-#include "components/canvaspainter.h"
+#include "painting/canvaspainter.h"
 #include "records/recorderror.h"
 
 namespace veneerer {

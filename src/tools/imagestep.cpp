@@ -2,9 +2,9 @@
 
 #include <QSaveFile>
 
-#include "components/cimage.h"
-#include "components/cjpeg.h"
-#include "elements/picture.h"
+#include "images/cimage.h"
+#include "images/cjpeg.h"
+#include "images/picture.h"
 
 namespace veneerer {
 

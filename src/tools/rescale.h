@@ -5,10 +5,10 @@
 #include <QStringList>
 #include <vector>
 
-#include "components/resizer.h"
 #include "forms/state.h"
 #include "platform/platform.h"
 #include "tools/imagestep.h"
+#include "tools/resizer.h"
 
 namespace veneerer {
 

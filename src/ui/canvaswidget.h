@@ -3,9 +3,9 @@
 
 #include <QWidget>
 
-#include "components/anigif.h"
-#include "components/canvaspainter.h"
-#include "components/hittest.h"
+#include "painting/anigif.h"
+#include "painting/canvaspainter.h"
+#include "painting/hittest.h"
 #include "ui/bindings.h"
 #include "ui/dirtyarea.h"
 

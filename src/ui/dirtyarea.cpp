@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "components/hittest.h"
 #include "elements/element.h"
+#include "painting/hittest.h"
 
 namespace veneerer {
 

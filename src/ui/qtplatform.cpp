@@ -8,7 +8,7 @@
 #include <QSettings>
 #include <cmath>
 
-#include "components/colours.h"
+#include "painting/colours.h"
 #include "ui/fontdialog.h"
 #include "ui/picturedialog.h"
 #include "ui/progresswindow.h"

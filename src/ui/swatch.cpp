@@ -4,7 +4,7 @@
 #include <QStyleOption>
 
 #include "canvas/sections.h"
-#include "components/colours.h"
+#include "painting/colours.h"
 #include "ui/frames.h"
 
 namespace veneerer {

@@ -4,7 +4,7 @@
 
 #include <QAbstractButton>
 
-#include "components/canvaspainter.h"
+#include "painting/canvaspainter.h"
 #include "ui/bindings.h"
 
 namespace veneerer {

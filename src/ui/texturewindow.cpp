@@ -4,8 +4,8 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
-#include "components/anigif.h"
-#include "components/canvaspainter.h"
+#include "painting/anigif.h"
+#include "painting/canvaspainter.h"
 #include "ui/frames.h"
 #include "ui/layouts.h"
 #include "ui/thumbnail.h"

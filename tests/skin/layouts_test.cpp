@@ -11,7 +11,7 @@
 
 #include <QFile>
 
-#include "properties/coverfile.h"
+#include "records/coverfile.h"
 #include "records/layoutwriter.h"
 #include "skin/catalogue.h"
 

@@ -8,9 +8,9 @@
 #include <cmath>
 #include <string>
 
-#include "components/colours.h"
-#include "components/textlayouts.h"
 #include "forms/form1.h"
+#include "painting/colours.h"
+#include "painting/textlayouts.h"
 
 namespace veneerer::test {
 

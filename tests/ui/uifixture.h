@@ -4,8 +4,8 @@
 #include <QApplication>
 #include <QtTest>
 
-#include "components/hittest.h"
 #include "designer/skinfixture.h"
+#include "painting/hittest.h"
 #include "ui/designerwindows.h"
 
 namespace veneerer::test {

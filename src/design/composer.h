@@ -1,0 +1,82 @@
+// The hand that puts elements into place: each call gives an element its container, place, text and look.
+#pragma once
+
+#include <QString>
+#include <array>
+#include <span>
+
+#include "design/layout.h"
+#include "design/plan.h"
+#include "design/theme.h"
+#include "forms/state.h"
+
+namespace veneerer::design {
+
+struct TextLook {
+  std::int32_t ink = 0;
+  int points = 10;  ///< before the plan's text scale
+  bool bold = false;
+  Alignment align = Alignment::Left;
+};
+
+/// Captions of an array's members, from index 0 on.
+using Captions = std::span<const char* const>;
+
+class Composer {
+public:
+  Composer(State& state, const Plan& places, const Theme& looks)
+      : form(state.form1), plan(places), theme(looks) {}
+
+  Form1& form;
+  const Plan& plan;
+  const Theme& theme;
+
+  /// A length of the 800 by 600 design in the plan's own pixels.
+  int px(int length) const;
+  /// A text size in the plan's own whole points.
+  int points(const TextLook& look) const;
+  /// The height that a line of that look needs, pixels.
+  int lineOf(const TextLook& look) const { return lineHeight(points(look)); }
+
+  /// A panel in a flat colour.
+  void panel(PictureBox& box, Element& holder, const Box& at, std::int32_t back);
+  /// A picture, its placeholder colour, or an image without one.
+  void artwork(PictureBox& box, Element& holder, const Box& at) { panel(box, holder, at, kArtwork); }
+  void image(Element& image, Element& holder, const Box& at);
+
+  /// A transparent text that fills the box from its top.
+  void text(Label& label, Element& holder, const Box& at, const QString& caption, const TextLook& look);
+  /// One transparent line in the middle of the box's height.
+  void line(Label& label, Element& holder, const Box& at, const QString& caption, const TextLook& look);
+  /// A line on a ground of its own, as high as the box.
+  void field(Label& label, Element& holder, const Box& at, const QString& caption, const TextLook& look);
+
+  /// A button. Its text size, in points, comes with the program and not with a Skin, so the plan's text
+  /// scale has no say.
+  void button(Button& button, Element& holder, const Box& at, const QString& caption, const ButtonLook& look,
+              int points = kButtonPoints);
+
+  /// Members first to first + captions.size() - 1 in the cells of a grid, in order.
+  void buttons(Array<Button>& family, int first, Element& holder, const Grid& grid, Captions captions,
+               const ButtonLook& look, int points = kButtonPoints);
+
+  static constexpr int kButtonPoints = 11;
+  static constexpr int kKeyPoints = 14;
+};
+
+/// A length along a screen's edge that keeps its parts off the edge, before the plan's scale.
+inline constexpr int kMargin = 10;
+inline constexpr int kGap = 6;
+/// The upper edge of a screen, which holds its title.
+inline constexpr int kHeaderHeight = 48;
+/// A button that a finger hits.
+inline constexpr int kTouch = 44;
+
+/// The inside of a screen with its margins taken off, and the header cut from it.
+struct ScreenParts {
+  Box header;
+  Box body;
+};
+ScreenParts partsOf(const Composer& composer, const Element& screen);
+
+}  // namespace veneerer::design

@@ -1,0 +1,23 @@
+// Layouts of the album covers on the album view.
+#pragma once
+
+#include "design/composer.h"
+
+namespace veneerer::design {
+
+struct CoverLayout {
+  int count = 10;            ///< covers in use, 1 to 28
+  int columns = 5;           ///< ignored when they overlap
+  bool dates = false;        ///< room for the year and the genre of each
+  bool featured = false;     ///< room for the featured album at the left
+  bool overlapping = false;  ///< side by side, smaller and lower behind the middle one
+};
+
+/// Places the covers, their frames and captions in that area of Picture1(9). Members that the layout doesn't
+/// use wait behind those that it does, ready for a layout with more of them.
+void composeCovers(Composer& composer, Box area, const CoverLayout& layout);
+
+/// The part of the album view that covers may take.
+Box coverArea(const Composer& composer);
+
+}  // namespace veneerer::design

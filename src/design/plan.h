@@ -1,0 +1,40 @@
+// Where the large parts of a composition stand. Boxes are in pixels, relative to the canvas window unless
+// told otherwise.
+#pragma once
+
+#include "design/layout.h"
+
+namespace veneerer::design {
+
+struct Plan {
+  int width = 800;  ///< of the skin, without the window's frame
+  int height = 600;
+  double scale = 1;      ///< multiplies the lengths that don't follow from a container
+  double textScale = 1;  ///< multiplies the sizes of the labels' texts
+
+  Box menu;
+  int menuColumns = 1;
+  Box logo;
+  Box name;             ///< the jukebox's name
+  int namePoints = 12;  ///< its size before the text scale
+  Box player;
+  Box status;                     ///< the bar of credits, messages and the navigation of the main screen
+  bool statusOnBackdrop = false;  ///< the status bar is a part of the backdrop, only a line parts it off
+  Box stage;                      ///< the panel that the main screen shows where no other screen stands
+  Box screen;                     ///< each of the full screens
+  Box dialog;                     ///< each of the panels
+  Box confirm;                    ///< the confirmation
+  Box pin;
+  Box popup;
+  int popupColumns = 2;
+  Box genreBar;
+  bool genreBarUpright = false;
+
+  bool albumCounts = true;     ///< room for the number of albums on each genre
+  bool sliderUpright = false;  ///< keeps a column of the album view free for the vertical slider
+};
+
+/// The places of the built-in design, for a screen of 800 by 600 pixels.
+Plan builtInPlan();
+
+}  // namespace veneerer::design

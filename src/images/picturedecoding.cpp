@@ -1,0 +1,114 @@
+#include "images/picturedecoding.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <cmath>
+
+#include "files/plainfile.h"
+#include "images/jpegscans.h"
+#include "images/pictureformat.h"
+
+namespace veneerer {
+
+namespace {
+
+// What a decoder may allocate at once, for what its format's head doesn't tell.
+constexpr int kDecodeLimitMiB = 192;
+// The head of a bitmap in an icon tells no size to go by; so many bytes of it can't hold too many pixels.
+constexpr qint64 kMostIconBytes = 4 * 1024 * 1024;
+
+/// A picture file's bytes in the hands of the one decoder that its head tells.
+class Decoder {
+public:
+  explicit Decoder(const QString& path) : bytes_(readPlainFile(path, kMostPictureBytes).bytes) {
+    PictureFormat format = formatOf(bytes_);
+    if (format == PictureFormat::Icon && !openIcon(format)) return;
+    if (format == PictureFormat::None) return;
+    if (format == PictureFormat::Png) dropPngExtras(bytes_);
+    if (format == PictureFormat::Jpeg) scans_ = countJpegScans(bytes_);
+    open(format);
+    isWithinBounds_ = scans_ <= kMostJpegScans && pixelsOf(size_) <= kMostPicturePixels;
+  }
+
+  bool isWithinBounds() const { return isWithinBounds_; }
+  QSize size() const { return size_; }
+  int scans() const { return scans_; }
+
+  /// An empty size asks for the picture's own.
+  QImage read(QSize scaled) {
+    if (!isWithinBounds_) return {};
+    if (!scaled.isEmpty()) reader_.setScaledSize(scaled);
+    QImage image = reader_.read();
+    if (pixelsOf(image.size()) > kMostPicturePixels) return {};
+    // The raster engine's own formats paint fastest; converting once here spares it at every repaint.
+    return std::move(image).convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                                    : QImage::Format_RGB32);
+  }
+
+private:
+  /// An icon's picture may be a whole PNG file, which is looked at like any other.
+  bool openIcon(PictureFormat& format) {
+    if (bytes_.size() > kMostIconBytes) return false;
+    const QByteArray png = pngOfIcon(bytes_);
+    if (png.isEmpty()) return true;
+    bytes_ = png;
+    format = PictureFormat::Png;
+    return true;
+  }
+
+  void open(PictureFormat format) {
+    QImageReader::setAllocationLimit(kDecodeLimitMiB);
+    buffer_.setBuffer(&bytes_);
+    buffer_.open(QIODevice::ReadOnly);
+    reader_.setAutoDetectImageFormat(false);
+    reader_.setFormat(decoderOf(format));
+    reader_.setDevice(&buffer_);
+    size_ = reader_.size();
+  }
+
+  QByteArray bytes_;
+  QBuffer buffer_;
+  QImageReader reader_;
+  QSize size_;
+  int scans_ = 1;
+  bool isWithinBounds_ = false;
+};
+
+QImage reduced(const QImage& image) {
+  const qint64 pixels = pixelsOf(image.size());
+  if (pixels <= kMostScaledPixels) return image;
+  const double factor = std::sqrt(double(kMostScaledPixels) / double(pixels));
+  const QSize size = (QSizeF(image.size()) * factor).toSize().expandedTo(QSize(1, 1));
+  return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+}  // namespace
+
+qint64 pixelsOf(QSize size) {
+  return size.isEmpty() ? 0 : qint64(size.width()) * size.height();
+}
+
+qint64 DecodedPicture::bytes() const {
+  const bool isOne = whole.cacheKey() == reduced.cacheKey();
+  return whole.sizeInBytes() + (isOne ? 0 : reduced.sizeInBytes());
+}
+
+DecodedPicture decodePicture(const QString& path) {
+  const QImage whole = Decoder(path).read(QSize());
+  return {whole, reduced(whole)};
+}
+
+QImage decodeThumbnail(const QString& path, QSize within) {
+  Decoder decoder(path);
+  const QSize size = decoder.size();
+  const bool isSmall = size.width() <= within.width() && size.height() <= within.height();
+  if (size.isEmpty() || isSmall) return decoder.read(QSize());
+  return decoder.read(size.scaled(within, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+}
+
+PictureCost costOfPicture(const QString& path) {
+  const Decoder decoder(path);
+  return {decoder.isWithinBounds(), decoder.size(), pixelsOf(decoder.size()) * decoder.scans()};
+}
+
+}  // namespace veneerer

@@ -1,0 +1,154 @@
+#include "painting/canvaspainter.h"
+
+#include <cmath>
+
+#include "painting/clipping.h"
+#include "painting/colours.h"
+#include "painting/hittest.h"
+
+namespace veneerer {
+
+namespace {
+
+// In its own size: a pixel of the picture is a device-independent pixel.
+void paintNatural(QPainter& painter, const QImage& image, QPointF at, const QRectF& clip) {
+  drawWithin(painter, QRectF(at, QSizeF(image.size())), image, clip);
+}
+
+// A line one pixel wide along the inner edge, drawn as four bars: only those in sight cost anything.
+void paintBorder(QPainter& painter, const QRectF& rect, const QRectF& clip) {
+  const QRectF bars[] = {
+      QRectF(rect.x(), rect.y(), rect.width(), 1), QRectF(rect.x(), rect.bottom() - 1, rect.width(), 1),
+      QRectF(rect.x(), rect.y(), 1, rect.height()), QRectF(rect.right() - 1, rect.y(), 1, rect.height())};
+  for (const QRectF& bar : bars) painter.fillRect(bar & rect & clip, Qt::black);
+}
+
+}  // namespace
+
+CanvasPainter::CanvasPainter() = default;
+
+void CanvasPainter::begin(QPainter& painter, double pixelsPerTwipX, double pixelsPerTwipY) {
+  scale_ = {pixelsPerTwipX, pixelsPerTwipY, deviceScale(painter)};
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+}
+
+void CanvasPainter::paint(QPainter& painter, const Form1& form, const QRect& exposed, double pixelsPerTwipX,
+                          double pixelsPerTwipY) {
+  if (exposed.isEmpty()) return;
+  painter.save();
+  painter.setClipRect(exposed, Qt::IntersectClip);
+  begin(painter, pixelsPerTwipX, pixelsPerTwipY);
+  painter.fillRect(exposed, toQColor(form.backColor()));
+  paintNatural(painter, form.picture().image(), QPointF(), exposed);
+  paintChildren(painter, form, QPointF(), exposed);
+  painter.restore();
+}
+
+void CanvasPainter::paintElement(QPainter& painter, const Element& element, const QRectF& pixels,
+                                 double pixelsPerTwip) {
+  if (element.kind() == Kind::Button) {
+    paintButton(painter, static_cast<const Button&>(element), pixels, {}, pixelsPerTwip);
+    return;
+  }
+  painter.save();
+  begin(painter, pixelsPerTwip, pixelsPerTwip);
+  paintOne(painter, element, pixels, pixels);
+  painter.restore();
+}
+
+void CanvasPainter::paintButton(QPainter& painter, const Button& button, const QRectF& pixels,
+                                const ButtonState& state, double pixelsPerTwip) {
+  painter.save();
+  begin(painter, pixelsPerTwip, pixelsPerTwip);
+  buttons_.paint(painter, button, pixels, pixels, scale_, state);
+  painter.restore();
+}
+
+void CanvasPainter::paintChildren(QPainter& painter, const Element& container, QPointF origin,
+                                  const QRectF& clip) {
+  for (const Element* child : container.children()) {
+    if (!child->isVisible()) continue;
+    const std::optional<QRectF> rect = pixelRect(*child, origin, scale_);
+    if (!rect || !rect->intersects(clip)) continue;
+    if (!isSeeThrough(*child)) paintOne(painter, *child, *rect, clip);
+    if (!child->children().empty()) paintChildren(painter, *child, rect->topLeft(), *rect & clip);
+  }
+}
+
+void CanvasPainter::paintOne(QPainter& painter, const Element& element, const QRectF& rect,
+                             const QRectF& clip) {
+  switch (element.kind()) {
+    case Kind::Label:
+      return paintLabel(painter, static_cast<const Label&>(element), rect, clip);
+    case Kind::Button:
+      return buttons_.paint(painter, static_cast<const Button&>(element), rect, clip, scale_,
+                            {.hover = &element == hovered_, .pressed = &element == pressed_});
+    case Kind::PictureBox:
+      return paintPictureBox(painter, static_cast<const PictureBox&>(element), rect, clip);
+    case Kind::ImageBox:
+      return paintImageBox(painter, static_cast<const ImageBox&>(element), rect, clip);
+    case Kind::AnimatedFrame:
+      return paintFrame(painter, static_cast<const AnimatedFrame&>(element), rect, clip);
+    case Kind::AlphaImage:
+      return paintAlphaImage(painter, static_cast<const AlphaImage&>(element), rect, clip);
+    default:
+      return;
+  }
+}
+
+void CanvasPainter::paintLabel(QPainter& painter, const Label& label, const QRectF& rect,
+                               const QRectF& clip) {
+  const QRectF shown = rect & clip;
+  if (label.isOpaque()) painter.fillRect(shown, toQColor(label.backColor()));
+  const int height = fontPixels(label.fontSize(), scale_.y);
+  if (label.caption().isEmpty() || height == 0) return;
+  const LaidOutText& text = texts_.of({label.caption(), label.fontName(), height, fontFlags(label),
+                                       static_cast<int>(std::ceil(rect.width())),
+                                       static_cast<int>(std::ceil(rect.height())), label.alignment()});
+  painter.setPen(toQColor(label.foreColor()));
+  drawTextWithin(painter, text, rect.topLeft(), shown);
+}
+
+void CanvasPainter::paintPictureBox(QPainter& painter, const PictureBox& box, const QRectF& rect,
+                                    const QRectF& clip) {
+  const QRectF shown = rect & clip;
+  painter.fillRect(shown, toQColor(box.backColor()));
+  paintNatural(painter, box.picture().image(), rect.topLeft(), shown);
+  if (box.as<std::int32_t>(Property::BorderStyle) == 1) paintBorder(painter, rect, clip);
+}
+
+void CanvasPainter::paintImageBox(QPainter& painter, const ImageBox& box, const QRectF& rect,
+                                  const QRectF& clip) {
+  const QImage& image = box.picture().image();
+  if (box.as<bool>(Property::Stretch))
+    paintStretched(painter, image, rect, clip);
+  else
+    paintNatural(painter, image, rect.topLeft(), rect & clip);
+}
+
+void CanvasPainter::paintFrame(QPainter& painter, const AnimatedFrame& frame, const QRectF& rect,
+                               const QRectF& clip) {
+  // A running frame is shown once, so it isn't worth a scaled copy of its own.
+  const QImage running = frames_ ? frames_(frame) : QImage();
+  if (running.isNull())
+    paintStretched(painter, frame.picture().image(), rect, clip);
+  else
+    drawWithin(painter, rect, running, clip);
+}
+
+void CanvasPainter::paintAlphaImage(QPainter& painter, const AlphaImage& element, const QRectF& rect,
+                                    const QRectF& clip) {
+  const QImage& image = element.picture().image();
+  if (!image.isNull()) paintStretched(painter, image, fitted(image.size(), rect), clip);
+}
+
+void CanvasPainter::paintStretched(QPainter& painter, const QImage& image, const QRectF& rect,
+                                   const QRectF& clip) {
+  if (image.isNull()) return;
+  const QSizeF size = rect.size() * scale_.device;
+  // Sizes are within reach of 32 bits: pixelRect and the device scale see to that.
+  const QSize device(qRound(size.width()), qRound(size.height()));
+  drawWithin(painter, rect, isKeepable(device) ? images_.scaled(image, device) : image, clip);
+}
+
+}  // namespace veneerer

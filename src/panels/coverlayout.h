@@ -1,0 +1,53 @@
+// Cover layouts: files with the extension .cov, held apart from the record files so that one Skin can offer
+// several. A file's length follows from the number of covers in use.
+#pragma once
+
+#include "forms/state.h"
+#include "panels/skinproperties.h"
+#include "platform/platform.h"
+#include "platform/skinfolder.h"
+
+namespace veneerer {
+
+/// Loads and saves the layout of the album covers, and runs the frame "Covers File".
+class CoverLayouts {
+public:
+  CoverLayouts(State& state, const Platform& platform, SkinProperties& properties);
+  ~CoverLayouts();
+  CoverLayouts(const CoverLayouts&) = delete;
+  CoverLayouts& operator=(const CoverLayouts&) = delete;
+
+  /// Loads a cover file; one that isn't there changes nothing. Ends by showing the number of covers in
+  /// Combo4. Throws RecordError.
+  void load(const QString& path);
+  /// Composes the whole file and writes it under that name. Throws RecordError.
+  void save(const SkinFolder& target, const QString& name);
+
+  /// Points the list of cover files at the Skin named by Combo3.
+  void listFiles();
+  /// The first file of that list, empty when there is none.
+  QString firstFile() const;
+
+  /// "Save Cover File": asks before it overwrites; writes the file and frames.ini and lists the files anew.
+  void saveNamed();
+  /// The second event of the list: loads the chosen file with no question and puts its name into Text2.
+  void loadChosen();
+  /// The cover question of Save Skin: on OK the layout is saved under the name in Text2, with a question
+  /// ahead of overwriting.
+  void offerSave(const SkinFolder& target);
+
+private:
+  void askToLoad();
+  SkinFolder folder() const;
+  /// The cover file that Text2 names. Empty when it names none or the operator keeps the one that is there.
+  QString nameToWrite(const SkinFolder& target) const;
+  void showCount();
+  void applyBoxes();
+
+  State& state_;
+  const Platform& platform_;
+  SkinProperties& properties_;
+  int subscription_;
+};
+
+}  // namespace veneerer

@@ -1,0 +1,109 @@
+#include "panels/grab.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QPainter>
+#include <algorithm>
+
+#include "painting/colours.h"
+#include "platform/skinfolder.h"
+#include "records/recorderror.h"
+#include "records/recordwriter.h"
+
+namespace veneerer {
+
+namespace {
+
+// Wider than any screen; a stranger's panel may claim any size.
+constexpr double kMostPixels = 8192;
+
+int toPixels(float twips, double twipsPerPixel) {
+  return static_cast<int>(std::clamp(twips / twipsPerPixel, -2 * kMostPixels, 2 * kMostPixels));
+}
+
+/// The part of the canvas window's own picture that lies under the panel.
+QImage pieceUnder(const State& state, const PictureBox& panel, const Screen& screen) {
+  const QPoint corner(toPixels(panel.left(), screen.twipsPerPixelX()),
+                      toPixels(panel.top(), screen.twipsPerPixelY()));
+  const QSize size(toPixels(panel.width(), screen.twipsPerPixelX()),
+                   toPixels(panel.height(), screen.twipsPerPixelY()));
+  if (size.isEmpty() || size.width() > kMostPixels || size.height() > kMostPixels) return {};
+  QImage piece(size, QImage::Format_RGB32);
+  piece.fill(toQColor(panel.backColor()));
+  QPainter painter(&piece);
+  painter.drawImage(QPoint(0, 0), state.form1.picture().image(), QRect(corner, size));
+  return piece;
+}
+
+QByteArray asBitmap(const QImage& image) {
+  QByteArray bytes;
+  if (image.isNull()) return bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, "BMP");
+  return bytes;
+}
+
+/// A panel's piece of the backdrop, ready to be written.
+struct Piece {
+  PictureBox& panel;
+  QString name;  ///< in the images folder; an existing file keeps its spelling
+  QByteArray bytes;
+};
+
+Piece composePiece(const State& state, PictureBox& panel, const char* name, const SkinFolder& skin,
+                   const Screen& screen) {
+  const QString fixed = QString::fromLatin1(name);
+  const QString existing = skin.resolve(QStringLiteral("\\images\\") + fixed);
+  const QByteArray bytes = asBitmap(pieceUnder(state, panel, screen));
+  if (bytes.isEmpty())
+    throw RecordError(fixed, 0, panel.key(), {},
+                      QStringLiteral("the panel has no size that a picture can have"));
+  return {panel, existing.isEmpty() ? fixed : bareFileName(existing), bytes};
+}
+
+SkinFolder imagesFolder(const SkinFolder& skin) {
+  SkinFolder images(skin.path() + QStringLiteral("/images"));
+  if (skin.exists()) QDir().mkpath(images.path());
+  const QString refusal = skin.refusal(images.path());
+  if (!refusal.isEmpty()) throw RecordError(QStringLiteral("images"), 0, {}, {}, refusal);
+  return images;
+}
+
+void writePiece(State& state, const Piece& piece, const SkinFolder& images) {
+  writeRecordFile(images, piece.name, piece.bytes);
+  piece.panel.setPicture(state.pictures.load(images.file(piece.name)));
+}
+
+void grab(State& state, const Platform& platform) {
+  const SkinFolder skin(platform.folder, state.form4.Combo3->text());
+  const SkinFolder images = imagesFolder(skin);
+  PictureBox& menu = state.form1.Picture2[0];
+  PictureBox& player = state.form1.Picture2[1];
+  const Piece menuPiece = composePiece(state, menu, "Menu.bmp", skin, platform.screen);
+  const Piece playerPiece = composePiece(state, player, "Player.bmp", skin, platform.screen);
+  menu.setBorderStyle(0);
+  writePiece(state, menuPiece, images);
+  writePiece(state, playerPiece, images);
+  // The full path stands in the table and in skin.ini: every other entry is relative.
+  state.names.ImageName[13] = images.file(playerPiece.name);
+  // The panel of the player ends with a border, that of the menu without.
+  player.setBorderStyle(1);
+}
+
+}  // namespace
+
+void grabPlayerAndMenu(State& state, const Platform& platform) {
+  const QString title = QStringLiteral("Texture Viewer");
+  if (state.form1.picture().image().isNull()) {
+    platform.dialogs.inform(title, QStringLiteral("The album view has no picture to grab from."));
+    return;
+  }
+  try {
+    grab(state, platform);
+  } catch (const RecordError& error) {
+    platform.dialogs.inform(title, error.message());
+  }
+}
+
+}  // namespace veneerer

@@ -1,0 +1,56 @@
+#include "panels/textureslots.h"
+
+namespace veneerer {
+
+namespace {
+
+// Index 0 is the canvas window's own picture and Picture1(0); 11 reaches no canvas element; 12 is the search
+// choice screen, whose name has a place of its own.
+TextureSlot backdropSlot(State& state, int i) {
+  TextureSlot slot{&state.form5.Image1[i], {}, &state.names.ImageName[i]};
+  if (i == 0) slot.canvas.push_back(&state.form1);
+  if (i <= 10) slot.canvas.push_back(&state.form1.Picture1[i]);
+  if (i == 12) {
+    slot.canvas.push_back(&state.form1.Picture1[14]);
+    slot.name = &state.names.SearchChoiceName.value();
+  }
+  return slot;
+}
+
+std::vector<TextureSlot> singleSlots(State& state) {
+  Form5& f = state.form5;
+  Array<PictureBox>& screen = state.form1.Picture1;
+  ImageNames& n = state.names;
+  return {
+      {&*f.Image2, {}, &n.ImageName[12]},
+      {&*f.Image3, {&state.form1.Picture2[1]}, &n.ImageName[13]},
+      {&*f.Image4, {&state.form1.Picture2[2]}, &n.ImageName[14]},
+      {&*f.Image7, {&screen[11]}, &n.SearchResultsName.value()},
+      {&*f.Image5, {&screen[12]}, &n.JumpToLetterName.value()},
+      {&*f.Image8, {&screen[13]}, &n.GenreName.value()},
+      {&*f.Image9, {&screen[15]}, &n.PlayOptionsName.value()},
+      {&*f.Image10, {&screen[16]}, &n.PinScreenName.value()},
+      {&*f.Image11, {&screen[17]}, &n.DecadesYearName.value()},
+      {&*f.Image12, {&screen[18]}, &n.DecadesSelectorName.value()},
+      {&*f.Image13, {&screen[19]}, &n.DecadesMonthName.value()},
+      {&*f.Image15, {&screen[20]}, &n.PlaylistLoadName.value()},
+      {&*f.Image14, {&screen[21]}, &n.PlaylistSaveName.value()},
+      {&*f.Image17, {&screen[22]}, &n.NoSearchName.value()},
+      {&*f.Image18, {&screen[23]}, &n.RequestName.value()},
+      {&*f.Image19, {&screen[24]}, &n.LoginName.value()},
+      {&*f.Image20, {&screen[25]}, &n.MemberHomeName.value()},
+      {&*f.Image21, {&screen[27]}, &n.CollectionsName.value()},
+      {&*f.Image22, {&screen[28]}, &n.ConfirmationName.value()},
+  };
+}
+
+}  // namespace
+
+TextureSlot textureSlot(State& state, const Element& thumbnail) {
+  if (thumbnail.family() == &state.form5.Image1) return backdropSlot(state, thumbnail.index());
+  for (const TextureSlot& slot : singleSlots(state))
+    if (slot.thumbnail == &thumbnail) return slot;
+  return {nullptr, {}, nullptr};
+}
+
+}  // namespace veneerer

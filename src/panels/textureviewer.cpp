@@ -1,0 +1,96 @@
+#include "panels/textureviewer.h"
+
+#include "elements/numbers.h"
+#include "panels/grab.h"
+#include "panels/textureslots.h"
+
+namespace veneerer {
+
+namespace {
+
+const QString kPictures = QStringLiteral("Image Files|*.bmp;*.jpg");
+const QString kLogoPictures = QStringLiteral("Image Files|*.bmp;*.jpg;*.gif");
+const QString kFrames = QStringLiteral("GIF Files|*.gif");
+
+}  // namespace
+
+TextureViewer::TextureViewer(State& state, const Platform& platform) : state_(state), platform_(platform) {
+  subscription_ = state.notices.subscribe([this](const Change& change) {
+    if (&change.element == &*state_.form5.Combo1 && change.property == Property::ListIndex) showFrame();
+  });
+}
+
+TextureViewer::~TextureViewer() {
+  state_.notices.unsubscribe(subscription_);
+}
+
+void TextureViewer::click(Element& element) {
+  Form5& form5 = state_.form5;
+  if (&element == &*form5.Command1)
+    grabPlayerAndMenu(state_, platform_);
+  else if (&element == &*form5.Command2)
+    copyFrameToAll();
+  else if (&element == &*form5.Image16 || &element == &*form5.ucAniGIF1)
+    chooseFrame();
+  else if (element.kind() == Kind::ImageBox)
+    chooseTexture(element);
+}
+
+Picture TextureViewer::ask(const QString& filter, QString& name) const {
+  const QString path = platform_.dialogs.chooseFile(filter);
+  if (path.isEmpty()) return {};
+  const Picture picture = state_.pictures.load(path);
+  if (picture.image().isNull()) {
+    platform_.dialogs.inform(
+        QStringLiteral("Texture Viewer"),
+        QStringLiteral("\"%1\" is no picture that can be shown.").arg(bareFileName(path)));
+    return {};
+  }
+  name = u'\\' + bareFileName(path);
+  return picture;
+}
+
+void TextureViewer::chooseTexture(Element& thumbnail) {
+  const TextureSlot slot = textureSlot(state_, thumbnail);
+  if (!slot.name) return;
+  QString name;
+  const Picture picture = ask(&thumbnail == &*state_.form5.Image4 ? kLogoPictures : kPictures, name);
+  if (picture.isNull()) return;
+  thumbnail.set(Property::Picture, picture);
+  for (Element* element : slot.canvas) element->set(Property::Picture, picture);
+  *slot.name = name;
+}
+
+void TextureViewer::chooseFrame() {
+  const int row = state_.form5.Combo1->listIndex();
+  if (row < 0 || row >= state_.names.AlbumFrameName.count()) return;
+  QString name;
+  const Picture picture = ask(kFrames, name);
+  if (picture.isNull()) return;
+  state_.form1.ucAniGIF1[row].setPicture(picture);
+  state_.form5.ucAniGIF1->setPicture(picture);
+  state_.names.AlbumFrameName[row] = name;
+}
+
+void TextureViewer::copyFrameToAll() {
+  ImageTable& names = state_.names.AlbumFrameName;
+  const int row = state_.form5.Combo1->listIndex();
+  if (row < 0 || row >= names.count()) return;
+  const SkinFolder folder(platform_.folder, state_.form4.Combo3->text());
+  const QString path = folder.resolve(names[row].text());
+  for (int i = 0; i < names.count(); ++i) {
+    if (i == row) continue;
+    names[i] = names[row];
+    if (!path.isEmpty()) state_.form1.ucAniGIF1[i].setPicture(state_.pictures.load(path));
+  }
+}
+
+// The caption names the list's position, which counts from 0.
+void TextureViewer::showFrame() {
+  const int row = state_.form5.Combo1->listIndex();
+  if (row < 0 || row >= state_.names.AlbumFrameName.count()) return;
+  state_.form5.Label3[27].setCaption(QStringLiteral("Album Frame ") + signedNumber(row));
+  state_.form5.ucAniGIF1->setPicture(state_.form1.ucAniGIF1[row].picture());
+}
+
+}  // namespace veneerer

@@ -1,0 +1,140 @@
+#include "images/picture.h"
+
+#include <gtest/gtest.h>
+
+#include <QColor>
+#include <QTemporaryDir>
+
+#include "support/pictures.h"
+
+using namespace veneerer;
+
+namespace {
+
+struct PictureTest : testing::Test {
+  QString path(const char* name) { return folder.filePath(QString::fromLatin1(name)); }
+  QTemporaryDir folder;
+  PictureStore store;
+};
+
+}  // namespace
+
+TEST_F(PictureTest, OneFileIsDecodedOnce) {
+  test::writePicture(path("a.bmp"), 3, 2, Qt::red);
+  const Picture first = store.load(path("a.bmp"));
+  const Picture second = store.load(path("a.bmp"));
+  EXPECT_EQ(first, second);
+  EXPECT_EQ(first.image().constBits(), second.image().constBits());
+  EXPECT_EQ(first.image().size(), QSize(3, 2));
+  EXPECT_EQ(first.path(), path("a.bmp"));
+}
+
+TEST_F(PictureTest, AFileWrittenAnewIsANewPicture) {
+  test::writePicture(path("a.bmp"), 3, 2, Qt::red);
+  const Picture before = store.load(path("a.bmp"));
+  ASSERT_FALSE(before.image().isNull());
+  test::writePicture(path("a.bmp"), 5, 5, Qt::blue);
+  const Picture after = store.load(path("a.bmp"));
+  EXPECT_NE(before, after);
+  EXPECT_EQ(before.image().size(), QSize(3, 2));
+  EXPECT_EQ(after.image().size(), QSize(5, 5));
+}
+
+TEST_F(PictureTest, WhatIsNoPictureHasNoImage) {
+  EXPECT_TRUE(store.load(path("missing.bmp")).isNull());
+  EXPECT_TRUE(store.load(folder.path()).isNull()) << "a folder is no file";
+  EXPECT_TRUE(Picture().image().isNull());
+  test::writeBytes(path("text.gif"), "no picture at all");
+  EXPECT_TRUE(store.load(path("text.gif")).isNull());
+  // A header that claims 65535 by 65535 pixels over no data.
+  test::writeBytes(path("huge.gif"), QByteArray::fromHex("474946383961ffffffff000000"));
+  test::writeBytes(path("cut.bmp"), QByteArray::fromHex("424d3600000000000000360000002800000003"));
+  for (const char* name : {"huge.gif", "cut.bmp"}) {
+    const Picture picture = store.load(path(name));
+    EXPECT_FALSE(picture.isNull()) << name;
+    EXPECT_TRUE(picture.image().isNull()) << name;
+    EXPECT_FALSE(picture.isIcon()) << name;
+  }
+}
+
+TEST_F(PictureTest, TheContentDecidesNotTheEnding) {
+  test::writePicture(path("a.png"), 3, 2, Qt::red);
+  ASSERT_TRUE(QFile::rename(path("a.png"), path("a.bmp")));
+  EXPECT_EQ(store.load(path("a.bmp")).image().pixelColor(0, 0), QColor(Qt::red));
+}
+
+TEST_F(PictureTest, DecodedPixelsStayWithinTheBudget) {
+  constexpr int kPictures = 5;
+  constexpr qint64 kBytes = 4 * 30 * 20;
+  PictureStore small(2 * kBytes);
+  QList<Picture> pictures;
+  for (int i = 0; i < kPictures; ++i) {
+    const QString file = path("%1.png").arg(i);
+    test::writePicture(file, 30, 20, QColor(i, 0, 0));
+    pictures.append(small.load(file));
+    EXPECT_EQ(small.decodedBytes(), std::min(i, 2) * kBytes) << "nothing is decoded before it is seen";
+    EXPECT_EQ(pictures[i].image().pixelColor(3, 3), QColor(i, 0, 0));
+  }
+  EXPECT_EQ(small.decodedBytes(), 2 * kBytes);
+  for (int i = 0; i < kPictures; ++i)
+    EXPECT_EQ(pictures[i].image().pixelColor(3, 3), QColor(i, 0, 0)) << "decoded again";
+  pictures.clear();
+  EXPECT_EQ(small.decodedBytes(), 0) << "nobody shows them any more";
+}
+
+TEST_F(PictureTest, TheLeastRecentlySeenGoesFirst) {
+  constexpr qint64 kBytes = 4 * 30 * 20;
+  PictureStore small(2 * kBytes);
+  QList<Picture> pictures;
+  for (const char* name : {"a.png", "b.png", "c.png"}) {
+    test::writePicture(path(name), 30, 20, Qt::red);
+    pictures.append(small.load(path(name)));
+  }
+  pictures[0].image();
+  pictures[1].image();
+  pictures[0].image();
+  pictures[2].image();
+  QList<QString> fetched;
+  small.fetchWith([&](const Picture& picture) { fetched.append(picture.path()); });
+  for (const Picture& picture : pictures) picture.shown();
+  EXPECT_EQ(fetched, QList<QString>{path("b.png")});
+}
+
+TEST_F(PictureTest, AThumbnailIsNotKept) {
+  test::writePicture(path("a.png"), 400, 200, Qt::red);
+  const Picture picture = store.load(path("a.png"));
+  EXPECT_EQ(picture.thumbnail(QSize(100, 100)).size(), QSize(100, 50));
+  EXPECT_EQ(store.decodedBytes(), 0);
+  picture.image();
+  EXPECT_EQ(picture.thumbnail(QSize(100, 100)).size(), QSize(100, 50));
+  EXPECT_EQ(picture.thumbnail(QSize(900, 900)).size(), QSize(400, 200));
+  EXPECT_TRUE(Picture().thumbnail(QSize(9, 9)).isNull());
+}
+
+TEST_F(PictureTest, WhatIsShownMayComeLater) {
+  test::writePicture(path("a.png"), 4, 4, Qt::red);
+  test::writeBytes(path("broken.gif"), "GIF8 but no more");
+  const Picture good = store.load(path("a.png"));
+  const Picture broken = store.load(path("broken.gif"));
+  int asked = 0;
+  store.fetchWith([&](const Picture&) { ++asked; });
+  EXPECT_TRUE(good.shown().isNull());
+  EXPECT_TRUE(broken.shown(QSize(2, 2)).isNull());
+  EXPECT_EQ(asked, 2);
+  good.image();
+  broken.image();
+  EXPECT_EQ(good.shown().size(), QSize(4, 4));
+  EXPECT_TRUE(broken.shown().isNull());
+  EXPECT_EQ(asked, 2) << "one that can't be decoded isn't tried again";
+  store.fetchWith([](const Picture& picture) { picture.image(); });
+  test::writePicture(path("b.png"), 5, 5, Qt::red);
+  EXPECT_EQ(store.load(path("b.png")).shown().size(), QSize(5, 5)) << "who fetches may wait for it";
+}
+
+TEST_F(PictureTest, ADrawnPictureHasNoPath) {
+  const Picture drawn = Picture::drawn(QImage(2, 2, QImage::Format_RGB32));
+  EXPECT_TRUE(drawn.isDrawn());
+  EXPECT_EQ(drawn.path(), QString());
+  EXPECT_EQ(drawn.image().size(), QSize(2, 2));
+  EXPECT_FALSE(Picture().isDrawn());
+}

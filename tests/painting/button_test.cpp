@@ -1,0 +1,264 @@
+#include <gtest/gtest.h>
+
+#include <QPainter>
+#include <QSet>
+
+#include "elements/family.h"
+#include "elements/window.h"
+#include "painting/buttonface.h"
+#include "painting/buttonpainter.h"
+#include "painting/buttonsheet.h"
+#include "painting/colours.h"
+#include "painting/customoutline.h"
+
+namespace veneerer {
+namespace {
+
+constexpr QSize kSize(60, 30);
+
+Picture filled(const QColor& colour) {
+  QImage image(100, 100, QImage::Format_ARGB32_Premultiplied);
+  image.fill(colour);
+  return Picture::drawn(image);
+}
+
+// A red disc in the middle of white, without an alpha channel.
+QImage disc(QSize size = kSize) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Qt::red);
+  painter.drawEllipse(QRectF(QPointF(), size));
+  painter.fillRect(size.width() / 2 - 2, size.height() / 2 - 2, 4, 4, Qt::white);
+  return image;
+}
+
+class ButtonPainting : public testing::Test {
+protected:
+  ButtonPainting() {
+    button.setBackColor(0x00FF00);
+    button.setForeColor(0x0000FF);
+    button.setGradientColor(0xFF0000);
+  }
+
+  QImage paint(const ButtonState& state = {}) {
+    QImage image(kSize, QImage::Format_RGB32);
+    image.fill(Qt::magenta);
+    QPainter on(&image);
+    painter.paint(on, button, image.rect(), image.rect(), PixelScale(), state);
+    return image;
+  }
+
+  ChangeNotices notices;
+  Window window{notices, "Test"};
+  Single<Button> single{window, "Button"};
+  Button& button = *single;
+  TextLayouts texts;
+  ScaledImages images;
+  CutOuts cutOuts;
+  ButtonPainter painter{texts, images, cutOuts};
+};
+
+int count(const QImage& image, QColor colour) {
+  int found = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) found += image.pixelColor(x, y) == colour;
+  return found;
+}
+
+TEST_F(ButtonPainting, EveryShapeStyleAndGradientLooksDifferent) {
+  QSet<QByteArray> seen;
+  int looks = 0;
+  for (int shape = 0; shape < Button::kFirstCustomShape; ++shape)
+    for (int style = 0; style < 8; ++style)
+      for (int mode = 0; mode < kGradientModeCount; ++mode, ++looks) {
+        button.setButtonShape(shape);
+        button.setButtonStyle(style);
+        button.setGradientMode(mode);
+        const QImage image = paint();
+        seen.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
+      }
+  EXPECT_EQ(seen.size(), looks);
+}
+
+TEST_F(ButtonPainting, NumbersOutOfRangeCountAsZero) {
+  const QImage plain = paint();
+  button.setButtonStyle(99);
+  button.setGradientMode(-4);
+  button.set(Property::CaptionStyle, 77);
+  button.set(Property::PictureAlign, -1);
+  EXPECT_EQ(paint(), plain);
+}
+
+TEST_F(ButtonPainting, TheCaptionIsDrawnInItsColourAsItStands) {
+  button.setButtonStyle(2);
+  button.set(Property::FontSize, 10.0f);
+  button.set(Property::FontBold, true);
+  button.setCaption(QStringLiteral("II"));
+  const int withoutSign = count(paint(), Qt::red);
+  EXPECT_GT(withoutSign, 0);
+  button.setCaption(QStringLiteral("I&I"));
+  EXPECT_GT(count(paint(), Qt::red), withoutSign) << "the sign & must show";
+  button.setCaption(QStringLiteral("II||II"));
+  const QImage twoLines = paint();
+  EXPECT_GT(count(twoLines.copy(0, 0, 60, 15), Qt::red), 0);
+  EXPECT_GT(count(twoLines.copy(0, 15, 60, 15), Qt::red), 0);
+  EXPECT_GT(count(twoLines, Qt::green), 1000) << "the face keeps the back colour";
+}
+
+TEST_F(ButtonPainting, ACustomShapeFollowsItsPicture) {
+  button.setPicture(Picture::drawn(disc()));
+  button.setButtonShape(7);
+  button.setButtonStyle(2);
+  const QImage image = paint();
+  EXPECT_EQ(image.pixelColor(1, 1), Qt::magenta) << "outside of the outline";
+  EXPECT_EQ(image.pixelColor(20, 15), Qt::red);
+  EXPECT_EQ(image.pixelColor(30, 15), Qt::white)
+      << "inside, the background's colour is a part of the picture";
+
+  button.setPicture(Picture::drawn(disc(QSize(20, 20))));
+  EXPECT_EQ(paint().pixelColor(10, 15), Qt::red) << "stretched";
+  button.setButtonShape(8);
+  EXPECT_EQ(paint().pixelColor(10, 15), Qt::magenta) << "in its own size";
+  EXPECT_EQ(paint().pixelColor(24, 15), Qt::red);
+}
+
+TEST_F(ButtonPainting, PicturesFollowTheirSize) {
+  button.setPicture(filled(Qt::blue));
+  button.setButtonStyle(2);  // no edges
+  int covered[5];
+  for (int size = 0; size < 5; ++size) {
+    button.setPictureSize(size);
+    covered[size] = count(paint(), Qt::blue);
+  }
+  EXPECT_EQ(covered[0], 16 * 16);
+  EXPECT_EQ(covered[1], 24 * 24);
+  EXPECT_EQ(covered[2], 26 * 26) << "no larger than the face has room for";
+  EXPECT_EQ(covered[3], 60 * 30);
+  EXPECT_GT(covered[4], 26 * 26);
+  EXPECT_LT(covered[4], covered[3]);
+}
+
+TEST_F(ButtonPainting, AStyleShowsUnderASeeThroughPictureAndAroundAnyOther) {
+  for (int style = 0; style < 8; ++style) {
+    button.setButtonStyle(style);
+    button.setPicture(Picture());
+    const QImage plain = paint();
+    const QImage pressed = paint({.pressed = true});
+    button.setPictureSize(3);
+    button.setPicture(filled(Qt::transparent));
+    EXPECT_EQ(paint(), plain) << style;
+    EXPECT_EQ(paint({.pressed = true}), pressed) << style;
+    button.setPicture(filled(Qt::blue));
+    EXPECT_EQ(paint().pixelColor(30, 15), QColor(Qt::blue)) << style;
+    EXPECT_NE(paint({.pressed = true}).pixelColor(30, 15), QColor(Qt::blue)) << style;
+    if (style != 2) {
+      EXPECT_LT(count(paint(), Qt::blue), 60 * 28) << "no edge of style " << style;
+    }
+  }
+}
+
+TEST_F(ButtonPainting, APictureOfTheFacesProportionsLooksAlikeInBothCoveringSizes) {
+  button.setPicture(Picture::drawn(disc(kSize * 2)));
+  button.setPictureSize(3);
+  const QImage stretched = paint();
+  button.setPictureSize(4);
+  EXPECT_EQ(paint(), stretched);
+}
+
+TEST_F(ButtonPainting, EveryFaceAnswersThePointerWithItsHoverColoursLocked) {
+  const QImage silhouette = disc();
+  for (int style = 0; style < 8; ++style)
+    for (const std::int32_t back : {0xFFFFFF, 0x000000, 0x808080})
+      for (const Picture& picture : {Picture(), filled(Qt::white), Picture::drawn(silhouette)}) {
+        button.setButtonShape(0);
+        button.setPicture(picture);
+        button.setPictureSize(3);
+        if (picture.image().size() == kSize) button.setButtonShape(7);
+        button.setButtonStyle(style);
+        button.setBackColor(back);
+        const QImage rest = paint();
+        const QImage hover = paint({.hover = true});
+        int changed = 0;
+        for (int y = 0; y < 30; ++y)
+          for (int x = 0; x < 60; ++x) changed += hover.pixel(x, y) != rest.pixel(x, y);
+        EXPECT_GT(changed, 40) << style << ' ' << back << ' ' << picture.image().width();
+      }
+}
+
+TEST_F(ButtonPainting, CaptionsEndAtTheOutline) {
+  button.set(Property::FontSize, 11.0f);
+  for (int shape = 1; shape <= 7; ++shape) {
+    if (shape == 7) button.setPicture(Picture::drawn(disc()));
+    button.setButtonShape(shape);
+    button.setCaption(QString());
+    const QImage bare = paint();
+    button.setCaption(QStringLiteral("MMMMMMMM||MMMMMMMM"));
+    const QImage lettered = paint();
+    EXPECT_NE(lettered, bare) << shape;
+    int spilt = 0;
+    for (int y = 0; y < 30; ++y)
+      for (int x = 0; x < 60; ++x)
+        spilt += bare.pixelColor(x, y) == Qt::magenta && lettered.pixelColor(x, y) != Qt::magenta;
+    EXPECT_EQ(spilt, 0) << shape;
+  }
+}
+
+TEST_F(ButtonPainting, ACaptionOnGlassIsntGlass) {
+  QImage glass = filled(QColor(255, 255, 255, 100)).image();
+  glass.setPixelColor(0, 0, Qt::transparent);
+  button.setPicture(Picture::drawn(glass));
+  button.setButtonShape(7);
+  button.set(Property::FontSize, 16.0f);
+  button.set(Property::FontBold, true);
+  button.setCaption(QStringLiteral("MM"));
+  EXPECT_GT(count(paint(), Qt::red), 30);
+}
+
+TEST_F(ButtonPainting, StatesShowAndNoFaceOutlivesItsProperties) {
+  button.setCaption(QStringLiteral("OK"));
+  const QImage plain = paint();
+  EXPECT_NE(paint({.pressed = true}), plain);
+  EXPECT_NE(paint({.hover = true}), plain);
+  EXPECT_EQ(paint(), plain);
+
+  button.set(Property::Mode, static_cast<int>(ButtonMode::CheckBox));
+  button.set(Property::Value, 1);
+  EXPECT_EQ(paint(), paint({.pressed = true})) << "a latched button looks pressed";
+  button.set(Property::Value, 0);
+  EXPECT_EQ(paint(), plain);
+
+  button.set(Property::Enabled, false);
+  EXPECT_EQ(paint({.hover = true}), paint()) << "a disabled button doesn't answer";
+  EXPECT_NE(paint(), plain);
+  button.set(Property::Enabled, true);
+  button.setBackColor(0x00FFFF);
+  EXPECT_NE(paint(), plain);
+}
+
+TEST_F(ButtonPainting, HoverColoursActUnlessTheyAreLocked) {
+  button.setButtonStyle(2);
+  button.set(Property::HoverBackColor, 0xFF0000);
+  const QImage locked = paint({.hover = true});
+  button.set(Property::HoverColorLocks, 1);
+  EXPECT_NE(paint({.hover = true}), locked);
+  EXPECT_EQ(paint().pixelColor(5, 15), Qt::green);
+}
+
+TEST(CustomOutline, CopesWithAnyPicture) {
+  QImage plain(3000, 5, QImage::Format_RGB32);
+  plain.fill(Qt::red);
+  const QImage onlyBackground = cutOut(plain);
+  EXPECT_LE(onlyBackground.width(), 1024);
+  EXPECT_EQ(onlyBackground.pixelColor(0, 0), Qt::red) << "a button that is nowhere could never be clicked";
+  EXPECT_TRUE(cutOut(QImage()).isNull());
+  EXPECT_EQ(cutOut(QImage(1, 1, QImage::Format_Mono)).size(), QSize(1, 1));
+}
+
+TEST(ButtonSheet, IsDrawnAtEveryScale) {
+  EXPECT_EQ(buttonSheet(2).size(), buttonSheet(1).size() * 2);
+}
+
+}  // namespace
+}  // namespace veneerer
