@@ -55,8 +55,8 @@ void spreadOut(Form1& form) {
 }
 
 void fullRepaint(benchmark::State& state) {
-  ChangeNotices notices;
-  Form1 form(notices);
+  Switchboard board;
+  Form1 form(board);
   spreadOut(form);
   form.setPicture(Picture::drawn(photograph(kScreen)));
   CanvasPainter canvas;
@@ -69,8 +69,8 @@ void fullRepaint(benchmark::State& state) {
 BENCHMARK(fullRepaint)->Unit(benchmark::kMillisecond);
 
 void firstRepaint(benchmark::State& state) {
-  ChangeNotices notices;
-  Form1 form(notices);
+  Switchboard board;
+  Form1 form(board);
   spreadOut(form);
   QImage image(kScreen, QImage::Format_RGB32);
   for (auto _ : state) {
@@ -83,8 +83,8 @@ BENCHMARK(firstRepaint)->Unit(benchmark::kMillisecond);
 
 // What one step of a drag repaints.
 void smallRepaint(benchmark::State& state) {
-  ChangeNotices notices;
-  Form1 form(notices);
+  Switchboard board;
+  Form1 form(board);
   spreadOut(form);
   CanvasPainter canvas;
   QImage image(kScreen, QImage::Format_RGB32);

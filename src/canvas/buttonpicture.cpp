@@ -10,7 +10,7 @@ constexpr int kStretchedPicture = 3;
 
 void give(State& state, Element& element, const Picture& picture, const QString& reference) {
   element.set(Property::Picture, picture);
-  if (StoredValue* name = state.names.of(element)) *name = reference;
+  if (ImageSlot* name = state.names.of(element)) name->setValue(reference);
 }
 
 }  // namespace

@@ -9,11 +9,9 @@ namespace veneerer {
 
 class CanvasInput {
 public:
-  CanvasInput(State& state, Dialogs& dialogs)
-      : state_(state), dialogs_(dialogs), selection_(state), dragging_(state) {}
+  /// Listens to the clicks on the canvas and on the samples of Form6 for as long as it lives.
+  CanvasInput(State& state, Dialogs& dialogs);
 
-  /// The click event of an element of the canvas or a sample of Form6.
-  void click(Element& element) { selection_.click(element); }
   /// The press event; x and y in twips in the element's own coordinates. The right button gives a button its
   /// picture.
   void press(Element& element, float x, float y, MouseButton button);
@@ -25,6 +23,8 @@ private:
   Dialogs& dialogs_;
   Selection selection_;
   Dragging dragging_;
+  Attachment canvasClicks_;
+  Attachment sampleClicks_;
 };
 
 }  // namespace veneerer

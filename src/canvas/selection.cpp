@@ -27,7 +27,7 @@ void Selection::click(Element& element) {
   if (section->clearsIndex) state_.globals.ElementIndex = 0;
   putClickPlaceholder(state_, element);
   // Nothing but the element was chosen: what the fields' handlers are refused is no answer to that.
-  const QuietRefusals quiet(state_.notices);
+  const QuietRefusals quiet(state_.board);
   fillFields(element);
 }
 

@@ -13,7 +13,7 @@ void showRange(Array<T>& family, int first, int last, bool shown) {
 }
 
 void showCovers(State& state) {
-  state.globals.LastCoverIndex = kShownCovers - 1;
+  state.globals.LastCoverIndex->setValue(kShownCovers - 1);
   state.form4.Check5->setValue(1);
   Form1& f = state.form1;
   for (int i = 0; i <= kFeatured; ++i) {

@@ -29,17 +29,22 @@ std::unique_ptr<State> makeState() {
 
 struct Designer::Parts {
   explicit Parts(Platform& world) : platform(world) {
-    subscription = state->notices.subscribe([this](const Change& change) { listChosen(change); });
+    Switchboard& board = state->board;
+    attachments = {
+        board.onClick(*state->form4.Command4, [this](Element&) { save(skinFolder()); }),
+        board.onClick(*state->form2.Command1, [this](Element&) { saveLockedButtons(*state, skinFolder()); }),
+        board.onChange(*state->form4.Combo3, Property::ListIndex, [this](Element&) { otherSkinChosen(); }),
+        board.onChange(*state->form3.List1, Property::ListIndex, [this](Element&) { firstSkinChosen(); })};
   }
-  ~Parts() { state->notices.unsubscribe(subscription); }
 
-  void listChosen(const Change& change) {
-    if (change.property != Property::ListIndex) return;
-    if (&change.element == &*state->form4.Combo3 && state->form4.Combo3->listIndex() >= 0) reload();
-    if (&change.element == &*state->form3.List1 && state->form3.List1->listIndex() >= 0) {
-      chooseSkin(*state, state->form3.List1->text(), loader);
-      followFonts();
-    }
+  void otherSkinChosen() {
+    if (state->form4.Combo3->listIndex() >= 0) reload();
+  }
+
+  void firstSkinChosen() {
+    if (state->form3.List1->listIndex() < 0) return;
+    chooseSkin(*state, state->form3.List1->text(), loader);
+    followFonts();
   }
 
   void reload() {
@@ -68,7 +73,7 @@ struct Designer::Parts {
   CanvasInput canvas{*state, platform.dialogs};
   ToolsPalette tools{*state, platform, platform.progress};
   SkinLoader loader{*state, platform, covers};
-  int subscription = 0;
+  std::vector<Attachment> attachments;
 };
 
 Designer::Designer(Platform& platform) : parts_(std::make_unique<Parts>(platform)) {}
@@ -116,23 +121,7 @@ void Designer::fillFonts() {
 
 void Designer::click(Element& element) {
   const RefusalNotes::Command command(parts_->refusals);
-  State& state = *parts_->state;
-  Window& window = element.window();
-  if (&window == &state.form1)
-    parts_->canvas.click(element);
-  else if (&window == &state.form5)
-    parts_->textures.click(element);
-  else if (&element == &*state.form4.Command4)
-    save();
-  else if (&element == &*state.form4.Command1)
-    parts_->covers.saveNamed();
-  else if (&element == &*state.form2.Command1)
-    saveLockedButtons(state, parts_->skinFolder());
-  else if (&window == &state.form6) {
-    // A sample sets its Section; everything else of the window belongs to the tools.
-    parts_->canvas.click(element);
-    parts_->tools.click(element);
-  }
+  parts_->state->board.click(element);
 }
 
 void Designer::press(Element& element, float x, float y, MouseButton button) {
@@ -144,7 +133,7 @@ void Designer::move(Element& element, float x, float y, MouseButton button) {
 }
 
 void Designer::doubleClick(Element& element) {
-  if (&element == &*parts_->state->form4.File1) parts_->covers.loadChosen();
+  parts_->state->board.doubleClick(element);
 }
 
 void Designer::resizeCanvas(float width, float height) {

@@ -3,11 +3,11 @@
 namespace veneerer {
 
 RefusalNotes::RefusalNotes(State& state) : state_(state) {
-  state.notices.setRefusalListener([this](const Refusal& refusal) { tell(refusal); });
+  state.board.tellRefusals([this](const Refusal& refusal) { tell(refusal); });
 }
 
 RefusalNotes::~RefusalNotes() {
-  state_.notices.setRefusalListener({});
+  state_.board.tellRefusals({});
 }
 
 void RefusalNotes::tell(const Refusal& refusal) {

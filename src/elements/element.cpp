@@ -36,17 +36,17 @@ const Value& Element::get(Property property) const {
 bool Element::set(Property property, Value value) {
   const int at = offset(property);
   require(at >= 0, "the element has no such property");
-  Value& stored = values_[static_cast<std::size_t>(at)];
-  require(stored.index() == value.index(), "the value is not of the property's type");
+  const Value& stored = values_[static_cast<std::size_t>(at)];
+  require(typeOf(value) == propertyType(property), "the value is not of the property's type");
   if (stored == value && !isEvent(property)) return false;
   const QString words = refusal(property, value);
   const bool isAccepted = accepts(property, value);
   if (isAccepted) {
-    const Value old = std::exchange(stored, std::move(value));
+    const Value old = replace(property, std::move(value));
     this->stored(property);
     notify(property, old);
   }
-  if (!words.isEmpty()) window_.notices().send(Refusal{*this, property, words});
+  if (!words.isEmpty()) window_.board().tell(Refusal{*this, property, words});
   return isAccepted;
 }
 
@@ -63,18 +63,29 @@ void Element::setContainer(Element& container) {
   container.children_.push_back(this);
 }
 
+int Element::stackOrder() const {
+  if (!container_) return -1;
+  const std::vector<Element*>& order = container_->children_;
+  return static_cast<int>(std::ranges::find(order, this) - order.begin());
+}
+
+void Element::setStackOrder(int place) {
+  const int before = stackOrder();
+  if (before == place) return;
+  std::vector<Element*>& order = container_->children_;
+  require(place >= 0 && place < static_cast<int>(order.size()), "elements are stacked among their siblings");
+  window_.board().record({*this, Property::StackOrder, Value(before)});
+  order.erase(order.begin() + before);
+  order.insert(order.begin() + place, this);
+  notify(Property::StackOrder, Value(before));
+}
+
 void Element::bringToFront() {
-  if (!container_ || container_->children_.back() == this) return;
-  std::erase(container_->children_, this);
-  container_->children_.push_back(this);
-  notify(Property::StackOrder, Value(0));
+  if (container_) setStackOrder(static_cast<int>(container_->children_.size()) - 1);
 }
 
 void Element::sendToBack() {
-  if (!container_ || container_->children_.front() == this) return;
-  std::erase(container_->children_, this);
-  container_->children_.insert(container_->children_.begin(), this);
-  notify(Property::StackOrder, Value(0));
+  if (container_) setStackOrder(0);
 }
 
 void Element::stackAbove(Element& sibling) {
@@ -88,10 +99,9 @@ void Element::stackBelow(Element& sibling) {
 void Element::restack(Element& sibling, int shift) {
   require(container_ && sibling.container_ == container_ && &sibling != this,
           "elements are stacked among their siblings");
-  std::vector<Element*>& order = container_->children_;
-  std::erase(order, this);
-  order.insert(std::find(order.begin(), order.end(), &sibling) + shift, this);
-  notify(Property::StackOrder, Value(0));
+  const int place = sibling.stackOrder();
+  // Taking the element out moves what lies above it down by one.
+  setStackOrder(place + shift - (stackOrder() < place ? 1 : 0));
 }
 
 QString Element::refusal(Property, const Value&) const {
@@ -112,12 +122,18 @@ bool Element::isEvent(Property) const {
 
 void Element::stored(Property) {}
 
+Value Element::replace(Property property, Value value) {
+  Value old = std::exchange(values_[static_cast<std::size_t>(offset(property))], std::move(value));
+  window_.board().record({*this, property, old});
+  return old;
+}
+
 void Element::store(Property property, Value value) {
-  values_[static_cast<std::size_t>(offset(property))] = std::move(value);
+  replace(property, std::move(value));
 }
 
 void Element::notify(Property property, const Value& oldValue) {
-  window_.notices().send({*this, property, oldValue});
+  window_.board().tell({*this, property, oldValue});
 }
 
 }  // namespace veneerer

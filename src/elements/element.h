@@ -8,8 +8,8 @@
 #include <QString>
 #include <vector>
 
-#include "elements/notices.h"
 #include "elements/property.h"
+#include "elements/switchboard.h"
 #include "elements/value.h"
 
 namespace veneerer {
@@ -33,6 +33,8 @@ enum class Kind : std::uint8_t {
   CheckBox,
   OptionButton,
   CommandButton,
+  ImageSlot,
+  CoverIndex,
 };
 
 class Element {
@@ -96,6 +98,10 @@ public:
   const std::vector<Element*>& children() const { return children_; }
   void bringToFront();
   void sendToBack();
+  /// The place among the container's children, from 0 at the bottom; -1 without a container.
+  int stackOrder() const;
+  /// Moves the element to that place.
+  void setStackOrder(int place);
   /// Moves the element directly above, or below, another one of the same container.
   void stackAbove(Element& sibling);
   void stackBelow(Element& sibling);
@@ -111,12 +117,14 @@ protected:
   /// A kind's own consequence of an accepted value, run before the notice is given.
   virtual void stored(Property property);
 
-  /// Stores without comparing or giving notice.
+  /// Stores without comparing or giving notice; the recorder alone hears of it.
   void store(Property property, Value value);
   void notify(Property property, const Value& oldValue);
 
 private:
   void restack(Element& sibling, int shift);
+  /// What was there before.
+  Value replace(Property property, Value value);
   int offset(Property property) const;
 
   Kind kind_;

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "elements/require.h"
+
 namespace veneerer {
 
 namespace {
@@ -9,7 +11,7 @@ namespace {
 using P = Property;
 using Defaults = std::vector<PropertyDefault>;
 
-constexpr int kKindCount = static_cast<int>(Kind::CommandButton) + 1;
+constexpr int kKindCount = static_cast<int>(Kind::CoverIndex) + 1;
 
 // System colours in the signed form of the record files.
 constexpr std::int32_t kButtonFace = static_cast<std::int32_t>(0x8000000F);
@@ -106,6 +108,10 @@ Defaults defaultsOf(Kind kind) {
       return boxDefaults();
     case Kind::CommandButton:
       return kPlace + Defaults{{P::Caption, QString()}};
+    case Kind::ImageSlot:
+      return {{P::Name, StoredValue()}};
+    case Kind::CoverIndex:
+      return {{P::Value, 0}};
   }
   return {};
 }
@@ -122,8 +128,11 @@ const KindTable& tableOf(Kind kind) {
       KindTable& table = made[k];
       table.defaults = defaultsOf(static_cast<Kind>(k));
       table.offsets.fill(-1);
-      for (std::size_t i = 0; i < table.defaults.size(); ++i)
-        table.offsets[static_cast<std::size_t>(table.defaults[i].property)] = static_cast<std::int8_t>(i);
+      for (std::size_t i = 0; i < table.defaults.size(); ++i) {
+        const auto& [property, value] = table.defaults[i];
+        require(typeOf(value) == propertyType(property), "a default is of its property's type");
+        table.offsets[static_cast<std::size_t>(property)] = static_cast<std::int8_t>(i);
+      }
     }
     return made;
   }();

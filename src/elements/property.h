@@ -51,12 +51,19 @@ enum class Property : std::uint8_t {
   ListIndex,  ///< -1 for no row
   List,
   Value,
+  Name,  ///< of an image, as its record file tells it
 };
 
-inline constexpr int kPropertyCount = static_cast<int>(Property::Value) + 1;
+inline constexpr int kPropertyCount = static_cast<int>(Property::Name) + 1;
 
 /// The property's name as scripts, state dumps and error messages write it.
 QLatin1String propertyName(Property property);
+
+/// The alternatives of a Value, in its order.
+enum class ValueType : std::uint8_t { Truth, Whole, Single, Text, Texts, Picture, Stored };
+
+/// What the property's values are, whatever kind of element has it.
+ValueType propertyType(Property property);
 
 /// The property of that exact name, or nothing.
 std::optional<Property> propertyNamed(QLatin1String name);

@@ -4,8 +4,8 @@
 
 namespace veneerer {
 
-Window::Window(ChangeNotices& notices, const char* name)
-    : Element(Kind::Window, *this, nullptr, -1), name_(QString::fromLatin1(name)), notices_(notices) {}
+Window::Window(Switchboard& board, const char* name)
+    : Element(Kind::Window, *this, nullptr, -1), name_(QString::fromLatin1(name)), board_(board) {}
 
 void Window::add(Family& family) {
   require(!byName_.contains(family.name()), "two families of one window share a name");

@@ -10,10 +10,10 @@ namespace veneerer {
 
 class Window : public Element {
 public:
-  Window(ChangeNotices& notices, const char* name);
+  Window(Switchboard& board, const char* name);
 
   const QString& name() const { return name_; }
-  ChangeNotices& notices() const { return notices_; }
+  Switchboard& board() const { return board_; }
 
   /// The families in the order of their declaration, which is the window's own order.
   const std::vector<Family*>& families() const { return families_; }
@@ -32,7 +32,7 @@ private:
   void add(Family& family);
 
   QString name_;
-  ChangeNotices& notices_;
+  Switchboard& board_;
   std::vector<Family*> families_;
   QHash<QString, Family*> byName_;
 };

@@ -12,7 +12,7 @@ namespace veneerer {
 
 class Form1 : public Window {
 public:
-  explicit Form1(ChangeNotices& notices) : Window(notices, "Form1") {}
+  explicit Form1(Switchboard& board) : Window(board, "Form1") {}
 
   // Panels and pictures. Picture1 are the screens in the order of the Edit Section list; Picture12(0) and
   // Picture23 are the two screens beside them.

@@ -9,7 +9,7 @@ namespace veneerer {
 
 class Form2 : public Window {
 public:
-  explicit Form2(ChangeNotices& notices) : Window(notices, "Form2") {}
+  explicit Form2(Switchboard& board) : Window(board, "Form2") {}
 
   Array<CheckBox> Check1{*this, "Check1", 14};  ///< 0 to 4 "Misc Buttons", 5 to 13 "Play Button Options"
   Array<CheckBox> Check2{*this, "Check2", 16};  ///< "Menu Bar Items"

@@ -9,7 +9,7 @@ namespace veneerer {
 
 class Form3 : public Window {
 public:
-  explicit Form3(ChangeNotices& notices) : Window(notices, "Form3") {}
+  explicit Form3(Switchboard& board) : Window(board, "Form3") {}
 
   Single<FolderList> Dir1{*this, "Dir1"};             ///< the Skins by their paths
   Single<ListBox> List1{*this, "List1"};              ///< the Skins by their names

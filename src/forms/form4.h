@@ -9,7 +9,7 @@ namespace veneerer {
 
 class Form4 : public Window {
 public:
-  explicit Form4(ChangeNotices& notices) : Window(notices, "Form4") {}
+  explicit Form4(Switchboard& board) : Window(board, "Form4") {}
 
   Single<ComboBox> Combo1{*this, "Combo1"};           ///< "Number of tracks shown:"
   Single<ComboBox> Combo2{*this, "Combo2"};           ///< "Jump To Letter:"

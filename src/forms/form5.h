@@ -10,7 +10,7 @@ namespace veneerer {
 
 class Form5 : public Window {
 public:
-  explicit Form5(ChangeNotices& notices) : Window(notices, "Form5") {}
+  explicit Form5(Switchboard& board) : Window(board, "Form5") {}
 
   Array<ImageBox> Image1{*this, "Image1", 13};
   Single<ImageBox> Image2{*this, "Image2"};

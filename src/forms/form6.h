@@ -11,7 +11,7 @@ namespace veneerer {
 
 class Form6 : public Window {
 public:
-  explicit Form6(ChangeNotices& notices) : Window(notices, "Form6") {}
+  explicit Form6(Switchboard& board) : Window(board, "Form6") {}
 
   Single<TextBox> Text1{*this, "Text1"};                 ///< "Button Caption:"
   Single<TextBox> Text2{*this, "Text2"};                 ///< the colour as text

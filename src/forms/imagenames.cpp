@@ -1,42 +1,8 @@
 #include "forms/imagenames.h"
 
-#include "elements/numbers.h"
-
 namespace veneerer {
 
-QString StoredValue::text() const {
-  return isNumber() ? plainNumber(number()) : std::get<QString>(value_);
-}
-
-ImageNames::ImageNames(Form1& form1) : form1_(form1) {
-  all_ = {&ImageName,
-          &AlbumFrameName,
-          &SearchChoiceName,
-          &SearchResultsName,
-          &JumpToLetterName,
-          &GenreName,
-          &PlayOptionsName,
-          &PinScreenName,
-          &DecadesYearName,
-          &DecadesSelectorName,
-          &DecadesMonthName,
-          &PlaylistLoadName,
-          &PlaylistSaveName,
-          &NoSearchName,
-          &RequestName,
-          &LoginName,
-          &MemberHomeName,
-          &CollectionsName,
-          &ConfirmationName,
-          &FreeCreditName,
-          &FilterName,
-          &MainPanelName,
-          &NowPlayingPanelName,
-          &FeedPanelName,
-          &NavName,
-          &Nav2Name,
-          &PlayOptionsKeyboardName,
-          &MemberKeyboardName};
+ImageNames::ImageNames(Switchboard& board, Form1& form1) : Window(board, "ImageNames"), form1_(form1) {
   for (const Family* family : form1.families()) {
     if (family->members().front()->kind() != Kind::Button) continue;
     // The two buttons of lvButtons_H23 stand behind the 26 letters of lvButtons_H22, in one table.
@@ -45,9 +11,8 @@ ImageNames::ImageNames(Form1& form1) : form1_(form1) {
                           ? form1.lvButtons_H22.bound() + form1.lvButtons_H23.bound()
                           : family->bound();
     const QByteArray name = family->name().toLatin1() + "Name";
-    buttonTables_.push_back(std::make_unique<ImageTable>(name.constData(), count));
+    buttonTables_.push_back(std::make_unique<ImageTable>(*this, name.constData(), count));
     byFamily_.insert(family, buttonTables_.back().get());
-    all_.push_back(buttonTables_.back().get());
   }
 }
 
@@ -58,9 +23,9 @@ ImageTable& ImageNames::ofButtons(const Family& family) {
   return *table;
 }
 
-StoredValue* ImageNames::of(const Element& element) {
+ImageSlot* ImageNames::of(const Element& element) {
   const Family* family = element.family();
-  if (family == &form1_.Picture17) return &NowPlayingPanelName.value();
+  if (family == &form1_.Picture17) return &*NowPlayingPanelName;
   if (!family || element.kind() != Kind::Button || &family->window() != &form1_) return nullptr;
   const int shift = family == &form1_.lvButtons_H23 ? form1_.lvButtons_H22.bound() : 0;
   return &ofButtons(*family)[shift + std::max(0, element.index())];

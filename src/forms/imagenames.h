@@ -3,113 +3,75 @@
 #pragma once
 
 #include <QHash>
-#include <QString>
 #include <memory>
-#include <variant>
 #include <vector>
 
 #include "forms/form1.h"
 
 namespace veneerer {
 
-/// A value that a loader kept as it was read: nothing, a text, or a number.
-class StoredValue {
+/// An image reference that a record file tells, whether or not the picture is there.
+class ImageSlot : public Element {
 public:
-  StoredValue() = default;
-  StoredValue(const QString& text) : value_(text) {}  // NOLINT(google-explicit-constructor): names are texts
-  explicit StoredValue(double number) : value_(number) {}
+  ImageSlot(Window& window, Family* family, int index) : Element(Kind::ImageSlot, window, family, index) {}
 
-  bool isNumber() const { return std::holds_alternative<double>(value_); }
-  double number() const { return std::get<double>(value_); }
-  /// The value as a text; a number in its plain form.
-  QString text() const;
-  bool isEmpty() const { return !isNumber() && std::get<QString>(value_).isEmpty(); }
-
-  bool operator==(const StoredValue&) const = default;
-
-private:
-  std::variant<QString, double> value_;
+  const StoredValue& value() const { return as<StoredValue>(Property::Name); }
+  QString text() const { return value().text(); }
+  bool isEmpty() const { return value().isEmpty(); }
+  void setValue(const StoredValue& value) { set(Property::Name, value); }
 };
 
-/// A table of image references, or a single one.
-class ImageTable {
+using ImageTable = Array<ImageSlot>;
+using ImageNameSlot = Single<ImageSlot>;
+
+/// The names are a window's families like all that can change; no window shows them.
+class ImageNames : public Window {
 public:
-  ImageTable(const char* name, int count, bool isArray = true)
-      : name_(QString::fromLatin1(name)), entries_(static_cast<std::size_t>(count)), isArray_(isArray) {}
+  ImageNames(Switchboard& board, Form1& form1);
 
-  const QString& name() const { return name_; }
-  bool isArray() const { return isArray_; }
-  int count() const { return static_cast<int>(entries_.size()); }
-  StoredValue& operator[](int index) { return entries_.at(static_cast<std::size_t>(index)); }
-  const StoredValue& operator[](int index) const { return entries_.at(static_cast<std::size_t>(index)); }
-
-private:
-  QString name_;
-  std::vector<StoredValue> entries_;
-  bool isArray_;
-};
-
-/// One image reference under a name of its own.
-class ImageNameSlot : public ImageTable {
-public:
-  explicit ImageNameSlot(const char* name) : ImageTable(name, 1, false) {}
-  StoredValue& value() { return (*this)[0]; }
-  void operator=(const QString& name) { value() = name; }
-};
-
-class ImageNames {
-public:
-  explicit ImageNames(Form1& form1);
-  ImageNames(const ImageNames&) = delete;
-  ImageNames& operator=(const ImageNames&) = delete;
-
-  ImageTable ImageName{"ImageName", 16};            ///< the backdrops; skin.ini stores 0 to 14
-  ImageTable AlbumFrameName{"AlbumFrameName", 28};  ///< the animated frame of each album cover
+  ImageTable ImageName{*this, "ImageName", 16};            ///< the backdrops; skin.ini stores 0 to 14
+  ImageTable AlbumFrameName{*this, "AlbumFrameName", 28};  ///< the animated frame of each album cover
 
   // One name for each further screen, stored in that screen's own record file.
-  ImageNameSlot SearchChoiceName{"SearchChoiceName"};
-  ImageNameSlot SearchResultsName{"SearchResultsName"};
-  ImageNameSlot JumpToLetterName{"JumpToLetterName"};
-  ImageNameSlot GenreName{"GenreName"};
-  ImageNameSlot PlayOptionsName{"PlayOptionsName"};
-  ImageNameSlot PinScreenName{"PinScreenName"};
-  ImageNameSlot DecadesYearName{"DecadesYearName"};
-  ImageNameSlot DecadesSelectorName{"DecadesSelectorName"};
-  ImageNameSlot DecadesMonthName{"DecadesMonthName"};
-  ImageNameSlot PlaylistLoadName{"PlaylistLoadName"};
-  ImageNameSlot PlaylistSaveName{"PlaylistSaveName"};
-  ImageNameSlot NoSearchName{"NoSearchName"};
-  ImageNameSlot RequestName{"RequestName"};
-  ImageNameSlot LoginName{"LoginName"};
-  ImageNameSlot MemberHomeName{"MemberHomeName"};
-  ImageNameSlot CollectionsName{"CollectionsName"};
-  ImageNameSlot ConfirmationName{"ConfirmationName"};
-  ImageNameSlot FreeCreditName{"FreeCreditName"};
-  ImageNameSlot FilterName{"FilterName"};
+  ImageNameSlot SearchChoiceName{*this, "SearchChoiceName"};
+  ImageNameSlot SearchResultsName{*this, "SearchResultsName"};
+  ImageNameSlot JumpToLetterName{*this, "JumpToLetterName"};
+  ImageNameSlot GenreName{*this, "GenreName"};
+  ImageNameSlot PlayOptionsName{*this, "PlayOptionsName"};
+  ImageNameSlot PinScreenName{*this, "PinScreenName"};
+  ImageNameSlot DecadesYearName{*this, "DecadesYearName"};
+  ImageNameSlot DecadesSelectorName{*this, "DecadesSelectorName"};
+  ImageNameSlot DecadesMonthName{*this, "DecadesMonthName"};
+  ImageNameSlot PlaylistLoadName{*this, "PlaylistLoadName"};
+  ImageNameSlot PlaylistSaveName{*this, "PlaylistSaveName"};
+  ImageNameSlot NoSearchName{*this, "NoSearchName"};
+  ImageNameSlot RequestName{*this, "RequestName"};
+  ImageNameSlot LoginName{*this, "LoginName"};
+  ImageNameSlot MemberHomeName{*this, "MemberHomeName"};
+  ImageNameSlot CollectionsName{*this, "CollectionsName"};
+  ImageNameSlot ConfirmationName{*this, "ConfirmationName"};
+  ImageNameSlot FreeCreditName{*this, "FreeCreditName"};
+  ImageNameSlot FilterName{*this, "FilterName"};
 
   // Names without a slot in the texture viewer.
-  ImageNameSlot MainPanelName{"MainPanelName"};                      ///< main.ini, shown in Picture2(12)
-  ImageNameSlot NowPlayingPanelName{"NowPlayingPanelName"};          ///< now_playing.ini, shown in Picture17
-  ImageNameSlot FeedPanelName{"FeedPanelName"};                      ///< tracklist.ini, shown in Picture2(15)
-  ImageNameSlot NavName{"NavName"};                                  ///< nav.ini, kept and written back
-  ImageNameSlot Nav2Name{"Nav2Name"};                                ///< nav2.ini, kept and written back
-  ImageNameSlot PlayOptionsKeyboardName{"PlayOptionsKeyboardName"};  ///< play_options.ini, kept
-  ImageNameSlot MemberKeyboardName{"MemberKeyboardName"};            ///< myvquill.ini, kept
+  ImageNameSlot MainPanelName{*this, "MainPanelName"};              ///< main.ini, shown in Picture2(12)
+  ImageNameSlot NowPlayingPanelName{*this, "NowPlayingPanelName"};  ///< now_playing.ini, shown in Picture17
+  ImageNameSlot FeedPanelName{*this, "FeedPanelName"};              ///< tracklist.ini, shown in Picture2(15)
+  ImageNameSlot NavName{*this, "NavName"};                          ///< nav.ini, kept and written back
+  ImageNameSlot Nav2Name{*this, "Nav2Name"};                        ///< nav2.ini, kept and written back
+  ImageNameSlot PlayOptionsKeyboardName{*this, "PlayOptionsKeyboardName"};  ///< play_options.ini, kept
+  ImageNameSlot MemberKeyboardName{*this, "MemberKeyboardName"};            ///< myvquill.ini, kept
 
   /// The table of a button family's pictures, by the button's index.
   ImageTable& ofButtons(const Family& family);
 
   /// Where the name of a button's or a panel's own picture is kept, null when it has none.
-  StoredValue* of(const Element& element);
-
-  /// Every table, in the order above, the button tables last.
-  const std::vector<ImageTable*>& all() const { return all_; }
+  ImageSlot* of(const Element& element);
 
 private:
   Form1& form1_;
   std::vector<std::unique_ptr<ImageTable>> buttonTables_;
   QHash<const Family*, ImageTable*> byFamily_;
-  std::vector<ImageTable*> all_;
 };
 
 }  // namespace veneerer

@@ -9,7 +9,7 @@ namespace veneerer {
 
 class Splash : public Window {
 public:
-  explicit Splash(ChangeNotices& notices) : Window(notices, "frmSplash") {}
+  explicit Splash(Switchboard& board) : Window(board, "frmSplash") {}
 
   Single<Label> Label1{*this, "Label1"};  ///< "Powered By Merlane Jukebox"
   Single<Label> Label2{*this, "Label2"};  ///< the warning

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "elements/notes.h"
-#include "elements/notices.h"
+#include "elements/switchboard.h"
 #include "forms/form1.h"
 #include "forms/form2.h"
 #include "forms/form3.h"
@@ -22,18 +22,18 @@ struct State {
   State(const State&) = delete;
   State& operator=(const State&) = delete;
 
-  ChangeNotices notices;
+  Switchboard board;
   Notes notes;
   PictureStore pictures;
-  Form1 form1{notices};
-  Form2 form2{notices};
-  Form3 form3{notices};
-  Form4 form4{notices};
-  Form5 form5{notices};
-  Form6 form6{notices};
-  Splash frmSplash{notices};
-  ImageNames names{form1};
-  Globals globals;
+  Form1 form1{board};
+  Form2 form2{board};
+  Form3 form3{board};
+  Form4 form4{board};
+  Form5 form5{board};
+  Form6 form6{board};
+  Splash frmSplash{board};
+  ImageNames names{board, form1};
+  Globals globals{board};
 
   std::vector<Window*> windows() { return {&form1, &form2, &form3, &form4, &form5, &form6, &frmSplash}; }
 

@@ -159,27 +159,27 @@ private:
   void drawFrame() {
     Form1& f = state_.form1;
     ImageTable& names = state_.names.ImageName;
-    names[0] = pictures_.add(QStringLiteral("backdrop.jpg"), artist_.backdrop());
-    names[13] = pictures_.add(QStringLiteral("Player.bmp"), artist_.bar(sizeOf(f.Picture2[1])));
-    names[14] = pictures_.add(QStringLiteral("logo.jpg"), artist_.logo(sizeOf(f.Picture2[2])));
+    names[0].setValue(pictures_.add(QStringLiteral("backdrop.jpg"), artist_.backdrop()));
+    names[13].setValue(pictures_.add(QStringLiteral("Player.bmp"), artist_.bar(sizeOf(f.Picture2[1]))));
+    names[14].setValue(pictures_.add(QStringLiteral("logo.jpg"), artist_.logo(sizeOf(f.Picture2[2]))));
     pictures_.add(QStringLiteral("Menu.bmp"), artist_.bar(sizeOf(f.Picture2[0])));
     pictures_.add(QStringLiteral("Menupopup.bmp"), artist_.popup(sizeOf(*f.Picture23)));
     pictures_.add(QStringLiteral("slider_back.bmp"), artist_.track(sizeOf(*f.Picture6)));
     pictures_.add(QStringLiteral("progress_slider_back.bmp"), artist_.track(sizeOf(*f.Picture18)));
-    state_.names.MainPanelName =
-        pictures_.add(QStringLiteral("stage.jpg"), artist_.stage(sizeOf(f.Picture2[12])));
+    state_.names.MainPanelName->setValue(
+        pictures_.add(QStringLiteral("stage.jpg"), artist_.stage(sizeOf(f.Picture2[12]))));
   }
 
   void drawScreens() {
     const int header = headerHeight();
     for (const Backdrop& b : kBackdrops)
-      state_.names.ImageName[b.screen] = pictures_.add(
-          imageFile(b.file), artist_.screen(sizeOf(state_.form1.Picture1[b.screen]), header, b.icon));
-    state_.names.ImageName[11] = state_.names.ImageName[9];
+      state_.names.ImageName[b.screen].setValue(pictures_.add(
+          imageFile(b.file), artist_.screen(sizeOf(state_.form1.Picture1[b.screen]), header, b.icon)));
+    state_.names.ImageName[11].setValue(state_.names.ImageName[9].value());
     for (const NamedBackdrop& b : kNamedBackdrops)
-      state_.names.*b.name = pictures_.add(
-          imageFile(b.file),
-          artist_.screen(sizeOf(state_.form1.Picture1[b.screen]), b.header ? header : 0, b.icon));
+      (state_.names.*b.name)
+          ->setValue(pictures_.add(imageFile(b.file), artist_.screen(sizeOf(state_.form1.Picture1[b.screen]),
+                                                                     b.header ? header : 0, b.icon)));
   }
 
   void drawPanels() {
@@ -193,10 +193,10 @@ private:
     pictures_.add(QStringLiteral("tracklist.gif"), artist_.cover(sizeOf(f.Picture2[10]).width()));
     pictures_.add(QStringLiteral("alternate_track.bmp"), artist_.card(sizeOf(*f.Picture28), Icon::Note));
     pictures_.add(QStringLiteral("online_search.bmp"), artist_.card(sizeOf(*f.Picture29), Icon::Magnifier));
-    state_.names.NowPlayingPanelName =
-        pictures_.add(QStringLiteral("playing_panel.jpg"), artist_.card(sizeOf(*f.Picture17), Icon::None));
-    state_.names.FeedPanelName =
-        pictures_.add(QStringLiteral("feed.jpg"), artist_.card(sizeOf(f.Picture2[15]), Icon::None));
+    state_.names.NowPlayingPanelName->setValue(
+        pictures_.add(QStringLiteral("playing_panel.jpg"), artist_.card(sizeOf(*f.Picture17), Icon::None)));
+    state_.names.FeedPanelName->setValue(
+        pictures_.add(QStringLiteral("feed.jpg"), artist_.card(sizeOf(f.Picture2[15]), Icon::None)));
     pictures_.add(QStringLiteral("ImageNotFound.jpg"), artist_.cover(kCoverSide));
     pictures_.add(QStringLiteral("star 0.png"), artist_.stars({kStarWidth, kStarHeight}));
     drawCoverFrame();
@@ -205,8 +205,9 @@ private:
   void drawCoverFrame() {
     const QString name =
         pictures_.addGif(QStringLiteral("frame.gif"), artist_.coverFrame(kFrameSide, kFrameCount), {12, 0});
-    state_.names.ImageName[12] = name;
-    for (int i = 0; i < state_.names.AlbumFrameName.count(); ++i) state_.names.AlbumFrameName[i] = name;
+    state_.names.ImageName[12].setValue(name);
+    for (int i = 0; i < state_.names.AlbumFrameName.bound(); ++i)
+      state_.names.AlbumFrameName[i].setValue(name);
   }
 
   void drawButtons() {
@@ -215,16 +216,17 @@ private:
     for (int i = 0; i < 14; ++i) {
       Button& button = f.lvButtons_H1[i];
       const QStringList caption = button.caption().split(QStringLiteral("||"));
-      menu[i] = pictures_.add(imageFile(kMenuPictures[i].file),
-                              artist_.menuFace(sizeOf(button), kMenuPictures[i].icon, caption));
+      menu[i].setValue(pictures_.add(imageFile(kMenuPictures[i].file),
+                                     artist_.menuFace(sizeOf(button), kMenuPictures[i].icon, caption)));
       // An empty first line keeps the caption clear of the icon above it.
       if (look_.menuIcons == IconPlace::Above) button.setCaption(QStringLiteral("||") + button.caption());
       if (look_.menuIcons == IconPlace::Lettered) button.setCaption(QString());
     }
     ImageTable& transport = state_.names.ofButtons(f.lvButtons_H2);
     for (int i = 0; i < 3; ++i) {
-      transport[i] = pictures_.add(imageFile(kTransportPictures[i].file),
-                                   artist_.iconFace(sizeOf(f.lvButtons_H2[i]), kTransportPictures[i].icon));
+      transport[i].setValue(
+          pictures_.add(imageFile(kTransportPictures[i].file),
+                        artist_.iconFace(sizeOf(f.lvButtons_H2[i]), kTransportPictures[i].icon)));
       f.lvButtons_H2[i].setCaption(QString());
     }
     drawPrize();
@@ -234,7 +236,7 @@ private:
   void drawPrize() {
     Button& button = state_.form1.lvButtons_H57[5];
     const QString name = pictures_.add(QStringLiteral("prize.png"), artist_.prize(sizeOf(button).width()));
-    state_.names.ofButtons(state_.form1.lvButtons_H57)[5] = name;
+    state_.names.ofButtons(state_.form1.lvButtons_H57)[5].setValue(name);
     button.setPicture(state_.pictures.load(folder_.resolve(name)));
     button.setButtonShape(Button::kFirstCustomShape);
   }
@@ -249,7 +251,7 @@ private:
   void saveCovers(const NamedCovers& covers) {
     design::Composer composer(state_, look_.plan, look_.theme);
     design::composeCovers(composer, design::coverArea(composer), covers.layout);
-    state_.globals.LastCoverIndex = covers.layout.count - 1;
+    state_.globals.LastCoverIndex->setValue(covers.layout.count - 1);
     Form4& f = state_.form4;
     f.Check3->setValue(covers.seeThrough ? 1 : 0);
     f.Check5->setValue(covers.frames ? 1 : 0);

@@ -61,15 +61,13 @@ ucAniGIF::ucAniGIF(Window& window, Repaint repaint) : window_(window), repaint_(
   pending_.setSingleShot(true);
   pending_.callOnTimeout([this] { update(); });
   // A screen switch shows and hides hundreds of elements: one look afterwards is enough.
-  subscription_ = window.notices().subscribe([this](const Change& change) {
+  watching_ = window.board().watch([this](const Change& change) {
     if (&change.element.window() == &window_ && matters(change) && !pending_.isActive()) pending_.start(0);
   });
   update();
 }
 
-ucAniGIF::~ucAniGIF() {
-  window_.notices().unsubscribe(subscription_);
-}
+ucAniGIF::~ucAniGIF() = default;
 
 QImage ucAniGIF::frame(const Element& element) const {
   if (element.kind() != Kind::AnimatedFrame) return {};

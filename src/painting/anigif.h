@@ -45,7 +45,7 @@ private:
 
   Window& window_;
   Repaint repaint_;
-  int subscription_;
+  Attachment watching_;
   QTimer pending_;
   std::vector<const AnimatedFrame*> elements_;
   QHash<quintptr, std::shared_ptr<Playing>> playing_;  // by the picture's id

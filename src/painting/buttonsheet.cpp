@@ -86,8 +86,8 @@ private:
   QImage image_;
   QPainter painter_;
   CanvasPainter canvas_;
-  ChangeNotices notices_;
-  Window window_{notices_, "Sheet"};
+  Switchboard board_;
+  Window window_{board_, "Sheet"};
   Array<Button> buttons_{window_, "Button", 0};
   Picture ticket_ = Picture::drawn(ticket());
   Picture note_ = Picture::drawn(note());

@@ -26,13 +26,10 @@ bool wasRead(const CheckBox& box, const Layout& layout, const Loading& loading) 
 
 CoverLayouts::CoverLayouts(State& state, const Platform& platform, SkinProperties& properties)
     : state_(state), platform_(platform), properties_(properties) {
-  subscription_ = state.notices.subscribe([this](const Change& change) {
-    if (&change.element == &*state_.form4.File1 && change.property == Property::ListIndex) askToLoad();
-  });
-}
-
-CoverLayouts::~CoverLayouts() {
-  state_.notices.unsubscribe(subscription_);
+  Switchboard& board = state.board;
+  attachments_ = {board.onChange(*state.form4.File1, Property::ListIndex, [this](Element&) { askToLoad(); }),
+                  board.onDoubleClick(*state.form4.File1, [this](Element&) { loadChosen(); }),
+                  board.onClick(*state.form4.Command1, [this](Element&) { saveNamed(); })};
 }
 
 SkinFolder CoverLayouts::folder() const {
@@ -53,7 +50,7 @@ void CoverLayouts::load(const QString& path) {
 
 // Counts as a change of the text even when the number is the one shown before.
 void CoverLayouts::showCount() {
-  const QString count = QString::number(state_.globals.LastCoverIndex + 1);
+  const QString count = QString::number(state_.globals.LastCoverIndex->value() + 1);
   const bool isSame = state_.form4.Combo4->text() == count;
   state_.form4.Combo4->setText(count);
   if (isSame) properties_.coverTextChanged();
@@ -64,7 +61,7 @@ void CoverLayouts::showCount() {
 void CoverLayouts::applyBoxes() {
   Form1& form1 = state_.form1;
   const bool isOpaque = !state_.form4.Check3->isTicked();
-  for (int i = 0; i <= state_.globals.LastCoverIndex; ++i) {
+  for (int i = 0; i <= state_.globals.LastCoverIndex->value(); ++i) {
     form1.Label9[i].setOpaque(isOpaque);
     form1.Label10[i].setOpaque(isOpaque);
     if (!state_.form4.Check5->isTicked()) form1.ucAniGIF1[i].setVisible(false);
@@ -72,7 +69,8 @@ void CoverLayouts::applyBoxes() {
 }
 
 void CoverLayouts::save(const SkinFolder& target, const QString& name) {
-  writeRecordFile(target, name, composeRecords(coverFile(state_, name, state_.globals.LastCoverIndex)));
+  writeRecordFile(target, name,
+                  composeRecords(coverFile(state_, name, state_.globals.LastCoverIndex->value())));
 }
 
 void CoverLayouts::listFiles() {

@@ -2,6 +2,8 @@
 // several. A file's length follows from the number of covers in use.
 #pragma once
 
+#include <vector>
+
 #include "forms/state.h"
 #include "panels/skinproperties.h"
 #include "platform/platform.h"
@@ -13,7 +15,6 @@ namespace veneerer {
 class CoverLayouts {
 public:
   CoverLayouts(State& state, const Platform& platform, SkinProperties& properties);
-  ~CoverLayouts();
   CoverLayouts(const CoverLayouts&) = delete;
   CoverLayouts& operator=(const CoverLayouts&) = delete;
 
@@ -28,16 +29,16 @@ public:
   /// The first file of that list, empty when there is none.
   QString firstFile() const;
 
-  /// "Save Cover File": asks before it overwrites; writes the file and frames.ini and lists the files anew.
-  void saveNamed();
-  /// The second event of the list: loads the chosen file with no question and puts its name into Text2.
-  void loadChosen();
   /// The cover question of Save Skin: on OK the layout is saved under the name in Text2, with a question
   /// ahead of overwriting.
   void offerSave(const SkinFolder& target);
 
 private:
   void askToLoad();
+  /// The second event of the list: loads the chosen file with no question and puts its name into Text2.
+  void loadChosen();
+  /// "Save Cover File": asks before it overwrites; writes the file and frames.ini and lists the files anew.
+  void saveNamed();
   SkinFolder folder() const;
   /// The cover file that Text2 names. Empty when it names none or the operator keeps the one that is there.
   QString nameToWrite(const SkinFolder& target) const;
@@ -47,7 +48,7 @@ private:
   State& state_;
   const Platform& platform_;
   SkinProperties& properties_;
-  int subscription_;
+  std::vector<Attachment> attachments_;
 };
 
 }  // namespace veneerer

@@ -86,7 +86,7 @@ void grab(State& state, const Platform& platform) {
   writePiece(state, menuPiece, images);
   writePiece(state, playerPiece, images);
   // The full path stands in the table and in skin.ini: every other entry is relative.
-  state.names.ImageName[13] = images.file(playerPiece.name);
+  state.names.ImageName[13].setValue(images.file(playerPiece.name));
   // The panel of the player ends with a border, that of the menu without.
   player.setBorderStyle(1);
 }

@@ -56,22 +56,11 @@ SkinProperties::SkinProperties(State& state, const Screen& screen) : state_(stat
   bind(*form4.Combo4, Property::Text, &SkinProperties::coverTextChanged);
   bind(form4.Text1[0], Property::Text, &SkinProperties::skinWidth);
   bind(form4.Text1[1], Property::Text, &SkinProperties::skinHeight);
-  subscription_ = state.notices.subscribe([this](const Change& change) { handle(change); });
-}
-
-SkinProperties::~SkinProperties() {
-  state_.notices.unsubscribe(subscription_);
 }
 
 void SkinProperties::bind(const Element& element, Property property, Handler handler) {
-  bindings_.insert(&element, {property, handler});
-}
-
-void SkinProperties::handle(const Change& change) {
-  // Two bindings for one element stand side by side, one a property.
-  for (auto it = bindings_.constFind(&change.element);
-       it != bindings_.constEnd() && it.key() == &change.element; ++it)
-    if (it->property == change.property) (this->*it->handler)();
+  attachments_.push_back(
+      state_.board.onChange(element, property, [this, handler](Element&) { (this->*handler)(); }));
 }
 
 void SkinProperties::tracksShown() {
@@ -159,7 +148,7 @@ void SkinProperties::quickjumpNames() {
 // too. Unticked, it never hides those.
 void SkinProperties::dateAndGenre() {
   const bool isTicked = state_.form4.Check6->isTicked();
-  const int last = isTicked ? state_.globals.LastCoverIndex + 1 : kCovers - 1;
+  const int last = isTicked ? state_.globals.LastCoverIndex->value() + 1 : kCovers - 1;
   show(state_.form1.Label62, 0, last, isTicked);
   show(state_.form1.Label63, 0, last, isTicked);
 }
@@ -195,12 +184,12 @@ void SkinProperties::coverCountChosen() {
   for (const Family* family : std::initializer_list<const Family*>{
            &form1.Label10, &form1.Label9, &form1.ucAniGIF1, &form1.Image2, &form1.Label62, &form1.Label63})
     show(*family, shown + 1, kCovers - 1, false);
-  state_.globals.LastCoverIndex = shown;
+  state_.globals.LastCoverIndex->setValue(shown);
 }
 
 void SkinProperties::coverTextChanged() {
   Form1& form1 = state_.form1;
-  const int last = state_.globals.LastCoverIndex;
+  const int last = state_.globals.LastCoverIndex->value();
   for (const Family* family : std::initializer_list<const Family*>{
            &form1.Label10, &form1.Label9, &form1.ucAniGIF1, &form1.Image2, &form1.Label62, &form1.Label63})
     show(*family, last + 1, kCovers - 1, false);

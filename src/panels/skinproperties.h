@@ -3,8 +3,7 @@
 // restyled. The loaders set the same controls, so these rules run during a load too.
 #pragma once
 
-#include <QMultiHash>
-#include <functional>
+#include <vector>
 
 #include "forms/state.h"
 #include "platform/platform.h"
@@ -14,7 +13,6 @@ namespace veneerer {
 class SkinProperties {
 public:
   SkinProperties(State& state, const Screen& screen);
-  ~SkinProperties();
   SkinProperties(const SkinProperties&) = delete;
   SkinProperties& operator=(const SkinProperties&) = delete;
 
@@ -24,13 +22,8 @@ public:
 
 private:
   using Handler = void (SkinProperties::*)();
-  struct Binding {
-    Property property;
-    Handler handler;
-  };
 
   void bind(const Element& element, Property property, Handler handler);
-  void handle(const Change& change);
 
   void tracksShown();
   void genresShown();
@@ -51,8 +44,7 @@ private:
 
   State& state_;
   const Screen screen_;
-  QMultiHash<const Element*, Binding> bindings_;
-  int subscription_;
+  std::vector<Attachment> attachments_;
 };
 
 }  // namespace veneerer

@@ -12,7 +12,7 @@ TextureSlot backdropSlot(State& state, int i) {
   if (i <= 10) slot.canvas.push_back(&state.form1.Picture1[i]);
   if (i == 12) {
     slot.canvas.push_back(&state.form1.Picture1[14]);
-    slot.name = &state.names.SearchChoiceName.value();
+    slot.name = &*state.names.SearchChoiceName;
   }
   return slot;
 }
@@ -25,22 +25,22 @@ std::vector<TextureSlot> singleSlots(State& state) {
       {&*f.Image2, {}, &n.ImageName[12]},
       {&*f.Image3, {&state.form1.Picture2[1]}, &n.ImageName[13]},
       {&*f.Image4, {&state.form1.Picture2[2]}, &n.ImageName[14]},
-      {&*f.Image7, {&screen[11]}, &n.SearchResultsName.value()},
-      {&*f.Image5, {&screen[12]}, &n.JumpToLetterName.value()},
-      {&*f.Image8, {&screen[13]}, &n.GenreName.value()},
-      {&*f.Image9, {&screen[15]}, &n.PlayOptionsName.value()},
-      {&*f.Image10, {&screen[16]}, &n.PinScreenName.value()},
-      {&*f.Image11, {&screen[17]}, &n.DecadesYearName.value()},
-      {&*f.Image12, {&screen[18]}, &n.DecadesSelectorName.value()},
-      {&*f.Image13, {&screen[19]}, &n.DecadesMonthName.value()},
-      {&*f.Image15, {&screen[20]}, &n.PlaylistLoadName.value()},
-      {&*f.Image14, {&screen[21]}, &n.PlaylistSaveName.value()},
-      {&*f.Image17, {&screen[22]}, &n.NoSearchName.value()},
-      {&*f.Image18, {&screen[23]}, &n.RequestName.value()},
-      {&*f.Image19, {&screen[24]}, &n.LoginName.value()},
-      {&*f.Image20, {&screen[25]}, &n.MemberHomeName.value()},
-      {&*f.Image21, {&screen[27]}, &n.CollectionsName.value()},
-      {&*f.Image22, {&screen[28]}, &n.ConfirmationName.value()},
+      {&*f.Image7, {&screen[11]}, &*n.SearchResultsName},
+      {&*f.Image5, {&screen[12]}, &*n.JumpToLetterName},
+      {&*f.Image8, {&screen[13]}, &*n.GenreName},
+      {&*f.Image9, {&screen[15]}, &*n.PlayOptionsName},
+      {&*f.Image10, {&screen[16]}, &*n.PinScreenName},
+      {&*f.Image11, {&screen[17]}, &*n.DecadesYearName},
+      {&*f.Image12, {&screen[18]}, &*n.DecadesSelectorName},
+      {&*f.Image13, {&screen[19]}, &*n.DecadesMonthName},
+      {&*f.Image15, {&screen[20]}, &*n.PlaylistLoadName},
+      {&*f.Image14, {&screen[21]}, &*n.PlaylistSaveName},
+      {&*f.Image17, {&screen[22]}, &*n.NoSearchName},
+      {&*f.Image18, {&screen[23]}, &*n.RequestName},
+      {&*f.Image19, {&screen[24]}, &*n.LoginName},
+      {&*f.Image20, {&screen[25]}, &*n.MemberHomeName},
+      {&*f.Image21, {&screen[27]}, &*n.CollectionsName},
+      {&*f.Image22, {&screen[28]}, &*n.ConfirmationName},
   };
 }
 

@@ -11,7 +11,7 @@ namespace veneerer {
 struct TextureSlot {
   Element* thumbnail;
   std::vector<Element*> canvas;  ///< what shows the picture at once; none for some
-  StoredValue* name;
+  ImageSlot* name;
 };
 
 /// The slot of that thumbnail; without a name when a click on it has no action.

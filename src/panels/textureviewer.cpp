@@ -15,25 +15,16 @@ const QString kFrames = QStringLiteral("GIF Files|*.gif");
 }  // namespace
 
 TextureViewer::TextureViewer(State& state, const Platform& platform) : state_(state), platform_(platform) {
-  subscription_ = state.notices.subscribe([this](const Change& change) {
-    if (&change.element == &*state_.form5.Combo1 && change.property == Property::ListIndex) showFrame();
-  });
-}
-
-TextureViewer::~TextureViewer() {
-  state_.notices.unsubscribe(subscription_);
-}
-
-void TextureViewer::click(Element& element) {
-  Form5& form5 = state_.form5;
-  if (&element == &*form5.Command1)
-    grabPlayerAndMenu(state_, platform_);
-  else if (&element == &*form5.Command2)
-    copyFrameToAll();
-  else if (&element == &*form5.Image16 || &element == &*form5.ucAniGIF1)
-    chooseFrame();
-  else if (element.kind() == Kind::ImageBox)
-    chooseTexture(element);
+  Switchboard& board = state.board;
+  Form5& form5 = state.form5;
+  const auto frame = [this](Element&) { chooseFrame(); };
+  attachments_ = {board.onChange(*form5.Combo1, Property::ListIndex, [this](Element&) { showFrame(); }),
+                  board.onClick(*form5.Command1, [this](Element&) { grabPlayerAndMenu(state_, platform_); }),
+                  board.onClick(*form5.Command2, [this](Element&) { copyFrameToAll(); }),
+                  board.onClick(*form5.Image16, frame), board.onClick(*form5.ucAniGIF1, frame)};
+  for (const Family* family : form5.families())
+    if (family->members().front()->kind() == Kind::ImageBox && family != &form5.Image16)
+      attachments_.push_back(board.onClick(*family, [this](Element& e) { chooseTexture(e); }));
 }
 
 Picture TextureViewer::ask(const QString& filter, QString& name) const {
@@ -58,29 +49,29 @@ void TextureViewer::chooseTexture(Element& thumbnail) {
   if (picture.isNull()) return;
   thumbnail.set(Property::Picture, picture);
   for (Element* element : slot.canvas) element->set(Property::Picture, picture);
-  *slot.name = name;
+  slot.name->setValue(name);
 }
 
 void TextureViewer::chooseFrame() {
   const int row = state_.form5.Combo1->listIndex();
-  if (row < 0 || row >= state_.names.AlbumFrameName.count()) return;
+  if (row < 0 || row >= state_.names.AlbumFrameName.bound()) return;
   QString name;
   const Picture picture = ask(kFrames, name);
   if (picture.isNull()) return;
   state_.form1.ucAniGIF1[row].setPicture(picture);
   state_.form5.ucAniGIF1->setPicture(picture);
-  state_.names.AlbumFrameName[row] = name;
+  state_.names.AlbumFrameName[row].setValue(name);
 }
 
 void TextureViewer::copyFrameToAll() {
   ImageTable& names = state_.names.AlbumFrameName;
   const int row = state_.form5.Combo1->listIndex();
-  if (row < 0 || row >= names.count()) return;
+  if (row < 0 || row >= names.bound()) return;
   const SkinFolder folder(platform_.folder, state_.form4.Combo3->text());
   const QString path = folder.resolve(names[row].text());
-  for (int i = 0; i < names.count(); ++i) {
+  for (int i = 0; i < names.bound(); ++i) {
     if (i == row) continue;
-    names[i] = names[row];
+    names[i].setValue(names[row].value());
     if (!path.isEmpty()) state_.form1.ucAniGIF1[i].setPicture(state_.pictures.load(path));
   }
 }
@@ -88,7 +79,7 @@ void TextureViewer::copyFrameToAll() {
 // The caption names the list's position, which counts from 0.
 void TextureViewer::showFrame() {
   const int row = state_.form5.Combo1->listIndex();
-  if (row < 0 || row >= state_.names.AlbumFrameName.count()) return;
+  if (row < 0 || row >= state_.names.AlbumFrameName.bound()) return;
   state_.form5.Label3[27].setCaption(QStringLiteral("Album Frame ") + signedNumber(row));
   state_.form5.ucAniGIF1->setPicture(state_.form1.ucAniGIF1[row].picture());
 }

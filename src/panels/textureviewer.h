@@ -2,21 +2,20 @@
 // name; it reaches a record file when the Skin is saved. No file is copied.
 #pragma once
 
+#include <vector>
+
 #include "forms/state.h"
 #include "platform/platform.h"
 #include "platform/skinfolder.h"
 
 namespace veneerer {
 
+/// Listens to the thumbnails, the frame preview and the commands of Form5 for as long as it lives.
 class TextureViewer {
 public:
   TextureViewer(State& state, const Platform& platform);
-  ~TextureViewer();
   TextureViewer(const TextureViewer&) = delete;
   TextureViewer& operator=(const TextureViewer&) = delete;
-
-  /// A click on a thumbnail, on the frame preview or on a command. Any other element is none of its business.
-  void click(Element& element);
 
 private:
   void chooseTexture(Element& thumbnail);
@@ -28,7 +27,7 @@ private:
 
   State& state_;
   const Platform& platform_;
-  int subscription_;
+  std::vector<Attachment> attachments_;
 };
 
 }  // namespace veneerer

@@ -111,7 +111,7 @@ Layout coverFile(State& state, const QString& name, int last) {
   Form4& form4 = state.form4;
   Layout file(state, name);
   file.checkValue(*form4.Check1);
-  file.counter(state.globals.LastCoverIndex, "LastCoverIndex", toLastCoverIndex);
+  file.counter(*state.globals.LastCoverIndex, "LastCoverIndex", toLastCoverIndex);
   file.literal("Album Covers");
   rows(file, form1.Image2, last, [&](ImageBox& cover) {
     place(file, cover);

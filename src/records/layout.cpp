@@ -35,11 +35,11 @@ void Layout::versionTag(int number) {
   add(Counter{.name = "version", .newest = number});
 }
 
-void Layout::counter(int& number, const char* name, int (*intoRange)(double)) {
+void Layout::counter(CoverIndex& number, const char* name, int (*intoRange)(double)) {
   add(Counter{.name = name, .kept = &number, .intoRange = intoRange});
 }
 
-void Layout::reference(StoredValue& kept, const std::vector<Element*>& boxes) {
+void Layout::reference(ImageSlot& kept, const std::vector<Element*>& boxes) {
   Reference reference{&kept, &kept};
   require(boxes.size() <= reference.boxes.size(), "an image reference is shown in too many elements");
   std::ranges::copy(boxes, reference.boxes.begin());
@@ -47,7 +47,7 @@ void Layout::reference(StoredValue& kept, const std::vector<Element*>& boxes) {
 }
 
 Reference& Layout::buttonImage(Button& button) {
-  StoredValue* kept = state_.names.of(button);
+  ImageSlot* kept = state_.names.of(button);
   require(kept != nullptr, "a record row names a button that keeps no image name");
   return add(Reference{kept, kept, &button});
 }
@@ -180,7 +180,7 @@ void Layout::scaleWholes(std::size_t from, const float& factor) {
       field->scale = &factor;
 }
 
-void Layout::writeFrom(std::size_t from, Button& button, StoredValue& kept, const char* why) {
+void Layout::writeFrom(std::size_t from, Button& button, ImageSlot& kept, const char* why) {
   for (Row& row : std::span(rows_).subspan(from)) {
     if (Field* field = std::get_if<Field>(&row.content)) field->from.element = &button;
     if (Reference* reference = std::get_if<Reference>(&row.content)) reference->from = &kept;

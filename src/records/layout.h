@@ -39,11 +39,11 @@ public:
   Field& field(ValueKind kind, Element& element, Property property);
   /// "INI Version" and the number.
   void versionTag(int number);
-  /// A number of the state that no element holds; name is for messages, intoRange brings what a file tells to
+  /// The index of the last cover in use; name is for messages, intoRange brings what a file tells to
   /// what the state can hold.
-  void counter(int& number, const char* name, int (*intoRange)(double));
+  void counter(CoverIndex& number, const char* name, int (*intoRange)(double));
   /// An image reference; each of at most three boxes shows the file when it exists.
-  void reference(StoredValue& kept, const std::vector<Element*>& boxes = {});
+  void reference(ImageSlot& kept, const std::vector<Element*>& boxes = {});
   /// The reference of a button's picture, with the image rule.
   Reference& buttonImage(Button& button);
 
@@ -113,7 +113,7 @@ public:
   /// Every Whole is multiplied by the factor on reading.
   void scaleWholes(std::size_t from, const float& factor);
   /// The writer takes these lines from another button of the same fields than the reader fills.
-  void writeFrom(std::size_t from, Button& button, StoredValue& kept, const char* why);
+  void writeFrom(std::size_t from, Button& button, ImageSlot& kept, const char* why);
   /// The writer writes these lines and no reader ever takes them.
   void writtenOnly(std::size_t from, const char* why);
 

@@ -76,15 +76,15 @@ private:
 
   void take(const Reference& reference) {
     const StoredValue value = readStored(reader_);
-    *reference.into = value;
+    reference.into->setValue(value);
     if (reference.button) showOnButton(reference, value);
     for (Element* box : reference.boxes)
       if (box) loading_.show(value.text(), *box);
   }
 
   void take(const Counter& counter) {
-    if (counter.kept) *counter.kept = counter.intoRange(readNumber(reader_));
-    walk_.setCount(counter.kept ? *counter.kept : readVersion(counter.newest));
+    if (counter.kept) counter.kept->setValue(counter.intoRange(readNumber(reader_)));
+    walk_.setCount(counter.kept ? counter.kept->value() : readVersion(counter.newest));
   }
 
   // Any other number, and what is no number at all, is an older version.
@@ -119,7 +119,7 @@ private:
 QString readRecords(const Layout& layout, const QByteArray& bytes, Loading& loading, Failures failures) {
   const OnFailure policy = failures == Failures::AllFatal ? OnFailure::Fatal : layout.onFailure();
   loading.lines.clear();
-  const QuietRefusals quiet(loading.state.notices);
+  const QuietRefusals quiet(loading.state.board);
   try {
     Reading(layout, bytes, loading, policy).run();
   } catch (const RecordError&) {

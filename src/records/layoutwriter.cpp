@@ -18,7 +18,7 @@ void write(RecordWriter& out, const Field& field) {
 }
 
 void write(RecordWriter& out, const Reference& reference) {
-  out.writeStored(*reference.from);
+  out.writeStored(reference.from->value());
 }
 
 void write(RecordWriter& out, const Counter& counter) {

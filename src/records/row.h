@@ -8,6 +8,7 @@
 #include <variant>
 
 #include "elements/button.h"
+#include "forms/globals.h"
 #include "forms/imagenames.h"
 
 namespace veneerer {
@@ -48,8 +49,8 @@ struct Field {
 
 /// An image reference, kept as it was read.
 struct Reference {
-  StoredValue* into;                ///< where the reader keeps it
-  StoredValue* from;                ///< where the writer takes it; the same as into in nearly every row
+  ImageSlot* into;                  ///< where the reader keeps it
+  ImageSlot* from;                  ///< where the writer takes it; the same as into in nearly every row
   Button* button = nullptr;         ///< shows it by the image rule: picture, shape held back, PictureSize 3
   std::array<Element*, 3> boxes{};  ///< each shows the file when it exists; unused ones are null
   bool keepsPictureWhenEmpty = false;  ///< an empty reference leaves the button's picture alone
@@ -60,12 +61,12 @@ struct Reference {
 /// older; or a number of the state, such as that of the covers in use, for which the layout was made.
 struct Counter {
   const char* name;                    ///< for messages
-  int* kept = nullptr;                 ///< the number of the state, null for a version
+  CoverIndex* kept = nullptr;          ///< the number of the state, null for a version
   int (*intoRange)(double) = nullptr;  ///< what becomes of the file's number where it is kept
   int newest = 0;                      ///< the newest version
 
   /// The number that a save writes.
-  int number() const { return kept ? *kept : newest; }
+  int number() const { return kept ? kept->value() : newest; }
 };
 
 /// One line of a record file.

@@ -83,7 +83,7 @@ void fillOtherLists(State& state) {
   const QStringList covers = numbered("", 1, 28, "");
   form4.Combo4->setRows(covers);
   // The number of covers in use, as a cover file shows it.
-  form4.Combo4->setText(QString::number(state.globals.LastCoverIndex + 1));
+  form4.Combo4->setText(QString::number(state.globals.LastCoverIndex->value() + 1));
   state.form5.Combo1->setRows(covers);
   form4.Combo1->setRows(numbered("", 1, 20, ""));
   form4.Combo7->setRows(covers);

@@ -52,6 +52,8 @@ std::span<const P> ownProperties(Kind kind) {
     case Kind::OptionButton:
       return kState;
     case Kind::CommandButton:
+    case Kind::ImageSlot:
+    case Kind::CoverIndex:
       return {};
   }
   return {};
@@ -108,15 +110,15 @@ QJsonObject globalsAsJson(const Globals& globals) {
           {QStringLiteral("DragAnchorX"), asShortestDouble(globals.DragAnchorX)},
           {QStringLiteral("DragAnchorY"), asShortestDouble(globals.DragAnchorY)},
           {QStringLiteral("CurrentColour"), globals.CurrentColour},
-          {QStringLiteral("LastCoverIndex"), globals.LastCoverIndex},
+          {QStringLiteral("LastCoverIndex"), globals.LastCoverIndex->value()},
           {QStringLiteral("CoverScale"), asShortestDouble(globals.CoverScale)}};
 }
 
 QJsonObject tablesAsJson(const ImageNames& names) {
   QJsonObject tables;
-  for (const ImageTable* table : names.all()) {
+  for (const Family* table : names.families()) {
     QJsonArray entries;
-    for (int i = 0; i < table->count(); ++i) entries.append((*table)[i].text());
+    for (const Element* name : table->members()) entries.append(name->as<StoredValue>(Property::Name).text());
     tables.insert(table->name(), table->isArray() ? QJsonValue(entries) : entries.first());
   }
   return tables;

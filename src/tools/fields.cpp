@@ -55,7 +55,7 @@ void applyAlignment(State& state) {
     applyRow(state, *state.form6.Combo5, ToolField::Alignment, Property::Alignment);
   } else if (row >= 0) {
     auto& captions = section == kArtistCaptions ? state.form1.Label9 : state.form1.Label10;
-    alignCovers(captions, state.globals.ElementIndex, state.globals.LastCoverIndex, row);
+    alignCovers(captions, state.globals.ElementIndex, state.globals.LastCoverIndex->value(), row);
   }
 }
 

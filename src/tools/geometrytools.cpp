@@ -158,7 +158,7 @@ void clearImages(State& state) {
   const bool isMenu = target.family == &state.form1.lvButtons_H1;
   forEach(target, [&](Element& button) {
     button.set(Property::Picture, Picture());
-    if (isMenu) *state.names.of(button) = StoredValue();
+    if (isMenu) state.names.of(button)->setValue(StoredValue());
   });
 }
 

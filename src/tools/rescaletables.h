@@ -9,16 +9,16 @@ namespace veneerer {
 struct RescaleTarget {
   FamilyRef family;  ///< of the element that gives the size
   int index;
-  StoredValue& (*name)(ImageNames& names);
+  ImageSlot& (*name)(ImageNames& names);
 };
 
 namespace rescale {
 
 template <int Index>
-inline constexpr auto kBackdrop = [](ImageNames& names) -> StoredValue& { return names.ImageName[Index]; };
+inline constexpr auto kBackdrop = [](ImageNames& names) -> ImageSlot& { return names.ImageName[Index]; };
 
 template <auto Member>
-inline constexpr auto kName = [](ImageNames& names) -> StoredValue& { return (names.*Member).value(); };
+inline constexpr auto kName = [](ImageNames& names) -> ImageSlot& { return *(names.*Member); };
 
 inline constexpr FamilyRef kScreen = kCanvas<&Form1::Picture1>;
 inline constexpr FamilyRef kPanel = kCanvas<&Form1::Picture2>;

@@ -22,7 +22,7 @@ void setPlain(Element& element, Edge edge, float twips) {
 
 // A shape that doesn't come back says nothing of itself: the size was asked for.
 void setKeepingShape(Button& button, Edge edge, float twips) {
-  const QuietRefusals quiet(button.window().notices());
+  const QuietRefusals quiet(button.window().board());
   const int shape = button.buttonShape();
   button.setButtonShape(0);
   setPlain(button, edge, twips);
@@ -59,7 +59,7 @@ Button& thumb(State& state) {
 // A height typed for a general sample goes to the sample, with the shape step on the slider thumb of the same
 // index; a width goes to the slider thumb alone.
 void sampleHeight(State& state, Element& sample, Edge edge, float twips) {
-  const QuietRefusals quiet(state.notices);
+  const QuietRefusals quiet(state.board);
   Button& button = thumb(state);
   const int shape = button.buttonShape();
   button.setButtonShape(0);

@@ -1,7 +1,5 @@
 #include "tools/toolspalette.h"
 
-#include <algorithm>
-
 #include "canvas/familyref.h"
 #include "canvas/screens.h"
 #include "tools/colourtools.h"
@@ -102,33 +100,20 @@ constexpr ClickAction kOnClick[] = {
 }  // namespace
 
 ToolsPalette::ToolsPalette(State& state, Platform& platform, Progress* progress)
-    : state_(state),
-      platform_(platform),
-      rescale_(state, platform, progress),
-      subscription_(state.notices.subscribe([this](const Change& change) { changed(change); })) {}
-
-ToolsPalette::~ToolsPalette() {
-  state_.notices.unsubscribe(subscription_);
-}
-
-void ToolsPalette::click(Element& element) {
-  const auto action = std::ranges::find_if(
-      kOnClick, [&](const ClickAction& row) { return &row.family(state_) == element.family(); });
-  if (action != std::end(kOnClick)) action->act(*this, element);
+    : state_(state), platform_(platform), rescale_(state, platform, progress) {
+  for (const FieldAction& row : kOnChange)
+    attachments_.push_back(state.board.onChange(row.field(state), row.property, [this, &row](Element& field) {
+      if (!isShowingColour_) row.act(*this, field);
+    }));
+  for (const ClickAction& row : kOnClick)
+    attachments_.push_back(
+        state.board.onClick(row.family(state), [this, &row](Element& element) { row.act(*this, element); }));
 }
 
 void ToolsPalette::showColour() {
   isShowingColour_ = true;
   veneerer::showColour(state_);
   isShowingColour_ = false;
-}
-
-void ToolsPalette::changed(const Change& change) {
-  if (&change.element.window() != &state_.form6 || isShowingColour_) return;
-  const auto action = std::ranges::find_if(kOnChange, [&](const FieldAction& row) {
-    return row.property == change.property && &row.field(state_) == change.element.family();
-  });
-  if (action != std::end(kOnChange)) action->act(*this, change.element);
 }
 
 }  // namespace veneerer

@@ -1,25 +1,22 @@
 // The Tools window at work: which field and which command starts which tool.
 #pragma once
 
+#include <vector>
+
 #include "forms/state.h"
 #include "platform/platform.h"
 #include "tools/rescale.h"
 
 namespace veneerer {
 
-/// Listens to the fields of Form6 for as long as it lives. A field counts as changed whoever changed it, the
-/// operator or a click that filled it.
+/// Listens to the fields, options, samples and commands of Form6 for as long as it lives. A field counts as
+/// changed whoever changed it, the operator or a click that filled it.
 class ToolsPalette {
 public:
   /// All must outlive the palette. The progress is told of a rescale's images; it may be null.
   ToolsPalette(State& state, Platform& platform, Progress* progress = nullptr);
-  ~ToolsPalette();
   ToolsPalette(const ToolsPalette&) = delete;
   ToolsPalette& operator=(const ToolsPalette&) = delete;
-
-  /// The click event of a command button, a colour sample or an option of Form6; any other element is left
-  /// alone.
-  void click(Element& element);
 
   State& state() const { return state_; }
   Platform& platform() const { return platform_; }
@@ -29,13 +26,11 @@ public:
   void showColour();
 
 private:
-  void changed(const Change& change);
-
   State& state_;
   Platform& platform_;
   Rescale rescale_;
-  int subscription_;
   bool isShowingColour_ = false;
+  std::vector<Attachment> attachments_;
 };
 
 }  // namespace veneerer

@@ -9,8 +9,8 @@ namespace {
 
 class FieldBinding : public Binding {
 public:
-  FieldBinding(const Ui& ui, TextBox& box, QLineEdit& widget)
-      : Binding(ui.bindings, box, widget), box_(box), widget_(widget) {
+  FieldBinding(const Ui&, TextBox& box, QLineEdit& widget)
+      : Binding(box, widget), box_(box), widget_(widget) {
     connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) { box_.setText(text); });
     show(Property::Text);
   }
@@ -26,8 +26,8 @@ private:
 
 class ComboBinding : public Binding {
 public:
-  ComboBinding(const Ui& ui, ComboBox& box, TextCombo& widget)
-      : Binding(ui.bindings, box, widget), box_(box), widget_(widget) {
+  ComboBinding(const Ui&, ComboBox& box, TextCombo& widget)
+      : Binding(box, widget), box_(box), widget_(widget) {
     connect(&widget, &QComboBox::activated, this, &ComboBinding::choose);
     if (widget.isEditable())
       connect(widget.lineEdit(), &QLineEdit::textEdited, this,
@@ -47,8 +47,8 @@ private:
 
 class ListBinding : public Binding {
 public:
-  ListBinding(const Ui& ui, RowList& list, RowListView& widget)
-      : Binding(ui.bindings, list, widget), list_(list), widget_(widget) {
+  ListBinding(const Ui&, RowList& list, RowListView& widget)
+      : Binding(list, widget), list_(list), widget_(widget) {
     connect(&widget, &RowListView::chosen, this, &ListBinding::chosen);
     ListBinding::show(Property::List);
   }
@@ -94,8 +94,8 @@ private:
 
 class CheckBinding : public Binding {
 public:
-  CheckBinding(const Ui& ui, CheckBox& box, QCheckBox& widget)
-      : Binding(ui.bindings, box, widget), box_(box), widget_(widget) {
+  CheckBinding(const Ui&, CheckBox& box, QCheckBox& widget)
+      : Binding(box, widget), box_(box), widget_(widget) {
     connect(&widget, &QCheckBox::clicked, this, [this] {
       box_.setValue(box_.isTicked() ? 0 : 1);
       show(Property::Value);
@@ -117,7 +117,7 @@ private:
 class OptionBinding : public Binding {
 public:
   OptionBinding(const Ui& ui, OptionButton& option, QRadioButton& widget)
-      : Binding(ui.bindings, option, widget), option_(option), widget_(widget) {
+      : Binding(option, widget), option_(option), widget_(widget) {
     connect(&widget, &QRadioButton::clicked, this, [this, &hands = ui.hands] {
       hands.click(option_);
       show(Property::Value);
@@ -141,7 +141,7 @@ private:
 class CommandBinding : public Binding {
 public:
   CommandBinding(const Ui& ui, CommandButton& command, QPushButton& widget)
-      : Binding(ui.bindings, command, widget), command_(command), widget_(widget) {
+      : Binding(command, widget), command_(command), widget_(widget) {
     connect(&widget, &QPushButton::clicked, this, [this, &hands = ui.hands] { hands.click(command_); });
     show(Property::Caption);
   }
@@ -154,8 +154,8 @@ private:
 
 class CaptionBinding : public Binding {
 public:
-  CaptionBinding(const Ui& ui, Label& label, QLabel& widget)
-      : Binding(ui.bindings, label, widget), label_(label), widget_(widget) {
+  CaptionBinding(const Ui&, Label& label, QLabel& widget)
+      : Binding(label, widget), label_(label), widget_(widget) {
     widget.setTextFormat(Qt::PlainText);
     show(Property::Caption);
   }
@@ -169,7 +169,7 @@ private:
 class PaintedBinding : public Binding {
 public:
   PaintedBinding(const Ui& ui, Element& element, QAbstractButton& widget)
-      : Binding(ui.bindings, element, widget), widget_(widget) {
+      : Binding(element, widget), widget_(widget) {
     connect(&widget, &QAbstractButton::clicked, this,
             [&element, &hands = ui.hands] { hands.click(element); });
   }

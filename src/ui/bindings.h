@@ -11,7 +11,7 @@
 
 #include "elements/controls.h"
 #include "elements/label.h"
-#include "ui/bindingtable.h"
+#include "ui/binding.h"
 #include "ui/controls.h"
 #include "ui/operator.h"
 
@@ -20,7 +20,6 @@ namespace veneerer {
 /// What every window is made with.
 struct Ui {
   Operator& hands;
-  BindingTable& bindings;
 };
 
 // The caption of a window's control shows "&&" as "&". Element captions are never rich text.

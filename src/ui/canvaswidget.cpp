@@ -48,7 +48,7 @@ CanvasWidget::CanvasWidget(const Ui& ui)
       state_(ui.hands.state()),
       pixelsPerTwipX_(1 / ui.hands.screen().twipsPerPixelX()),
       pixelsPerTwipY_(1 / ui.hands.screen().twipsPerPixelY()),
-      subscription_(state_.notices.subscribe([this](const Change& change) { changed(change); })),
+      watching_(state_.board.watch([this](const Change& change) { changed(change); })),
       hits_(painter_.cutOuts(), {pixelsPerTwipX_, pixelsPerTwipY_}),
       dirty_(pixelsPerTwipX_, pixelsPerTwipY_),
       frames_(state_.form1, [this](const Element& frame) { repaintElement(frame); }) {
@@ -58,10 +58,6 @@ CanvasWidget::CanvasWidget(const Ui& ui)
   setMouseTracking(true);
   setFocusPolicy(Qt::ClickFocus);
   connect(&hands_, &Operator::acted, this, &CanvasWidget::scheduleRepaint);
-}
-
-CanvasWidget::~CanvasWidget() {
-  state_.notices.unsubscribe(subscription_);
 }
 
 QSize CanvasWidget::sizeHint() const {

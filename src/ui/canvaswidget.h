@@ -19,7 +19,6 @@ class CanvasWidget : public QWidget {
 
 public:
   explicit CanvasWidget(const Ui& ui);
-  ~CanvasWidget() override;
 
   /// The canvas window's width and height in pixels, within what a screen could ever show.
   QSize sizeHint() const override;
@@ -58,7 +57,7 @@ private:
   State& state_;
   double pixelsPerTwipX_;
   double pixelsPerTwipY_;
-  int subscription_;
+  Attachment watching_;
   CanvasPainter painter_;
   HitTest hits_;
   DirtyArea dirty_;

@@ -18,8 +18,7 @@ namespace {
 // Ticks the entry of the Edit Section list that is chosen.
 class ScreenMenuBinding : public Binding {
 public:
-  ScreenMenuBinding(const Ui& ui, ComboBox& list, QMenu& menu)
-      : Binding(ui.bindings, list, menu), list_(list), menu_(menu) {
+  ScreenMenuBinding(ComboBox& list, QMenu& menu) : Binding(list, menu), list_(list), menu_(menu) {
     show(Property::ListIndex);
   }
   void show(Property) override {
@@ -114,7 +113,7 @@ void CanvasWindow::addScreenMenu(QMenu* menu) {
     oneOfThem->addAction(entry);
     connect(entry, &QAction::triggered, this, [this, i] { state_.form6.Combo6->select(i); });
   }
-  new ScreenMenuBinding(ui_, *state_.form6.Combo6, *menu);
+  new ScreenMenuBinding(*state_.form6.Combo6, *menu);
 }
 
 void CanvasWindow::showScreen(int step) {

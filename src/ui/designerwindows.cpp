@@ -41,8 +41,7 @@ QString mainTitle(QString skin, const QString& caption) {
 
 DesignerWindows::DesignerWindows(Designer& designer)
     : hands_(designer),
-      bindings_(designer.state().notices),
-      ui_{hands_, bindings_},
+      ui_{hands_},
       splash_(ui_),
       chooser_(ui_),
       canvas_(ui_),
@@ -70,11 +69,11 @@ void DesignerWindows::bindCanvas(State& state) {
   WindowBinding* binding = bindBeside(state.form1, canvas_, OnClose::EndProgram);
   const ComboBox& skin = *state.form4.Combo3;
   binding->setTitle([&state, &skin] { return mainTitle(skin.text(), state.form1.caption()); });
-  new Watch(bindings_, skin, &canvas_, [binding] { binding->show(Property::Caption); });
+  new Watch(skin, &canvas_, [binding] { binding->show(Property::Caption); });
 }
 
 WindowBinding* DesignerWindows::bind(Window& element, QWidget& widget, OnClose onClose) {
-  return new WindowBinding(bindings_, element, widget, onClose);
+  return new WindowBinding(element, widget, onClose);
 }
 
 WindowBinding* DesignerWindows::bindBeside(Window& element, QWidget& widget, OnClose onClose) {

@@ -24,7 +24,6 @@ private:
   void placeAll();
 
   Operator hands_;
-  BindingTable bindings_;
   Ui ui_;
   SplashWindow splash_;
   ChooserWindow chooser_;

@@ -4,7 +4,7 @@
 #include <QRect>
 #include <QRegion>
 
-#include "elements/notices.h"
+#include "elements/switchboard.h"
 
 namespace veneerer {
 

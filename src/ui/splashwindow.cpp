@@ -12,8 +12,7 @@ namespace {
 
 class ProgressBinding : public Binding {
 public:
-  ProgressBinding(const Ui& ui, Label& label, QLabel& widget)
-      : Binding(ui.bindings, label, widget), label_(label), widget_(widget) {
+  ProgressBinding(Label& label, QLabel& widget) : Binding(label, widget), label_(label), widget_(widget) {
     widget.setTextFormat(Qt::PlainText);
     widget.setText(label.caption());
   }
@@ -59,7 +58,7 @@ SplashWindow::SplashWindow(const Ui& ui) : QWidget(nullptr, Qt::SplashScreen) {
   column->addWidget(makeLine(ui, *splash.lblVersion, 1));
   column->addStretch();
   auto* progress = new QLabel;
-  new ProgressBinding(ui, *splash.Label3, *progress);
+  new ProgressBinding(*splash.Label3, *progress);
   column->addWidget(progress);
   column->addWidget(makeLine(ui, *splash.Label2, 0.9));
 }

@@ -5,8 +5,8 @@
 
 namespace veneerer {
 
-WindowBinding::WindowBinding(BindingTable& table, Window& element, QWidget& widget, OnClose onClose)
-    : Binding(table, element, widget), window_(element), widget_(widget), onClose_(onClose) {
+WindowBinding::WindowBinding(Window& element, QWidget& widget, OnClose onClose)
+    : Binding(element, widget), window_(element), widget_(widget), onClose_(onClose) {
   widget.installEventFilter(this);
   if (!element.caption().isEmpty()) show(Property::Caption);
 }

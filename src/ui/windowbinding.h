@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "elements/window.h"
-#include "ui/bindingtable.h"
+#include "ui/binding.h"
 
 namespace veneerer {
 
@@ -15,7 +15,7 @@ enum class OnClose { Hide, EndProgram };
 
 class WindowBinding : public Binding {
 public:
-  WindowBinding(BindingTable& table, Window& element, QWidget& widget, OnClose onClose);
+  WindowBinding(Window& element, QWidget& widget, OnClose onClose);
 
   /// What the title is, where it isn't the caption alone.
   void setTitle(std::function<QString()> title);

@@ -41,7 +41,7 @@ TEST_F(CanvasInputTest, ClickShowsAButtonsValues) {
   button.setButtonStyle(4);
   button.setGradientMode(2);
   button.place(10, 20, 600.5f, 400);
-  input.click(button);
+  state.board.click(button);
   EXPECT_EQ(globals.SectionNumber, 9);
   EXPECT_EQ(globals.ElementIndex, 5);
   EXPECT_EQ(form6.Text1->text(), u"F");
@@ -56,65 +56,65 @@ TEST_F(CanvasInputTest, ClickShowsAButtonsValues) {
 TEST_F(CanvasInputTest, ClickFillsFontSizeAndPlaceOnlyForTheirSections) {
   form1.Label53[1].place(70, 80, 90, 100);
   form1.Label53[1].setFontSize(12);
-  input.click(form1.Label53[1]);
+  state.board.click(form1.Label53[1]);
   EXPECT_EQ(form6.Text9[0].text(), u"80");
   EXPECT_EQ(form6.Text9[1].text(), u"70");
   EXPECT_EQ(form6.Text4->text(), u"12");
   form1.Label32->setFontSize(30);
-  input.click(*form1.Label32);
+  state.board.click(*form1.Label32);
   EXPECT_EQ(globals.SectionNumber, 11);
   EXPECT_EQ(form6.Text4->text(), u"12");
 }
 
 TEST_F(CanvasInputTest, ClickOnASingleControlMostlyKeepsTheIndex) {
-  input.click(form1.Label1[7]);
-  input.click(*form1.Label42);
+  state.board.click(form1.Label1[7]);
+  state.board.click(*form1.Label42);
   EXPECT_EQ(globals.ElementIndex, 7);
-  input.click(*form6.Label5);
+  state.board.click(*form6.Label5);
   EXPECT_EQ(globals.SectionNumber, 5);
   EXPECT_EQ(globals.ElementIndex, 7);
-  input.click(*form1.Label12);
+  state.board.click(*form1.Label12);
   EXPECT_EQ(globals.ElementIndex, 0);
-  input.click(form1.Label1[7]);
-  input.click(*form1.lvButtons_H20);
+  state.board.click(form1.Label1[7]);
+  state.board.click(*form1.lvButtons_H20);
   EXPECT_EQ(globals.SectionNumber, 22);
   EXPECT_EQ(globals.ElementIndex, 7);
 }
 
 TEST_F(CanvasInputTest, FieldsAreFilledWithTheNewSectionCurrent) {
-  input.click(form1.Label1[7]);
+  state.board.click(form1.Label1[7]);
   int section = 0;
-  state.notices.subscribe([&](const Change& change) {
+  const Attachment watching = state.board.watch([&](const Change& change) {
     if (&change.element == &*form6.Combo1) section = globals.SectionNumber;
   });
   form6.Text3[0].setText(QStringLiteral("77"));
-  input.click(form6.lvButtons_H5[1]);
+  state.board.click(form6.lvButtons_H5[1]);
   EXPECT_EQ(section, 8);
   EXPECT_EQ(globals.ElementIndex, 1);
   EXPECT_EQ(form6.Text3[0].text(), u"77");
 }
 
 TEST_F(CanvasInputTest, ClickPutsPlaceholders) {
-  input.click(form1.Label3[4]);
+  state.board.click(form1.Label3[4]);
   EXPECT_EQ(form1.Label3[4].caption(), u"Track  4");
-  input.click(form1.Label2[3]);
+  state.board.click(form1.Label2[3]);
   EXPECT_EQ(form1.Label2[3].caption(), u"Genre : ");
   form1.Label2[4].setCaption(QStringLiteral("own"));
-  input.click(form1.Label2[4]);
+  state.board.click(form1.Label2[4]);
   EXPECT_EQ(form1.Label2[4].caption(), u"own");
-  input.click(form1.Label50[2]);
+  state.board.click(form1.Label50[2]);
   EXPECT_EQ(form1.Label50[2].caption(), u"Played () Times 2.");
-  input.click(form1.Label59[6]);
+  state.board.click(form1.Label59[6]);
   EXPECT_EQ(form1.Label59[6].caption(), u"() Album(s)");
   EXPECT_EQ(form1.Label59[6].toolTipText(), u" 6 Albums Button");
-  input.click(form1.Label64[9]);
+  state.board.click(form1.Label64[9]);
   EXPECT_EQ(form1.Label64[9].caption(), u"Album Title  9");
-  input.click(form1.Label64[10]);
+  state.board.click(form1.Label64[10]);
   EXPECT_EQ(form1.Label64[10].caption(), u"Artist  1");
-  input.click(form1.aicAlphaImage1[20]);
+  state.board.click(form1.aicAlphaImage1[20]);
   EXPECT_EQ(form1.aicAlphaImage1[20].toolTipText(), u"Star Rating 20");
   // Crossed: the requested track's text goes to the track listing.
-  input.click(form1.Label53[1]);
+  state.board.click(form1.Label53[1]);
   EXPECT_EQ(form1.Label53[1].caption(), u"");
   EXPECT_EQ(form1.Label1[1].caption(), u"Track Listing  1");
 }
@@ -155,7 +155,7 @@ TEST_F(CanvasInputTest, RightPressGivesAButtonItsPicture) {
   const QString bad = folder.filePath(QStringLiteral("broken.jpg"));
   ASSERT_TRUE(QFile::copy(QStringLiteral(VENEERER_SOURCE_DIR "/README.md"), bad));
   Button& button = form1.lvButtons_H23[1];
-  StoredValue& name = *state.names.of(button);
+  ImageSlot& name = *state.names.of(button);
   for (const QString& file : {good, bad, QString(), good}) world.dialogs.files.enqueue(file);
 
   input.press(button, 0, 0, MouseButton::Right);
@@ -175,7 +175,7 @@ TEST_F(CanvasInputTest, RightPressGivesAButtonItsPicture) {
 
   input.press(*form1.Picture17, 0, 0, MouseButton::Right);
   EXPECT_EQ(form1.Picture17->picture().path(), good);
-  EXPECT_EQ(state.names.NowPlayingPanelName.value().text(), u"\\up.bmp");
+  EXPECT_EQ(state.names.NowPlayingPanelName->text(), u"\\up.bmp");
 }
 
 TEST_F(CanvasInputTest, DragsWhileTheLimitHoldsAndNoFurther) {

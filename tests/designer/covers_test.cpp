@@ -66,7 +66,7 @@ TEST_F(Covers, LayoutsOfDifferentLengthComeBackWhole) {
   EXPECT_EQ(form1().Image2[3].left(), 100) << "the fraction is dropped, not rounded";
   EXPECT_EQ(form1().Image2[3].top(), -20);
   EXPECT_EQ(form1().Label9[9].fontName().toStdString(), "Verdana");
-  EXPECT_EQ(state().globals.LastCoverIndex, 9);
+  EXPECT_EQ(state().globals.LastCoverIndex->value(), 9);
   EXPECT_EQ(form4().Combo4->text().toStdString(), "10");
   EXPECT_TRUE(form1().Image2[9].isVisible());
   EXPECT_FALSE(form1().Image2[10].isVisible());
@@ -88,10 +88,10 @@ TEST_F(Covers, ConfirmBeforeOverwritingAndBeforeLoading) {
   EXPECT_EQ(world.dialogs.messages.last().title.toStdString(), "Save Cover File");
   world.dialogs.answers.enqueue(false);
   form4().File1->select(0);
-  EXPECT_EQ(state().globals.LastCoverIndex, 5);
+  EXPECT_EQ(state().globals.LastCoverIndex->value(), 5);
   world.dialogs.answers.enqueue(true);
   form4().File1->select(0);
-  EXPECT_EQ(state().globals.LastCoverIndex, 4);
+  EXPECT_EQ(state().globals.LastCoverIndex->value(), 4);
   saveAs("../outside.cov");
   EXPECT_FALSE(QFile::exists(root.path() + QStringLiteral("/Skins/outside.cov")));
 }
@@ -143,7 +143,7 @@ TEST_F(Covers, RowsOfCoversBeyondTheLastAreReadAndDropped) {
     form4().Check3->setValue(0);
     write(QStringLiteral("long.cov"), layoutOf(told, rows));
     load("long.cov");
-    EXPECT_EQ(state().globals.LastCoverIndex, 28);
+    EXPECT_EQ(state().globals.LastCoverIndex->value(), 28);
     EXPECT_EQ(form1().Label10[27].left(), 30);
     EXPECT_TRUE(form4().Check3->isTicked());
     EXPECT_EQ(form4().Combo4->text().toStdString(), "29");
@@ -177,7 +177,7 @@ TEST_F(Covers, AHostileCountIsKeptInBounds) {
   EXPECT_THROW(load("bad.cov"), RecordError);
   write(QStringLiteral("worse.cov"), " 0 \r\n-7 \r\nAlbum Covers\r\nAlbum Frames\r\nAlbum Title\r\n");
   load("worse.cov");
-  EXPECT_EQ(state().globals.LastCoverIndex, -1);
+  EXPECT_EQ(state().globals.LastCoverIndex->value(), -1);
   EXPECT_FALSE(form1().Image2[0].isVisible());
   saveAs("again.cov");
   EXPECT_EQ(bytes(QStringLiteral("again.cov")).count("\r\n"), linesOf(0));

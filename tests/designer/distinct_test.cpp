@@ -61,7 +61,8 @@ protected:
       if (!isReadBack(entry)) continue;
       const Layout layout = entry.layout(state);
       for (const Row& row : layout.rows()) {
-        if (row.reference()) *row.reference()->from = QStringLiteral("\\images\\%1.bmp").arg(++counter_);
+        if (row.reference())
+          row.reference()->from->setValue(QStringLiteral("\\images\\%1.bmp").arg(++counter_));
         if (const Field* field = row.field())
           field->into.element->set(field->into.property, distinct(field->into));
       }
@@ -79,7 +80,7 @@ protected:
         const std::string where = QStringLiteral("%1:%2").arg(from.fileName()).arg(i + 1).toStdString();
         if (row.why || isCrossed(row)) continue;
         if (row.reference()) {
-          EXPECT_EQ(*row.reference()->into, *to.rows()[i].reference()->into) << where;
+          EXPECT_EQ(row.reference()->into->value(), to.rows()[i].reference()->into->value()) << where;
         }
         if (row.field()) {
           EXPECT_EQ(valueOf(row), valueOf(to.rows()[i]))

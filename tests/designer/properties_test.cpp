@@ -81,7 +81,7 @@ TEST_F(Properties, OtherAlbumsAndTheirNames) {
 TEST_F(Properties, CoverCounts) {
   form4().Check6->setValue(1);
   form4().Combo4->select(11);
-  EXPECT_EQ(state().globals.LastCoverIndex, 11);
+  EXPECT_EQ(state().globals.LastCoverIndex->value(), 11);
   EXPECT_EQ(shown(form1().Image2, 27), 12);
   EXPECT_EQ(shown(form1().Label62, 27), 12);
   form4().Check1->setValue(1);
@@ -89,20 +89,20 @@ TEST_F(Properties, CoverCounts) {
   EXPECT_EQ(shown(form1().Image2, 27), 12) << "nothing changes until a row is chosen";
   for (int row : {28, 40}) {
     form4().Combo4->select(row);
-    EXPECT_EQ(state().globals.LastCoverIndex, 28) << row;
+    EXPECT_EQ(state().globals.LastCoverIndex->value(), 28) << row;
     EXPECT_EQ(shown(form1().Label9, 28), 29) << row;
     EXPECT_EQ(shown(form1().Image2, 28), 0) << "a list of texts has no pictures";
   }
   form4().Check1->setValue(0);
   EXPECT_EQ(form4().Combo4->list().size(), 13);
-  state().globals.LastCoverIndex = 27;
+  state().globals.LastCoverIndex->setValue(27);
   form4().Check6->setValue(0);
   EXPECT_FALSE(form1().Label62[0].isVisible());
   form4().Check6->setValue(1);
   EXPECT_TRUE(form1().Label63[28].isVisible()) << "one further than the covers";
   form4().Check7->setValue(1);
   EXPECT_TRUE(form1().ucAniGIF1[28].isVisible());
-  state().globals.LastCoverIndex = 2;
+  state().globals.LastCoverIndex->setValue(2);
   form4().Combo4->setText(QStringLiteral("anything"));
   EXPECT_EQ(shown(form1().Image2, 27), 3);
 }
@@ -129,7 +129,7 @@ TEST_F(Properties, TexturesReachTheCanvasAndTheNames) {
   Form5& form5 = state().form5;
   designer->click(form5.Image1[12]);
   EXPECT_EQ(form1().Picture1[14].picture().path(), picture);
-  EXPECT_EQ(state().names.SearchChoiceName.value().text().toStdString(), "\\back.bmp");
+  EXPECT_EQ(state().names.SearchChoiceName->text().toStdString(), "\\back.bmp");
   designer->click(form5.Image1[0]);
   EXPECT_TRUE(form1().picture().isNull()) << "cancelled";
   designer->click(form5.Image1[0]);

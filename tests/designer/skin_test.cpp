@@ -15,7 +15,7 @@ using Skin = SkinFixture;
 
 TEST_F(Skin, TheSplashTellsWhatAFullLoadReadsAndAReloadTellsNothing) {
   QStringList told;
-  state().notices.subscribe([&](const Change& change) {
+  const Attachment watching = state().board.watch([&](const Change& change) {
     const Element& label = *state().frmSplash.Label3;
     if (&change.element == &label) told.append(label.as<QString>(Property::Caption));
   });
@@ -77,7 +77,7 @@ TEST_F(Skin, SaveWritesExactlyTheCatalogueAndComesBackByteForByte) {
   form1().Label16[3].setTop(-0.25f);
   form1().Label16[3].setWidth(1.234567e-2f);
   form1().lvButtons_H1[2].setCaption(QStringLiteral("H\u00f6rproben"));
-  state().names.ofButtons(form1().lvButtons_H1)[2] = QStringLiteral("\\images\\gone.bmp");
+  state().names.ofButtons(form1().lvButtons_H1)[2].setValue(QStringLiteral("\\images\\gone.bmp"));
   world.dialogs.answers.enqueue(false);
   designer->save();
   EXPECT_EQ(files().size(), 59);

@@ -35,8 +35,8 @@ protected:
 
   QTemporaryDir folder;
   PictureStore pictures;
-  ChangeNotices notices;
-  Form1 form{notices};
+  Switchboard board;
+  Form1 form{board};
 };
 
 TEST_F(Animation, PlaysWhileItIsShown) {

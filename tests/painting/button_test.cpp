@@ -50,8 +50,8 @@ protected:
     return image;
   }
 
-  ChangeNotices notices;
-  Window window{notices, "Test"};
+  Switchboard board;
+  Window window{board, "Test"};
   Single<Button> single{window, "Button"};
   Button& button = *single;
   TextLayouts texts;

@@ -46,8 +46,8 @@ protected:
 
   Element* at(float x, float y) { return hits.elementAt(form, x * 15, y * 15); }
 
-  ChangeNotices notices;
-  Form1 form{notices};
+  Switchboard board;
+  Form1 form{board};
   CanvasPainter painter;
   HitTest hits{painter.cutOuts()};
 };

@@ -240,7 +240,7 @@ TEST_F(Reading, WhatIsNoPlainFileOfTheSkinIsRefusedUnread) {
 }
 
 TEST_F(Reading, WhatACounterKeepsAndAWholeIsScaledByGoWithTheLayout) {
-  int count = 4;
+  CoverIndex& count = *state.globals.LastCoverIndex;
   float scale = 2;
   Layout file(state, "any.cov");
   file.counter(count, "Count", toLastCoverIndex);
@@ -248,7 +248,7 @@ TEST_F(Reading, WhatACounterKeepsAndAWholeIsScaledByGoWithTheLayout) {
   file.scaleWholes(1, scale);
   file.field(ValueKind::Whole, state.form1.Image2[0], Property::Top);
   read(file, " 32767 \r\n 10.5 \r\n 10.5 \r\n");
-  EXPECT_EQ(count, kHighestCover) << "brought into its range";
+  EXPECT_EQ(count.value(), kHighestCover) << "brought into its range";
   EXPECT_EQ(state.form1.Image2[0].left(), 21);
   EXPECT_EQ(state.form1.Image2[0].top(), 10.5f) << "it was added after the mark";
   EXPECT_EQ(composeRecords(file), " 28 \r\n 21 \r\n 10 \r\n") << "the fraction is dropped";

@@ -138,14 +138,8 @@ private:
     return unit;
   }
 
-  Unit tableOf(const StoredValue* entry) const {
-    for (const ImageTable* table : state_.names.all())
-      for (int i = 0; i < table->count(); ++i)
-        if (&(*table)[i] == entry) {
-          const int index = table->isArray() ? i : -1;
-          return {table->name(), index, index, {}};
-        }
-    return {QStringLiteral("no table"), -1, -1, {}};
+  Unit tableOf(const ImageSlot* entry) const {
+    return {entry->family()->name(), entry->index(), entry->index(), {}};
   }
 
   static QString countOf(const Counter& counter) {

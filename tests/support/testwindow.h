@@ -11,9 +11,9 @@
 
 namespace veneerer::test {
 
-struct TestWindow : ChangeNotices, Window {
-  TestWindow() : Window(static_cast<ChangeNotices&>(*this), "Form9") {
-    subscribe([this](const Change& change) {
+struct TestWindow : Switchboard, Window {
+  TestWindow() : Window(static_cast<Switchboard&>(*this), "Form9") {
+    watching = watch([this](const Change& change) {
       told.push_back({change.element.key(), change.property, change.oldValue});
     });
   }
@@ -25,6 +25,7 @@ struct TestWindow : ChangeNotices, Window {
     bool operator==(const Notice&) const = default;
   };
   std::vector<Notice> told;
+  Attachment watching;
 
   Single<Label> Label1{*this, "Label1"};
   Array<Label> Label2{*this, "Label2", {0, 3}};

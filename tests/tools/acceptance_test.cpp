@@ -10,7 +10,7 @@ protected:
   /// The Sections from 0 to 191 for which the action changes an element of the canvas or a sample.
   std::string accepted(const std::function<void()>& action) {
     bool reacted = true;
-    const int listening = state.notices.subscribe([&](const Change& change) {
+    const Attachment watching = state.board.watch([&](const Change& change) {
       reacted = reacted || &change.element.window() == &form1 || isSample(change.element);
     });
     QStringList sections;
@@ -21,7 +21,6 @@ protected:
       action();
       if (reacted) sections.append(QString::number(section));
     }
-    state.notices.unsubscribe(listening);
     return sections.join(u' ').toStdString();
   }
 
@@ -95,50 +94,50 @@ TEST_F(AcceptanceTest, GeometryCommands) {
   type(form6.Text5[0], "7");
   type(form6.Text5[1], "7");
   EXPECT_EQ(
-      accepted([&] { palette.click(*form6.Command5); }),
+      accepted([&] { state.board.click(*form6.Command5); }),
       std::string("1 2 3 4 8 9 10 18 22 23 24 25 28 29 31 33 34 36 40 41 42 43 44 46 49 50 51 52 53 55 58 "
                   "59 60 64 65 67 69 70 71 72 73 75 78 79 80 82 83 86 87 88 90 91 92 93 94 97 98 100 101 "
                   "105 110 111 112 113 114 116 119 121 125 126 127 129 130 131 132 133 134 135 137 149 152 "
                   "155 158 160 161 162 163 165 170 171 172 179 181"));
-  EXPECT_EQ(accepted([&] { palette.click(*form6.Command12); }), "101");
+  EXPECT_EQ(accepted([&] { state.board.click(*form6.Command12); }), "101");
   // Section 54 is accepted too, but it has no range to shift.
   const std::string shifted(
       "1 3 9 10 16 18 19 21 22 23 24 25 28 29 30 31 33 36 40 43 44 46 49 50 51 52 53 58 59 60 "
       "64 65 67 69 70 71 72 73 75 78 79 82 83 84 86 90 91 92 93 94 97 98 100 101 102 105 110 "
       "111 112 113 114 117 121 129 130 131 132 133 135 137 138 152 155 160 162 163 173 181");
-  EXPECT_EQ(accepted([&] { palette.click(form6.Command6[0]); }), shifted);
-  EXPECT_EQ(accepted([&] { palette.click(form6.Command6[1]); }), shifted);
+  EXPECT_EQ(accepted([&] { state.board.click(form6.Command6[0]); }), shifted);
+  EXPECT_EQ(accepted([&] { state.board.click(form6.Command6[1]); }), shifted);
   const std::string aligned(
       "1 3 4 10 16 18 19 21 22 23 24 25 28 29 30 33 34 36 40 43 44 46 49 50 51 52 53 58 60 64 "
       "67 69 70 71 72 73 75 78 79 83 86 91 92 93 97 101 105 117 121 126 127 130 131 132 133 149 "
       "160 162 163 165 179");
-  EXPECT_EQ(accepted([&] { palette.click(form6.Command8[0]); }), aligned);
-  EXPECT_EQ(accepted([&] { palette.click(form6.Command8[1]); }), aligned);
+  EXPECT_EQ(accepted([&] { state.board.click(form6.Command8[0]); }), aligned);
+  EXPECT_EQ(accepted([&] { state.board.click(form6.Command8[1]); }), aligned);
   const std::string spaced("1 22 31 33 44 46 50 51 52 53 58 83 112 113");
-  EXPECT_EQ(accepted([&] { palette.click(form6.Command9[0]); }), spaced);
-  EXPECT_EQ(accepted([&] { palette.click(form6.Command9[1]); }), spaced);
-  EXPECT_EQ(accepted([&] { palette.click(*form6.Command13); }), "9 41 66 67 98 129 137 152 155 181");
-  EXPECT_EQ(accepted([&] { palette.click(*form6.Command7); }), "1 18 24 28 29 41 42 43 64 69");
+  EXPECT_EQ(accepted([&] { state.board.click(form6.Command9[0]); }), spaced);
+  EXPECT_EQ(accepted([&] { state.board.click(form6.Command9[1]); }), spaced);
+  EXPECT_EQ(accepted([&] { state.board.click(*form6.Command13); }), "9 41 66 67 98 129 137 152 155 181");
+  EXPECT_EQ(accepted([&] { state.board.click(*form6.Command7); }), "1 18 24 28 29 41 42 43 64 69");
 }
 
 TEST_F(AcceptanceTest, StylesColoursAndFonts) {
   form6.Combo1->select(5);
   form6.Combo2->select(5);
   EXPECT_EQ(
-      accepted([&] { palette.click(*form6.Command3); }),
+      accepted([&] { state.board.click(*form6.Command3); }),
       std::string("1 2 3 4 8 9 10 18 24 28 29 34 40 41 42 43 59 60 64 67 69 78 79 80 86 94 98 116 119 121 "
                   "125 129 137 152 155 181"));
   form6.Option1[1].select();
   type(*form6.Text2, "7");
   EXPECT_EQ(
-      accepted([&] { palette.click(form6.Command2[0]); }),
+      accepted([&] { state.board.click(form6.Command2[0]); }),
       std::string("1 2 3 4 6 8 9 10 12 13 16 18 19 21 22 23 24 28 29 30 31 33 34 35 36 37 38 40 41 42 43 44 "
                   "46 49 50 51 52 53 55 56 59 60 64 65 66 67 69 70 71 72 73 74 75 78 79 80 83 86 87 88 90 "
                   "91 92 93 94 97 98 102 105 112 113 117 119 121 125 126 129 130 131 132 133 134 135 137 "
                   "149 152 155 156 158 160 163 170 171"));
   // Number 7 is reserved and names no element.
   EXPECT_EQ(
-      accepted([&] { palette.click(*form6.Picture2); }),
+      accepted([&] { state.board.click(*form6.Picture2); }),
       std::string("1 2 3 4 5 6 8 9 10 11 12 13 16 18 19 21 22 23 24 26 28 29 30 31 32 33 34 35 36 37 38 39 "
                   "40 41 42 43 44 45 46 48 49 50 51 52 53 54 55 56 57 59 60 61 62 63 64 65 66 67 68 69 70 "
                   "71 72 73 74 75 77 78 79 80 81 83 85 86 87 88 90 91 92 93 94 95 96 97 98 99 102 103 104 "
@@ -146,20 +145,20 @@ TEST_F(AcceptanceTest, StylesColoursAndFonts) {
                   "138 139 140 149 150 151 152 153 154 155 156 158 160 163 170 171 172 181 189"));
   type(*form6.Text4, "99");
   EXPECT_EQ(
-      accepted([&] { palette.click(form6.Command1[0]); }),
+      accepted([&] { state.board.click(form6.Command1[0]); }),
       std::string("13 16 21 22 30 31 33 36 38 44 49 50 51 52 53 65 83 87 88 91 92 93 102 112 113 117 126 "
                   "130 131 132 133 138 149 153 156 158 160 170 171"));
   form6.List1->select(1);
   EXPECT_EQ(
-      accepted([&] { palette.click(form6.Command4[0]); }),
+      accepted([&] { state.board.click(form6.Command4[0]); }),
       std::string("13 16 21 22 30 31 33 36 38 44 49 50 51 52 53 65 83 87 88 91 92 93 102 112 113 117 126 "
                   "130 131 132 133 153 156 158 160 170 171"));
   form6.Combo5->select(1);
-  EXPECT_EQ(accepted([&] { palette.click(*form6.Command11); }), "112 113 117 126 170 171");
+  EXPECT_EQ(accepted([&] { state.board.click(*form6.Command11); }), "112 113 117 126 170 171");
   EXPECT_EQ(
       accepted([&] {
         world.dialogs.fonts.enqueue(FontChoice{QStringLiteral("Times"), 40});
-        palette.click(*form6.Command14);
+        state.board.click(*form6.Command14);
       }),
       std::string("11 13 16 21 22 26 30 31 33 36 38 39 44 49 50 51 52 53 54 65 68 70 71 72 73 74 75 81 83 "
                   "87 88 91 92 93 95 96 97 99 102 112 113 115 117 126 130 131 132 133 135 136 138 140 149 "

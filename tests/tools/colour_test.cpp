@@ -58,15 +58,15 @@ TEST_F(ColourTest, ACancelledDialogPaintsBlack) {
   current(22, 4);
   form6.Option1[1].select();
   world.dialogs.colours.enqueue(0x123456);
-  palette.click(*form6.Picture2);
+  state.board.click(*form6.Picture2);
   EXPECT_EQ(form1.Label1[4].backColor(), 0x123456);
   EXPECT_EQ(form6.Picture2->backColor(), 0x123456);
   EXPECT_EQ(form6.Text2->text(), QString::number(0x123456));
   world.dialogs.colours.enqueue(std::nullopt);
-  palette.click(*form6.Picture2);
+  state.board.click(*form6.Picture2);
   EXPECT_EQ(form1.Label1[4].backColor(), 0);
   world.dialogs.colours.enqueue(77);
-  palette.click(*form6.Picture1);
+  state.board.click(*form6.Picture1);
   EXPECT_EQ(form6.Picture1->backColor(), 77);
   EXPECT_EQ(state.globals.CurrentColour, 77);
   EXPECT_EQ(form1.Label1[4].backColor(), 0);
@@ -77,7 +77,8 @@ TEST_F(ColourTest, AnOptionShowsItsColourAndChangesNothing) {
   state.globals.CurrentColour = 99;
   form1.lvButtons_H2[1].setForeColor(1234);
   int changes = 0;
-  state.notices.subscribe([&](const Change& change) { changes += &change.element.window() == &form1; });
+  const Attachment watching =
+      state.board.watch([&](const Change& change) { changes += &change.element.window() == &form1; });
   form6.Option1[0].select();
   EXPECT_EQ(form6.Text2->text(), u"1234");
   EXPECT_EQ(form6.Picture2->backColor(), 1234);
@@ -86,7 +87,7 @@ TEST_F(ColourTest, AnOptionShowsItsColourAndChangesNothing) {
   form6.Text2->setText(QStringLiteral("501 "));
   changes = 0;
   state.globals.CurrentColour = 99;
-  palette.click(form6.Option1[1]);
+  state.board.click(form6.Option1[1]);
   EXPECT_EQ(form6.Text2->text(), u"501");
   EXPECT_EQ(state.globals.CurrentColour, 99);
   EXPECT_EQ(changes, 0);
@@ -97,7 +98,7 @@ TEST_F(ColourTest, OptionsShowColoursForTheirSectionsOnly) {
   for (int section = 0; section <= 191; ++section) {
     current(section, 1);
     form6.Picture2->setBackColor(-1);
-    palette.click(form6.Option1[1]);
+    state.board.click(form6.Option1[1]);
     if (form6.Picture2->backColor() != -1) sections.append(QString::number(section));
   }
   // Number 7 is reserved and names no element.
@@ -111,21 +112,21 @@ TEST_F(ColourTest, CopiesColourAndGradientOverTheFamily) {
   form6.Combo4->select(3);
   type(*form6.Text2, "&HFF");
   current(1, 0);
-  palette.click(form6.Command2[0]);
+  state.board.click(form6.Command2[0]);
   EXPECT_EQ(form1.lvButtons_H1[9].foreColor(), 255);
   EXPECT_EQ(form1.lvButtons_H1[9].gradientMode(), 3);
   EXPECT_NE(form1.lvButtons_H1[10].foreColor(), 255);
   EXPECT_EQ(form1.lvButtons_H1[10].gradientMode(), 0);
   EXPECT_NE(form1.Label1[0].foreColor(), 255);
   current(12);
-  palette.click(form6.Command2[0]);
+  state.board.click(form6.Command2[0]);
   EXPECT_EQ(form1.lvButtons_H9->foreColor(), 255);
 }
 
 TEST_F(ColourTest, TheGlobalCopyNeedsNoSectionAndReadsNoWebColour) {
   form6.Option1[1].select();
   type(*form6.Text2, "#112233");
-  palette.click(form6.Command2[1]);
+  state.board.click(form6.Command2[1]);
   for (const Element* element :
        {static_cast<Element*>(&form1.Label63[28]), static_cast<Element*>(&form1.Picture5[8]),
         static_cast<Element*>(&*form1.lvButtons_H11), static_cast<Element*>(&form6.Label6[1])})

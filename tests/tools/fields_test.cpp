@@ -23,7 +23,7 @@ TEST_F(FieldsTest, SizesTakeNumbersAboveZeroOnly) {
 TEST_F(FieldsTest, AButtonRebuildsItsOutlineWhenItIsSized) {
   std::vector<int> shapes;
   form1.lvButtons_H6[2].setButtonShape(4);
-  state.notices.subscribe([&](const Change& change) {
+  const Attachment watching = state.board.watch([&](const Change& change) {
     if (change.property == Property::ButtonShape)
       shapes.push_back(change.element.as<std::int32_t>(Property::ButtonShape));
   });
@@ -92,7 +92,7 @@ TEST_F(FieldsTest, PlaceIsForScreensAndAboveZero) {
 }
 
 TEST_F(FieldsTest, CoverCaptionsAreAlignedTogetherButForTheFeaturedOne) {
-  state.globals.LastCoverIndex = 6;
+  state.globals.LastCoverIndex->setValue(6);
   current(112, 3);
   form6.Combo5->select(2);
   EXPECT_EQ(form1.Label9[0].alignment(), 2);
@@ -103,7 +103,7 @@ TEST_F(FieldsTest, CoverCaptionsAreAlignedTogetherButForTheFeaturedOne) {
   form6.Combo5->select(1);
   EXPECT_EQ(form1.Label10[0].alignment(), 0);
   EXPECT_EQ(form1.Label10[28].alignment(), 1);
-  state.globals.LastCoverIndex = 4000;
+  state.globals.LastCoverIndex->setValue(kHighestCover);
   current(113, 0);
   form6.Combo5->select(2);
   EXPECT_EQ(form1.Label10[28].alignment(), 2);
@@ -115,7 +115,7 @@ TEST_F(FieldsTest, NoRowChangesNothing) {
   current(9, 0);
   form6.Combo1->select(-1);
   form6.Combo2->select(-1);
-  palette.click(*form6.Command3);
+  state.board.click(*form6.Command3);
   EXPECT_EQ(form1.lvButtons_H6[0].buttonShape(), 4);
   EXPECT_EQ(form1.lvButtons_H6[0].buttonStyle(), 4);
 }
@@ -132,10 +132,10 @@ TEST_F(FieldsTest, AClickFillsTheFieldsAndThereTheyAct) {
   CanvasInput input(state, world.dialogs);
   form1.lvButtons_H1[2].setPictureSize(1);
   form1.lvButtons_H1[2].setCaption(QStringLiteral("Queue"));
-  input.click(form1.lvButtons_H1[2]);
+  state.board.click(form1.lvButtons_H1[2]);
   // The height that the click shows counts as typed.
   EXPECT_EQ(form1.lvButtons_H1[2].pictureSize(), 4);
-  input.click(form1.lvButtons_H2[1]);
+  state.board.click(form1.lvButtons_H2[1]);
   EXPECT_EQ(form1.lvButtons_H1[2].caption(), u"Queue");
   type(*form6.Text1, "Stop");
   EXPECT_EQ(form1.lvButtons_H2[1].caption(), u"Stop");

@@ -15,24 +15,24 @@ TEST_F(FontTest, EditsTheLabelInHand) {
   FontChoice bold{QStringLiteral("Times"), 11};
   bold.bold = true;
   world.dialogs.fonts.enqueue(bold);
-  palette.click(*form6.Command14);
+  state.board.click(*form6.Command14);
   EXPECT_EQ(form1.Label1[4].fontName(), u"Times");
   EXPECT_EQ(form1.Label1[4].fontSize(), 11);
   EXPECT_TRUE(form1.Label1[4].font().bold);
   world.dialogs.fonts.enqueue(std::nullopt);
-  palette.click(*form6.Command14);
+  state.board.click(*form6.Command14);
   EXPECT_EQ(form1.Label1[4].fontName(), u"Times");
 }
 
 TEST_F(FontTest, ThePlainCopySparesTheLabelInHandAndTheGlobalOneDoesNot) {
   type(*form6.Text4, "20");
   current(22, 4);
-  palette.click(form6.Command1[0]);
+  state.board.click(form6.Command1[0]);
   EXPECT_EQ(form1.Label1[19].fontSize(), 20);
   EXPECT_EQ(form1.Label1[4].fontSize(), 6);
   EXPECT_NE(form1.Label3[0].fontSize(), 20);
   current(0);
-  palette.click(form6.Command1[1]);
+  state.board.click(form6.Command1[1]);
   EXPECT_EQ(form1.Label1[4].fontSize(), 20);
   EXPECT_EQ(form1.Label3[0].fontSize(), 20);
   EXPECT_NE(form1.Label42->fontSize(), 20);
@@ -41,14 +41,14 @@ TEST_F(FontTest, ThePlainCopySparesTheLabelInHandAndTheGlobalOneDoesNot) {
 TEST_F(FontTest, CopiesNothingWithoutASizeOrAName) {
   for (const char* text : {"0", "-4", "big"}) {
     type(*form6.Text4, text);
-    palette.click(form6.Command1[1]);
+    state.board.click(form6.Command1[1]);
     EXPECT_EQ(form1.Label1[4].fontSize(), 6) << text;
   }
   const QString before = form1.Label1[4].fontName();
-  palette.click(form6.Command4[1]);
+  state.board.click(form6.Command4[1]);
   EXPECT_EQ(form1.Label1[4].fontName(), before);
   form6.List1->select(0);
-  palette.click(form6.Command4[1]);
+  state.board.click(form6.Command4[1]);
   EXPECT_EQ(form1.Label1[4].fontName(), u"Tahoma");
   // Section 138 copies sizes, but no font types.
   EXPECT_NE(form1.Label53[0].fontName(), u"Tahoma");
@@ -57,7 +57,7 @@ TEST_F(FontTest, CopiesNothingWithoutASizeOrAName) {
 TEST_F(FontTest, CopiesAlignmentAndBackgroundsUpToTheirLastCover) {
   form6.Combo5->select(1);
   current(171, 5);
-  palette.click(*form6.Command11);
+  state.board.click(*form6.Command11);
   EXPECT_EQ(form1.Label63[27].alignment(), 1);
   EXPECT_EQ(form1.Label63[28].alignment(), 0);
   EXPECT_EQ(form1.Label62[0].alignment(), 0);

@@ -34,7 +34,7 @@ protected:
   void rescale(const char* width, const char* height) {
     type(*form6.Text7, width);
     type(*form6.Text8, height);
-    palette.click(*form6.Command10);
+    state.board.click(*form6.Command10);
   }
 
   QTemporaryDir program;
@@ -42,7 +42,7 @@ protected:
 };
 
 TEST_F(RescaleTest, TargetsHaveAnElementEach) {
-  std::set<const StoredValue*> names;
+  std::set<const ImageSlot*> names;
   for (const RescaleTarget& target : kRescaleTargets) {
     EXPECT_NE(target.family(state).find(target.index), nullptr);
     EXPECT_TRUE(names.insert(&target.name(state.names)).second);
@@ -71,7 +71,8 @@ TEST_F(RescaleTest, ElementsFollowTheWindow) {
 
 TEST_F(RescaleTest, WhatCannotBeScaledIsToldAndChangesNothing) {
   int changes = 0;
-  state.notices.subscribe([&](const Change& change) { changes += &change.element.window() == &form1; });
+  const Attachment watching =
+      state.board.watch([&](const Change& change) { changes += &change.element.window() == &form1; });
   const auto refuses = [&](const char* width, const char* height, const char* why) {
     SCOPED_TRACE(std::string(width) + " x " + height);
     changes = 0;
@@ -105,9 +106,9 @@ TEST_F(RescaleTest, WhatCannotBeScaledIsToldAndChangesNothing) {
 TEST_F(RescaleTest, BackdropsTakeTheSizeOfTheirElement) {
   paint("/history.bmp");
   paint("/IMAGES.bmp", Qt::green);
-  state.names.ImageName[1] = QStringLiteral("\\history.bmp");
-  state.names.ImageName[2] = QStringLiteral("\\missing.bmp");
-  state.names.PlaylistLoadName = QStringLiteral("\\images.bmp");
+  state.names.ImageName[1].setValue(QStringLiteral("\\history.bmp"));
+  state.names.ImageName[2].setValue(QStringLiteral("\\missing.bmp"));
+  state.names.PlaylistLoadName->setValue(QStringLiteral("\\images.bmp"));
   form1.Picture1[1].place(0, 0, 1500, 3000);
   form1.Picture1[20].place(0, 0, 600, 900);
   form1.Picture1[1].setPicture(state.pictures.load(file("/history.bmp")));
@@ -142,7 +143,7 @@ TEST_F(RescaleTest, ProgressCannotStartASecondRescale) {
   Rescale tool(state, world.platform, &progress);
   progress.tool = &tool;
   paint("/one.bmp");
-  state.names.ImageName[4] = QStringLiteral("\\one.bmp");
+  state.names.ImageName[4].setValue(QStringLiteral("\\one.bmp"));
   type(*form6.Text7, "1024");
   type(*form6.Text8, "768");
   tool.run();
@@ -154,8 +155,8 @@ TEST_F(RescaleTest, ProgressCannotStartASecondRescale) {
 
 TEST_F(RescaleTest, OneFileOfTwoTargetsEndsAtTheLaterSize) {
   paint("/both.jpg");
-  state.names.GenreName = QStringLiteral("\\both.jpg");
-  state.names.ImageName[3] = QStringLiteral("\\both.jpg");
+  state.names.GenreName->setValue(QStringLiteral("\\both.jpg"));
+  state.names.ImageName[3].setValue(QStringLiteral("\\both.jpg"));
   form1.Picture1[3].place(0, 0, 1500, 1500);
   form1.Picture1[13].place(0, 0, 300, 450);
   rescale("1024", "768");
@@ -172,7 +173,7 @@ TEST_F(RescaleTest, WhatFailsStaysAsItWasAndTheOthersGoOn) {
   broken.close();
   ASSERT_TRUE(QFile::link(file("/../outside.bmp"), file("/link.bmp")));
   const char* names[] = {"\\broken.bmp", "\\flat.bmp", "\\..\\outside.bmp", "\\link.bmp", "\\good.bmp"};
-  for (int i = 0; i < 5; ++i) state.names.ImageName[i] = QString::fromLatin1(names[i]);
+  for (int i = 0; i < 5; ++i) state.names.ImageName[i].setValue(QString::fromLatin1(names[i]));
   form1.Picture1[1].setWidth(-3e38f);
   form1.Picture1[4].place(0, 0, 150, 150);
   const QByteArray outside = bytes(file("/../outside.bmp"));

@@ -13,7 +13,7 @@ namespace veneerer {
 namespace {
 
 struct Bench : Window {
-  explicit Bench(ChangeNotices& notices) : Window(notices, "Bench") { place(0, 0, 15360, 11520); }
+  explicit Bench(Switchboard& board) : Window(board, "Bench") { place(0, 0, 15360, 11520); }
 
   Single<Label> Label1{*this, "Label1"};
   Single<ComboBox> Combo1{*this, "Combo1"};
@@ -31,8 +31,8 @@ protected:
 
   static std::vector<float> placeOf(const Element& e) { return {e.left(), e.top(), e.width(), e.height()}; }
 
-  ChangeNotices notices;
-  Bench window{notices};
+  Switchboard board;
+  Bench window{board};
   Resizer resizer;
 };
 
@@ -76,7 +76,7 @@ TEST_F(Resizing, FollowsTheWindowsChangeOfSize) {
 TEST_F(Resizing, TheWalkDoesNotStartAgainFromItsOwnMoves) {
   resizer.scaleToScreen(window, Screen());
   int walks = 0;
-  notices.subscribe([&](const Change& change) {
+  const Attachment watching = board.watch([&](const Change& change) {
     if (&change.element != window.Label1.find(0) || change.property != Property::Left) return;
     ++walks;
     resizer.scaleOnResize(window);

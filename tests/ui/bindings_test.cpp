@@ -10,7 +10,7 @@ class Bindings : public test::UiFixture {
 protected:
   /// Counts the changes of one property of an element from here on.
   void count(Element& element, Property property) {
-    state().notices.subscribe([this, &element, property](const Change& change) {
+    watching = state().board.watch([this, &element, property](const Change& change) {
       if (&change.element == &element && change.property == property) ++changes;
     });
   }
@@ -29,6 +29,7 @@ protected:
   }
 
   int changes = 0;
+  Attachment watching;
 };
 
 TEST_F(Bindings, TypingInAFieldActsOnTheElementInHand) {
@@ -80,7 +81,7 @@ TEST_F(Bindings, TheWheelChoosesNothingEvenInTheBoxWithTheKeys) {
   form4().Combo3->setRows({QStringLiteral("R"), QStringLiteral("S"), QStringLiteral("T")});
   form4().Combo3->setText(QStringLiteral("S"));
   int choices = 0;
-  state().notices.subscribe([&](const Change& change) {
+  watching = state().board.watch([&](const Change& change) {
     const bool isList = change.property == Property::ListIndex || change.property == Property::Text;
     if (isList) ++choices;
   });

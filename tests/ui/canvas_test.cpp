@@ -211,12 +211,13 @@ protected:
     box.place(1500, 1500, 3000, 3000);
     label.setContainer(box);
     label.place(150, 150, 300, 150);
-    state.notices.subscribe([this](const Change& change) { dirty.add(change); });
+    watching = state.board.watch([this](const Change& change) { dirty.add(change); });
   }
   State state;
   PictureBox& box = state.form1.Picture2[0];
   Label& label = state.form1.Label1[0];
   DirtyArea dirty{1.0 / 15, 1.0 / 15};
+  Attachment watching;
 };
 
 TEST_F(Dirt, CoversTheOldPlaceAndTheNewOne) {

@@ -86,7 +86,7 @@ protected:
 };
 
 TEST_F(Rescaling, ShowsItsProgressWhileTheOperatorWaits) {
-  for (int i = 1; i < 4; ++i) state().names.ImageName[i] = QStringLiteral("\\images\\%1.bmp").arg(i);
+  for (int i = 1; i < 4; ++i) state().names.ImageName[i].setValue(QStringLiteral("\\images\\%1.bmp").arg(i));
   form6().Check2->setValue(1);
   form6().Text7->setText(QStringLiteral("1024"));
   form6().Text8->setText(QStringLiteral("768"));

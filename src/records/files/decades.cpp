@@ -45,7 +45,7 @@ Layout decades2File(State& state) {
 Layout decadesYearFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "decades_year.ini");
-  file.reference(state.names.DecadesYearName.value(), {&form1.Picture1[17], &*state.form5.Image11});
+  file.reference(*state.names.DecadesYearName, {&form1.Picture1[17], &*state.form5.Image11});
   file.geometryButtons(form1.lvButtons_H44, 0, 56);
   file.labels(form1.Label40, 0, 5);
   file.optionalFromHere();
@@ -59,7 +59,7 @@ Layout decadesYearFile(State& state) {
 Layout decadesYearV2File(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "decades_year_v2.ini");
-  file.reference(state.names.DecadesYearName.value());
+  file.reference(*state.names.DecadesYearName);
   file.geometryImages(form1.lvButtons_H44, 0, 66);
   file.labels(form1.Label40, 0, 5);
   file.placeQuad(form1.Picture1[17]);
@@ -71,7 +71,7 @@ Layout decadesYearV2File(State& state) {
 Layout decadesMonthFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "decades_month.ini");
-  file.reference(state.names.DecadesMonthName.value(), {&form1.Picture1[19], &*state.form5.Image13});
+  file.reference(*state.names.DecadesMonthName, {&form1.Picture1[19], &*state.form5.Image13});
   file.geometryButtons(form1.lvButtons_H48, 0, 11);
   file.placeQuad(form1.Picture1[19]);
   file.geometryButton(*form1.lvButtons_H47);
@@ -81,7 +81,7 @@ Layout decadesMonthFile(State& state) {
 Layout decadesSelectorFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "decades_selector.ini");
-  file.reference(state.names.DecadesSelectorName.value(), {&form1.Picture1[18], &*state.form5.Image12});
+  file.reference(*state.names.DecadesSelectorName, {&form1.Picture1[18], &*state.form5.Image12});
   file.placeQuad(form1.Picture1[18]);
   file.places(form1.Picture16, 0, 5);
   file.labels(form1.Label43, 0, 5);

@@ -46,7 +46,7 @@ Layout spinFile(State& state) {
 Layout pinScreenFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "pin_screen.ini");
-  file.reference(state.names.PinScreenName.value(), {&form1.Picture1[16], &*state.form5.Image10});
+  file.reference(*state.names.PinScreenName, {&form1.Picture1[16], &*state.form5.Image10});
   file.placeQuad(form1.Picture1[16]);
   file.labelRecord(form1.Label38[0]);
   file.placedButtons(form1.lvButtons_H43, 0, 9);
@@ -59,7 +59,7 @@ Layout pinScreenFile(State& state) {
 Layout pinScreenV2File(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "pin_screen_v2.ini");
-  file.reference(state.names.PinScreenName.value());
+  file.reference(*state.names.PinScreenName);
   file.placeQuad(form1.Picture1[16]);
   file.labels(form1.Label38, 0, 1);
   file.placeImages(form1.lvButtons_H43, 0, 10);
@@ -69,7 +69,7 @@ Layout pinScreenV2File(State& state) {
 Layout requestFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "request.ini");
-  file.reference(state.names.RequestName.value(), {&form1.Picture1[23], &*state.form5.Image18});
+  file.reference(*state.names.RequestName, {&form1.Picture1[23], &*state.form5.Image18});
   file.alignedLabels(form1.Label53, 0, 1);
   file.placedButtons(form1.lvButtons_H56, 0, 29);
   file.placeQuad(form1.Picture1[23]);
@@ -81,7 +81,7 @@ Layout requestFile(State& state) {
 Layout confirmFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "confirm.ini");
-  file.reference(state.names.ConfirmationName.value(), {&form1.Picture1[28], &*state.form5.Image22});
+  file.reference(*state.names.ConfirmationName, {&form1.Picture1[28], &*state.form5.Image22});
   file.placeQuad(form1.Picture1[28]);
   file.labels(form1.Label38, 2, 3);
   return file;
@@ -90,7 +90,7 @@ Layout confirmFile(State& state) {
 Layout freeCreditFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "free_credit.ini");
-  file.reference(state.names.FreeCreditName.value(), {&form1.Picture1[29]});
+  file.reference(*state.names.FreeCreditName, {&form1.Picture1[29]});
   file.placeQuad(form1.Picture1[29]);
   file.labels(form1.Label38, 4, 5);
   file.geometryButton(form1.lvButtons_H57[5], "Pick A Box - ");
@@ -100,7 +100,7 @@ Layout freeCreditFile(State& state) {
 Layout freeCreditV2File(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "free_credit_v2.ini");
-  file.reference(state.names.FreeCreditName.value());
+  file.reference(*state.names.FreeCreditName);
   file.placeQuad(form1.Picture1[29]);
   file.labels(form1.Label38, 4, 5);
   file.geometryImages(form1.lvButtons_H57, 5, 5);

@@ -36,7 +36,7 @@ Layout genreFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "genre.ini");
   file.listIndex(*state.form4.Combo5);
-  file.reference(state.names.GenreName.value(), {&form1.Picture1[13], &*state.form5.Image8});
+  file.reference(*state.names.GenreName, {&form1.Picture1[13], &*state.form5.Image8});
   file.optionalFromHere();
   file.labels(form1.Label20, 0, 27);
   file.placedButtons(form1.lvButtons_H35, 0, 1);
@@ -79,7 +79,7 @@ Layout genreBarFile(State& state) {
 Layout filterFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "filter.ini");
-  file.reference(state.names.FilterName.value(), {&*form1.Picture24});
+  file.reference(*state.names.FilterName, {&*form1.Picture24});
   file.labelRecord(*form1.Label54);
   file.alignment(*form1.Label54);
   file.optionalFromHere();

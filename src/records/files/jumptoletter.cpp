@@ -7,7 +7,7 @@ namespace veneerer {
 Layout jumpToLetterFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "jumptoletter.ini");
-  file.reference(state.names.JumpToLetterName.value(), {&form1.Picture1[12], &*state.form5.Image5});
+  file.reference(*state.names.JumpToLetterName, {&form1.Picture1[12], &*state.form5.Image5});
   file.placeQuad(form1.Picture1[12]);
   file.placedButtons(form1.lvButtons_H22, 0, 25, "Jump To Letter Buttons ");
   file.placedButtons(form1.lvButtons_H23, 0, 1, "Jump To Letter Buttons ");

@@ -25,7 +25,7 @@ Layout nowPlayingFile(State& state) {
   file.placeQuad(*form1.Picture17);
   file.applyAboveMinusOneOnly(from, {Property::Top, Property::Left});
   file.block();
-  file.reference(state.names.NowPlayingPanelName.value(), {&*form1.Picture17});
+  file.reference(*state.names.NowPlayingPanelName, {&*form1.Picture17});
   file.block();
   file.checkValue(*state.form4.Check8);
   file.block();

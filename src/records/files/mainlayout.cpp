@@ -120,7 +120,7 @@ Layout mainFile(State& state) {
   file.labels(form1.Label27, 2, 2);
   file.places(form1.Picture2, 12, 13);
   file.labels(form1.Label4, 5, 5);
-  file.reference(state.names.MainPanelName.value(), {&form1.Picture2[12]});
+  file.reference(*state.names.MainPanelName, {&form1.Picture2[12]});
   return file;
 }
 

@@ -9,7 +9,7 @@ namespace veneerer {
 Layout myLoginFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "mylogin.ini");
-  file.reference(state.names.LoginName.value(), {&form1.Picture1[24], &*state.form5.Image19});
+  file.reference(*state.names.LoginName, {&form1.Picture1[24], &*state.form5.Image19});
   file.placedButtons(form1.lvButtons_H58, 0, 39, "V-Quill Login Buttons ");
   file.alignedLabels(form1.Label56, 0, 1);
   file.optionalFromHere();
@@ -21,7 +21,7 @@ Layout myVQuillFile(State& state) {
   Form1& form1 = state.form1;
   Array<Button>& buttons = form1.lvButtons_H60;
   Layout file(state, "myvquill.ini");
-  file.reference(state.names.MemberHomeName.value(), {&form1.Picture1[25], &*state.form5.Image20});
+  file.reference(*state.names.MemberHomeName, {&form1.Picture1[25], &*state.form5.Image20});
   file.placedButtons(buttons, 0, 8, "My V-Quill Buttons ");
   file.alignedLabels(form1.Label58, 0, 14);
   file.places(form1.Picture25, 0, 1);
@@ -36,7 +36,7 @@ Layout myVQuillFile(State& state) {
   file.places(form1.Picture25, 3, 3);
   file.alignedLabels(form1.Label58, 17, 18);
   file.placedButtons(buttons, 10, 51);
-  file.reference(state.names.MemberKeyboardName.value());
+  file.reference(*state.names.MemberKeyboardName);
   file.placedButton(buttons[52]);
   file.placedButton(buttons[53]);
   file.placeQuad(form1.Picture25[4]);
@@ -47,7 +47,7 @@ Layout myVQuillFile(State& state) {
 Layout collectionsFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "collections.ini");
-  file.reference(state.names.CollectionsName.value(), {&form1.Picture1[27], &*state.form5.Image21});
+  file.reference(*state.names.CollectionsName, {&form1.Picture1[27], &*state.form5.Image21});
   file.placeQuad(form1.Picture1[27]);
   file.places(form1.Picture30, 0, 8);
   file.optionalFromHere();
@@ -67,7 +67,7 @@ Layout licenceFile(State& state) {
 // The first twelve frames are always there; an older file may end behind any later one.
 Layout framesFile(State& state) {
   Layout file(state, "frames.ini");
-  for (int i = 0; i < state.names.AlbumFrameName.count(); ++i) {
+  for (int i = 0; i < state.names.AlbumFrameName.bound(); ++i) {
     if (i >= 12) file.optionalFromHere();
     file.reference(state.names.AlbumFrameName[i], {&state.form1.ucAniGIF1[i], &*state.form5.ucAniGIF1});
   }

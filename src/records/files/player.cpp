@@ -48,7 +48,7 @@ Layout navFile(State& state) {
   Layout file(state, "nav.ini");
   file.listIndex(*state.form4.Combo2);
   file.geometryButtons(form1.lvButtons_H3, 0, 2, "Nav Button ");
-  file.reference(state.names.NavName.value());
+  file.reference(*state.names.NavName);
   file.literal("Current Position Label");
   file.labelRecord(*form1.Label5);
   file.geometryButtons(form1.lvButtons_H4, 0, 4, "Tab Button ");
@@ -65,7 +65,7 @@ Layout nav2File(State& state) {
   Layout file(state, "nav2.ini");
   file.listIndex(*state.form4.Combo6);
   file.geometryButtons(form1.lvButtons_H57, 0, 2, "Nav Button ");
-  file.reference(state.names.Nav2Name.value());
+  file.reference(*state.names.Nav2Name);
   file.literal("Current Position Label");
   file.labelRecord(*form1.Label55);
   file.optionalFromHere();

@@ -9,7 +9,7 @@ namespace {
 constexpr char kEighthReadAgain[] = "button 8 is written here and read into button 7 once more";
 
 // The block of button 8, which the reader takes into button 7: 8 is never loaded, and 7 ends with its values.
-void crossedButton(Layout& file, Button& into, Button& from, StoredValue& keptFrom) {
+void crossedButton(Layout& file, Button& into, Button& from, ImageSlot& keptFrom) {
   const std::size_t first = file.size();
   file.placedButton(into);
   file.writeFrom(first, from, keptFrom, kEighthReadAgain);
@@ -40,7 +40,7 @@ Layout playlistFile(State& state) {
 Layout playlistSaveFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "playlist_save.ini");
-  file.reference(state.names.PlaylistSaveName.value(), {&form1.Picture1[21], &*state.form5.Image14});
+  file.reference(*state.names.PlaylistSaveName, {&form1.Picture1[21], &*state.form5.Image14});
   file.labelRecord(*form1.Label46);
   file.placedButtons(form1.lvButtons_H51, 0, 39);
   file.placeQuad(form1.Picture1[21]);
@@ -50,7 +50,7 @@ Layout playlistSaveFile(State& state) {
 Layout playlistLoadFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "playlist_load.ini");
-  file.reference(state.names.PlaylistLoadName.value(), {&form1.Picture1[20], &*state.form5.Image15});
+  file.reference(*state.names.PlaylistLoadName, {&form1.Picture1[20], &*state.form5.Image15});
   file.labels(form1.Label45, 0, 9);
   file.placedButtons(form1.lvButtons_H52, 0, 2);
   file.optionalFromHere();

@@ -22,7 +22,7 @@ Layout playOptionsFile(State& state) {
   guardedLabels(file, form1.Label33, 0, 3);
   file.placedButtons(form1.lvButtons_H41, 0, 4);
   guardedLabels(file, form1.Label34, 0, 2);
-  file.reference(state.names.PlayOptionsName.value(), {&form1.Picture1[15], &*state.form5.Image9});
+  file.reference(*state.names.PlayOptionsName, {&form1.Picture1[15], &*state.form5.Image9});
   file.placeQuad(form1.Picture1[15]);
   file.optionalFromHere();
   file.placedButton(form1.lvButtons_H41[5]);
@@ -38,7 +38,7 @@ Layout playOptionsFile(State& state) {
   file.block();
   file.placeQuad(*form1.Picture33);
   file.placedButtons(form1.lvButtons_H62, 0, 26);
-  file.reference(state.names.PlayOptionsKeyboardName.value());
+  file.reference(*state.names.PlayOptionsKeyboardName);
   guardedLabels(file, form1.Label33, 8, 8);
   file.placedButton(form1.lvButtons_H62[27]);
   return file;

@@ -32,7 +32,7 @@ Layout searchFile(State& state) {
 Layout searchResultsFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "search_res.ini");
-  file.reference(state.names.SearchResultsName.value(), {&form1.Picture1[11], &*state.form5.Image7});
+  file.reference(*state.names.SearchResultsName, {&form1.Picture1[11], &*state.form5.Image7});
   file.labels(form1.Label14, 0, 6);
   file.labels(form1.Label15, 0, 6);
   file.labels(form1.Label16, 0, 6);
@@ -54,7 +54,7 @@ Layout searchResultsFile(State& state) {
 Layout searchResultsV2File(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "search_res_v2.ini");
-  file.reference(state.names.SearchResultsName.value());
+  file.reference(*state.names.SearchResultsName);
   file.labels(form1.Label14, 0, 6);
   file.labels(form1.Label15, 0, 6);
   file.labels(form1.Label16, 0, 13);
@@ -70,7 +70,7 @@ Layout searchResultsV2File(State& state) {
 Layout searchChoiceFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "search_choice.ini");
-  file.reference(state.names.SearchChoiceName.value(), {&form1.Picture1[14], &state.form5.Image1[12]});
+  file.reference(*state.names.SearchChoiceName, {&form1.Picture1[14], &state.form5.Image1[12]});
   file.placeQuad(form1.Picture1[14]);
   file.placedButtons(form1.lvButtons_H25, 0, 2, "search Buttons ");
   file.labelRecord(*form1.Label39);
@@ -97,7 +97,7 @@ Layout searchTabFile(State& state) {
 Layout noSearchFile(State& state) {
   Form1& form1 = state.form1;
   Layout file(state, "nosearch.ini");
-  file.reference(state.names.NoSearchName.value(), {&form1.Picture1[22], &*state.form5.Image17});
+  file.reference(*state.names.NoSearchName, {&form1.Picture1[22], &*state.form5.Image17});
   file.alignedLabels(form1.Label51, 0, 1);
   file.placedButtons(form1.lvButtons_H53, 0, 2);
   file.placeQuad(form1.Picture1[22]);

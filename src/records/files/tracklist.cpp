@@ -53,7 +53,7 @@ Layout trackListFile(State& state) {
   file.places(form1.Picture2, 14, 14);
   file.labels(form1.Label2, 4, 8);
   file.places(form1.Picture2, 15, 15);
-  file.reference(state.names.FeedPanelName.value(), {&form1.Picture2[15]});
+  file.reference(*state.names.FeedPanelName, {&form1.Picture2[15]});
   file.labels(form1.Label2, 9, 10);
   file.placedButton(form1.lvButtons_H8[2]);
   file.atEnd([](Loading& loading) {
