@@ -8,13 +8,7 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kGeneralButtons = 8;
-
-/// Labels whose font size the click doesn't show.
-constexpr int kWithoutFontSize[] = {11, 136, 153, 170, 171};
-
-/// Picture1, Picture30, Label53 and lvButtons_H56 show their place as well.
-constexpr int kWithPlace[] = {101, 173, 138, 137};
+constexpr FamilyRef kGeneralButtons = kTools<&Form6::lvButtons_H5>;
 
 }  // namespace
 
@@ -32,17 +26,15 @@ void Selection::click(Element& element) {
 }
 
 void Selection::fillFields(Element& element) {
-  const int section = state_.globals.SectionNumber;
   if (&element.window() == &state_.form6) {
     // The font samples show nothing of themselves.
-    if (section == kGeneralButtons) fillSample(static_cast<Button&>(element));
+    if (isInHand(state_, kGeneralButtons)) fillSample(cast<Button>(element));
     return;
   }
-  if (element.kind() == Kind::Button) fillButton(static_cast<Button&>(element));
+  if (element.kind() == Kind::Button) fillButton(cast<Button>(element));
   fillSize(element);
-  if (element.kind() == Kind::Label && !contains(kWithoutFontSize, section))
-    fillLabel(static_cast<const Label&>(element));
-  if (contains(kWithPlace, section)) fillPlace(element);
+  if (isServed(state_, ToolField::ShownFontSize)) fillLabel(cast<Label>(element));
+  if (isServed(state_, ToolField::Place)) fillPlace(element);
 }
 
 void Selection::fillSample(Button& sample) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "elements/property.h"
+#include "elements/require.h"
 #include "elements/switchboard.h"
 #include "elements/value.h"
 
@@ -135,5 +136,17 @@ private:
   std::vector<Element*> children_;
   std::vector<Value> values_;
 };
+
+/// The element as the kind that it is known to be; any other kind is an error of the program.
+template <class T>
+T& cast(Element& element) {
+  auto* found = dynamic_cast<T*>(&element);
+  require(found != nullptr, "the element is of another kind");
+  return *found;
+}
+template <class T>
+const T& cast(const Element& element) {
+  return cast<T>(const_cast<Element&>(element));
+}
 
 }  // namespace veneerer

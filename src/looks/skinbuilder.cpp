@@ -153,7 +153,7 @@ private:
     f.Check10->setValue(1);
     for (const Family* family : state_.form2.families())
       for (Element* element : family->members())
-        if (element->kind() == Kind::CheckBox) static_cast<CheckBox*>(element)->setValue(1);
+        if (element->kind() == Kind::CheckBox) cast<CheckBox>(*element).setValue(1);
   }
 
   void drawFrame() {

@@ -56,8 +56,7 @@ bool matters(const Change& change) {
 ucAniGIF::ucAniGIF(Window& window, Repaint repaint) : window_(window), repaint_(std::move(repaint)) {
   for (Family* family : window.families())
     for (Element* element : family->members())
-      if (element->kind() == Kind::AnimatedFrame)
-        elements_.push_back(static_cast<const AnimatedFrame*>(element));
+      if (element->kind() == Kind::AnimatedFrame) elements_.push_back(&cast<AnimatedFrame>(*element));
   pending_.setSingleShot(true);
   pending_.callOnTimeout([this] { update(); });
   // A screen switch shows and hides hundreds of elements: one look afterwards is enough.

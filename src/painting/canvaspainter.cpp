@@ -47,7 +47,7 @@ void CanvasPainter::paint(QPainter& painter, const Form1& form, const QRect& exp
 void CanvasPainter::paintElement(QPainter& painter, const Element& element, const QRectF& pixels,
                                  double pixelsPerTwip) {
   if (element.kind() == Kind::Button) {
-    paintButton(painter, static_cast<const Button&>(element), pixels, {}, pixelsPerTwip);
+    paintButton(painter, cast<Button>(element), pixels, {}, pixelsPerTwip);
     return;
   }
   painter.save();
@@ -79,18 +79,18 @@ void CanvasPainter::paintOne(QPainter& painter, const Element& element, const QR
                              const QRectF& clip) {
   switch (element.kind()) {
     case Kind::Label:
-      return paintLabel(painter, static_cast<const Label&>(element), rect, clip);
+      return paintLabel(painter, cast<Label>(element), rect, clip);
     case Kind::Button:
-      return buttons_.paint(painter, static_cast<const Button&>(element), rect, clip, scale_,
+      return buttons_.paint(painter, cast<Button>(element), rect, clip, scale_,
                             {.hover = &element == hovered_, .pressed = &element == pressed_});
     case Kind::PictureBox:
-      return paintPictureBox(painter, static_cast<const PictureBox&>(element), rect, clip);
+      return paintPictureBox(painter, cast<PictureBox>(element), rect, clip);
     case Kind::ImageBox:
-      return paintImageBox(painter, static_cast<const ImageBox&>(element), rect, clip);
+      return paintImageBox(painter, cast<ImageBox>(element), rect, clip);
     case Kind::AnimatedFrame:
-      return paintFrame(painter, static_cast<const AnimatedFrame&>(element), rect, clip);
+      return paintFrame(painter, cast<AnimatedFrame>(element), rect, clip);
     case Kind::AlphaImage:
-      return paintAlphaImage(painter, static_cast<const AlphaImage&>(element), rect, clip);
+      return paintAlphaImage(painter, cast<AlphaImage>(element), rect, clip);
     default:
       return;
   }

@@ -63,7 +63,7 @@ bool HitTest::meets(const Element& element, double x, double y) const {
   const QPointF at(x * scale_.x, y * scale_.y);
   switch (element.kind()) {
     case Kind::Button:
-      return isSeenAt(static_cast<const Button&>(element), rect.size(), at, cutOuts_);
+      return isSeenAt(cast<Button>(element), rect.size(), at, cutOuts_);
     case Kind::AnimatedFrame:
       return isSeenAt(element.as<Picture>(Property::Picture).image(), rect, at);
     case Kind::AlphaImage: {

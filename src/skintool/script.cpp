@@ -130,7 +130,7 @@ RowList& ScriptPlayer::rows(const ScriptWord& word) {
   Element& found = element(word);
   if (!found.has(Property::List)) throw ScriptError(QStringLiteral("%1 has no rows").arg(excerpt(word.text)));
   if (&found == &*designer_.state().form6.List1) designer_.fillFonts();
-  return static_cast<RowList&>(found);
+  return cast<RowList>(found);
 }
 
 // A bare number is a row, counted from 0; anything else is a row's text.
@@ -191,7 +191,7 @@ void ScriptPlayer::set(const Words& words) {
 void ScriptPlayer::tick(const Words& words) {
   Element& found = element(words[0]);
   if (found.kind() == Kind::OptionButton && words.size() == 1)
-    static_cast<OptionButton&>(found).select();
+    cast<OptionButton>(found).select();
   else if (found.kind() == Kind::CheckBox && words.size() == 2 &&
            (words[1].text == u"0" || words[1].text == u"1"))
     found.set(Property::Value, wholeNumber(words[1]));

@@ -4,12 +4,14 @@
 #include <span>
 
 #include "canvas/sections.h"
-#include "tools/colourtables.h"
 #include "tools/colourtext.h"
 
 namespace veneerer {
 
 namespace {
+
+/// Copying colours reaches the menu's buttons up to this one only; those behind keep their colours.
+constexpr int kLastColouredMenuButton = 9;
 
 constexpr Property kOptions[] = {Property::ForeColor, Property::BackColor, Property::GradientColor};
 
@@ -50,7 +52,7 @@ void copyTo(State& state, const Family& family) {
 }  // namespace
 
 void typeColour(State& state) {
-  if (!contains(kTypedColourSections, state.globals.SectionNumber)) return;
+  if (!isServed(state, ToolField::TypedColour)) return;
   state.globals.CurrentColour = typedColour(state.form6.Text2->text());
   colourCurrent(state);
 }
@@ -70,8 +72,7 @@ void pickHighlightColour(State& state, Dialogs& dialogs) {
 }
 
 void showColour(State& state) {
-  if (!contains(kShownColourSections, state.globals.SectionNumber)) return;
-  const Element* element = currentElement(state);
+  const Element* element = currentElement(state, ToolField::ShownColour);
   const auto option = chosenOption(state);
   if (!element || !option || !element->has(*option)) return;
   const auto number = element->as<std::int32_t>(*option);
@@ -80,12 +81,13 @@ void showColour(State& state) {
 }
 
 void copyColours(State& state) {
-  const int section = state.globals.SectionNumber;
-  if (contains(kCopiedColourSections, section)) copyTo(state, *familyOfSection(state, section));
+  if (isServed(state, ToolField::CopiedColours))
+    copyTo(state, *familyOfSection(state, state.globals.SectionNumber));
 }
 
 void copyColoursGlobally(State& state) {
-  for (int section : kCopiedColourSections) copyTo(state, *familyOfSection(state, section));
+  for (const Section& section : sections())
+    if (section.fields.has(ToolField::CopiedColours)) copyTo(state, section.family(state));
 }
 
 }  // namespace veneerer

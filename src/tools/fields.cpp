@@ -1,5 +1,7 @@
 #include "tools/fields.h"
 
+#include <algorithm>
+
 #include "canvas/sections.h"
 #include "elements/numbers.h"
 
@@ -7,20 +9,19 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kScreens = 101;
-constexpr int kArtistCaptions = 112;
-constexpr int kAlbumCaptions = 113;
-constexpr int kFeaturedCover = 28;
+constexpr FamilyRef kScreens = kCanvas<&Form1::Picture1>;
+constexpr FamilyRef kCoverCaptions[] = {kCanvas<&Form1::Label9>, kCanvas<&Form1::Label10>};
 
 void applyRow(State& state, const ComboBox& list, ToolField field, Property property) {
   Element* element = currentElement(state, field);
   if (element && list.listIndex() >= 0) element->set(property, list.listIndex());
 }
 
-void alignCovers(Array<Label>& captions, int clicked, int lastCover, int alignment) {
-  const int first = clicked < kFeaturedCover ? 0 : kFeaturedCover;
-  const int last = clicked < kFeaturedCover ? lastCover : kFeaturedCover;
-  for (int i = first; i <= last && captions.find(i); ++i) captions[i].setAlignment(alignment);
+void alignCovers(const Family& captions, int clicked, int lastCover, int alignment) {
+  const int first = clicked < kHighestCover ? 0 : kHighestCover;
+  const int last = clicked < kHighestCover ? lastCover : kHighestCover;
+  for (int i = first; i <= last && captions.find(i); ++i)
+    captions.find(i)->set(Property::Alignment, alignment);
 }
 
 }  // namespace
@@ -32,7 +33,7 @@ void applyCaption(State& state) {
 
 void applyPlace(State& state, int field) {
   const float twips = leadingSingle(state.form6.Text9[field].text());
-  Element* screen = state.globals.SectionNumber == kScreens ? currentElement(state) : nullptr;
+  Element* screen = isInHand(state, kScreens) ? currentElement(state) : nullptr;
   if (screen && twips > 0) screen->set(field == 0 ? Property::Top : Property::Left, twips);
 }
 
@@ -49,14 +50,12 @@ void applyGradient(State& state) {
 }
 
 void applyAlignment(State& state) {
+  const auto captions = std::ranges::find_if(kCoverCaptions, [&](FamilyRef f) { return isInHand(state, f); });
+  if (captions == std::end(kCoverCaptions))
+    return applyRow(state, *state.form6.Combo5, ToolField::Alignment, Property::Alignment);
   const int row = state.form6.Combo5->listIndex();
-  const int section = state.globals.SectionNumber;
-  if (section != kArtistCaptions && section != kAlbumCaptions) {
-    applyRow(state, *state.form6.Combo5, ToolField::Alignment, Property::Alignment);
-  } else if (row >= 0) {
-    auto& captions = section == kArtistCaptions ? state.form1.Label9 : state.form1.Label10;
-    alignCovers(captions, state.globals.ElementIndex, state.globals.LastCoverIndex->value(), row);
-  }
+  if (row < 0) return;
+  alignCovers((*captions)(state), state.globals.ElementIndex, state.globals.LastCoverIndex->value(), row);
 }
 
 }  // namespace veneerer

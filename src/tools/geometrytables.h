@@ -183,14 +183,14 @@ inline constexpr SecondHalf kSecondHalves[] = {
 /// its chart rows are aligned, which their own Section doesn't do.
 struct CrossedRange {
   GeometryTool tool;
-  int section;
+  FamilyRef inHand;
   FamilyRef family;
   IndexRange range;
 };
 
 inline constexpr CrossedRange kCrossedRanges[] = {
-    {GeometryTool::Clear, 43, kCanvas<&Form1::lvButtons_H23>, {0, 4}},
-    {GeometryTool::Align, 30, kCanvas<&Form1::Label30>, {0, 9}},
+    {GeometryTool::Clear, kCanvas<&Form1::lvButtons_H24>, kCanvas<&Form1::lvButtons_H23>, {0, 4}},
+    {GeometryTool::Align, kCanvas<&Form1::Label28>, kCanvas<&Form1::Label30>, {0, 9}},
 };
 
 }  // namespace veneerer

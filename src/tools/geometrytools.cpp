@@ -12,7 +12,7 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kScreens = 101;
+constexpr FamilyRef kScreens = kCanvas<&Form1::Picture1>;
 constexpr IndexRange kPlacedScreens{0, 11};
 
 /// The family and the members that a command is for.
@@ -44,10 +44,10 @@ IndexRange rangeOf(State& state, GeometryTool tool, const Family& family, Axis a
 }
 
 Target targetOf(State& state, GeometryTool tool, Axis axis = Axis::X) {
-  const int section = state.globals.SectionNumber;
   for (const CrossedRange& crossed : kCrossedRanges)
-    if (crossed.tool == tool && crossed.section == section) return {&crossed.family(state), crossed.range};
-  const Family* family = familyOfSection(state, section);
+    if (crossed.tool == tool && isInHand(state, crossed.inHand))
+      return {&crossed.family(state), crossed.range};
+  const Family* family = familyOfSection(state, state.globals.SectionNumber);
   if (!family) return {};
   return {family, rangeOf(state, tool, *family, axis)};
 }
@@ -105,7 +105,7 @@ void makeSameSize(State& state) {
 }
 
 void makeSamePlace(State& state) {
-  if (state.globals.SectionNumber != kScreens) return;
+  if (!isInHand(state, kScreens)) return;
   const float top = numberIn(state.form6.Text9[0]);
   const float left = numberIn(state.form6.Text9[1]);
   forEach({&state.form1.Picture1, kPlacedScreens}, [=](Element& screen) {

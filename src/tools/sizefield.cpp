@@ -32,7 +32,7 @@ void setKeepingShape(Button& button, Edge edge, float twips) {
 /// The rule of pictures, labels and the buttons that no exception names.
 void setSize(Element& element, Edge edge, float twips) {
   if (element.kind() == Kind::Button)
-    setKeepingShape(static_cast<Button&>(element), edge, twips);
+    setKeepingShape(cast<Button>(element), edge, twips);
   else
     setPlain(element, edge, twips);
 }
@@ -53,7 +53,7 @@ void menuHeight(State& state, Element& element, Edge edge, float twips) {
 
 Button& thumb(State& state) {
   Element* found = state.form1.lvButtons_H5.find(state.globals.ElementIndex);
-  return found ? static_cast<Button&>(*found) : state.form1.lvButtons_H5[0];
+  return found ? cast<Button>(*found) : state.form1.lvButtons_H5[0];
 }
 
 // A height typed for a general sample goes to the sample, with the shape step on the slider thumb of the same
@@ -78,21 +78,24 @@ void trackHeight(State& state, Element& track, Edge edge, float twips) {
 }
 
 struct Exception {
-  int section;
+  FamilyRef family;
   Edge edge;
   SizeStep step;
 };
 
 constexpr Exception kExceptions[] = {
-    {1, Edge::Height, menuHeight}, {8, Edge::Height, sampleHeight}, {8, Edge::Width, sampleWidth},
-    {24, Edge::Height, plain},     {47, Edge::Height, trackHeight}, {48, Edge::Height, plain},
-    {48, Edge::Width, plain},
+    {kCanvas<&Form1::lvButtons_H1>, Edge::Height, menuHeight},
+    {kTools<&Form6::lvButtons_H5>, Edge::Height, sampleHeight},
+    {kTools<&Form6::lvButtons_H5>, Edge::Width, sampleWidth},
+    {kCanvas<&Form1::lvButtons_H13>, Edge::Height, plain},
+    {kCanvas<&Form1::Picture13>, Edge::Height, trackHeight},
+    {kCanvas<&Form1::lvButtons_H5>, Edge::Height, plain},
+    {kCanvas<&Form1::lvButtons_H5>, Edge::Width, plain},
 };
 
 void applyEdge(State& state, Element& element, Edge edge, float twips) {
-  const auto exception = std::ranges::find_if(kExceptions, [&](const Exception& row) {
-    return row.section == state.globals.SectionNumber && row.edge == edge;
-  });
+  const auto exception = std::ranges::find_if(
+      kExceptions, [&](const Exception& row) { return row.edge == edge && isInHand(state, row.family); });
   if (exception != std::end(kExceptions))
     exception->step(state, element, edge, twips);
   else

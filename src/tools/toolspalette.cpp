@@ -40,7 +40,7 @@ constexpr FieldAction kOnChange[] = {
     {kTools<&Form6::List1>, Property::ListIndex, [](ToolsPalette& p, Element&) { applyFontName(p.state()); }},
     {kTools<&Form6::Option1>, Property::Value,
      [](ToolsPalette& p, Element& option) {
-       if (static_cast<OptionButton&>(option).isSelected()) p.showColour();
+       if (cast<OptionButton>(option).isSelected()) p.showColour();
      }},
     {kTools<&Form6::Check1>, Property::Value,
      [](ToolsPalette& p, Element&) { showCoverBackgrounds(p.state()); }},
@@ -60,7 +60,7 @@ Reach reachOf(const Element& command) {
 }
 
 void clickOption(ToolsPalette& palette, Element& element) {
-  auto& option = static_cast<OptionButton&>(element);
+  auto& option = cast<OptionButton>(element);
   if (option.isSelected())
     palette.showColour();
   else

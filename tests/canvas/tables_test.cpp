@@ -38,18 +38,27 @@ TEST(SectionTable, NamesNothingUnderUnusedNumbers) {
 }
 
 TEST(SectionTable, ServesAFieldOnlyWhereTheElementHasItsProperty) {
-  const std::map<ToolField, Property> properties = {
-      {ToolField::Size, Property::Height},         {ToolField::Shape, Property::ButtonShape},
-      {ToolField::Style, Property::ButtonStyle},   {ToolField::Gradient, Property::GradientMode},
-      {ToolField::Alignment, Property::Alignment}, {ToolField::Colour, Property::BackColor},
-      {ToolField::FontSize, Property::FontSize},   {ToolField::FontName, Property::FontName},
-      {ToolField::FontDialog, Property::FontBold}, {ToolField::Caption, Property::Caption}};
+  const std::map<ToolField, Property> properties = {{ToolField::Size, Property::Height},
+                                                    {ToolField::Shape, Property::ButtonShape},
+                                                    {ToolField::Style, Property::ButtonStyle},
+                                                    {ToolField::Gradient, Property::GradientMode},
+                                                    {ToolField::Alignment, Property::Alignment},
+                                                    {ToolField::Colour, Property::BackColor},
+                                                    {ToolField::FontSize, Property::FontSize},
+                                                    {ToolField::FontName, Property::FontName},
+                                                    {ToolField::FontDialog, Property::FontBold},
+                                                    {ToolField::Caption, Property::Caption},
+                                                    {ToolField::TypedColour, Property::BackColor},
+                                                    {ToolField::CopiedColours, Property::BackColor},
+                                                    {ToolField::CopiedFontSize, Property::FontSize},
+                                                    {ToolField::CopiedFontName, Property::FontName},
+                                                    {ToolField::ShownFontSize, Property::FontSize}};
   State state;
   for (const Section& section : sections())
     for (const auto& [field, property] : properties)
-      if (section.serves(field)) {
+      if (section.fields.has(field)) {
         EXPECT_TRUE(section.family(state).members().front()->has(property))
-            << section.number << ' ' << static_cast<char>(field);
+            << section.number << ' ' << static_cast<int>(field);
       }
 }
 

@@ -8,7 +8,7 @@ namespace veneerer {
 Layout lockedButtonFile(State& state) {
   Layout file(state, "locked_button.ini");
   for (const Array<CheckBox>* boxes : {&state.form2.Check1, &state.form2.Check2, &state.form2.Check3})
-    for (Element* box : boxes->members()) file.checkValue(static_cast<CheckBox&>(*box));
+    for (Element* box : boxes->members()) file.checkValue(cast<CheckBox>(*box));
   return file;
 }
 
