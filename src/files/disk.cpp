@@ -65,8 +65,17 @@ void makeLike(const Descriptor& file, const QString& like) {
 
 }  // namespace
 
-bool Disk::takesNewFiles(const QString& folder) {
-  return QFileInfo(folder).isWritable();
+bool Disk::canReplace(const QString& path) {
+  const QFileInfo folder(QFileInfo(path).path());
+  struct stat place {};
+  struct stat file {};
+  if (!folder.isWritable() || ::stat(QFile::encodeName(folder.filePath()).constData(), &place) != 0)
+    return false;
+  const bool isSticky = (place.st_mode & S_ISVTX) != 0;
+  if (!isSticky || ::lstat(QFile::encodeName(path).constData(), &file) != 0) return true;
+  // Such a folder lets a file go only at the word of the file's owner or its own.
+  const uid_t we = ::geteuid();
+  return we == 0 || place.st_uid == we || file.st_uid == we;
 }
 
 QString Disk::create(const QString& path, const QByteArray& bytes, const QString& like) {

@@ -14,8 +14,8 @@ class Disk {
 public:
   virtual ~Disk() = default;
 
-  /// Whether new files may be made in that folder.
-  virtual bool takesNewFiles(const QString& folder);
+  /// Whether its folder lets a new file be put under that path, in the place of the one that may be there.
+  virtual bool canReplace(const QString& path);
 
   // Each call returns why it failed ("No space left on device"), and nothing when it was done.
 

@@ -4,23 +4,30 @@
 #include <unistd.h>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <QRegularExpression>
+#include <QSet>
 #include <cerrno>
 
 namespace veneerer {
 
 namespace {
 
+constexpr qsizetype kNameCharacters = 40;  // of a temporary name; with the rest it stays below kMostNameBytes
+constexpr qsizetype kMostNameBytes = 255;
+
 // ".queue.ini.4711-0123456789abcdef.saving": hidden, told by its process, and not to be foreseen.
 QString temporaryName(const QString& name) {
-  const auto random = QRandomGenerator::system()->generate64();
-  return QStringLiteral(".%1.%2-%3.saving").arg(name).arg(::getpid()).arg(random, 16, 16, QLatin1Char('0'));
+  const QString random = QString::number(QRandomGenerator::system()->generate64(), 16);
+  return QStringLiteral(".%1.%2-%3.saving")
+      .arg(name.left(kNameCharacters), QString::number(::getpid()), random.rightJustified(16, u'0'));
 }
 
 QRegularExpressionMatch leftOverParts(const QString& name) {
-  static const QRegularExpression form(QStringLiteral("^\\..+\\.([0-9]{1,9})-[0-9a-f]{16}\\.saving$"));
+  static const QRegularExpression form(QStringLiteral("^\\..+\\.([0-9]{1,9})-[0-9a-f]{16}\\.saving$"),
+                                       QRegularExpression::DotMatchesEverythingOption);
   return form.match(name);
 }
 
@@ -29,13 +36,17 @@ bool isAtWork(const QString& processNumber) {
   return ::kill(static_cast<pid_t>(processNumber.toLong()), 0) == 0 || errno != ESRCH;
 }
 
-void removeLeftOvers(Disk& disk, const QString& folder) {
+void removeLeftOversIn(const QString& folder, Disk& disk) {
   const auto files = QDir(folder).entryInfoList({QStringLiteral("*.saving")}, QDir::Files | QDir::Hidden);
   for (const QFileInfo& file : files) {
     const auto parts = leftOverParts(file.fileName());
     if (parts.hasMatch() && !file.isSymLink() && !isAtWork(parts.captured(1))) [[maybe_unused]]
       const QString stays = disk.remove(file.filePath());
   }
+}
+
+QString folderIsGone(const QString& folder) {
+  return QStringLiteral("the folder %1 is gone").arg(folder);
 }
 
 }  // namespace
@@ -46,35 +57,45 @@ bool isLeftOver(const QString& name) {
 
 FileReplacement::FileReplacement(Disk& disk, const QString& folder, std::vector<NewFile> files)
     : disk_(disk), folder_(QFileInfo(folder).canonicalFilePath()) {
-  if (folder_.isEmpty() || !QFileInfo(folder_).isDir())
-    refusal_ = QStringLiteral("the folder %1 is gone").arg(folder);
+  const bool isGone = !QFileInfo(folder_).isDir();
   for (NewFile& file : files) {
-    if (!refusal_.isEmpty()) return;
     const QString name = file.name;
-    const QString reason = addTarget(std::move(file));
-    if (!reason.isEmpty()) refusal_ = name + QStringLiteral(": ") + reason;
+    const QString reason = isGone ? folderIsGone(folder) : addTarget(std::move(file));
+    if (reason.isEmpty()) continue;
+    refusal_ = WriteFault{name, reason};
+    return;
   }
 }
 
+/// Returns why the file can't be written, empty when it can.
 QString FileReplacement::addTarget(NewFile file) {
-  const QFileInfo named(folder_ + u'/' + file.name);
-  Target target{std::move(file), named.filePath(), named.exists(), false, {}};
-  if (named.isSymLink() && !target.exists) return QStringLiteral("the file is a link that leads nowhere");
-  if (target.exists) {
-    target.path = named.canonicalFilePath();
-    if (!target.path.startsWith(folder_ + u'/'))
-      return QStringLiteral("the file lies outside the Skin's folder and isn't written");
-    if (!named.isFile()) return QStringLiteral("there is something under this name that is no file");
-    if (!named.isWritable()) return QStringLiteral("the file may not be written");
-  }
-  target.isInPlace = !disk_.takesNewFiles(QFileInfo(target.path).path());
-  if (target.isInPlace && !target.exists) return QStringLiteral("the folder takes no new files");
-  targets_.push_back(std::move(target));
+  const QFileInfo named(QDir(folder_).filePath(file.name));
+  const bool exists = named.exists();
+  if (named.isSymLink() && !exists) return QStringLiteral("the file is a link that leads nowhere");
+  const QString place = QFileInfo(named.path()).canonicalFilePath();
+  if (!QFileInfo(place).isDir()) return folderIsGone(named.path());
+  const QString path = exists ? named.canonicalFilePath() : QDir(place).filePath(named.fileName());
+  Target target{std::move(file), path, exists, !disk_.canReplace(path), {}};
+  const QString fault = faultOf(target);
+  if (fault.isEmpty()) targets_.push_back(std::move(target));
+  return fault;
+}
+
+QString FileReplacement::faultOf(const Target& target) const {
+  const QFileInfo info(target.path);
+  if (!target.path.startsWith(folder_.endsWith(u'/') ? folder_ : folder_ + u'/'))
+    return QStringLiteral("the file lies outside the folder %1 and isn't written").arg(folder_);
+  if (QFile::encodeName(info.fileName()).size() > kMostNameBytes)
+    return QStringLiteral("the name is too long for a file");
+  if (target.exists && !info.isFile())
+    return QStringLiteral("there is something under this name that is no file");
+  if (target.exists && !info.isWritable()) return QStringLiteral("the file may not be written");
+  if (!target.exists && target.isInPlace) return QStringLiteral("the folder takes no new files");
   return {};
 }
 
 void FileReplacement::run() {
-  removeLeftOvers(disk_, folder_);
+  removeLeftOvers();
   try {
     writeBeside();
     putInPlace();
@@ -84,6 +105,12 @@ void FileReplacement::run() {
   }
 }
 
+void FileReplacement::removeLeftOvers() {
+  QSet<QString> folders{folder_};
+  for (const Target& target : targets_) folders.insert(QFileInfo(target.path).path());
+  for (const QString& folder : folders) removeLeftOversIn(folder, disk_);
+}
+
 void FileReplacement::writeBeside() {
   for (Target& target : targets_) {
     if (target.isInPlace) continue;
@@ -91,7 +118,7 @@ void FileReplacement::writeBeside() {
     const QString temporary = place.path() + u'/' + temporaryName(place.fileName());
     const QString reason =
         disk_.create(temporary, target.file.bytes, target.exists ? target.path : QString());
-    if (!reason.isEmpty()) throw ReplaceError(target.file.name, reason);
+    if (!reason.isEmpty()) throw ReplaceError({target.file.name, reason});
     target.temporary = temporary;
   }
 }
@@ -100,7 +127,7 @@ void FileReplacement::putInPlace() {
   for (Target& target : targets_) {
     const QString reason = target.isInPlace ? disk_.overwrite(target.path, target.file.bytes)
                                             : disk_.rename(target.temporary, target.path);
-    if (!reason.isEmpty()) throw ReplaceError(target.file.name, reason);
+    if (!reason.isEmpty()) throw ReplaceError({target.file.name, reason});
     target.temporary.clear();
   }
 }

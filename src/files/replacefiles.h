@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <optional>
 #include <stdexcept>
 #include <vector>
 
@@ -13,39 +14,40 @@ namespace veneerer {
 
 /// A file as it is to be.
 struct NewFile {
-  QString name;  ///< within the folder
+  QString name;  ///< in the folder ("menu.ini") or below it ("images/Menu.bmp"), or such a file's full path
   QByteArray bytes;
+};
+
+/// Why a file can't be written, in words that may follow its name and a colon.
+struct WriteFault {
+  QString name;  ///< as it stands in NewFile
+  QString reason;
 };
 
 /// A file couldn't be written although nothing spoke against it ahead; some may be replaced already.
 class ReplaceError : public std::runtime_error {
 public:
-  ReplaceError(const QString& name, const QString& reason)
-      : std::runtime_error((name + QStringLiteral(": ") + reason).toStdString()),
-        name_(name),
-        reason_(reason) {}
-  const QString& name() const { return name_; }
-  const QString& reason() const { return reason_; }
+  explicit ReplaceError(const WriteFault& fault)
+      : std::runtime_error((fault.name + QStringLiteral(": ") + fault.reason).toStdString()), fault_(fault) {}
+  const WriteFault& fault() const { return fault_; }
 
 private:
-  QString name_;
-  QString reason_;
+  WriteFault fault_;
 };
 
-/// Replaces files of one folder.
+/// Replaces files of one folder. What its names lead to, links resolved, lies in that folder or below it.
 class FileReplacement {
 public:
   /// Looks at the folder and at what bears the names, and changes nothing. The disk must outlive this object.
   FileReplacement(Disk& disk, const QString& folder, std::vector<NewFile> files);
 
-  /// What keeps the files from being written, as a sentence that names the first such file: the folder is
-  /// gone, a link leads out of it, no plain file bears the name, writing isn't permitted. Empty when nothing
-  /// does.
-  const QString& refusal() const { return refusal_; }
+  /// The first file that can't be written: the folder is gone, a link leads out of it or nowhere, no plain
+  /// file bears the name, writing isn't permitted. Nothing when all can.
+  const std::optional<WriteFault>& refusal() const { return refusal_; }
 
   /// Writes all files beside their targets, then puts them in place one by one. In a folder that takes no new
-  /// files they are written in place. Not to be called after a refusal. Throws ReplaceError; what was written
-  /// beside is removed then.
+  /// files they are written in place. Removes what a killed replacement left over. Not to be called after a
+  /// refusal. Throws ReplaceError; what was written beside is removed then.
   void run();
 
 private:
@@ -58,13 +60,15 @@ private:
   };
 
   QString addTarget(NewFile file);
+  QString faultOf(const Target& target) const;
+  void removeLeftOvers();
   void writeBeside();
   void putInPlace();
   void removeTemporaries();
 
   Disk& disk_;
-  QString folder_;
-  QString refusal_;
+  QString folder_;  ///< links resolved
+  std::optional<WriteFault> refusal_;
   std::vector<Target> targets_;
 };
 
