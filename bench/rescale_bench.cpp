@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QProcess>
 #include <QStandardPaths>
@@ -66,8 +67,10 @@ void onFreshFiles(benchmark::State& run, Step step) {
 void rescaleFiles(benchmark::State& run) {
   onFreshFiles(run, [](const QStringList& paths) {
     QList<ImageJob> jobs;
-    for (const QString& path : paths) jobs.append({path, path, {kTo}});
-    QtConcurrent::blockingMap(jobs, [](const ImageJob& job) { benchmark::DoNotOptimize(resampleFile(job)); });
+    Disk disk;
+    for (const QString& path : paths) jobs.append({QFileInfo(path).path(), path, path, {kTo}});
+    QtConcurrent::blockingMap(
+        jobs, [&](const ImageJob& job) { benchmark::DoNotOptimize(resampleFile(job, disk)); });
   });
 }
 BENCHMARK(rescaleFiles)->Unit(benchmark::kMillisecond)->UseRealTime();

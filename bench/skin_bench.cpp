@@ -31,7 +31,8 @@ public:
 struct World {
   AgreeingDialogs dialogs;
   DefaultSettings settings;
-  Platform platform{dialogs, settings, Screen(), ProgramFolder{QStringLiteral(VENEERER_SOURCE_DIR)}};
+  Disk disk;
+  Platform platform{dialogs, settings, disk, Screen(), ProgramFolder{QStringLiteral(VENEERER_SOURCE_DIR)}};
 };
 
 void makeDesigner(benchmark::State& run) {

@@ -55,7 +55,8 @@ struct Program {
 
   AgreeingDialogs dialogs;
   DefaultSettings settings;
-  Platform platform{dialogs, settings, Screen(), ProgramFolder{QStringLiteral(VENEERER_SOURCE_DIR)}};
+  Disk disk;
+  Platform platform{dialogs, settings, disk, Screen(), ProgramFolder{QStringLiteral(VENEERER_SOURCE_DIR)}};
   Designer designer{platform};
   DesignerWindows windows{designer};
   QWidget* canvas = nullptr;

@@ -38,8 +38,9 @@ int main(int argc, char** argv) {
 
   QtDialogs dialogs;
   IniSettings settings;
+  Disk disk;
   QtProgress progress;
-  Platform platform{dialogs, settings, primaryScreen(), folder, &progress};
+  Platform platform{dialogs, settings, disk, primaryScreen(), folder, &progress};
   Designer designer(platform);
   dialogs.setSkin([&designer] { return designer.skinFolder(); });
   DesignerWindows windows(designer);

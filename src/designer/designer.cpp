@@ -6,6 +6,7 @@
 #include "panels/coverlayout.h"
 #include "panels/skinproperties.h"
 #include "panels/textureviewer.h"
+#include "records/writefiles.h"
 #include "skin/skinloader.h"
 #include "skin/skinsaver.h"
 #include "skin/startup.h"
@@ -31,8 +32,9 @@ struct Designer::Parts {
   explicit Parts(Platform& world) : platform(world) {
     Switchboard& board = state->board;
     attachments = {
-        board.onClick(*state->form4.Command4, [this](Element&) { save(skinFolder()); }),
-        board.onClick(*state->form2.Command1, [this](Element&) { saveLockedButtons(*state, skinFolder()); }),
+        board.onClick(*state->form4.Command4, [this](Element&) { save(); }),
+        board.onClick(*state->form2.Command1,
+                      [this](Element&) { saveLockedButtons(*state, platform, skinFolder()); }),
         board.onChange(*state->form4.Combo3, Property::ListIndex, [this](Element&) { otherSkinChosen(); }),
         board.onChange(*state->form3.List1, Property::ListIndex, [this](Element&) { firstSkinChosen(); })};
   }
@@ -57,9 +59,12 @@ struct Designer::Parts {
     if (!state->form6.List1->list().isEmpty()) listFonts(*state);
   }
 
-  void save(const SkinFolder& folder) {
-    saveRecords(*state, folder);
-    covers.offerSave(folder);
+  void save() {
+    const SkinFolder skin = skinFolder();
+    const auto saveAll = [&] { saveRecords(*state, platform.disk, skin); };
+    const auto saveCovers = [&] { covers.offerSave(skin); };
+    if (writeOrTell(platform.dialogs, QStringLiteral("Save Skin"), saveAll))
+      writeOrTell(platform.dialogs, QStringLiteral("Save Cover File"), saveCovers);
   }
 
   SkinFolder skinFolder() const { return SkinFolder(platform.folder, state->form4.Combo3->text()); }
@@ -108,11 +113,12 @@ void Designer::reload(const QString& skinName) {
 }
 
 void Designer::save() {
-  parts_->save(parts_->skinFolder());
+  parts_->save();
 }
 
 void Designer::saveTo(const SkinFolder& folder) {
-  parts_->save(folder);
+  saveRecords(*parts_->state, parts_->platform.disk, folder);
+  parts_->covers.offerSave(folder);
 }
 
 void Designer::fillFonts() {

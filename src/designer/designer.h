@@ -38,9 +38,10 @@ public:
   /// Picks another Skin of the same root, as a choice in Form4.Combo3 does: runs the reload.
   void reload(const QString& skinName);
 
-  /// Save Skin into the Skin's own folder, with its questions.
+  /// Save Skin into the Skin's own folder, with its questions. What stands against writing is told in a box,
+  /// and nothing has changed.
   void save();
-  /// Save Skin into another folder, which must be there.
+  /// Save Skin into another folder. What stands against writing is thrown as WriteRefused.
   void saveTo(const SkinFolder& folder);
 
   /// Fills the list of fonts, Form6.List1; from then on it follows the Skin that is loaded. It grows slow

@@ -16,9 +16,10 @@ int main(int argc, char** argv) {
   const QGuiApplication application(argc, argv);
   try {
     const QString folder = QString::fromLocal8Bit(argv[1]);
+    veneerer::Disk disk;
     for (const Look& look : {blackAndBlueLook(), copperLoungeLook(), daylightWideLook()})
-      buildSkin(folder, look);
-    buildProgramImages(folder, blackAndBlueLook());
+      buildSkin(folder, look, disk);
+    buildProgramImages(folder, blackAndBlueLook(), disk);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "skinart: %s\n", error.what());
     return 1;

@@ -5,6 +5,7 @@
 #include <QString>
 #include <vector>
 
+#include "files/disk.h"
 #include "looks/gifwriter.h"
 
 namespace veneerer::looks {
@@ -13,13 +14,17 @@ namespace veneerer::looks {
 /// record files take, "\images\" and the name, and throws std::runtime_error when the file can't be written.
 class Pictures {
 public:
-  explicit Pictures(const QString& folder);
+  /// Makes the folder. Throws std::runtime_error when that fails. The disk must outlive this object.
+  Pictures(const QString& folder, Disk& disk);
 
   QString add(const QString& name, const QImage& image) const;
   QString addGif(const QString& name, const std::vector<QImage>& frames, const GifOptions& options) const;
 
 private:
+  QString write(const QString& name, const QByteArray& bytes) const;
+
   QString folder_;
+  Disk& disk_;
 };
 
 }  // namespace veneerer::looks

@@ -1,16 +1,13 @@
 #include "looks/skinbuilder.h"
 
-#include <QDir>
-#include <QFile>
-#include <stdexcept>
-
 #include "design/design.h"
 #include "design/screens.h"
 #include "looks/artist.h"
 #include "looks/pictures.h"
 #include "records/coverfile.h"
 #include "records/layoutwriter.h"
-#include "records/recordwriter.h"
+#include "records/recordfiles.h"
+#include "records/writefiles.h"
 #include "skin/lists.h"
 #include "skin/skinsaver.h"
 
@@ -93,11 +90,12 @@ QString imageFile(const char* name) {
 
 class Builder {
 public:
-  Builder(const QString& folder, const Look& look)
+  Builder(const QString& folder, const Look& look, Disk& disk)
       : look_(look),
         artist_(look),
-        folder_(QDir(folder).filePath(QStringLiteral("Skins/") + QString::fromLatin1(look.name))),
-        pictures_(folder_.path() + QStringLiteral("/images")) {}
+        folder_(folder + QStringLiteral("/Skins/") + QString::fromLatin1(look.name)),
+        disk_(disk),
+        pictures_(folder_.path() + QStringLiteral("/images"), disk) {}
 
   void build() {
     compose();
@@ -243,9 +241,10 @@ private:
 
   void save() {
     for (const NamedCovers& covers : look_.covers) saveCovers(covers);
-    saveRecords(state_, folder_);
+    saveRecords(state_, disk_, folder_);
     // Where case counts, this screen is read under another name than it is written.
-    copyOver(QStringLiteral("search_Choice.ini"), QStringLiteral("search_choice.ini"));
+    const Layout choice = searchChoiceFile(state_);
+    write(choice.fileName(), composeRecords(choice));
   }
 
   void saveCovers(const NamedCovers& covers) {
@@ -259,13 +258,11 @@ private:
     f.Check7->setValue(covers.layout.featured ? 1 : 0);
     f.Check11->setValue(covers.layout.overlapping ? 1 : 0);
     const QString name = imageFile(covers.file);
-    writeRecordFile(folder_, name, composeRecords(coverFile(state_, name, covers.layout.count - 1)));
+    write(name, composeRecords(coverFile(state_, name, covers.layout.count - 1)));
   }
 
-  void copyOver(const QString& from, const QString& to) {
-    QFile::remove(folder_.file(to));
-    if (!QFile::copy(folder_.file(from), folder_.file(to)))
-      throw std::runtime_error("cannot write " + folder_.file(to).toStdString());
+  void write(const QString& name, const QByteArray& bytes) {
+    writeFiles(disk_, folder_.path(), {{name, bytes}});
   }
 
   int headerHeight() {
@@ -279,18 +276,19 @@ private:
   const Look& look_;
   Artist artist_;
   SkinFolder folder_;
+  Disk& disk_;
   Pictures pictures_;
   State state_;
 };
 
 }  // namespace
 
-void buildSkin(const QString& folder, const Look& look) {
-  Builder(folder, look).build();
+void buildSkin(const QString& folder, const Look& look, Disk& disk) {
+  Builder(folder, look, disk).build();
 }
 
-void buildProgramImages(const QString& folder, const Look& look) {
-  const Pictures pictures(folder + QStringLiteral("/images"));
+void buildProgramImages(const QString& folder, const Look& look, Disk& disk) {
+  const Pictures pictures(folder + QStringLiteral("/images"), disk);
   pictures.add(QStringLiteral("star 0.png"), Artist(look).stars({kStarWidth, kStarHeight}));
 }
 

@@ -4,15 +4,16 @@
 
 #include <QString>
 
+#include "files/disk.h"
 #include "looks/look.h"
 
 namespace veneerer::looks {
 
 /// Writes the Skin into folder/Skins, over what is there. Throws std::runtime_error when a file can't be
 /// written.
-void buildSkin(const QString& folder, const Look& look);
+void buildSkin(const QString& folder, const Look& look, Disk& disk);
 
 /// Writes the pictures that the program takes when a Skin has none of its own into folder/images.
-void buildProgramImages(const QString& folder, const Look& look);
+void buildProgramImages(const QString& folder, const Look& look, Disk& disk);
 
 }  // namespace veneerer::looks

@@ -8,11 +8,13 @@
 #include "records/layoutreader.h"
 #include "records/layoutwriter.h"
 #include "records/recordfiles.h"
-#include "records/recordwriter.h"
+#include "records/writefiles.h"
 
 namespace veneerer {
 
 namespace {
+
+constexpr char kSaveTitle[] = "Save Cover File";
 
 /// Whether the file held a value for that box. An older file ends ahead of it.
 bool wasRead(const CheckBox& box, const Layout& layout, const Loading& loading) {
@@ -68,9 +70,12 @@ void CoverLayouts::applyBoxes() {
   }
 }
 
+NewFile CoverLayouts::compose(const QString& name) {
+  return {name, composeRecords(coverFile(state_, name, state_.globals.LastCoverIndex->value()))};
+}
+
 void CoverLayouts::save(const SkinFolder& target, const QString& name) {
-  writeRecordFile(target, name,
-                  composeRecords(coverFile(state_, name, state_.globals.LastCoverIndex->value())));
+  writeFiles(platform_.disk, target.path(), {compose(name)});
 }
 
 void CoverLayouts::listFiles() {
@@ -82,7 +87,7 @@ QString CoverLayouts::firstFile() const {
 }
 
 QString CoverLayouts::nameToWrite(const SkinFolder& target) const {
-  const QString title = QStringLiteral("Save Cover File");
+  const QString title = QString::fromLatin1(kSaveTitle);
   const QString name = coverFileName(state_.form4.Text2->text());
   if (name.isEmpty())
     platform_.dialogs.inform(
@@ -97,9 +102,10 @@ void CoverLayouts::saveNamed() {
   const SkinFolder target = folder();
   const QString name = nameToWrite(target);
   if (name.isEmpty()) return;
-  save(target, name);
   const Layout frames = framesFile(state_);
-  writeRecordFile(target, frames.fileName(), composeRecords(frames));
+  writeOrTell(platform_.dialogs, QString::fromLatin1(kSaveTitle), [&] {
+    writeFiles(platform_.disk, target.path(), {compose(name), {frames.fileName(), composeRecords(frames)}});
+  });
   listFiles();
 }
 

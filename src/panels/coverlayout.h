@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "files/replacefiles.h"
 #include "forms/state.h"
 #include "panels/skinproperties.h"
 #include "platform/platform.h"
@@ -21,7 +22,7 @@ public:
   /// Loads a cover file; one that isn't there changes nothing. Ends by showing the number of covers in
   /// Combo4. Throws RecordError.
   void load(const QString& path);
-  /// Composes the whole file and writes it under that name. Throws RecordError.
+  /// Composes the whole file and writes it under that name. Throws WriteRefused and RecordError.
   void save(const SkinFolder& target, const QString& name);
 
   /// Points the list of cover files at the Skin named by Combo3.
@@ -30,18 +31,20 @@ public:
   QString firstFile() const;
 
   /// The cover question of Save Skin: on OK the layout is saved under the name in Text2, with a question
-  /// ahead of overwriting.
+  /// ahead of overwriting. Throws WriteRefused and RecordError.
   void offerSave(const SkinFolder& target);
 
 private:
   void askToLoad();
   /// The second event of the list: loads the chosen file with no question and puts its name into Text2.
   void loadChosen();
-  /// "Save Cover File": asks before it overwrites; writes the file and frames.ini and lists the files anew.
+  /// "Save Cover File": asks before it overwrites; writes the file and frames.ini in one step and lists the
+  /// files anew. What stands against it is told in a box. Throws RecordError.
   void saveNamed();
   SkinFolder folder() const;
   /// The cover file that Text2 names. Empty when it names none or the operator keeps the one that is there.
   QString nameToWrite(const SkinFolder& target) const;
+  NewFile compose(const QString& name);
   void showCount();
   void applyBoxes();
 

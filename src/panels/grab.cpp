@@ -1,18 +1,18 @@
 #include "panels/grab.h"
 
-#include <QBuffer>
-#include <QDir>
 #include <QPainter>
 #include <algorithm>
 
+#include "images/pictureencoding.h"
 #include "painting/colours.h"
 #include "platform/skinfolder.h"
-#include "records/recorderror.h"
-#include "records/recordwriter.h"
+#include "records/writefiles.h"
 
 namespace veneerer {
 
 namespace {
+
+constexpr QLatin1String kImages("images/");
 
 // Wider than any screen; a stranger's panel may claim any size.
 constexpr double kMostPixels = 8192;
@@ -35,19 +35,10 @@ QImage pieceUnder(const State& state, const PictureBox& panel, const Screen& scr
   return piece;
 }
 
-QByteArray asBitmap(const QImage& image) {
-  QByteArray bytes;
-  if (image.isNull()) return bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  image.save(&buffer, "BMP");
-  return bytes;
-}
-
 /// A panel's piece of the backdrop, ready to be written.
 struct Piece {
   PictureBox& panel;
-  QString name;  ///< in the images folder; an existing file keeps its spelling
+  QString name;  ///< in the Skin's folder; an existing file keeps its spelling
   QByteArray bytes;
 };
 
@@ -55,38 +46,37 @@ Piece composePiece(const State& state, PictureBox& panel, const char* name, cons
                    const Screen& screen) {
   const QString fixed = QString::fromLatin1(name);
   const QString existing = skin.resolve(QStringLiteral("\\images\\") + fixed);
-  const QByteArray bytes = asBitmap(pieceUnder(state, panel, screen));
+  const QByteArray bytes = encodePicture(pieceUnder(state, panel, screen), "BMP");
   if (bytes.isEmpty())
     throw RecordError(fixed, 0, panel.key(), {},
                       QStringLiteral("the panel has no size that a picture can have"));
-  return {panel, existing.isEmpty() ? fixed : bareFileName(existing), bytes};
+  return {panel, kImages + (existing.isEmpty() ? fixed : bareFileName(existing)), bytes};
 }
 
-SkinFolder imagesFolder(const SkinFolder& skin) {
-  SkinFolder images(skin.path() + QStringLiteral("/images"));
-  if (skin.exists()) QDir().mkpath(images.path());
-  const QString refusal = skin.refusal(images.path());
-  if (!refusal.isEmpty()) throw RecordError(QStringLiteral("images"), 0, {}, {}, refusal);
-  return images;
+void makeImagesFolder(const SkinFolder& skin, Disk& disk) {
+  if (!skin.exists()) return;
+  const QString reason = disk.makeFolder(skin.file(kImages));
+  if (!reason.isEmpty()) throw WriteRefused({kImages, reason});
 }
 
-void writePiece(State& state, const Piece& piece, const SkinFolder& images) {
-  writeRecordFile(images, piece.name, piece.bytes);
-  piece.panel.setPicture(state.pictures.load(images.file(piece.name)));
+void show(const Piece& piece, State& state, const SkinFolder& skin) {
+  piece.panel.setPicture(state.pictures.load(skin.file(piece.name)));
 }
 
 void grab(State& state, const Platform& platform) {
   const SkinFolder skin(platform.folder, state.form4.Combo3->text());
-  const SkinFolder images = imagesFolder(skin);
   PictureBox& menu = state.form1.Picture2[0];
   PictureBox& player = state.form1.Picture2[1];
   const Piece menuPiece = composePiece(state, menu, "Menu.bmp", skin, platform.screen);
   const Piece playerPiece = composePiece(state, player, "Player.bmp", skin, platform.screen);
+  makeImagesFolder(skin, platform.disk);
+  writeFiles(platform.disk, skin.path(),
+             {{menuPiece.name, menuPiece.bytes}, {playerPiece.name, playerPiece.bytes}});
   menu.setBorderStyle(0);
-  writePiece(state, menuPiece, images);
-  writePiece(state, playerPiece, images);
+  show(menuPiece, state, skin);
+  show(playerPiece, state, skin);
   // The full path stands in the table and in skin.ini: every other entry is relative.
-  state.names.ImageName[13].setValue(images.file(playerPiece.name));
+  state.names.ImageName[13].setValue(skin.file(playerPiece.name));
   // The panel of the player ends with a border, that of the menu without.
   player.setBorderStyle(1);
 }

@@ -8,8 +8,8 @@
 namespace veneerer {
 
 /// Writes Menu.bmp and Player.bmp into the Skin's images folder, without a question, and shows them. Informs
-/// and changes nothing when the canvas has no picture or a panel no size; informs and stops where a file
-/// can't be written inside the Skin's folder.
+/// and changes nothing when the canvas has no picture, a panel no size, or one of the files can't be
+/// written inside the Skin's folder.
 void grabPlayerAndMenu(State& state, const Platform& platform);
 
 }  // namespace veneerer

@@ -1,5 +1,5 @@
-// The world outside the core: dialogs, the screen, the settings store and the program's own folder. The
-// windows give the real ones, the batch tool and the tests scripted ones.
+// The world outside the core: dialogs, the screen, the settings store, the disk and the program's own folder.
+// The windows give the real ones, the batch tool and the tests scripted ones.
 #pragma once
 
 #include <QString>
@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "elements/label.h"
+#include "files/disk.h"
 
 namespace veneerer {
 
@@ -67,6 +68,7 @@ struct ProgramFolder {
 struct Platform {
   Dialogs& dialogs;
   Settings& settings;
+  Disk& disk;  ///< everything that is written goes through it
   Screen screen;
   ProgramFolder folder;
   Progress* progress = nullptr;  ///< told of what takes long; may be null

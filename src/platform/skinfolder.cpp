@@ -92,11 +92,6 @@ bool SkinFolder::contains(const QString& path) const {
   return !root.isEmpty() && real.startsWith(root + u'/');
 }
 
-QString SkinFolder::refusal(const QString& path) const {
-  if (!exists()) return QStringLiteral("the Skin's folder %1 is gone").arg(path_);
-  return contains(path) ? QString() : QStringLiteral("it lies outside the Skin's folder and isn't written");
-}
-
 QStringList SkinFolder::coverFiles() const {
   return QDir(path_).entryList({QStringLiteral("*.cov")}, QDir::Files, QDir::Name | QDir::IgnoreCase);
 }

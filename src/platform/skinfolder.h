@@ -50,10 +50,6 @@ public:
   /// overwritten for a reference's sake.
   bool contains(const QString& path) const;
 
-  /// Why a file of that path isn't to be written for this Skin's sake: the folder is gone, or the path lies
-  /// outside of it. Empty when it may be.
-  QString refusal(const QString& path) const;
-
   /// The cover files (*.cov) by name, without regard to case.
   QStringList coverFiles() const;
 

@@ -6,7 +6,6 @@
 #include <cstdint>
 
 #include "forms/imagenames.h"
-#include "platform/skinfolder.h"
 
 namespace veneerer {
 
@@ -28,10 +27,5 @@ private:
 
   QByteArray bytes_;
 };
-
-/// Writes the whole file of that name at once: nothing is touched before the bytes are complete. Throws
-/// RecordError when the file can't be opened or written, when it is a link that leads out of the folder, or
-/// when it is no plain file.
-void writeRecordFile(const SkinFolder& folder, const QString& name, const QByteArray& bytes);
 
 }  // namespace veneerer

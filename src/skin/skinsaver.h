@@ -1,17 +1,19 @@
-// Writes a whole Skin: every record file, in the fixed order of saving.
+// Writes a whole Skin: every record file, in one step.
 #pragma once
 
 #include "forms/state.h"
+#include "platform/platform.h"
 #include "platform/skinfolder.h"
 
 namespace veneerer {
 
-/// Composes and writes every record file into that folder, from menu.ini to the twins and locked_button.ini.
-/// No question is asked and no copy is kept. Throws RecordError at the first file that can't be written; the
-/// files written before it remain.
-void saveRecords(State& state, const SkinFolder& folder);
+/// Composes every record file, from menu.ini to the twins and locked_button.ini, and replaces all of them in
+/// that folder. No question is asked and no copy is kept. Throws WriteRefused when one of them can't be
+/// written, and RecordError when writing fails all the same.
+void saveRecords(State& state, Disk& disk, const SkinFolder& folder);
 
-/// Writes locked_button.ini alone.
-void saveLockedButtons(State& state, const SkinFolder& folder);
+/// Writes locked_button.ini alone. What stands against it is told in a box. Throws RecordError when writing
+/// fails all the same.
+void saveLockedButtons(State& state, const Platform& platform, const SkinFolder& folder);
 
 }  // namespace veneerer

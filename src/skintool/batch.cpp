@@ -1,6 +1,5 @@
 #include "skintool/batch.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -35,7 +34,7 @@ public:
   explicit BatchRun(const Arguments& arguments)
       : arguments_(arguments),
         settings_(arguments.skins.first()),
-        platform_{dialogs_, settings_, arguments.screen, programFolder(arguments.skins.first())},
+        platform_{dialogs_, settings_, disk_, arguments.screen, programFolder(arguments.skins.first())},
         designer_(platform_) {}
 
   void run(std::FILE* out) {
@@ -58,21 +57,23 @@ private:
     dialogs_.answers.clear();
     dialogs_.answers << savesCover << true;
     if (savesCover) designer_.state().form4.Text2->setText(arguments_.cover);
-    if (!QDir().mkpath(arguments_.to))
-      throw RecordError(arguments_.to, 0, {}, {}, QStringLiteral("the folder can't be made"));
+    makeTarget(arguments_.to, disk_);
     designer_.saveTo(SkinFolder(QFileInfo(arguments_.to).absoluteFilePath()));
   }
 
   const Arguments& arguments_;
   BatchDialogs dialogs_;
   BatchSettings settings_;
+  Disk disk_;
   Platform platform_;
   Designer designer_;
 };
 
 int writeSheet(const QString& path) {
-  if (buttonSheet().save(path, "PNG")) return 0;
-  throw RecordError(path, 0, {}, {}, QStringLiteral("the picture can't be written"));
+  Disk disk;
+  const QFileInfo file(path);
+  writePng(disk, file.path(), file.fileName(), buttonSheet());
+  return 0;
 }
 
 void tell(std::FILE* err, const QString& text) {

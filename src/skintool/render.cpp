@@ -1,14 +1,13 @@
 #include "skintool/render.h"
 
-#include <QDir>
-#include <QImageWriter>
 #include <QPainter>
 #include <algorithm>
 #include <future>
 
 #include "canvas/screens.h"
+#include "images/pictureencoding.h"
 #include "painting/canvaspainter.h"
-#include "records/recorderror.h"
+#include "records/writefiles.h"
 
 namespace veneerer {
 
@@ -22,20 +21,35 @@ int pixels(float twips, double twipsPerPixel) {
   return static_cast<int>(std::clamp(std::round(twips / twipsPerPixel), 1.0, double(kMostPixels)));
 }
 
-bool writePng(const QImage& image, const QString& path) {
-  QImageWriter writer(path, "png");
-  writer.setQuality(kFastPng);
-  return writer.write(image);
-}
-
 QString fileName(int entry, const QString& name) {
   return QStringLiteral("%1 %2.png").arg(entry, 2, 10, QLatin1Char('0')).arg(name);
 }
 
-void finish(std::future<bool>& writing, const QString& name) {
-  if (writing.valid() && !writing.get())
-    throw RecordError(name, 0, {}, {}, QStringLiteral("the picture can't be written"));
+void requireWritable(Disk& disk, const QString& folder, std::vector<NewFile> files) {
+  const FileReplacement replacement(disk, folder, std::move(files));
+  if (replacement.refusal()) throw WriteRefused(*replacement.refusal());
 }
+
+/// Encodes and writes pictures while the next one is painted.
+class PngWriter {
+public:
+  PngWriter(Disk& disk, const QString& folder) : disk_(disk), folder_(folder) {}
+
+  void start(const QString& name, const QImage& image) {
+    finish();
+    writing_ = std::async(std::launch::async,
+                          [this, name, image] { writePng(disk_, folder_, name, image, kFastPng); });
+  }
+  /// Throws what the last picture failed with.
+  void finish() {
+    if (writing_.valid()) writing_.get();
+  }
+
+private:
+  Disk& disk_;
+  QString folder_;
+  std::future<void> writing_;
+};
 
 }  // namespace
 
@@ -52,21 +66,33 @@ QImage renderScreen(Designer& designer, CanvasPainter& painter, int entry) {
 }
 
 void renderScreens(Designer& designer, const QString& folder, const QStringList& only) {
-  if (!QDir().mkpath(folder))
-    throw RecordError(folder, 0, {}, {}, QStringLiteral("the folder can't be made"));
-  CanvasPainter painter;
-  // One picture is encoded while the next one is painted.
-  std::future<bool> writing;
-  QString name;
+  Disk& disk = designer.platform().disk;
+  makeTarget(folder, disk);
   const QStringList entries = designer.state().form6.Combo6->list();
+  std::vector<int> chosen;
+  std::vector<NewFile> files;
   for (int entry = 0; entry < entries.size(); ++entry) {
     if (!only.isEmpty() && !only.contains(entries[entry])) continue;
-    const QImage image = renderScreen(designer, painter, entry);
-    finish(writing, name);
-    name = fileName(entry, entries[entry]);
-    writing = std::async(std::launch::async, writePng, image, QDir(folder).filePath(name));
+    chosen.push_back(entry);
+    files.push_back({fileName(entry, entries[entry]), {}});
   }
-  finish(writing, name);
+  requireWritable(disk, folder, std::move(files));
+  CanvasPainter painter;
+  PngWriter writer(disk, folder);
+  for (const int entry : chosen)
+    writer.start(fileName(entry, entries[entry]), renderScreen(designer, painter, entry));
+  writer.finish();
+}
+
+void writePng(Disk& disk, const QString& folder, const QString& name, const QImage& image, int quality) {
+  const QByteArray bytes = encodePicture(image, "PNG", quality);
+  if (bytes.isEmpty()) throw RecordError(name, 0, {}, {}, QStringLiteral("the picture can't be written"));
+  writeFiles(disk, folder, {{name, bytes}});
+}
+
+void makeTarget(const QString& folder, Disk& disk) {
+  if (!disk.makeFolder(folder).isEmpty())
+    throw RecordError(folder, 0, {}, {}, QStringLiteral("the folder can't be made"));
 }
 
 }  // namespace veneerer

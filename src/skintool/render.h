@@ -13,7 +13,15 @@ namespace veneerer {
 QImage renderScreen(Designer& designer, class CanvasPainter& painter, int entry);
 
 /// Writes one PNG per entry, "00 Main Screen.png" and so on, into the folder, which is made when missing;
-/// with only, just the entries of these names. Throws RecordError when a file can't be written.
+/// with only, just the entries of these names. Each file is replaced by a whole new one. Throws WriteRefused,
+/// before the first is written, when one of them can't be, and RecordError when writing fails all the same.
 void renderScreens(Designer& designer, const QString& folder, const QStringList& only);
+
+/// Replaces that file of the folder by a PNG file; quality as for encodePicture. Throws WriteRefused and
+/// RecordError.
+void writePng(Disk& disk, const QString& folder, const QString& name, const QImage& image, int quality = -1);
+
+/// Makes the folder that files are to be written into. Throws RecordError when it can't be made.
+void makeTarget(const QString& folder, Disk& disk);
 
 }  // namespace veneerer

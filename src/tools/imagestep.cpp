@@ -1,7 +1,6 @@
 #include "tools/imagestep.h"
 
-#include <QSaveFile>
-
+#include "files/replacefiles.h"
 #include "images/cimage.h"
 #include "images/cjpeg.h"
 #include "images/picture.h"
@@ -20,32 +19,39 @@ JpegResult encode(const cImage& image) {
   return jpeg.encode();
 }
 
-QString replaceFile(const QString& path, const QByteArray& bytes) {
-  QSaveFile file(path);
-  const bool isOpen = file.open(QIODevice::WriteOnly);
-  if (isOpen) file.write(bytes);
-  if (isOpen && file.commit()) return {};
-  return QStringLiteral("can't be written (%1)").arg(file.errorString());
+QString cannotBeWritten(const WriteFault& fault) {
+  return QStringLiteral("can't be written (%1)").arg(fault.reason);
 }
 
-QString resample(const QString& path, QSize size) {
+QString replaceFile(const ImageJob& job, const QByteArray& bytes, Disk& disk) {
+  FileReplacement replacement(disk, job.skin, {{job.path, bytes}});
+  if (replacement.refusal()) return cannotBeWritten(*replacement.refusal());
+  try {
+    replacement.run();
+    return {};
+  } catch (const ReplaceError& error) {
+    return cannotBeWritten(error.fault());
+  }
+}
+
+QString resample(const ImageJob& job, QSize size, Disk& disk) {
   // A store of its own: the job runs beside others, and the file may have changed since the last size.
   PictureStore store;
-  const Picture picture = store.load(path);
+  const Picture picture = store.load(job.path);
   cImage source;
   if (!source.CopyPicture(picture.image())) return QStringLiteral("can't be decoded");
   const cImage target = source.stretched(size);
   if (target.isEmpty())
     return QStringLiteral("can't have %1 by %2 pixels").arg(size.width()).arg(size.height());
   const JpegResult jpeg = encode(target);
-  return jpeg.isOk() ? replaceFile(path, jpeg.bytes) : jpeg.error;
+  return jpeg.isOk() ? replaceFile(job, jpeg.bytes, disk) : jpeg.error;
 }
 
 }  // namespace
 
-QString resampleFile(const ImageJob& job) {
+QString resampleFile(const ImageJob& job, Disk& disk) {
   for (const QSize size : job.sizes) {
-    const QString error = resample(job.path, size);
+    const QString error = resample(job, size, disk);
     if (!error.isEmpty()) return error;
   }
   return {};

@@ -33,9 +33,9 @@ QString outcome(const std::vector<ImageJob>& jobs, const QStringList& failures) 
   return note + u'.';
 }
 
-QString work(const ImageJob& job, bool isOurs) {
+QString work(const ImageJob& job, bool isOurs, Disk& disk) {
   if (job.path.isEmpty()) return QStringLiteral("missing");
-  return isOurs ? resampleFile(job) : QStringLiteral("outside the Skin's folder");
+  return isOurs ? resampleFile(job, disk) : QStringLiteral("outside the Skin's folder");
 }
 
 }  // namespace
@@ -101,7 +101,7 @@ std::vector<ImageJob> Rescale::collectJobs() {
     const QString file = path.isEmpty() ? u'?' + reference : QFileInfo(path).canonicalFilePath();
     if (!byFile.contains(file)) {
       byFile.insert(file, jobs.size());
-      jobs.push_back({path, reference, {}});
+      jobs.push_back({skin.path(), path, reference, {}});
     }
     jobs[byFile.value(file)].sizes.push_back(measuredPixels());
   }
@@ -134,9 +134,9 @@ QStringList Rescale::runJobs(const std::vector<ImageJob>& jobs) {
   QThreadPool pool;
   QList<QFuture<QString>> results;
   for (const ImageJob& job : jobs)
-    results.append(QtConcurrent::run(&pool, [job, isOurs = skin.contains(job.path), &done] {
+    results.append(QtConcurrent::run(&pool, [this, job, isOurs = skin.contains(job.path), &done] {
       const QSemaphoreReleaser release(done);
-      return work(job, isOurs);
+      return work(job, isOurs, platform_.disk);
     }));
   QStringList failures;
   const int total = static_cast<int>(jobs.size());

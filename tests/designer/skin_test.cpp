@@ -123,30 +123,5 @@ TEST_F(Skin, TheOptionsFileReportsItsFailureAndTheLoadGoesOn) {
   EXPECT_EQ(state().form6.Picture1->backColor(), 255);
 }
 
-TEST_F(Skin, ASaveTellsOfAFolderThatIsGone) {
-  start();
-  QDir(path(QString())).removeRecursively();
-  form4().Text2->setText(QStringLiteral("c.cov"));
-  for (Element* command :
-       {static_cast<Element*>(&*form4().Command4), static_cast<Element*>(&*form4().Command1),
-        static_cast<Element*>(&*state().form2.Command1)})
-    try {
-      designer->click(*command);
-      ADD_FAILURE() << command->key().toStdString();
-    } catch (const RecordError& error) {
-      const QString skin = root.path() + QStringLiteral("/Skins/S");
-      EXPECT_EQ(error.found().toStdString(), "the Skin's folder " + skin.toStdString() + " is gone");
-    }
-}
-
-TEST_F(Skin, AFileIsNeverWrittenThroughALinkThatLeadsOut) {
-  start();
-  const QString outside = root.path() + QStringLiteral("/precious");
-  QFile(outside).open(QIODevice::WriteOnly);
-  QFile::link(outside, path(QStringLiteral("menu.ini")));
-  EXPECT_THROW(designer->save(), RecordError);
-  EXPECT_EQ(QFile(outside).size(), 0);
-}
-
 }  // namespace
 }  // namespace veneerer

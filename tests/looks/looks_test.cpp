@@ -60,8 +60,9 @@ TEST(ColourTable, KeepsPicturesOfFewColours) {
 
 TEST(Skins, ComeOutTheSameTwice) {
   QTemporaryDir first, second;
-  buildSkin(first.path(), blackAndBlueLook());
-  buildSkin(second.path(), blackAndBlueLook());
+  Disk disk;
+  buildSkin(first.path(), blackAndBlueLook(), disk);
+  buildSkin(second.path(), blackAndBlueLook(), disk);
   const auto files = filesIn(first.path(), {});
   EXPECT_GT(files.size(), 60);
   EXPECT_EQ(files, filesIn(second.path(), {}));
@@ -69,8 +70,9 @@ TEST(Skins, ComeOutTheSameTwice) {
 
 TEST(Skins, AreThoseThatComeWithTheProgram) {
   QTemporaryDir made;
+  Disk disk;
   for (const Look& look : {blackAndBlueLook(), copperLoungeLook(), daylightWideLook()})
-    buildSkin(made.path(), look);
+    buildSkin(made.path(), look, disk);
   // Compressed pictures may differ with the library that writes them; the records may not.
   const QStringList records{QStringLiteral("*.ini"), QStringLiteral("*.cov")};
   const auto shipped = filesIn(QStringLiteral(VENEERER_SOURCE_DIR "/Skins"), records);

@@ -1,13 +1,17 @@
 // The batch tool by its command line.
 #include <gtest/gtest.h>
 
+#include <QFileInfo>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "records/recorderror.h"
 #include "skintool/batchrun.h"
+#include "skintool/render.h"
 #include "skintool/script.h"
+#include "support/scriptedplatform.h"
 
 namespace veneerer {
 namespace {
@@ -158,6 +162,47 @@ TEST_F(Skintool, SavesWithTheCoverOnDemandAndRendersTheChosenScreens) {
             (QStringList{QStringLiteral("04 Queue Screen.png"), QStringLiteral("31 Pop Up Menu.png")}));
   const QImage queue(path("png/04 Queue Screen.png"));
   EXPECT_EQ(queue.size(), QSize(804, 633));
+}
+
+TEST_F(Skintool, WhatStandsInTheWayEndsTheRunBeforeAnythingIsWritten) {
+  QDir().mkpath(path("out/tab.ini"));
+  const QStringList save{QStringLiteral("save"), skin(), QStringLiteral("--to"), path("out")};
+  EXPECT_EQ(run(save), 1);
+  EXPECT_EQ(err.toStdString(), "tab.ini: there is something under this name that is no file\n");
+  EXPECT_EQ(QDir(path("out")).entryList(QDir::Files | QDir::Hidden), QStringList());
+  QDir().rmdir(path("out/tab.ini"));
+  EXPECT_EQ(run(save), 0);
+  write(path("file"), {});
+  EXPECT_EQ(run({QStringLiteral("save"), skin(), QStringLiteral("--to"), path("file")}), 1);
+  EXPECT_EQ(err, path("file").toUtf8() + ": the folder can't be made\n");
+
+  QDir().mkpath(path("png"));
+  QFile::link(path("file"), path("png/31 Pop Up Menu.png"));
+  EXPECT_EQ(run({QStringLiteral("render"), skin(), QStringLiteral("--to"), path("png")}), 1);
+  EXPECT_TRUE(err.startsWith("31 Pop Up Menu.png: ")) << err.toStdString();
+  EXPECT_EQ(QDir(path("png")).entryList(QDir::Files | QDir::Hidden).size(), 1) << "the link alone";
+  EXPECT_EQ(QFileInfo(path("file")).size(), 0);
+}
+
+TEST(Rendering, LeavesEachPictureWholeWhateverFails) {
+  QTemporaryDir root;
+  test::ScriptedPlatform world;
+  Designer designer(world.platform);
+  designer.startUp();
+  const QString folder = root.filePath(QStringLiteral("png"));
+  const QStringList only{QStringLiteral("Queue Screen"), QStringLiteral("Pop Up Menu")};
+  for (int at = 1; at <= 5; ++at) {
+    SCOPED_TRACE(at);
+    QDir(folder).removeRecursively();
+    world.disk.failAt(at);
+    EXPECT_THROW(renderScreens(designer, folder, only), RecordError);
+    const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden);
+    EXPECT_EQ(files.size(), at > 3 ? 1 : 0);
+    for (const QFileInfo& file : files) EXPECT_FALSE(QImage(file.filePath(), "PNG").isNull());
+  }
+  world.disk.failAt(0);
+  renderScreens(designer, folder, only);
+  EXPECT_EQ(world.disk.operations, 5);
 }
 
 TEST(Scripts, SplitTheirLines) {

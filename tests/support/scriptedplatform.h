@@ -1,4 +1,5 @@
-// A world for tests: dialogs with answers queued ahead, settings from a map, a screen and a folder of choice.
+// A world for tests: dialogs with answers queued ahead, settings from a map, a disk that can fail, a screen
+// and a folder of choice.
 #pragma once
 
 #include <QMap>
@@ -6,6 +7,7 @@
 #include <QStringList>
 
 #include "platform/platform.h"
+#include "support/failingdisk.h"
 
 namespace veneerer::test {
 
@@ -50,7 +52,8 @@ public:
 struct ScriptedPlatform {
   ScriptedDialogs dialogs;
   MapSettings settings;
-  Platform platform{dialogs, settings, Screen(), ProgramFolder()};
+  FailingDisk disk;
+  Platform platform{dialogs, settings, disk, Screen(), ProgramFolder()};
 };
 
 }  // namespace veneerer::test

@@ -192,4 +192,27 @@ TEST_F(RescaleTest, WhatFailsStaysAsItWasAndTheOthersGoOn) {
     EXPECT_TRUE(note.contains(QLatin1String(reason))) << reason << note.toStdString();
 }
 
+TEST_F(RescaleTest, AFileThatCannotBeWrittenStaysWhole) {
+  state.names.ImageName[3].setValue(QStringLiteral("\\one.bmp"));
+  state.names.GenreName->setValue(QStringLiteral("\\two.bmp"));
+  form1.Picture1[3].place(0, 0, 300, 300);
+  form1.Picture1[13].place(0, 0, 300, 450);
+  for (int at = 1; at <= 4; ++at) {
+    SCOPED_TRACE(at);
+    paint("/one.bmp");
+    paint("/two.bmp");
+    const QByteArray before = bytes(file("/one.bmp"));
+    world.disk.failAt(at);
+    rescale("1024", "768");
+    const QImage one(file("/one.bmp"), "JPEG");
+    const QImage two(file("/two.bmp"), "JPEG");
+    EXPECT_EQ(one.isNull() + two.isNull(), 1);
+    EXPECT_EQ(bytes(file(one.isNull() ? "/one.bmp" : "/two.bmp")), before);
+    EXPECT_EQ(state.notes.texts().last().toStdString(),
+              std::string("1 of 2 images were resized; can't be written (made to fail): ") +
+                  (one.isNull() ? "\\one.bmp." : "\\two.bmp."));
+    EXPECT_EQ(QDir(skin()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+  }
+}
+
 }  // namespace veneerer

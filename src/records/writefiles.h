@@ -1,0 +1,27 @@
+// Files written in one step, and how the operator hears of what stands against it.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "files/replacefiles.h"
+#include "platform/platform.h"
+#include "records/recorderror.h"
+
+namespace veneerer {
+
+/// A look ahead found a file that can't be written; nothing has changed. Whoever runs a command tells it and
+/// goes on.
+class WriteRefused : public RecordError {
+public:
+  explicit WriteRefused(const WriteFault& fault) : RecordError(fault.name, 0, {}, {}, fault.reason) {}
+};
+
+/// Replaces files of that folder together. Throws WriteRefused when one of them can't be written, and
+/// RecordError when writing fails all the same: each file is wholly old or wholly new then.
+void writeFiles(Disk& disk, const QString& folder, std::vector<NewFile> files);
+
+/// Runs a command that writes. False when it was refused: a box of that title has told why.
+bool writeOrTell(Dialogs& dialogs, const QString& title, const std::function<void()>& command);
+
+}  // namespace veneerer
