@@ -1,5 +1,6 @@
 #include "skintool/check.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 #include "design/design.h"
@@ -26,8 +27,9 @@ public:
   Findings run() {
     for (const SaveEntry& entry : saveOrder()) checkEntry(entry);
     if (!hasRecords_) warn(QString(), QStringLiteral("no record file is here"));
-    for (const QString& name : folder_.coverFiles())
-      check(name, coverFile(state_, name, lastCoverOf(bytesOf(name))), true);
+    // A load lists plain files only; anything else of such a name stands in a save's way.
+    for (const QString& name : coverNames())
+      check(name, coverFile(state_, name, lastCoverOf(bytesOf(name))), isFile(name));
     // A routine without effect names it.
     names_ << QStringLiteral("back.ini");
     findings_ << strayFiles(folder_, names_);
@@ -40,6 +42,12 @@ private:
   }
 
   bool isFile(const QString& name) const { return QFileInfo(folder_.file(name)).isFile(); }
+
+  QStringList coverNames() const {
+    return QDir(folder_.path())
+        .entryList({QStringLiteral("*.cov")}, QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot,
+                   QDir::Name | QDir::IgnoreCase);
+  }
 
   QByteArray bytesOf(const QString& name) const {
     try {

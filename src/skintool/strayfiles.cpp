@@ -1,9 +1,9 @@
 #include "skintool/strayfiles.h"
 
 #include <QDir>
-#include <QFile>
 #include <algorithm>
 
+#include "files/plainfile.h"
 #include "skintool/rawvalues.h"
 
 namespace veneerer {
@@ -26,9 +26,7 @@ QString neverRead(const QString& name, const QSet<QString>& names) {
 
 /// Two numbers and the heading of the covers, as every cover file begins.
 bool readsLikeCover(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return false;
-  RecordReader reader(file.read(kHeadBytes));
+  RecordReader reader(headOfFile(path, kHeadBytes));
   for (int i = 0; i < 2; ++i)
     if (reader.atEnd() || !std::holds_alternative<double>(reader.readValue())) return false;
   return !reader.atEnd() && valueText(reader.readValue()) == u"Album Covers";

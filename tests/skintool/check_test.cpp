@@ -1,4 +1,6 @@
 // What the batch tool tells of a Skin.
+#include <sys/stat.h>
+
 #include <QImage>
 
 #include "skintool/batchrun.h"
@@ -154,6 +156,24 @@ TEST_F(Check, TellsOfFilesThatNoLoadReads) {
         "ten covers: warning: reads like a cover file, but only names that end in .cov are listed"})
     EXPECT_TRUE(findings.contains(finding)) << finding << '\n' << out.toStdString();
   EXPECT_TRUE(findings[1].startsWith("B?1: error: forged?]0;x?.COV: warning: has ")) << out.toStdString();
+}
+
+TEST_F(Check, TellsWhatIsNoFileUnderAFilesName) {
+  QFile::remove(file("main.ini"));
+  QFile::remove(file("menu_v2.ini"));
+  QFile::remove(file("tab.ini"));
+  QDir().mkpath(file("main.ini"));
+  ASSERT_EQ(::mkfifo(QFile::encodeName(file("menu_v2.ini")).constData(), 0600), 0);
+  QFile::link(QStringLiteral("gone"), file("tab.ini"));
+  QFile::link(QStringLiteral("gone"), file("b.cov"));
+  QDir().mkpath(file("c.cov"));
+  write(file(".menu.ini.999999999-0123456789abcdef.saving"), "what a killed save left");
+  EXPECT_EQ(check(),
+            (QList<QByteArray>{"main.ini: error: there is something under this name that is no file",
+                               "menu_v2.ini: warning: there is something under this name that is no file",
+                               "tab.ini: warning: the file is a link that leads nowhere",
+                               "b.cov: warning: the file is a link that leads nowhere",
+                               "c.cov: warning: there is something under this name that is no file", ""}));
 }
 
 TEST_F(Check, NamesTheSkinWhereThereAreSeveral) {
