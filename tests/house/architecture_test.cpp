@@ -75,6 +75,24 @@ TEST(Architecture, IsWhatTheIncludesFollow) {
   EXPECT_GT(includes, 300);
 }
 
+// What changes the disk goes through one class, so that a test can let it fail.
+TEST(Architecture, ChangesTheDiskInOnePlace) {
+  static const QRegularExpression change(QStringLiteral(
+      R"(QSaveFile|QTemporaryFile|QImageWriter|ofstream|fopen|mk(path|dir)|rm(path|dir)|removeRecursively)"
+      R"(|QFile::(remove|rename|copy|link|set|moveTo)|WriteOnly|ReadWrite|std::(rename|filesystem))"));
+  QDirIterator files(kRoot + QStringLiteral("src"), {QStringLiteral("*.h"), QStringLiteral("*.cpp")},
+                     QDir::Files, QDirIterator::Subdirectories);
+  QStringList found;
+  while (files.hasNext()) {
+    const QString name = files.next().mid(kRoot.size());
+    if (change.match(text(name)).hasMatch()) found << name;
+  }
+  found.sort();
+  // The second one writes into memory.
+  EXPECT_EQ(found, (QStringList{QStringLiteral("src/files/disk.cpp"),
+                                QStringLiteral("src/images/pictureencoding.cpp")}));
+}
+
 TEST(Architecture, LetsOnlyTheWindowsKnowWidgets) {
   static const QRegularExpression library(QStringLiteral(R"(veneerer_library\(([a-z]+) [^)]*Qt6::Widgets)"));
   QStringList found;
