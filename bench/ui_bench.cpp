@@ -21,7 +21,7 @@ public:
   void inform(const QString&, const QString&) override {}
   bool ask(const QString&, const QString&) override { return true; }
   QString chooseFile(const QString&) override { return {}; }
-  std::optional<std::int32_t> chooseColour(std::int32_t) override { return std::nullopt; }
+  std::optional<Colour> chooseColour(Colour) override { return std::nullopt; }
   std::optional<FontChoice> chooseFont(const FontChoice&) override { return std::nullopt; }
 };
 

@@ -6,8 +6,6 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kStretchedPicture = 3;
-
 void give(State& state, Element& element, const Picture& picture, const QString& reference) {
   element.set(Property::Picture, picture);
   if (ImageSlot* name = state.names.of(element)) name->setValue(reference);
@@ -32,7 +30,7 @@ void choosePicture(State& state, Dialogs& dialogs, Element& element) {
     return;
   }
   give(state, element, picture, u'\\' + bareFileName(path));
-  if (element.has(Property::PictureSize)) element.set(Property::PictureSize, kStretchedPicture);
+  if (element.kind() == Kind::Button) cast<Button>(element).setPictureSize(PictureSize::Stretched);
 }
 
 }  // namespace veneerer

@@ -25,7 +25,7 @@ int Composer::points(const TextLook& look) const {
   return static_cast<int>(std::lround(look.points * plan.textScale));
 }
 
-void Composer::panel(PictureBox& box, Element& holder, const Box& at, std::int32_t back) {
+void Composer::panel(PictureBox& box, Element& holder, const Box& at, Colour back) {
   box.setContainer(holder);
   box.setBackColor(back);
   box.setForeColor(theme.screen.body);
@@ -68,7 +68,7 @@ void Composer::button(Button& button, Element& holder, const Box& at, const QStr
   button.setForeColor(look.fore);
   button.setGradientColor(look.gradient);
   button.setGradientMode(look.mode);
-  button.setPictureSize(3);
+  button.setPictureSize(PictureSize::Stretched);
   button.set(Property::FontSize, static_cast<float>(points));
   button.set(Property::FontBold, true);
   put(button, at);

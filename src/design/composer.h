@@ -13,7 +13,7 @@
 namespace veneerer::design {
 
 struct TextLook {
-  std::int32_t ink = 0;
+  Colour ink = 0;
   int points = 10;  ///< before the plan's text scale
   bool bold = false;
   Alignment align = Alignment::Left;
@@ -39,7 +39,7 @@ public:
   int lineOf(const TextLook& look) const { return lineHeight(points(look)); }
 
   /// A panel in a flat colour.
-  void panel(PictureBox& box, Element& holder, const Box& at, std::int32_t back);
+  void panel(PictureBox& box, Element& holder, const Box& at, Colour back);
   /// A picture, its placeholder colour, or an image without one.
   void artwork(PictureBox& box, Element& holder, const Box& at) { panel(box, holder, at, kArtwork); }
   void image(Element& image, Element& holder, const Box& at);

@@ -11,7 +11,7 @@ constexpr int kCovers = 28;
 constexpr int kFeatured = 28;
 constexpr int kSpare = 29;  // the last cover and frame, which no layout uses
 
-TextLook captionLook(std::int32_t ink, bool isFeatured, bool bold) {
+TextLook captionLook(Colour ink, bool isFeatured, bool bold) {
   return {ink, isFeatured ? 13 : 9, bold, Alignment::Center};
 }
 

@@ -9,7 +9,7 @@ constexpr const char* kMenu[] = {
     "History", "Search", "Queue",        "Top 20",      "Options",     "Decades",        "Playlist",
     "Genres",  "Albums", "Now||Playing", "My||V-Quill", "Collections", "Request||Track", "Pop Up||Menu"};
 // No record holds the colour of the bar behind the status texts.
-constexpr std::int32_t kBar = rgb(14, 20, 31);
+constexpr Colour kBar = rgb(14, 20, 31);
 constexpr const char* kTransport[] = {"<<", "l l", ">>"};
 
 void composeMenu(Composer& c) {
@@ -68,7 +68,7 @@ struct Chip {
   PictureBox& panel;
   Label& label;
   const char* caption;
-  std::int32_t ink;
+  Colour ink;
   bool bold;
 };
 

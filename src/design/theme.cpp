@@ -4,10 +4,10 @@ namespace veneerer::design {
 
 namespace {
 
-constexpr std::int32_t kWhite = rgb(255, 255, 255);
-constexpr std::int32_t kPale = rgb(222, 232, 245);
-constexpr std::int32_t kSteel = rgb(150, 170, 196);
-constexpr std::int32_t kSky = rgb(104, 184, 255);
+constexpr Colour kWhite = rgb(255, 255, 255);
+constexpr Colour kPale = rgb(222, 232, 245);
+constexpr Colour kSteel = rgb(150, 170, 196);
+constexpr Colour kSky = rgb(104, 184, 255);
 
 constexpr int kAccentStyle = 6;
 constexpr int kDownwards = 2;

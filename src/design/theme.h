@@ -1,31 +1,30 @@
 // Colours and button looks of a composition. A theme is data; what stands where is the composers' business.
 #pragma once
 
-#include <cstdint>
+#include "elements/colour.h"
 
 namespace veneerer::design {
 
-/// A colour in the form of the record files, 0x00BBGGRR.
-constexpr std::int32_t rgb(int red, int green, int blue) {
+constexpr Colour rgb(int red, int green, int blue) {
   return red | green << 8 | blue << 16;
 }
 
 struct ButtonLook {
   int shape = 0;
   int style = 0;
-  std::int32_t back = 0;
-  std::int32_t fore = 0;
-  std::int32_t gradient = 0;
+  Colour back = 0;
+  Colour fore = 0;
+  Colour gradient = 0;
   int mode = 0;
 };
 
 /// What texts look like on one kind of ground; every ink has a contrast of at least 4.5 to 1 on it.
 struct Ground {
-  std::int32_t back = 0;
-  std::int32_t heading = 0;
-  std::int32_t body = 0;
-  std::int32_t muted = 0;
-  std::int32_t accent = 0;
+  Colour back = 0;
+  Colour heading = 0;
+  Colour body = 0;
+  Colour muted = 0;
+  Colour accent = 0;
 };
 
 struct Theme {
@@ -41,19 +40,19 @@ struct Theme {
   ButtonLook primary;
   ButtonLook tab;
   ButtonLook key;
-  ButtonLook wideKey;      ///< the keys that do more than write a letter
-  std::int32_t track = 0;  ///< the ground of sliders
+  ButtonLook wideKey;  ///< the keys that do more than write a letter
+  Colour track = 0;    ///< the ground of sliders
 };
 
 // No record holds the colours of these, so they look the same in every Skin: neutral darks that go with any
 // palette.
 
 /// Panels, and the ground of Theme::card.
-inline constexpr std::int32_t kCardBack = rgb(30, 30, 31);
+inline constexpr Colour kCardBack = rgb(30, 30, 31);
 /// A picture that is still to come.
-inline constexpr std::int32_t kArtwork = rgb(54, 56, 60);
+inline constexpr Colour kArtwork = rgb(54, 56, 60);
 /// One of several small pictures on a larger one.
-inline constexpr std::int32_t kThumbnail = rgb(96, 100, 108);
+inline constexpr Colour kThumbnail = rgb(96, 100, 108);
 /// Buttons that no record, or only another button's, brings back.
 inline constexpr ButtonLook kNeutralButton = {0, 6, rgb(58, 64, 76), rgb(255, 255, 255), rgb(38, 43, 53), 2};
 inline constexpr ButtonLook kDangerButton = {0, 6, rgb(150, 30, 38), rgb(255, 255, 255), rgb(104, 16, 24), 2};

@@ -25,8 +25,8 @@ bool isInside(const Value& value, int last) {
 }  // namespace
 
 void Button::resetDefaultColors() {
-  constexpr auto kFace = static_cast<std::int32_t>(0x8000000F);
-  constexpr auto kText = static_cast<std::int32_t>(0x80000012);
+  constexpr Colour kFace = static_cast<std::int32_t>(0x8000000F);
+  constexpr Colour kText = static_cast<std::int32_t>(0x80000012);
   setBackColor(kFace);
   setForeColor(kText);
   set(Property::HoverBackColor, kFace);
@@ -46,7 +46,8 @@ QString Button::refusal(Property property, const Value& value) const {
     case Property::Picture:
       return said(isCustomShaped() && std::get<Picture>(value).isIcon(), kNoIcons);
     case Property::PictureSize:
-      return said(isInside(value, kLastPictureSize) && isCustomShaped(), kFixedPictureSize);
+      return said(isInside(value, static_cast<int>(PictureSize::Fitted)) && isCustomShaped(),
+                  kFixedPictureSize);
     case Property::CustomClick:
       return said(!isCustomShaped(), kCustomOnly);
     case Property::Value:
@@ -65,7 +66,7 @@ bool Button::accepts(Property property, const Value& value) const {
     case Property::ButtonShape:
       return isInside(value, kLastShape) && refusal(property, value).isEmpty();
     case Property::PictureSize:
-      return isInside(value, kLastPictureSize) && refusal(property, value).isEmpty();
+      return isInside(value, static_cast<int>(PictureSize::Fitted)) && refusal(property, value).isEmpty();
     case Property::CustomClick:
     case Property::Value:
     case Property::CaptionAlign:

@@ -11,11 +11,11 @@ public:
   PictureBox(Window& window, Family* family, int index) : Element(Kind::PictureBox, window, family, index) {}
 
   const Picture& picture() const { return as<Picture>(Property::Picture); }
-  std::int32_t backColor() const { return as<std::int32_t>(Property::BackColor); }
-  std::int32_t foreColor() const { return as<std::int32_t>(Property::ForeColor); }
+  Colour backColor() const { return as<Colour>(Property::BackColor); }
+  Colour foreColor() const { return as<Colour>(Property::ForeColor); }
   void setPicture(const Picture& picture) { set(Property::Picture, picture); }
-  void setBackColor(std::int32_t colour) { set(Property::BackColor, colour); }
-  void setForeColor(std::int32_t colour) { set(Property::ForeColor, colour); }
+  void setBackColor(Colour colour) { set(Property::BackColor, colour); }
+  void setForeColor(Colour colour) { set(Property::ForeColor, colour); }
   /// 0 for none, 1 for a single line.
   void setBorderStyle(int style) { set(Property::BorderStyle, style); }
 };

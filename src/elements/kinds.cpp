@@ -14,8 +14,8 @@ using Defaults = std::vector<PropertyDefault>;
 constexpr int kKindCount = static_cast<int>(Kind::CoverIndex) + 1;
 
 // System colours in the signed form of the record files.
-constexpr std::int32_t kButtonFace = static_cast<std::int32_t>(0x8000000F);
-constexpr std::int32_t kButtonText = static_cast<std::int32_t>(0x80000012);
+constexpr Colour kButtonFace = static_cast<std::int32_t>(0x8000000F);
+constexpr Colour kButtonText = static_cast<std::int32_t>(0x80000012);
 
 Defaults operator+(Defaults left, const Defaults& right) {
   left.insert(left.end(), right.begin(), right.end());
@@ -84,7 +84,7 @@ Defaults boxDefaults() {
 Defaults defaultsOf(Kind kind) {
   switch (kind) {
     case Kind::Window:
-      return kPlace + kPicture + Defaults{{P::Caption, QString()}, {P::BackColor, 0}};
+      return kPlace + kPicture + Defaults{{P::Caption, QString()}, {P::BackColor, Colour()}};
     case Kind::Label:
       return labelDefaults();
     case Kind::Button:

@@ -23,8 +23,8 @@ public:
   Label(Window& window, Family* family, int index) : Element(Kind::Label, window, family, index) {}
 
   const QString& caption() const { return as<QString>(Property::Caption); }
-  std::int32_t backColor() const { return as<std::int32_t>(Property::BackColor); }
-  std::int32_t foreColor() const { return as<std::int32_t>(Property::ForeColor); }
+  Colour backColor() const { return as<Colour>(Property::BackColor); }
+  Colour foreColor() const { return as<Colour>(Property::ForeColor); }
   bool isOpaque() const { return as<std::int32_t>(Property::BackStyle) == 1; }
   int alignment() const { return as<std::int32_t>(Property::Alignment); }
   const QString& fontName() const { return as<QString>(Property::FontName); }
@@ -32,8 +32,8 @@ public:
   FontChoice font() const;
 
   void setCaption(const QString& text) { set(Property::Caption, text); }
-  void setBackColor(std::int32_t colour) { set(Property::BackColor, colour); }
-  void setForeColor(std::int32_t colour) { set(Property::ForeColor, colour); }
+  void setBackColor(Colour colour) { set(Property::BackColor, colour); }
+  void setForeColor(Colour colour) { set(Property::ForeColor, colour); }
   void setOpaque(bool opaque) { set(Property::BackStyle, opaque ? 1 : 0); }
   /// A value outside 0 to 2 is refused.
   void setAlignment(int alignment) { set(Property::Alignment, alignment); }

@@ -31,7 +31,7 @@ enum class Property : std::uint8_t {
   ButtonStyle,    ///< 0 to 7
   GradientColor,  ///< as BackColor
   GradientMode,   ///< 0 to 4
-  PictureSize,    ///< 0 to 4
+  PictureSize,    ///< 0 to 4, see PictureSize
   Picture,
   PictureAlign,  ///< 0 to 5, see PictureAlign
   CaptionAlign,  ///< 0 left, 1 right, 2 centre
@@ -60,7 +60,7 @@ inline constexpr int kPropertyCount = static_cast<int>(Property::Name) + 1;
 QLatin1String propertyName(Property property);
 
 /// The alternatives of a Value, in its order.
-enum class ValueType : std::uint8_t { Truth, Whole, Single, Text, Texts, Picture, Stored };
+enum class ValueType : std::uint8_t { Truth, Whole, Single, Text, Texts, Picture, Stored, Colour };
 
 /// What the property's values are, whatever kind of element has it.
 ValueType propertyType(Property property);

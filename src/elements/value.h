@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <variant>
 
+#include "elements/colour.h"
 #include "elements/property.h"
 #include "images/picture.h"
 
@@ -31,7 +32,7 @@ private:
 };
 
 /// Whole numbers are signed 32-bit, fractions Singles.
-using Value = std::variant<bool, std::int32_t, float, QString, QStringList, Picture, StoredValue>;
+using Value = std::variant<bool, std::int32_t, float, QString, QStringList, Picture, StoredValue, Colour>;
 
 inline ValueType typeOf(const Value& value) {
   return static_cast<ValueType>(value.index());

@@ -22,8 +22,8 @@ public:
 
   const QString& caption() const { return as<QString>(Property::Caption); }
   void setCaption(const QString& text) { set(Property::Caption, text); }
-  std::int32_t backColor() const { return as<std::int32_t>(Property::BackColor); }
-  void setBackColor(std::int32_t colour) { set(Property::BackColor, colour); }
+  Colour backColor() const { return as<Colour>(Property::BackColor); }
+  void setBackColor(Colour colour) { set(Property::BackColor, colour); }
   const Picture& picture() const { return as<Picture>(Property::Picture); }
   void setPicture(const Picture& picture) { set(Property::Picture, picture); }
 

@@ -37,8 +37,8 @@ public:
   int ElementIndex = 0;   ///< the index, within its family, of the element clicked last
   float DragAnchorX = 0;  ///< where the last press hit its element, twips
   float DragAnchorY = 0;
-  std::int32_t CurrentColour = 0;  ///< the colour in hand, 0x00BBGGRR
-  float CoverScale = 1;            ///< multiplies every coordinate of a cover file; nothing changes it
+  Colour CurrentColour;  ///< the colour in hand, 0x00BBGGRR
+  float CoverScale = 1;  ///< multiplies every coordinate of a cover file; nothing changes it
 
   Single<CoverIndex> LastCoverIndex{*this, "LastCoverIndex"};
 };

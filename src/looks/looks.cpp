@@ -8,7 +8,7 @@ using design::Plan;
 using design::rgb;
 using design::Theme;
 
-constexpr std::int32_t kWhite = rgb(255, 255, 255);
+constexpr Colour kWhite = rgb(255, 255, 255);
 
 Plan blackAndBluePlan() {
   Plan plan = design::builtInPlan();
@@ -47,9 +47,9 @@ Plan copperPlan() {
 }
 
 Theme copperTheme() {
-  constexpr std::int32_t kCream = rgb(250, 236, 214);
-  constexpr std::int32_t kSand = rgb(224, 202, 172);
-  constexpr std::int32_t kAmber = rgb(255, 190, 105);
+  constexpr Colour kCream = rgb(250, 236, 214);
+  constexpr Colour kSand = rgb(224, 202, 172);
+  constexpr Colour kAmber = rgb(255, 190, 105);
   constexpr int kSoft = 3;
   constexpr int kSlant = 4;
   return {
@@ -96,11 +96,11 @@ Plan daylightPlan() {
 }
 
 Theme daylightTheme() {
-  constexpr std::int32_t kInk = rgb(18, 44, 58);
-  constexpr std::int32_t kSlate = rgb(48, 74, 88);
-  constexpr std::int32_t kGrey = rgb(70, 92, 104);
-  constexpr std::int32_t kTeal = rgb(0, 98, 110);
-  constexpr std::int32_t kMint = rgb(150, 240, 226);
+  constexpr Colour kInk = rgb(18, 44, 58);
+  constexpr Colour kSlate = rgb(48, 74, 88);
+  constexpr Colour kGrey = rgb(70, 92, 104);
+  constexpr Colour kTeal = rgb(0, 98, 110);
+  constexpr Colour kMint = rgb(150, 240, 226);
   constexpr int kFlat = 1;
   constexpr int kRounded = 6;
   return {

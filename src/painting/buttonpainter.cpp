@@ -2,10 +2,10 @@
 
 #include <cmath>
 
+#include "elements/colour.h"
 #include "painting/buttonlayout.h"
 #include "painting/buttonoutline.h"
 #include "painting/clipping.h"
-#include "painting/colours.h"
 
 namespace veneerer {
 
@@ -20,10 +20,9 @@ constexpr QColor kLight(255, 255, 255, 190);
 constexpr QColor kShade(0, 0, 0, 140);
 constexpr QColor kDisabledText(112, 112, 112);
 
-std::int32_t shownColour(const Button& button, bool hover, std::int32_t lock, Property normal,
-                         Property hovered) {
+QColor shownColour(const Button& button, bool hover, std::int32_t lock, Property normal, Property hovered) {
   const bool isLocked = button.as<std::int32_t>(Property::HoverColorLocks) & lock;
-  return button.as<std::int32_t>(hover && !isLocked ? hovered : normal);
+  return button.as<Colour>(hover && !isLocked ? hovered : normal).toQColor();
 }
 
 bool isLatched(const Button& button) {
@@ -33,7 +32,7 @@ bool isLatched(const Button& button) {
 
 // Whether the picture is a part of the face, not a small one beside the caption.
 bool coversFace(const Button& button) {
-  return button.isCustomShaped() || button.pictureSize() >= kFirstCoveringSize;
+  return button.isCustomShaped() || static_cast<int>(button.pictureSize()) >= kFirstCoveringSize;
 }
 
 // Light and shade of the caption: where its copies go, in pixels.
@@ -81,13 +80,11 @@ struct ButtonPainter::Task {
   double nudge;  ///< how far the contents move when the button is down, pixels
 
   QColor back() const {
-    return toQColor(
-        shownColour(button, state.hover, kBackLocked, Property::BackColor, Property::HoverBackColor));
+    return shownColour(button, state.hover, kBackLocked, Property::BackColor, Property::HoverBackColor);
   }
   QColor fore() const {
     if (!isEnabled) return kDisabledText;
-    return toQColor(
-        shownColour(button, state.hover, kForeLocked, Property::ForeColor, Property::HoverForeColor));
+    return shownColour(button, state.hover, kForeLocked, Property::ForeColor, Property::HoverForeColor);
   }
   FaceLook look(QSize size, const QImage& picture) const;
 };
@@ -99,8 +96,8 @@ FaceLook ButtonPainter::Task::look(QSize size, const QImage& picture) const {
                 .style = button.buttonStyle(),
                 .gradient = button.gradientMode(),
                 .back = back().rgb(),
-                .second = toQColor(button.gradientColor()).rgb(),
-                .pictureSize = picture.isNull() ? 0 : button.pictureSize(),
+                .second = button.gradientColor().toQColor().rgb(),
+                .pictureSize = picture.isNull() ? 0 : static_cast<int>(button.pictureSize()),
                 .pictureKey = picture.isNull() ? 0 : picture.cacheKey(),
                 .hover = state.hover,
                 .pressed = isDown,
@@ -175,7 +172,7 @@ ButtonPainter::Contents ButtonPainter::layOut(const Task& task) {
   if (!coversFace(button)) made.picture = button.picture().image();
   QSizeF picture;
   if (!made.picture.isNull())
-    picture = smallPictureSize(button.pictureSize(), made.picture.size(), made.room.size());
+    picture = smallPictureSize(static_cast<int>(button.pictureSize()), made.picture.size(), made.room.size());
   const QRectF captions = captionRoom(button, made.room, picture);
   made.text = layOutCaption(task, captions.size());
   const QSizeF text = made.text ? QSizeF(made.text->width, made.text->height) : QSizeF(0, 0);

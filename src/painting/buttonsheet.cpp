@@ -166,7 +166,7 @@ private:
     sample(at, QStringLiteral("Note"), [&](Button& button) {
       button.setPicture(note_);
       button.set(Property::PictureAlign, std::min(number, kAlignments - 1));
-      if (number >= kAlignments) button.setPictureSize(number - kAlignments + 1);
+      if (number >= kAlignments) button.setPictureSize(static_cast<PictureSize>(number - kAlignments + 1));
       if (number >= kAlignments) button.set(Property::PictureAlign, 0);
     });
   }

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
+#include "elements/colour.h"
 #include "painting/clipping.h"
-#include "painting/colours.h"
 #include "painting/hittest.h"
 
 namespace veneerer {
@@ -38,7 +38,7 @@ void CanvasPainter::paint(QPainter& painter, const Form1& form, const QRect& exp
   painter.save();
   painter.setClipRect(exposed, Qt::IntersectClip);
   begin(painter, pixelsPerTwipX, pixelsPerTwipY);
-  painter.fillRect(exposed, toQColor(form.backColor()));
+  painter.fillRect(exposed, form.backColor().toQColor());
   paintNatural(painter, form.picture().image(), QPointF(), exposed);
   paintChildren(painter, form, QPointF(), exposed);
   painter.restore();
@@ -99,20 +99,20 @@ void CanvasPainter::paintOne(QPainter& painter, const Element& element, const QR
 void CanvasPainter::paintLabel(QPainter& painter, const Label& label, const QRectF& rect,
                                const QRectF& clip) {
   const QRectF shown = rect & clip;
-  if (label.isOpaque()) painter.fillRect(shown, toQColor(label.backColor()));
+  if (label.isOpaque()) painter.fillRect(shown, label.backColor().toQColor());
   const int height = fontPixels(label.fontSize(), scale_.y);
   if (label.caption().isEmpty() || height == 0) return;
   const LaidOutText& text = texts_.of({label.caption(), label.fontName(), height, fontFlags(label),
                                        static_cast<int>(std::ceil(rect.width())),
                                        static_cast<int>(std::ceil(rect.height())), label.alignment()});
-  painter.setPen(toQColor(label.foreColor()));
+  painter.setPen(label.foreColor().toQColor());
   drawTextWithin(painter, text, rect.topLeft(), shown);
 }
 
 void CanvasPainter::paintPictureBox(QPainter& painter, const PictureBox& box, const QRectF& rect,
                                     const QRectF& clip) {
   const QRectF shown = rect & clip;
-  painter.fillRect(shown, toQColor(box.backColor()));
+  painter.fillRect(shown, box.backColor().toQColor());
   paintNatural(painter, box.picture().image(), rect.topLeft(), shown);
   if (box.as<std::int32_t>(Property::BorderStyle) == 1) paintBorder(painter, rect, clip);
 }

@@ -3,8 +3,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "elements/colour.h"
 #include "images/pictureencoding.h"
-#include "painting/colours.h"
 #include "platform/skinfolder.h"
 #include "records/writefiles.h"
 
@@ -29,7 +29,7 @@ QImage pieceUnder(const State& state, const PictureBox& panel, const Screen& scr
                    toPixels(panel.height(), screen.twipsPerPixelY()));
   if (size.isEmpty() || size.width() > kMostPixels || size.height() > kMostPixels) return {};
   QImage piece(size, QImage::Format_RGB32);
-  piece.fill(toQColor(panel.backColor()));
+  piece.fill(panel.backColor().toQColor());
   QPainter painter(&piece);
   painter.drawImage(QPoint(0, 0), state.form1.picture().image(), QRect(corner, size));
   return piece;

@@ -206,18 +206,18 @@ void SkinProperties::coverTextChanged() {
 }
 
 void SkinProperties::skinWidth() {
-  sizeWindow(0, Property::Width);
+  sizeWindow(Axis::X);
 }
 
 void SkinProperties::skinHeight() {
-  sizeWindow(1, Property::Height);
+  sizeWindow(Axis::Y);
 }
 
-void SkinProperties::sizeWindow(int direction, Property side) {
-  const double pixels = std::nearbyint(leadingNumber(state_.form4.Text1[direction].text()));
+void SkinProperties::sizeWindow(Axis axis) {
+  const double pixels = std::nearbyint(leadingNumber(state_.form4.Text1[static_cast<int>(axis)].text()));
   if (pixels <= 0) return;
-  if (const auto twips = PixelsToTwips(screen_, pixels, direction))
-    state_.form1.set(side, static_cast<float>(*twips));
+  if (const auto twips = PixelsToTwips(screen_, pixels, axis))
+    state_.form1.set(sizeOn(axis), static_cast<float>(*twips));
   else
     state_.notes.say(QStringLiteral("A canvas of so many pixels is too large; it keeps its size."));
 }

@@ -40,7 +40,7 @@ private:
   void coverCountChosen();
   void skinWidth();
   void skinHeight();
-  void sizeWindow(int direction, Property side);
+  void sizeWindow(Axis axis);
 
   State& state_;
   const Screen screen_;

@@ -4,8 +4,8 @@
 
 namespace veneerer {
 
-std::optional<std::int32_t> PixelsToTwips(const Screen& screen, double pixels, int direction) {
-  return toWhole(pixels * 1440 / (direction == 0 ? screen.dpiX : screen.dpiY));
+std::optional<std::int32_t> PixelsToTwips(const Screen& screen, double pixels, Axis axis) {
+  return toWhole(pixels * 1440 / (axis == Axis::X ? screen.dpiX : screen.dpiY));
 }
 
 }  // namespace veneerer

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "elements/axis.h"
 #include "elements/label.h"
 #include "files/disk.h"
 
@@ -25,7 +26,7 @@ public:
   virtual QString chooseFile(const QString& filter) = 0;
   /// A colour dialog that opens on that plain colour (0x00BBGGRR); nothing on cancel. The table of custom
   /// colours lasts as long as the program runs.
-  virtual std::optional<std::int32_t> chooseColour(std::int32_t initial) = 0;
+  virtual std::optional<Colour> chooseColour(Colour initial) = 0;
   /// A font dialog with effects; nothing on cancel.
   virtual std::optional<FontChoice> chooseFont(const FontChoice& initial) = 0;
 };
@@ -75,7 +76,7 @@ struct Platform {
 };
 
 /// Pixels in twips by the screen's dots per logical inch, rounded to the nearest whole number, halves to
-/// even. Direction 0 is across, any other down. Nothing when the result is beyond 32 bits.
-std::optional<std::int32_t> PixelsToTwips(const Screen& screen, double pixels, int direction);
+/// even. Nothing when the result is beyond 32 bits.
+std::optional<std::int32_t> PixelsToTwips(const Screen& screen, double pixels, Axis axis);
 
 }  // namespace veneerer

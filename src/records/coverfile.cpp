@@ -24,8 +24,8 @@ void style(Layout& file, Label& label) {
   file.alignment(label);
   file.field(ValueKind::Text, label, Property::FontName);
   file.field(ValueKind::FontSize, label, Property::FontSize);
-  file.field(ValueKind::Long, label, Property::ForeColor);
-  file.field(ValueKind::Long, label, Property::BackColor);
+  file.field(ValueKind::Colour, label, Property::ForeColor);
+  file.field(ValueKind::Colour, label, Property::BackColor);
 }
 
 void placeAndStyle(Layout& file, Label& label) {

@@ -69,6 +69,8 @@ Value readField(RecordReader& reader, const Field& field) {
       return asInteger(asNumber(value));
     case ValueKind::Long:
       return asLong(asNumber(value));
+    case ValueKind::Colour:
+      return Colour(asLong(asNumber(value)));
     default:
       return scaled(field, asSingle(asNumber(value)));
   }
@@ -93,6 +95,8 @@ void writeField(RecordWriter& out, const Field& field) {
     case ValueKind::Integer:
     case ValueKind::Long:
       return out.writeWhole(std::get<std::int32_t>(value));
+    case ValueKind::Colour:
+      return out.writeWhole(std::get<Colour>(value).number());
     case ValueKind::Single:
       return out.writeSingle(std::get<float>(value));
     case ValueKind::Whole:

@@ -62,7 +62,7 @@ void Layout::plainButtonRecord(Button& button) {
   field(ValueKind::Text, button, Property::Caption);
   for (Property p : {Property::ButtonShape, Property::ButtonStyle, Property::BackColor, Property::ForeColor,
                      Property::GradientColor, Property::GradientMode})
-    field(ValueKind::Long, button, p);
+    field(propertyType(p) == ValueType::Colour ? ValueKind::Colour : ValueKind::Long, button, p);
 }
 
 void Layout::geometryQuad(Element& element) {
@@ -76,8 +76,8 @@ void Layout::placeQuad(Element& element) {
 }
 
 void Layout::colours(Element& element) {
-  field(ValueKind::Long, element, Property::BackColor);
-  field(ValueKind::Long, element, Property::ForeColor);
+  field(ValueKind::Colour, element, Property::BackColor);
+  field(ValueKind::Colour, element, Property::ForeColor);
 }
 
 void Layout::colouredPlace(Element& element) {

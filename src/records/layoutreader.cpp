@@ -103,7 +103,7 @@ private:
     else if (!value.isEmpty() || !reference.keepsPictureWhenEmpty)
       button.setPicture(Picture());
     button.set(Property::ButtonShape, heldBack_);
-    button.setPictureSize(3);
+    button.setPictureSize(PictureSize::Stretched);
   }
 
   const Layout& layout_;

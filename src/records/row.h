@@ -26,6 +26,7 @@ enum class ValueKind : std::uint8_t {
   NumberText,  ///< a Text that the reader takes as a number
   Integer,     ///< 16 bit
   Long,        ///< 32 bit
+  Colour,      ///< a Long
   Single,
   Whole,     ///< a Single whose fraction is dropped on writing
   FontSize,  ///< a Single of whole points, read as a whole line

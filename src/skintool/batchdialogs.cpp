@@ -26,7 +26,7 @@ QString BatchDialogs::chooseFile(const QString&) {
   return taken(files, QStringLiteral("the file dialog finds no answer"));
 }
 
-std::optional<std::int32_t> BatchDialogs::chooseColour(std::int32_t) {
+std::optional<Colour> BatchDialogs::chooseColour(Colour) {
   return taken(colours, QStringLiteral("the colour dialog finds no answer"));
 }
 

@@ -34,7 +34,7 @@ public:
   // These throw ScriptError when nothing is queued for them.
   bool ask(const QString& title, const QString& text) override;
   QString chooseFile(const QString& filter) override;
-  std::optional<std::int32_t> chooseColour(std::int32_t initial) override;
+  std::optional<Colour> chooseColour(Colour initial) override;
   std::optional<FontChoice> chooseFont(const FontChoice& initial) override;
 
 private:

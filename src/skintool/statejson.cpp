@@ -78,6 +78,7 @@ QString pictureName(const Picture& picture, const QString& skinPath) {
 QJsonValue asJson(const Value& value, const QString& skinPath) {
   if (const auto* truth = std::get_if<bool>(&value)) return *truth;
   if (const auto* whole = std::get_if<std::int32_t>(&value)) return *whole;
+  if (const auto* colour = std::get_if<Colour>(&value)) return colour->number();
   if (const auto* single = std::get_if<float>(&value)) return asShortestDouble(*single);
   if (const auto* text = std::get_if<QString>(&value)) return *text;
   if (const auto* list = std::get_if<QStringList>(&value)) return QJsonArray::fromStringList(*list);
@@ -109,7 +110,7 @@ QJsonObject globalsAsJson(const Globals& globals) {
           {QStringLiteral("ElementIndex"), globals.ElementIndex},
           {QStringLiteral("DragAnchorX"), asShortestDouble(globals.DragAnchorX)},
           {QStringLiteral("DragAnchorY"), asShortestDouble(globals.DragAnchorY)},
-          {QStringLiteral("CurrentColour"), globals.CurrentColour},
+          {QStringLiteral("CurrentColour"), globals.CurrentColour.number()},
           {QStringLiteral("LastCoverIndex"), globals.LastCoverIndex->value()},
           {QStringLiteral("CoverScale"), asShortestDouble(globals.CoverScale)}};
 }

@@ -25,13 +25,13 @@ std::int32_t hexNumber(QStringView text) {
 
 }  // namespace
 
-std::int32_t colourNumber(QStringView text) {
+Colour colourNumber(QStringView text) {
   const QStringView trimmed = text.trimmed();
   if (trimmed.startsWith(u"&H", Qt::CaseInsensitive)) return hexNumber(trimmed.sliced(2));
   return leadingWhole(trimmed);
 }
 
-std::int32_t typedColour(QStringView text) {
+Colour typedColour(QStringView text) {
   if (text.size() != kWebLength || !text.startsWith(u'#')) return colourNumber(text);
   return colourNumber(QStringLiteral("&H") + text.sliced(1, 2).toString() + text.sliced(5, 2).toString() +
                       text.sliced(3, 2).toString());

@@ -22,7 +22,7 @@ std::optional<Property> chosenOption(const State& state) {
 }
 
 /// A label or a picture has no gradient colour.
-void colour(Element& element, std::optional<Property> option, std::int32_t number) {
+void colour(Element& element, std::optional<Property> option, Colour number) {
   if (option && element.has(*option)) element.set(*option, number);
 }
 
@@ -31,8 +31,8 @@ void colourCurrent(State& state) {
     colour(*element, chosenOption(state), state.globals.CurrentColour);
 }
 
-std::int32_t chooseColour(Dialogs& dialogs) {
-  constexpr std::int32_t kBlack = 0;
+Colour chooseColour(Dialogs& dialogs) {
+  constexpr Colour kBlack;
   return dialogs.chooseColour(kBlack).value_or(kBlack);
 }
 
@@ -59,10 +59,10 @@ void typeColour(State& state) {
 
 void pickColour(State& state, Dialogs& dialogs) {
   if (state.globals.SectionNumber == 0) return;
-  const std::int32_t number = chooseColour(dialogs);
-  state.globals.CurrentColour = number;
-  state.form6.Picture2->setBackColor(number);
-  state.form6.Text2->setText(QString::number(number));
+  const Colour chosen = chooseColour(dialogs);
+  state.globals.CurrentColour = chosen;
+  state.form6.Picture2->setBackColor(chosen);
+  state.form6.Text2->setText(QString::number(chosen.number()));
   colourCurrent(state);
 }
 
@@ -75,9 +75,9 @@ void showColour(State& state) {
   const Element* element = currentElement(state, ToolField::ShownColour);
   const auto option = chosenOption(state);
   if (!element || !option || !element->has(*option)) return;
-  const auto number = element->as<std::int32_t>(*option);
-  state.form6.Text2->setText(QString::number(number));
-  state.form6.Picture2->setBackColor(number);
+  const Colour shown = element->as<Colour>(*option);
+  state.form6.Text2->setText(QString::number(shown.number()));
+  state.form6.Picture2->setBackColor(shown);
 }
 
 void copyColours(State& state) {

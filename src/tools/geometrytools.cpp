@@ -61,14 +61,6 @@ void forEach(const Target& target, const std::function<void(Element&)>& act) {
   }
 }
 
-Property placeOn(Axis axis) {
-  return axis == Axis::X ? Property::Left : Property::Top;
-}
-
-Property sizeOn(Axis axis) {
-  return axis == Axis::X ? Property::Width : Property::Height;
-}
-
 /// Sums of huge values have no place on the canvas.
 void setPlace(Element& element, Axis axis, float twips) {
   if (std::isfinite(twips)) element.set(placeOn(axis), twips);

@@ -2,11 +2,10 @@
 // that geometrytables.h gives. Each reads its fields when it runs; a text that holds no number counts as 0.
 #pragma once
 
+#include "elements/axis.h"
 #include "forms/state.h"
 
 namespace veneerer {
-
-enum class Axis { X = 0, Y = 1 };
 
 /// "Make Buttons Same Size": Height and Width from Text3.
 void makeSameSize(State& state);

@@ -54,8 +54,8 @@ void Rescale::run() {
 
 // An ordinary change of the canvas window's size moves nothing; only here does one scale the elements.
 void Rescale::scaleElements() {
-  const float width = newSide(*state_.form6.Text7, 0);
-  const float height = newSide(*state_.form6.Text8, 1);
+  const float width = newSide(*state_.form6.Text7, Axis::X);
+  const float height = newSide(*state_.form6.Text8, Axis::Y);
   Resizer::requireScale(state_.form1, platform_.screen, width, height);
   // From here on nothing can fail.
   resizer_.scaleToScreen(state_.form1, platform_.screen);
@@ -63,10 +63,10 @@ void Rescale::scaleElements() {
   resizeWindow(Property::Height, height);
 }
 
-float Rescale::newSide(const TextBox& field, int direction) const {
+float Rescale::newSide(const TextBox& field, Axis axis) const {
   const double pixels = std::nearbyint(leadingNumber(field.text()));
   if (pixels <= 0) throw ScaleFault("width and height must be above 0 pixels");
-  const auto twips = PixelsToTwips(platform_.screen, pixels, direction);
+  const auto twips = PixelsToTwips(platform_.screen, pixels, axis);
   if (!twips) throw ScaleFault("the new size is beyond 32 bits");
   return static_cast<float>(*twips);
 }

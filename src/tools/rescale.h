@@ -25,7 +25,7 @@ public:
 
 private:
   void scaleElements();
-  float newSide(const TextBox& field, int direction) const;
+  float newSide(const TextBox& field, Axis axis) const;
   void resizeWindow(Property edge, float twips);
   void resampleImages();
   std::vector<ImageJob> collectJobs();

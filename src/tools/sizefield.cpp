@@ -48,7 +48,7 @@ void menuHeight(State& state, Element& element, Edge edge, float twips) {
   setPlain(element, edge, twips);
   const int row = state.form6.Combo1->listIndex();
   if (row >= 0) element.set(Property::ButtonShape, row);
-  element.set(Property::PictureSize, Button::kLastPictureSize);
+  cast<Button>(element).setPictureSize(PictureSize::Fitted);
 }
 
 Button& thumb(State& state) {

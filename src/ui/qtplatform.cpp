@@ -8,7 +8,7 @@
 #include <QSettings>
 #include <cmath>
 
-#include "painting/colours.h"
+#include "elements/colour.h"
 #include "ui/fontdialog.h"
 #include "ui/picturedialog.h"
 #include "ui/progresswindow.h"
@@ -61,10 +61,10 @@ QString QtDialogs::chooseFile(const QString& filter) {
   return file;
 }
 
-std::optional<std::int32_t> QtDialogs::chooseColour(std::int32_t initial) {
-  const QColor colour = QColorDialog::getColor(toQColor(initial), dialogParent());
+std::optional<Colour> QtDialogs::chooseColour(Colour initial) {
+  const QColor colour = QColorDialog::getColor(initial.toQColor(), dialogParent());
   if (!colour.isValid()) return std::nullopt;
-  return fromQColor(colour);
+  return Colour::of(colour);
 }
 
 std::optional<FontChoice> QtDialogs::chooseFont(const FontChoice& initial) {

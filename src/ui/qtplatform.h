@@ -20,7 +20,7 @@ public:
   void inform(const QString& title, const QString& text) override;
   bool ask(const QString& title, const QString& text) override;
   QString chooseFile(const QString& filter) override;
-  std::optional<std::int32_t> chooseColour(std::int32_t initial) override;
+  std::optional<Colour> chooseColour(Colour initial) override;
   std::optional<FontChoice> chooseFont(const FontChoice& initial) override;
 
 private:

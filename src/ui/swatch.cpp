@@ -4,7 +4,7 @@
 #include <QStyleOption>
 
 #include "canvas/sections.h"
-#include "painting/colours.h"
+#include "elements/colour.h"
 #include "ui/frames.h"
 
 namespace veneerer {
@@ -36,7 +36,7 @@ QSize Swatch::sizeHint() const {
 
 void Swatch::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), toQColor(box_.backColor()));
+  painter.fillRect(rect(), box_.backColor().toQColor());
   paintFrame(painter, *this);
 }
 

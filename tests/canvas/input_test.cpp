@@ -161,7 +161,7 @@ TEST_F(CanvasInputTest, RightPressGivesAButtonItsPicture) {
   input.press(button, 0, 0, MouseButton::Right);
   EXPECT_EQ(world.dialogs.filters, QStringList{QStringLiteral("Image Files|*.bmp;*.jpg;*.gif")});
   EXPECT_EQ(button.picture().path(), good);
-  EXPECT_EQ(button.pictureSize(), 3);
+  EXPECT_EQ(button.pictureSize(), PictureSize::Stretched);
   EXPECT_EQ(name.text(), u"\\up.bmp");
 
   input.press(button, 0, 0, MouseButton::Right);

@@ -52,8 +52,9 @@ protected:
       default:
         break;
     }
-    return std::holds_alternative<float>(slot.element->get(slot.property)) ? Value(float(counter_) + 0.5f)
-                                                                           : Value(counter_);
+    if (propertyType(slot.property) == ValueType::Single) return float(counter_) + 0.5f;
+    if (propertyType(slot.property) == ValueType::Colour) return Colour(counter_);
+    return counter_;
   }
 
   void fill(State& state) {

@@ -44,23 +44,23 @@ TEST_F(ButtonTest, ACustomShapeNeedsAPictureThatIsNoIcon) {
 
 TEST_F(ButtonTest, ShapesAndSizesOutsideTheirRangeAreIgnored) {
   button.setButtonShape(6);
-  button.setPictureSize(4);
+  button.setPictureSize(PictureSize::Fitted);
   for (int value : {-1, 9, 2147483647}) {
     button.setButtonShape(value);
-    button.setPictureSize(value);
+    button.setPictureSize(static_cast<PictureSize>(value));
     EXPECT_EQ(button.refusal(Property::ButtonShape, value), QString()) << "silently";
   }
-  button.setPictureSize(5);
+  button.setPictureSize(static_cast<PictureSize>(5));
   EXPECT_EQ(button.buttonShape(), 6);
-  EXPECT_EQ(button.pictureSize(), 4);
+  EXPECT_EQ(button.pictureSize(), PictureSize::Fitted);
 }
 
 TEST_F(ButtonTest, ACustomShapeFixesThePictureSize) {
   button.setPicture(picture("face.bmp"));
-  button.setPictureSize(1);
+  button.setPictureSize(PictureSize::Side24);
   button.setButtonShape(7);
-  button.setPictureSize(3);
-  EXPECT_EQ(button.pictureSize(), 1);
+  button.setPictureSize(PictureSize::Stretched);
+  EXPECT_EQ(button.pictureSize(), PictureSize::Side24);
   EXPECT_EQ(button.refusal(Property::PictureSize, 3),
             u"The picture size cannot be changed for Shaped buttons");
 }

@@ -105,19 +105,19 @@ TEST_P(EveryLook, KeepsEverythingInsideAndWhole) {
 }
 
 // The colours that a text may stand on, one after the other.
-void expectReadable(const design::Ground& inks, std::initializer_list<std::int32_t> grounds) {
-  for (const std::int32_t ink : {inks.heading, inks.body, inks.muted, inks.accent})
-    for (const std::int32_t ground : grounds)
-      EXPECT_GE(test::contrast(ink, ground), 4.5) << ink << " on " << ground;
+void expectReadable(const design::Ground& inks, std::initializer_list<Colour> grounds) {
+  for (const Colour ink : {inks.heading, inks.body, inks.muted, inks.accent})
+    for (const Colour ground : grounds)
+      EXPECT_GE(test::contrast(ink, ground), 4.5) << ink.number() << " on " << ground.number();
 }
 
 TEST_P(EveryLook, HasTextsThatAreReadableOnItsPictures) {
   const design::Theme& t = look.theme;
   const Palette& p = look.palette;
-  expectReadable(t.screen, {t.screen.back, fromQColor(p.backdrop), fromQColor(p.backdropEnd)});
-  expectReadable(t.header, {t.header.back, fromQColor(p.header), fromQColor(p.bar)});
-  expectReadable(t.bar, {t.bar.back, fromQColor(p.bar), fromQColor(p.barEnd)});
-  expectReadable(t.card, {t.card.back, fromQColor(p.barEnd), fromQColor(p.barEnd.lighter(130))});
+  expectReadable(t.screen, {t.screen.back, Colour::of(p.backdrop), Colour::of(p.backdropEnd)});
+  expectReadable(t.header, {t.header.back, Colour::of(p.header), Colour::of(p.bar)});
+  expectReadable(t.bar, {t.bar.back, Colour::of(p.bar), Colour::of(p.barEnd)});
+  expectReadable(t.card, {t.card.back, Colour::of(p.barEnd), Colour::of(p.barEnd.lighter(130))});
   expectReadable(t.row, {t.row.back});
   expectReadable(t.field, {t.field.back});
   for (const Family* family : state.form1.families())

@@ -3,12 +3,12 @@
 #include <QPainter>
 #include <QSet>
 
+#include "elements/colour.h"
 #include "elements/family.h"
 #include "elements/window.h"
 #include "painting/buttonface.h"
 #include "painting/buttonpainter.h"
 #include "painting/buttonsheet.h"
-#include "painting/colours.h"
 #include "painting/customoutline.h"
 
 namespace veneerer {
@@ -129,7 +129,7 @@ TEST_F(ButtonPainting, PicturesFollowTheirSize) {
   button.setButtonStyle(2);  // no edges
   int covered[5];
   for (int size = 0; size < 5; ++size) {
-    button.setPictureSize(size);
+    button.setPictureSize(static_cast<PictureSize>(size));
     covered[size] = count(paint(), Qt::blue);
   }
   EXPECT_EQ(covered[0], 16 * 16);
@@ -146,7 +146,7 @@ TEST_F(ButtonPainting, AStyleShowsUnderASeeThroughPictureAndAroundAnyOther) {
     button.setPicture(Picture());
     const QImage plain = paint();
     const QImage pressed = paint({.pressed = true});
-    button.setPictureSize(3);
+    button.setPictureSize(PictureSize::Stretched);
     button.setPicture(filled(Qt::transparent));
     EXPECT_EQ(paint(), plain) << style;
     EXPECT_EQ(paint({.pressed = true}), pressed) << style;
@@ -161,9 +161,9 @@ TEST_F(ButtonPainting, AStyleShowsUnderASeeThroughPictureAndAroundAnyOther) {
 
 TEST_F(ButtonPainting, APictureOfTheFacesProportionsLooksAlikeInBothCoveringSizes) {
   button.setPicture(Picture::drawn(disc(kSize * 2)));
-  button.setPictureSize(3);
+  button.setPictureSize(PictureSize::Stretched);
   const QImage stretched = paint();
-  button.setPictureSize(4);
+  button.setPictureSize(PictureSize::Fitted);
   EXPECT_EQ(paint(), stretched);
 }
 
@@ -174,7 +174,7 @@ TEST_F(ButtonPainting, EveryFaceAnswersThePointerWithItsHoverColoursLocked) {
       for (const Picture& picture : {Picture(), filled(Qt::white), Picture::drawn(silhouette)}) {
         button.setButtonShape(0);
         button.setPicture(picture);
-        button.setPictureSize(3);
+        button.setPictureSize(PictureSize::Stretched);
         if (picture.image().size() == kSize) button.setButtonShape(7);
         button.setButtonStyle(style);
         button.setBackColor(back);
@@ -239,7 +239,7 @@ TEST_F(ButtonPainting, StatesShowAndNoFaceOutlivesItsProperties) {
 
 TEST_F(ButtonPainting, HoverColoursActUnlessTheyAreLocked) {
   button.setButtonStyle(2);
-  button.set(Property::HoverBackColor, 0xFF0000);
+  button.set(Property::HoverBackColor, Colour(0xFF0000));
   const QImage locked = paint({.hover = true});
   button.set(Property::HoverColorLocks, 1);
   EXPECT_NE(paint({.hover = true}), locked);

@@ -3,9 +3,9 @@
 #include <QPainter>
 #include <limits>
 
+#include "elements/colour.h"
 #include "forms/form1.h"
 #include "painting/canvaspainter.h"
-#include "painting/colours.h"
 #include "painting/hittest.h"
 
 namespace veneerer {
@@ -300,11 +300,11 @@ TEST(TextLayouts, HoldNoMoreThanCanBeSeen) {
 }
 
 TEST(Colours, SystemColoursTurnIntoPlainOnes) {
-  EXPECT_EQ(toQColor(0x112233), QColor(0x33, 0x22, 0x11));
-  EXPECT_EQ(fromQColor(QColor(0x33, 0x22, 0x11)), 0x112233);
-  EXPECT_EQ(plainColour(-2147483633), 0xC8D0D4);
-  EXPECT_EQ(plainColour(-1), 0);
-  EXPECT_EQ(plainColour(0x7F112233), 0x112233);
+  EXPECT_EQ(Colour(0x112233).toQColor(), QColor(0x33, 0x22, 0x11));
+  EXPECT_EQ(Colour::of(QColor(0x33, 0x22, 0x11)), 0x112233);
+  EXPECT_EQ(Colour(-2147483633).plain(), 0xC8D0D4);
+  EXPECT_EQ(Colour(-1).plain(), 0);
+  EXPECT_EQ(Colour(0x7F112233).plain(), 0x112233);
 }
 
 }  // namespace

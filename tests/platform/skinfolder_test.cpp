@@ -118,7 +118,7 @@ TEST(BareFileName, EitherSlashSeparates) {
 TEST(PixelsToTwips, EachDirectionHasItsResolution) {
   Screen screen;
   screen.dpiY = 120;
-  EXPECT_EQ(PixelsToTwips(screen, 1024, 0), 15360);
-  EXPECT_EQ(PixelsToTwips(screen, 1024, 1), 12288);
-  EXPECT_EQ(PixelsToTwips(screen, -1e12, 0), std::nullopt);
+  EXPECT_EQ(PixelsToTwips(screen, 1024, Axis::X), 15360);
+  EXPECT_EQ(PixelsToTwips(screen, 1024, Axis::Y), 12288);
+  EXPECT_EQ(PixelsToTwips(screen, -1e12, Axis::X), std::nullopt);
 }

@@ -150,11 +150,11 @@ TEST_F(Reading, TheImageRuleAppliesTheShapeAfterThePicture) {
   read(moreButtonFile, file("8", "\\images\\play.bmp"));
   EXPECT_EQ(button.buttonShape(), 8);
   EXPECT_EQ(button.picture().path(), root.path() + QStringLiteral("/Skins/S/images/Play.BMP"));
-  EXPECT_EQ(button.pictureSize(), 0) << "a shaped button's picture size is fixed";
+  EXPECT_EQ(button.pictureSize(), PictureSize::Side16) << "a shaped button's picture size is fixed";
   read(moreButtonFile, file("8", "\\images\\gone.bmp"));
   EXPECT_EQ(button.buttonShape(), 0) << "no picture, no custom outline";
   EXPECT_TRUE(button.picture().isNull());
-  EXPECT_EQ(button.pictureSize(), 3);
+  EXPECT_EQ(button.pictureSize(), PictureSize::Stretched);
   EXPECT_TRUE(composed(moreButtonFile).endsWith("\\images\\gone.bmp\r\n")) << "the reference survives";
   read(playerFile, composed(playerFile));
 }

@@ -8,8 +8,8 @@
 #include <cmath>
 #include <string>
 
+#include "elements/colour.h"
 #include "forms/form1.h"
-#include "painting/colours.h"
 #include "painting/textlayouts.h"
 
 namespace veneerer::test {
@@ -27,31 +27,31 @@ std::string failing(const Form1& form, Check check) {
   return keys;
 }
 
-inline double luminance(std::int32_t colour) {
-  const QColor c = toQColor(colour);
+inline double luminance(Colour colour) {
+  const QColor c = colour.toQColor();
   const auto part = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
   return 0.2126 * part(c.redF()) + 0.7152 * part(c.greenF()) + 0.0722 * part(c.blueF());
 }
 
-inline double contrast(std::int32_t a, std::int32_t b) {
+inline double contrast(Colour a, Colour b) {
   const double one = luminance(a);
   const double other = luminance(b);
   return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
 }
 
 inline bool isOpaqueGround(const Element& e) {
-  return e.kind() == Kind::PictureBox || (e.kind() == Kind::Label && static_cast<const Label&>(e).isOpaque());
+  return e.kind() == Kind::PictureBox || (e.kind() == Kind::Label && cast<Label>(e).isOpaque());
 }
 
 /// The colour behind a label: its own, that of the topmost sibling below that holds it, or the container's.
-inline std::int32_t groundOf(const Label& label) {
+inline Colour groundOf(const Label& label) {
   if (label.isOpaque()) return label.backColor();
   const Element& container = *label.container();
-  std::int32_t ground = container.as<std::int32_t>(Property::BackColor);
+  Colour ground = container.as<Colour>(Property::BackColor);
   for (const Element* sibling : container.children()) {
     if (sibling == &label) break;
     if (sibling->isVisible() && isOpaqueGround(*sibling) && rectOf(*sibling).contains(rectOf(label)))
-      ground = sibling->as<std::int32_t>(Property::BackColor);
+      ground = sibling->as<Colour>(Property::BackColor);
   }
   return ground;
 }

@@ -33,7 +33,7 @@ public:
     filters.append(filter);
     return files.isEmpty() ? QString() : files.dequeue();
   }
-  std::optional<std::int32_t> chooseColour(std::int32_t) override {
+  std::optional<Colour> chooseColour(Colour) override {
     return colours.isEmpty() ? std::nullopt : colours.dequeue();
   }
   std::optional<FontChoice> chooseFont(const FontChoice&) override {

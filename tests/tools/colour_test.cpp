@@ -130,7 +130,7 @@ TEST_F(ColourTest, TheGlobalCopyNeedsNoSectionAndReadsNoWebColour) {
   for (const Element* element :
        {static_cast<Element*>(&form1.Label63[28]), static_cast<Element*>(&form1.Picture5[8]),
         static_cast<Element*>(&*form1.lvButtons_H11), static_cast<Element*>(&form6.Label6[1])})
-    EXPECT_EQ(element->as<std::int32_t>(Property::BackColor), 0) << qPrintable(element->key());
+    EXPECT_EQ(element->as<Colour>(Property::BackColor), 0) << qPrintable(element->key());
   // Neither family of Sections 39 and 61 is on the list.
   EXPECT_NE(form1.Label5->backColor(), 0);
   EXPECT_NE(form1.lvButtons_H31->backColor(), 0);

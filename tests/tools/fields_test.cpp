@@ -56,7 +56,7 @@ TEST_F(FieldsTest, AMenuButtonsHeightBringsShapeAndPictureSize) {
   type(form6.Text3[0], "90");
   EXPECT_EQ(form1.lvButtons_H1[3].height(), 90);
   EXPECT_EQ(form1.lvButtons_H1[3].buttonShape(), 5);
-  EXPECT_EQ(form1.lvButtons_H1[3].pictureSize(), 4);
+  EXPECT_EQ(form1.lvButtons_H1[3].pictureSize(), PictureSize::Fitted);
 }
 
 TEST_F(FieldsTest, AGeneralSamplesWidthGoesToTheSliderThumb) {
@@ -130,11 +130,11 @@ TEST_F(FieldsTest, ARowCountsAsChosenAlsoWhenItIsTheSame) {
 
 TEST_F(FieldsTest, AClickFillsTheFieldsAndThereTheyAct) {
   CanvasInput input(state, world.dialogs);
-  form1.lvButtons_H1[2].setPictureSize(1);
+  form1.lvButtons_H1[2].setPictureSize(PictureSize::Side24);
   form1.lvButtons_H1[2].setCaption(QStringLiteral("Queue"));
   state.board.click(form1.lvButtons_H1[2]);
   // The height that the click shows counts as typed.
-  EXPECT_EQ(form1.lvButtons_H1[2].pictureSize(), 4);
+  EXPECT_EQ(form1.lvButtons_H1[2].pictureSize(), PictureSize::Fitted);
   state.board.click(form1.lvButtons_H2[1]);
   EXPECT_EQ(form1.lvButtons_H1[2].caption(), u"Queue");
   type(*form6.Text1, "Stop");

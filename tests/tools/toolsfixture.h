@@ -35,7 +35,8 @@ protected:
           const float i = static_cast<float>(element->index() + 2);
           element->place(i * 100.5f, i * 60.5f, i * 10, i * 20);
           if (element->has(Property::FontSize)) element->set(Property::FontSize, i);
-          if (element->has(Property::BackColor)) element->set(Property::BackColor, 500 + element->index());
+          if (element->has(Property::BackColor))
+            element->set(Property::BackColor, Colour(500 + element->index()));
           if (element->kind() == Kind::Button) element->set(Property::Picture, picture);
         }
   }

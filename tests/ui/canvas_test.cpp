@@ -111,7 +111,7 @@ TEST_F(Canvas, ANoteOutlastsThePointerAndEndsWithTheNextPress) {
 TEST_F(Canvas, AButtonUnderThePointerShowsItsHoverColours) {
   Button& button = form1().lvButtons_H1[2];
   button.set(Property::HoverColorLocks, 0);
-  button.set(Property::HoverBackColor, 0x00FF00);
+  button.set(Property::HoverBackColor, Colour(0x00FF00));
   button.setGradientMode(0);
   button.setBackColor(0x0000FF);
   const QPoint at = middle(button) + QPoint(0, 24);

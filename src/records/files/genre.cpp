@@ -85,9 +85,9 @@ Layout filterFile(State& state) {
   file.optionalFromHere();
   file.placeQuad(*form1.Picture24);
   file.block();
-  file.field(ValueKind::Long, *form1.Picture24, Property::BackColor);
+  file.field(ValueKind::Colour, *form1.Picture24, Property::BackColor);
   file.block();
-  file.field(ValueKind::Long, *form1.Picture24, Property::ForeColor);
+  file.field(ValueKind::Colour, *form1.Picture24, Property::ForeColor);
   return file;
 }
 

@@ -51,11 +51,12 @@ void fillPlaceholders(Loading& loading) {
 }
 
 /// The canvas window's width (0) or height (1) in twips for the Skin's own, widened by that many pixels.
-float windowSide(const Loading& loading, int direction, int surplus) {
-  const TextBox& field = loading.state.form4.Text1[direction];
-  const auto twips = PixelsToTwips(loading.screen, leadingNumber(field.text()) + surplus, direction);
+float windowSide(const Loading& loading, Axis axis, int surplus) {
+  const TextBox& field = loading.state.form4.Text1[static_cast<int>(axis)];
+  const auto twips = PixelsToTwips(loading.screen, leadingNumber(field.text()) + surplus, axis);
   if (!twips)
-    throw RecordError(QStringLiteral("resolution.ini"), 4 + direction, field.key(), QStringLiteral("Text"),
+    throw RecordError(QStringLiteral("resolution.ini"), 4 + static_cast<int>(axis), field.key(),
+                      QStringLiteral("Text"),
                       QStringLiteral("%1 pixels are out of range").arg(excerpt(field.text())));
   return static_cast<float>(*twips);
 }
@@ -101,8 +102,8 @@ Layout resolutionFile(State& state) {
   file.field(ValueKind::Text, state.form4.Text1[1], Property::Text);
   file.atEnd([](Loading& loading) {
     // The window's frame: 4 pixels across, 500 twips down.
-    loading.state.form1.setWidth(windowSide(loading, 0, 4));
-    loading.state.form1.setHeight(windowSide(loading, 1, 0) + 500);
+    loading.state.form1.setWidth(windowSide(loading, Axis::X, 4));
+    loading.state.form1.setHeight(windowSide(loading, Axis::Y, 0) + 500);
   });
   return file;
 }
@@ -132,7 +133,7 @@ Layout fontFile(State& state) {
 
 Layout keyHighlightFile(State& state) {
   Layout file(state, "key_highlight.ini");
-  file.field(ValueKind::Long, *state.form6.Picture1, Property::BackColor);
+  file.field(ValueKind::Colour, *state.form6.Picture1, Property::BackColor);
   return file;
 }
 

@@ -1,4 +1,4 @@
-#include "painting/colours.h"
+#include "elements/colour.h"
 
 #include <iterator>
 
@@ -48,18 +48,18 @@ std::int32_t systemColour(std::uint32_t number) {
 
 }  // namespace
 
-std::int32_t plainColour(std::int32_t colour) {
-  const auto bits = static_cast<std::uint32_t>(colour) & kPlainMask;
-  return colour < 0 ? systemColour(bits) : static_cast<std::int32_t>(bits);
-}
-
-QColor toQColor(std::int32_t colour) {
-  const std::int32_t plain = plainColour(colour);
-  return QColor(plain & 0xFF, plain >> 8 & 0xFF, plain >> 16 & 0xFF);
-}
-
-std::int32_t fromQColor(const QColor& colour) {
+Colour Colour::of(const QColor& colour) {
   return colour.blue() << 16 | colour.green() << 8 | colour.red();
+}
+
+Colour Colour::plain() const {
+  const auto bits = static_cast<std::uint32_t>(number_) & kPlainMask;
+  return isSystem() ? systemColour(bits) : static_cast<std::int32_t>(bits);
+}
+
+QColor Colour::toQColor() const {
+  const std::int32_t bits = plain().number_;
+  return QColor(bits & 0xFF, bits >> 8 & 0xFF, bits >> 16 & 0xFF);
 }
 
 }  // namespace veneerer
