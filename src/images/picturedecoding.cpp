@@ -17,22 +17,32 @@ constexpr int kDecodeLimitMiB = 192;
 // The head of a bitmap in an icon tells no size to go by; so many bytes of it can't hold too many pixels.
 constexpr qint64 kMostIconBytes = 4 * 1024 * 1024;
 
+/// Whether it is a PNG file with 16 bits in a colour's part, or one that comes in passes.
+bool isDeepPng(const QByteArray& bytes) {
+  constexpr int kDepth = 24;  // places in the head
+  constexpr int kPasses = 28;
+  if (formatOf(bytes) != PictureFormat::Png || bytes.size() <= kPasses) return false;
+  return bytes[kDepth] == 16 || bytes[kPasses] != 0;
+}
+
 /// A picture file's bytes in the hands of the one decoder that its head tells.
 class Decoder {
 public:
   explicit Decoder(const QString& path) : bytes_(readPlainFile(path, kMostPictureBytes).bytes) {
     PictureFormat format = formatOf(bytes_);
+    work_ = bytes_.size();
     if (format == PictureFormat::Icon && !openIcon(format)) return;
     if (format == PictureFormat::None) return;
     if (format == PictureFormat::Png) dropPngExtras(bytes_);
-    if (format == PictureFormat::Jpeg) scans_ = countJpegScans(bytes_);
+    const int scans = format == PictureFormat::Jpeg ? countJpegScans(bytes_) : 0;
     open(format);
-    isWithinBounds_ = scans_ <= kMostJpegScans && pixelsOf(size_) <= kMostPicturePixels;
+    isWithinBounds_ = scans <= kMostJpegScans && pixelsOf(size_) <= kMostPicturePixels;
+    // A scan walks blocks, not pixels.
+    work_ += pixelsOf(size_) * (isDeepPng(bytes_) ? 2 : 1) + pixelsOf(size_) * scans / 16;
   }
 
-  bool isWithinBounds() const { return isWithinBounds_; }
+  PictureCost cost() const { return {isWithinBounds_, size_, work_}; }
   QSize size() const { return size_; }
-  int scans() const { return scans_; }
 
   /// An empty size asks for the picture's own.
   QImage read(QSize scaled) {
@@ -70,7 +80,7 @@ private:
   QBuffer buffer_;
   QImageReader reader_;
   QSize size_;
-  int scans_ = 1;
+  qint64 work_ = 0;
   bool isWithinBounds_ = false;
 };
 
@@ -107,8 +117,7 @@ QImage decodeThumbnail(const QString& path, QSize within) {
 }
 
 PictureCost costOfPicture(const QString& path) {
-  const Decoder decoder(path);
-  return {decoder.isWithinBounds(), decoder.size(), pixelsOf(decoder.size()) * decoder.scans()};
+  return Decoder(path).cost();
 }
 
 }  // namespace veneerer

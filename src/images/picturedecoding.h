@@ -42,8 +42,8 @@ QImage decodeThumbnail(const QString& path, QSize within);
 /// How large the picture of a file is and what decoding it costs, from what can be told without doing it.
 struct PictureCost {
   bool canBeDecoded = false;  ///< false for what is beyond the bounds, or no picture
-  QSize size;         ///< pixels; as the file's head tells, so the pixels themselves may yet be damaged
-  qint64 walked = 0;  ///< pixels that a decoder walks: of a JPEG each scan counts
+  QSize size;       ///< pixels; as the file's head tells, so the pixels themselves may yet be damaged
+  qint64 work = 0;  ///< pixels to walk and bytes to read; of the slowest some 50 million take a second
 };
 PictureCost costOfPicture(const QString& path);
 

@@ -18,10 +18,11 @@ namespace {
 
 class SkinCheck {
 public:
-  SkinCheck(const SkinFolder& folder, const Screen& screen) : folder_(folder), screen_(screen) {
-    applyBuiltInDesign(state_);
-    fillFirstLists(state_);
-    fillOtherLists(state_);
+  SkinCheck(const SkinFolder& folder, const Screen& screen, qint64 decoding)
+      : skin_{folder, screen, {}, PictureTrials(decoding)} {
+    applyBuiltInDesign(skin_.state);
+    fillFirstLists(skin_.state);
+    fillOtherLists(skin_.state);
   }
 
   Findings run() {
@@ -29,10 +30,11 @@ public:
     if (!hasRecords_) warn(QString(), QStringLiteral("no record file is here"));
     // A load lists plain files only; anything else of such a name stands in a save's way.
     for (const QString& name : coverNames())
-      check(name, coverFile(state_, name, lastCoverOf(bytesOf(name))), isFile(name));
+      check(name, coverFile(skin_.state, name, lastCoverOf(bytesOf(name))), isFile(name));
+    tellUntriedPictures();
     // A routine without effect names it.
     names_ << QStringLiteral("back.ini");
-    findings_ << strayFiles(folder_, names_);
+    findings_ << strayFiles(skin_.folder, names_);
     return findings_;
   }
 
@@ -41,24 +43,24 @@ private:
     findings_.append({FindingKind::Warning, file, 0, text});
   }
 
-  bool isFile(const QString& name) const { return QFileInfo(folder_.file(name)).isFile(); }
+  bool isFile(const QString& name) const { return QFileInfo(skin_.folder.file(name)).isFile(); }
 
   QStringList coverNames() const {
-    return QDir(folder_.path())
+    return QDir(skin_.folder.path())
         .entryList({QStringLiteral("*.cov")}, QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot,
                    QDir::Name | QDir::IgnoreCase);
   }
 
   QByteArray bytesOf(const QString& name) const {
     try {
-      return recordFileBytes(folder_.file(name));
+      return recordFileBytes(skin_.folder.file(name));
     } catch (const RecordError&) {
       return {};
     }
   }
 
   void checkEntry(const SaveEntry& entry) {
-    const Layout layout = entry.layout(state_);
+    const Layout layout = entry.layout(skin_.state);
     if (layout.isEmpty()) return;
     const QString& read = layout.fileName();
     const QString written = savedName(entry, layout);
@@ -77,13 +79,16 @@ private:
 
   void check(const QString& name, const Layout& layout, bool isLoaded) {
     const bool endsLoad = isLoaded && layout.onFailure() == OnFailure::Fatal;
-    findings_ << checkFile(state_, folder_, screen_, name, layout,
-                           endsLoad ? FindingKind::Error : FindingKind::Warning);
+    findings_ << checkFile(skin_, name, layout, endsLoad ? FindingKind::Error : FindingKind::Warning);
   }
 
-  SkinFolder folder_;
-  Screen screen_;
-  State state_;
+  void tellUntriedPictures() {
+    if (const int untried = skin_.pictures.untried())
+      warn(QString(),
+           QStringLiteral("all images together take too long to decode: %1 not tried").arg(untried));
+  }
+
+  CheckedSkin skin_;
   QSet<QString> names_;  ///< under which record files are read or written
   bool hasRecords_ = false;
   Findings findings_;
@@ -91,8 +96,8 @@ private:
 
 }  // namespace
 
-Findings checkSkin(const SkinFolder& folder, const Screen& screen) {
-  return SkinCheck(folder, screen).run();
+Findings checkSkin(const SkinFolder& folder, const Screen& screen, qint64 decoding) {
+  return SkinCheck(folder, screen, decoding).run();
 }
 
 }  // namespace veneerer

@@ -1,12 +1,14 @@
 // Looks for what is wrong or risky in a Skin's folder.
 #pragma once
 
+#include "images/picturetrials.h"
 #include "platform/skinfolder.h"
 #include "skintool/finding.h"
 
 namespace veneerer {
 
-/// Everything found in that folder, file by file. Nothing is written.
-Findings checkSkin(const SkinFolder& folder, const Screen& screen);
+/// Everything found in that folder, file by file. Nothing is written. So much work goes into trying to decode
+/// its pictures, see PictureTrials; a finding tells how many are beyond it.
+Findings checkSkin(const SkinFolder& folder, const Screen& screen, qint64 decoding = kTrialAllowance);
 
 }  // namespace veneerer

@@ -19,24 +19,23 @@ QString counted(const char* text, int count, const Layout& layout) {
   return QString::fromLatin1(text).arg(count).arg(layout.lineCount());
 }
 
-QString damageOf(const RawValue& value, const SkinFolder& folder, PictureStore& pictures) {
+QString damageOf(const RawValue& value, CheckedSkin& skin) {
   const QString damage = rowDamage(value);
   if (!damage.isEmpty() || !value.row->reference()) return damage;
-  return referenceDamage(folder, pictures, valueText(value.value));
+  return referenceDamage(skin.folder, skin.pictures, valueText(value.value));
 }
 
 }  // namespace
 
-Findings checkFile(State& state, const SkinFolder& folder, const Screen& screen, const QString& name,
-                   const Layout& layout, FindingKind failure) {
+Findings checkFile(CheckedSkin& skin, const QString& name, const Layout& layout, FindingKind failure) {
   Findings findings;
   const auto warn = [&](int line, const QString& text) {
     if (!text.isEmpty()) findings.append({FindingKind::Warning, name, line, text});
   };
-  Loading loading{state, folder, screen};
+  Loading loading{skin.state, skin.folder, skin.screen};
   QByteArray bytes;
   try {
-    const std::optional<QByteArray> content = recordFileIfThere(folder.file(name));
+    const std::optional<QByteArray> content = recordFileIfThere(skin.folder.file(name));
     if (!content) return {};
     bytes = *content;
     const int lines = lineCount(bytes);
@@ -49,7 +48,7 @@ Findings checkFile(State& state, const SkinFolder& folder, const Screen& screen,
   }
   if (bytes.startsWith(kByteOrderMark)) warn(1, QStringLiteral("a byte order mark counts as text"));
   for (const RawValue& value : rawValues(layout, loading.lines, bytes)) {
-    warn(value.line, damageOf(value, folder, state.pictures));
+    warn(value.line, damageOf(value, skin));
     // What follows a comma stands in the place of others.
     if (!value.endsLine) break;
   }

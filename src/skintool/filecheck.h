@@ -1,14 +1,22 @@
 // Looks for what is wrong or risky in one file of a Skin, line by line against its layout.
 #pragma once
 
+#include "images/picturetrials.h"
 #include "records/layout.h"
 #include "skintool/finding.h"
 
 namespace veneerer {
 
+/// A Skin that is being checked.
+struct CheckedSkin {
+  SkinFolder folder;
+  Screen screen;
+  State state;  ///< what was read so far
+  PictureTrials pictures;
+};
+
 /// Everything found in the file of that name; nothing when it isn't there. Where a load of it fails, the
 /// finding is of the kind given. The values are read into the state.
-Findings checkFile(State& state, const SkinFolder& folder, const Screen& screen, const QString& name,
-                   const Layout& layout, FindingKind failure);
+Findings checkFile(CheckedSkin& skin, const QString& name, const Layout& layout, FindingKind failure);
 
 }  // namespace veneerer

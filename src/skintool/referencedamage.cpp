@@ -35,7 +35,7 @@ QString missing(const SkinFolder& folder, const QString& reference) {
 
 }  // namespace
 
-QString referenceDamage(const SkinFolder& folder, PictureStore& pictures, const QString& reference) {
+QString referenceDamage(const SkinFolder& folder, PictureTrials& pictures, const QString& reference) {
   if (reference.isEmpty()) return {};
   const QString found = folder.resolve(reference);
   // The grab of the player's picture leaves such a name.
@@ -44,7 +44,7 @@ QString referenceDamage(const SkinFolder& folder, PictureStore& pictures, const 
   const QString said = QStringLiteral("the image \"%1\" ").arg(excerpt(reference, kLongestPath));
   if (path.isEmpty()) return missing(folder, reference);
   if (!folder.contains(path)) return said + QStringLiteral("lies outside the Skin's folder");
-  if (pictures.load(path).image().isNull()) return said + QStringLiteral("can't be decoded");
+  if (pictures.of(path) == PictureTrial::Broken) return said + QStringLiteral("can't be decoded");
   if (isFullPath)
     return said + QStringLiteral("is named by its full path, which doesn't travel with the Skin");
   return {};

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QImageWriter>
 #include <QTemporaryDir>
 
@@ -78,9 +79,15 @@ TEST_F(Decoding, APictureOfTooManyPixelsIsRefusedHoweverItIsPacked) {
   EXPECT_EQ(cost.size, QSize(8000, 6200));
 }
 
-TEST_F(Decoding, TheCostOfAJpegCountsEveryScan) {
-  EXPECT_EQ(costOfPicture(write(test::scannedJpeg(50))).walked, 50 * 64);
-  EXPECT_EQ(costOfPicture(write(test::flatPng({30, 20}))).walked, 600);
+TEST_F(Decoding, TheCostCountsBytesPixelsAndScans) {
+  const auto work = [&](const QByteArray& bytes) { return costOfPicture(write(bytes)).work - bytes.size(); };
+  EXPECT_EQ(work(test::blinkingGif(30, 20)), 600);
+  EXPECT_EQ(work(test::flatPng({30, 20})), 600);
+  const QString deep = folder.filePath(QStringLiteral("deep.png"));
+  QImage(30, 20, QImage::Format_RGBA64).save(deep);
+  EXPECT_EQ(costOfPicture(deep).work - QFileInfo(deep).size(), 1200) << "16 bits for each part";
+  EXPECT_EQ(work(test::scannedJpeg(48)), 64 + 3 * 64);
+  EXPECT_EQ(work("no picture"), 0);
   EXPECT_FALSE(costOfPicture(write("no picture")).canBeDecoded);
 }
 

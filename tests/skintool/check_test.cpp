@@ -1,10 +1,13 @@
 // What the batch tool tells of a Skin.
+#include "skintool/check.h"
+
 #include <sys/stat.h>
 
 #include <QImage>
 
 #include "skintool/batchrun.h"
 #include "skintool/textdamage.h"
+#include "support/hostilepictures.h"
 
 namespace veneerer {
 namespace {
@@ -135,6 +138,19 @@ TEST_F(Check, TellsOfImagesWhyTheyWontBeShown) {
     const QByteArray finding = c.said.isEmpty() ? QByteArray() : "filter.ini:1: warning: " + c.said + '\n';
     EXPECT_EQ(out.toStdString(), finding.toStdString());
   }
+}
+
+TEST_F(Check, TellsHowManyImagesItDidntTry) {
+  for (const char* name : {"a", "b", "c"})
+    write(file("images/") + QString::fromLatin1(name), test::flatPng({100, 100}));
+  change("filter.ini", 1, "\\images\\a");
+  change("skin.ini", 4, "\\images\\b");
+  change("skin.ini", 6, "\\images\\c");
+  Findings findings = checkSkin(SkinFolder(skin()), Screen(), 31'000);
+  EXPECT_EQ(findings.size(), 0);
+  findings = checkSkin(SkinFolder(skin()), Screen(), 25'000);
+  ASSERT_EQ(findings.size(), 1);
+  EXPECT_EQ(findings[0].text, QStringLiteral("all images together take too long to decode: 1 not tried"));
 }
 
 TEST_F(Check, TellsOfFilesThatNoLoadReads) {
