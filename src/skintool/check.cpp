@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "design/design.h"
+#include "painting/canvassize.h"
 #include "records/coverfile.h"
 #include "records/layoutreader.h"
 #include "records/recorderror.h"
@@ -31,6 +32,7 @@ public:
     // A load lists plain files only; anything else of such a name stands in a save's way.
     for (const QString& name : coverNames())
       check(name, coverFile(skin_.state, name, lastCoverOf(bytesOf(name))), isFile(name));
+    checkCanvasSize();
     tellUntriedPictures();
     // A routine without effect names it.
     names_ << QStringLiteral("back.ini");
@@ -80,6 +82,13 @@ private:
   void check(const QString& name, const Layout& layout, bool isLoaded) {
     const bool endsLoad = isLoaded && layout.onFailure() == OnFailure::Fatal;
     findings_ << checkFile(skin_, name, layout, endsLoad ? FindingKind::Error : FindingKind::Warning);
+  }
+
+  void checkCanvasSize() {
+    const CanvasSize size = canvasSize(skin_.state.form1, skin_.screen);
+    if (!size.isCut) return;
+    const QString text = QStringLiteral("of so large a canvas only %1 x %2 pixels are drawn");
+    warn(QStringLiteral("resolution.ini"), text.arg(size.pixels.width()).arg(size.pixels.height()));
   }
 
   void tellUntriedPictures() {

@@ -1,25 +1,21 @@
 #include "skintool/render.h"
 
 #include <QPainter>
-#include <algorithm>
 #include <future>
 
 #include "canvas/screens.h"
 #include "images/pictureencoding.h"
 #include "painting/canvaspainter.h"
+#include "painting/canvassize.h"
+#include "records/recorderror.h"
 #include "records/writefiles.h"
 
 namespace veneerer {
 
 namespace {
 
-constexpr int kMostPixels = 16384;
 // Of 0 to 100 in Qt's terms: the fastest compression that still shrinks.
 constexpr int kFastPng = 80;
-
-int pixels(float twips, double twipsPerPixel) {
-  return static_cast<int>(std::clamp(std::round(twips / twipsPerPixel), 1.0, double(kMostPixels)));
-}
 
 QString fileName(int entry, const QString& name) {
   return QStringLiteral("%1 %2.png").arg(entry, 2, 10, QLatin1Char('0')).arg(name);
@@ -57,8 +53,7 @@ QImage renderScreen(Designer& designer, CanvasPainter& painter, int entry) {
   State& state = designer.state();
   const Screen& screen = designer.platform().screen;
   state.form6.Combo6->select(entry);
-  QImage image(pixels(state.form1.width(), screen.twipsPerPixelX()),
-               pixels(state.form1.height(), screen.twipsPerPixelY()), QImage::Format_RGB32);
+  QImage image(canvasSize(state.form1, screen).pixels, QImage::Format_RGB32);
   image.fill(Qt::black);
   QPainter canvas(&image);
   painter.paint(canvas, state.form1, image.rect(), 1 / screen.twipsPerPixelX(), 1 / screen.twipsPerPixelY());

@@ -9,7 +9,7 @@
 namespace veneerer {
 
 /// Paints the screen of an Edit Section entry as the canvas shows it when the entry is chosen. The picture
-/// has the size of the canvas window; a side beyond 16384 pixels is cut.
+/// has the size of canvasSize().
 QImage renderScreen(Designer& designer, class CanvasPainter& painter, int entry);
 
 /// Writes one PNG per entry, "00 Main Screen.png" and so on, into the folder, which is made when missing;

@@ -8,20 +8,14 @@
 #include <cmath>
 
 #include "canvas/sections.h"
+#include "painting/canvassize.h"
 
 namespace veneerer {
 
 namespace {
 
-// Pixels; a hostile Skin can name any size.
-constexpr double kLargestSide = 16000;
-
 // How far around its line the outline is repainted, pixels.
 constexpr int kOutlineReach = 2;
-
-int sidePixels(double pixels) {
-  return std::isnan(pixels) ? 1 : static_cast<int>(std::clamp(std::ceil(pixels), 1.0, kLargestSide));
-}
 
 MouseButton buttonOf(const QMouseEvent& event) {
   switch (event.button()) {
@@ -61,8 +55,7 @@ CanvasWidget::CanvasWidget(const Ui& ui)
 }
 
 QSize CanvasWidget::sizeHint() const {
-  return QSize(sidePixels(state_.form1.width() * pixelsPerTwipX_),
-               sidePixels(state_.form1.height() * pixelsPerTwipY_));
+  return canvasSize(state_.form1, hands_.screen()).pixels;
 }
 
 void CanvasWidget::changed(const Change& change) {

@@ -20,7 +20,7 @@ class CanvasWidget : public QWidget {
 public:
   explicit CanvasWidget(const Ui& ui);
 
-  /// The canvas window's width and height in pixels, within what a screen could ever show.
+  /// canvasSize()
   QSize sizeHint() const override;
 
 Q_SIGNALS:

@@ -140,6 +140,17 @@ TEST_F(Check, TellsOfImagesWhyTheyWontBeShown) {
   }
 }
 
+TEST_F(Check, TellsOfACanvasThatIsTooLargeToBeDrawn) {
+  change("resolution.ini", 4, " 16380 ");
+  change("resolution.ini", 5, " 3000 ");
+  check();
+  EXPECT_EQ(out.toStdString(), "");
+  change("resolution.ini", 5, " 4000 ");
+  check();
+  EXPECT_EQ(out.toStdString(),
+            "resolution.ini: warning: of so large a canvas only 16384 x 3072 pixels are drawn\n");
+}
+
 TEST_F(Check, TellsHowManyImagesItDidntTry) {
   for (const char* name : {"a", "b", "c"})
     write(file("images/") + QString::fromLatin1(name), test::flatPng({100, 100}));
