@@ -14,8 +14,9 @@ double radiusOf(const Button& button) {
   return buttonStyle(button.buttonStyle()).radius;
 }
 
-bool isCut(const Button& button) {
-  return button.isCustomShaped() && !button.picture().image().isNull();
+// What cuts a face of that size, in pixels; null for a face that nothing cuts.
+QImage cutter(const Button& button, QSizeF face) {
+  return button.isCustomShaped() ? button.picture().shown(face.toSize()) : QImage();
 }
 
 // Nearly every caption of a rounded rectangle is, which spares its curves.
@@ -29,7 +30,7 @@ bool isClearOfCorners(const QRectF& inner, const QRectF& face, double radius) {
 bool isWithinOutline(const Button& button, const QRectF& face, const QRectF& ink) {
   const QRectF shown = ink & face;
   if (shown.isEmpty()) return true;
-  if (isCut(button)) return false;
+  if (!cutter(button, face.size()).isNull()) return false;
   const double radius = radiusOf(button);
   if (isRectangle(button.buttonShape()) && isClearOfCorners(shown, face, radius)) return true;
   const QPainterPath outline = outlineOf(button.buttonShape(), face.size(), radius);
@@ -49,10 +50,8 @@ QImage outlineMask(QImage face) {
 
 bool isSeenAt(const Button& button, QSizeF face, QPointF at, CutOuts& cutOuts) {
   const int shape = button.buttonShape();
-  if (isCut(button)) {
-    const QImage& picture = button.picture().image();
+  if (const QImage picture = cutter(button, face); !picture.isNull())
     return isSeenAt(cutOuts.of(picture), cutOutRect(shape, picture.size(), face, 1), at);
-  }
   const double radius = radiusOf(button);
   return (radius == 0 && isRectangle(shape)) || outlineOf(shape, face, radius).contains(at);
 }

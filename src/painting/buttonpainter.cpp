@@ -150,7 +150,7 @@ QImage ButtonPainter::paintFace(const Task& task) {
     task.painter.fillRect(task.clip, task.back());
     return {};
   }
-  const QImage picture = coversFace(task.button) ? task.button.picture().image() : QImage();
+  const QImage picture = coversFace(task.button) ? task.button.picture().shown(size) : QImage();
   const QImage face = faces_.face(task.look(size, picture), picture);
   drawWithin(task.painter, task.rect, face, task.clip);
   return face;
@@ -169,7 +169,7 @@ ButtonPainter::Contents ButtonPainter::layOut(const Task& task) {
   const Button& button = task.button;
   Contents made;
   made.room = contentsRect(button, task.rect);
-  if (!coversFace(button)) made.picture = button.picture().image();
+  if (!coversFace(button)) made.picture = button.picture().shown(QSize(1, 1));
   QSizeF picture;
   if (!made.picture.isNull())
     picture = smallPictureSize(static_cast<int>(button.pictureSize()), made.picture.size(), made.room.size());

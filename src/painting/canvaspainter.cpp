@@ -39,7 +39,7 @@ void CanvasPainter::paint(QPainter& painter, const Form1& form, const QRect& exp
   painter.setClipRect(exposed, Qt::IntersectClip);
   begin(painter, pixelsPerTwipX, pixelsPerTwipY);
   painter.fillRect(exposed, form.backColor().toQColor());
-  paintNatural(painter, form.picture().image(), QPointF(), exposed);
+  paintNatural(painter, form.picture().shown(), QPointF(), exposed);
   paintChildren(painter, form, QPointF(), exposed);
   painter.restore();
 }
@@ -113,17 +113,16 @@ void CanvasPainter::paintPictureBox(QPainter& painter, const PictureBox& box, co
                                     const QRectF& clip) {
   const QRectF shown = rect & clip;
   painter.fillRect(shown, box.backColor().toQColor());
-  paintNatural(painter, box.picture().image(), rect.topLeft(), shown);
+  paintNatural(painter, box.picture().shown(), rect.topLeft(), shown);
   if (box.as<std::int32_t>(Property::BorderStyle) == 1) paintBorder(painter, rect, clip);
 }
 
 void CanvasPainter::paintImageBox(QPainter& painter, const ImageBox& box, const QRectF& rect,
                                   const QRectF& clip) {
-  const QImage& image = box.picture().image();
   if (box.as<bool>(Property::Stretch))
-    paintStretched(painter, image, rect, clip);
+    paintStretched(painter, box.picture(), rect, clip);
   else
-    paintNatural(painter, image, rect.topLeft(), rect & clip);
+    paintNatural(painter, box.picture().shown(), rect.topLeft(), rect & clip);
 }
 
 void CanvasPainter::paintFrame(QPainter& painter, const AnimatedFrame& frame, const QRectF& rect,
@@ -131,23 +130,24 @@ void CanvasPainter::paintFrame(QPainter& painter, const AnimatedFrame& frame, co
   // A running frame is shown once, so it isn't worth a scaled copy of its own.
   const QImage running = frames_ ? frames_(frame) : QImage();
   if (running.isNull())
-    paintStretched(painter, frame.picture().image(), rect, clip);
+    paintStretched(painter, frame.picture(), rect, clip);
   else
     drawWithin(painter, rect, running, clip);
 }
 
 void CanvasPainter::paintAlphaImage(QPainter& painter, const AlphaImage& element, const QRectF& rect,
                                     const QRectF& clip) {
-  const QImage& image = element.picture().image();
-  if (!image.isNull()) paintStretched(painter, image, fitted(image.size(), rect), clip);
+  const QSize size = element.picture().shown().size();
+  if (!size.isEmpty()) paintStretched(painter, element.picture(), fitted(size, rect), clip);
 }
 
-void CanvasPainter::paintStretched(QPainter& painter, const QImage& image, const QRectF& rect,
+void CanvasPainter::paintStretched(QPainter& painter, const Picture& picture, const QRectF& rect,
                                    const QRectF& clip) {
-  if (image.isNull()) return;
   const QSizeF size = rect.size() * scale_.device;
   // Sizes are within reach of 32 bits: pixelRect and the device scale see to that.
   const QSize device(qRound(size.width()), qRound(size.height()));
+  const QImage image = picture.shown(device);
+  if (image.isNull()) return;
   drawWithin(painter, rect, isKeepable(device) ? images_.scaled(image, device) : image, clip);
 }
 

@@ -73,7 +73,7 @@ private:
   void paintImageBox(QPainter& painter, const ImageBox& box, const QRectF& rect, const QRectF& clip);
   void paintFrame(QPainter& painter, const AnimatedFrame& frame, const QRectF& rect, const QRectF& clip);
   void paintAlphaImage(QPainter& painter, const AlphaImage& image, const QRectF& rect, const QRectF& clip);
-  void paintStretched(QPainter& painter, const QImage& image, const QRectF& rect, const QRectF& clip);
+  void paintStretched(QPainter& painter, const Picture& picture, const QRectF& rect, const QRectF& clip);
 };
 
 }  // namespace veneerer

@@ -65,9 +65,9 @@ bool HitTest::meets(const Element& element, double x, double y) const {
     case Kind::Button:
       return isSeenAt(cast<Button>(element), rect.size(), at, cutOuts_);
     case Kind::AnimatedFrame:
-      return isSeenAt(element.as<Picture>(Property::Picture).image(), rect, at);
+      return isSeenAt(element.as<Picture>(Property::Picture).shown(), rect, at);
     case Kind::AlphaImage: {
-      const QImage& image = element.as<Picture>(Property::Picture).image();
+      const QImage image = element.as<Picture>(Property::Picture).shown();
       return !image.isNull() && isSeenAt(image, fitted(image.size(), rect), at);
     }
     default:

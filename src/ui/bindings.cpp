@@ -237,6 +237,10 @@ void bindPainted(const Ui& ui, Element& element, QAbstractButton& widget) {
   widget.setFocusPolicy(Qt::TabFocus);
   widget.setCursor(Qt::PointingHandCursor);
   new PaintedBinding(ui, element, widget);
+  if (!element.has(Property::Picture)) return;
+  QObject::connect(&ui.pictures, &PictureFetcher::fetched, &widget, [&](const Picture& picture) {
+    if (element.as<Picture>(Property::Picture) == picture) widget.update();
+  });
 }
 
 QString plainToolTip(const QString& text) {

@@ -14,12 +14,14 @@
 #include "ui/binding.h"
 #include "ui/controls.h"
 #include "ui/operator.h"
+#include "ui/picturefetcher.h"
 
 namespace veneerer {
 
 /// What every window is made with.
 struct Ui {
   Operator& hands;
+  PictureFetcher& pictures;
 };
 
 // The caption of a window's control shows "&&" as "&". Element captions are never rich text.
@@ -38,8 +40,8 @@ QRadioButton* makeOption(const Ui& ui, OptionButton& element);
 QPushButton* makeCommand(const Ui& ui, CommandButton& element);
 QLabel* makeCaption(const Ui& ui, Label& element);
 
-/// For a control that paints its element itself: it is painted anew after each change, takes the focus by the
-/// tabulator, and a click on it is the click event of the element.
+/// For a control that paints its element itself: it is painted anew after each change and when its picture
+/// has been fetched, takes the focus by the tabulator, and a click on it is the click event of the element.
 void bindPainted(const Ui& ui, Element& element, QAbstractButton& widget);
 
 /// A text as it stands where a widget would otherwise take it for rich text.

@@ -52,6 +52,7 @@ CanvasWidget::CanvasWidget(const Ui& ui)
   setMouseTracking(true);
   setFocusPolicy(Qt::ClickFocus);
   connect(&hands_, &Operator::acted, this, &CanvasWidget::scheduleRepaint);
+  connect(&ui.pictures, &PictureFetcher::fetched, this, &CanvasWidget::pictureFetched);
 }
 
 QSize CanvasWidget::sizeHint() const {
@@ -69,6 +70,17 @@ void CanvasWidget::windowChanged(Property property) {
   dirty_.addAll();
   scheduleRepaint();
   if (property == Property::Width || property == Property::Height) Q_EMIT resized();
+}
+
+void CanvasWidget::pictureFetched(const Picture& picture) {
+  const auto shows = [&](const Element& element) {
+    return element.has(Property::Picture) && element.as<Picture>(Property::Picture) == picture;
+  };
+  if (shows(state_.form1)) dirty_.addAll();
+  for (const Family* family : state_.form1.families())
+    for (const Element* element : family->members())
+      if (shows(*element) && isShown(*element)) dirty_.add(dirty_.pixelsOf(windowRect(*element)));
+  scheduleRepaint();
 }
 
 void CanvasWidget::scheduleRepaint() {

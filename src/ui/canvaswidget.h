@@ -41,6 +41,7 @@ private:
   void changed(const Change& change);
   void windowChanged(Property property);
   void repaintElement(const Element& element);
+  void pictureFetched(const Picture& picture);
   void scheduleRepaint();
   void repaintDirty();
   const Element* outlined() const;

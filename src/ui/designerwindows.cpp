@@ -41,7 +41,8 @@ QString mainTitle(QString skin, const QString& caption) {
 
 DesignerWindows::DesignerWindows(Designer& designer)
     : hands_(designer),
-      ui_{hands_},
+      pictures_(hands_),
+      ui_{hands_, pictures_},
       splash_(ui_),
       chooser_(ui_),
       canvas_(ui_),

@@ -24,6 +24,7 @@ private:
   void placeAll();
 
   Operator hands_;
+  PictureFetcher pictures_;
   Ui ui_;
   SplashWindow splash_;
   ChooserWindow chooser_;

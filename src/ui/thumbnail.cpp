@@ -1,8 +1,8 @@
 #include "ui/thumbnail.h"
 
 #include <QPainter>
-#include <QtConcurrentRun>
 
+#include "painting/scaledimages.h"
 #include "ui/frames.h"
 
 namespace veneerer {
@@ -11,16 +11,9 @@ namespace {
 
 constexpr QSize kThumbnail(100, 60);
 
-QImage scaledImage(const Picture& picture, QSize largest) {
-  const QImage& image = picture.image();
-  if (image.isNull()) return QImage();
-  const QSize size = image.size().scaled(largest, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
-  return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
 }  // namespace
 
-Thumbnail::Thumbnail(const Ui& ui, Element& element) : element_(element) {
+Thumbnail::Thumbnail(const Ui& ui, Element& element) : element_(element), pictures_(ui.pictures) {
   bindPainted(ui, element, *this);
   connect(&watcher_, &QFutureWatcherBase::finished, this, &Thumbnail::fetched);
 }
@@ -46,9 +39,9 @@ void Thumbnail::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), palette().color(picture().isNull() ? QPalette::Base : QPalette::Mid));
   if (shownId_ == picture().id() && !shown_.isNull()) {
-    QRectF target(QPointF(), QSizeF(shown_.size()) / devicePixelRatioF());
-    target.moveCenter(QRectF(rect()).center());
-    painter.drawImage(target, shown_);
+    const QSizeF room = QSizeF(fetchedSize_) / devicePixelRatioF();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(fitted(shown_.size(), centred(room, rect())), shown_);
   } else if (picture().isNull()) {
     painter.setPen(palette().color(QPalette::Text));
     painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("No picture"));
@@ -60,7 +53,7 @@ void Thumbnail::fetch() {
   fetchedId_ = picture().id();
   fetchedSize_ = devicePixels();
   if (picture().isNull()) return;
-  watcher_.setFuture(QtConcurrent::run(scaledImage, picture(), fetchedSize_));
+  watcher_.setFuture(pictures_.thumbnail(picture(), fetchedSize_));
 }
 
 void Thumbnail::fetched() {

@@ -9,8 +9,9 @@
 
 namespace veneerer {
 
-/// Shows a picture in its proportions. Pictures are decoded and scaled on another thread, at the first sight
-/// of the thumbnail: nobody waits for them. A click is the click event of the element.
+/// Shows a picture in its proportions. Pictures are decoded in the thumbnail's size on another thread, at its
+/// first sight: nobody waits for them, and nothing else is kept of them. A click is the click event of the
+/// element.
 class Thumbnail : public QAbstractButton {
   Q_OBJECT
 
@@ -31,8 +32,9 @@ private:
   void fetched();
 
   Element& element_;
+  PictureFetcher& pictures_;
   QFutureWatcher<QImage> watcher_;
-  QImage shown_;            ///< scaled, null while nothing can be shown
+  QImage shown_;            ///< no larger than the thumbnail, null while nothing can be shown
   quintptr shownId_ = 0;    ///< the picture that shown_ was made of
   quintptr fetchedId_ = 0;  ///< the picture that was asked for last
   QSize fetchedSize_;       ///< and in which size, device pixels

@@ -1,0 +1,47 @@
+// Decodes pictures while the windows stay alive.
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QFuture>
+#include <QObject>
+#include <QSet>
+#include <QThreadPool>
+
+#include "ui/operator.h"
+
+namespace veneerer {
+
+/// What a window is to show and isn't decoded yet is decoded on another thread. The interface waits for it as
+/// long as a frame lasts, for all pictures of one pass through its loop together; what takes longer is told
+/// when it is there. One thread does it all, so that only one picture at a time takes a decoder's memory.
+class PictureFetcher : public QObject {
+  Q_OBJECT
+
+public:
+  /// Fetches for the pictures of the operator's state from now on, which must outlive the fetcher.
+  explicit PictureFetcher(Operator& hands);
+  ~PictureFetcher() override;
+
+  /// Picture::thumbnail on the other thread, behind all that is to be shown at full size.
+  QFuture<QImage> thumbnail(const Picture& picture, QSize within);
+
+Q_SIGNALS:
+  /// A picture that was painted without its pixels has them now.
+  void fetched(const veneerer::Picture& picture);
+
+private:
+  void fetch(const Picture& picture);
+  int patience();
+  void arrived(const Picture& picture);
+
+  State& state_;
+  Attachment watching_;
+  QDeadlineTimer deadline_;
+  bool isWaiting_ = false;  ///< the deadline counts for this pass through the loop
+  QList<Picture> asked_;    ///< under way
+  QSet<quintptr> late_;     ///< of these, what was painted without
+  QList<Picture> seen_;     ///< has arrived since the last change of any element
+  QThreadPool pool_;
+};
+
+}  // namespace veneerer
