@@ -23,13 +23,17 @@ QRectF pictureRect(const FaceLook& look, QSize picture) {
   return look.pictureSize > kFirstCoveringSize ? fitted(picture, all) : all;
 }
 
+QRect drawnPart(const FaceLook& look) {
+  return look.part.isNull() ? QRect(QPoint(), look.size) : look.part;
+}
+
 // Scaled ahead of painting: a painter's own scaling is coarse when it makes much smaller.
 QImage atSize(const QImage& image, QSizeF size) {
   return image.scaled(size.toSize().expandedTo(QSize(1, 1)), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 QImage emptyFace(const FaceLook& look) {
-  QImage face(look.size, QImage::Format_ARGB32_Premultiplied);
+  QImage face(drawnPart(look).size(), QImage::Format_ARGB32_Premultiplied);
   face.fill(Qt::transparent);
   return face;
 }
@@ -53,18 +57,25 @@ QBrush faceBrush(const FaceLook& look) {
 QImage plainBase(const FaceLook& look, double radius) {
   QImage face = emptyFace(look);
   QPainter painter(&face);
+  painter.translate(-drawnPart(look).topLeft());
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillPath(outlineOf(look.shape, look.size, radius), faceBrush(look));
   return face;
 }
 
-QImage cutBase(const FaceLook& look, const QImage& cut, QSize pictureSize) {
-  const QRectF place = cutOutRect(look.shape, pictureSize, look.size, look.scale);
+// The picture over that place of an otherwise empty face. A face that is drawn in parts is so large that its
+// picture isn't made much smaller, and each part would scale all of it.
+QImage pictureBase(const FaceLook& look, const QImage& picture, const QRectF& place) {
   QImage face = emptyFace(look);
   QPainter painter(&face);
+  painter.translate(-drawnPart(look).topLeft());
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.drawImage(place, atSize(cut, place.size()));
+  painter.drawImage(place, look.part.isNull() ? atSize(picture, place.size()) : picture);
   return face;
+}
+
+FaceCanvas canvasOf(const FaceLook& look, const QImage& base) {
+  return FaceCanvas(base, look.scale, drawnPart(look), look.size);
 }
 
 // Where a picture covers the style's shading, the picture itself tells what the pointer does.
@@ -85,17 +96,23 @@ QImage finished(FaceCanvas canvas, const FaceLook& look) {
 }
 
 QImage drawCut(const FaceLook& look, const QImage& cut, QSize pictureSize) {
-  return finished(FaceCanvas(told(cutBase(look, cut, pictureSize), look), look.scale), look);
+  const QRectF place = cutOutRect(look.shape, pictureSize, look.size, look.scale);
+  return finished(canvasOf(look, told(pictureBase(look, cut, place), look)), look);
+}
+
+void drawOver(FaceCanvas& canvas, const FaceLook& look, const QImage& picture) {
+  const QRectF place = pictureRect(look, picture.size());
+  if (look.part.isNull())
+    canvas.draw(told(atSize(picture, place.size()), look), place);
+  else
+    canvas.draw(told(pictureBase(look, picture, place), look), look.part);
 }
 
 QImage drawPlain(const FaceLook& look, const QImage& picture) {
   const ButtonStyle& style = buttonStyle(look.style);
-  FaceCanvas canvas(plainBase(look, style.radius * look.scale), look.scale);
+  FaceCanvas canvas = canvasOf(look, plainBase(look, style.radius * look.scale));
   style.shade(canvas, {look.hover, look.pressed});
-  if (!picture.isNull()) {
-    const QRectF place = pictureRect(look, picture.size());
-    canvas.draw(told(atSize(picture, place.size()), look), place);
-  }
+  if (!picture.isNull()) drawOver(canvas, look, picture);
   return finished(std::move(canvas), look);
 }
 
@@ -105,6 +122,15 @@ size_t qHash(const FaceLook& look, size_t seed) {
   const int flags = (look.hover ? 1 : 0) | (look.pressed ? 2 : 0) | (look.enabled ? 4 : 0);
   return qHashMulti(seed, look.size.width(), look.size.height(), look.scale, look.shape, look.style,
                     look.gradient, look.back, look.second, look.pictureSize, look.pictureKey, flags);
+}
+
+QRect partOfFace(const FaceLook& look, const QRectF& seen) {
+  const QRect whole(QPoint(), look.size);
+  const qint64 area = static_cast<qint64>(whole.width()) * whole.height();
+  const bool isWorthAll = look.pictureKey != 0 || seen.width() * seen.height() * 4 >= double(area) * 3;
+  if (area <= kSmallFace || (area <= kLargestKeptFace && isWorthAll)) return {};
+  const int reach = FaceCanvas::edgeReach(look.scale);
+  return seen.toAlignedRect().adjusted(-reach, -reach, reach, reach) & whole;
 }
 
 bool isCutOut(const FaceLook& look) {
@@ -118,9 +144,10 @@ QImage drawFace(const FaceLook& look, const QImage& picture, QSize pictureSize) 
 ButtonFaces::ButtonFaces(CutOuts& cutOuts) : made_(kCachedKiB), cutOuts_(cutOuts) {}
 
 QImage ButtonFaces::face(const FaceLook& look, const QImage& picture) {
-  if (const QImage* known = made_.object(look)) return *known;
+  const bool isKept = look.part.isNull();
+  if (const QImage* known = isKept ? made_.object(look) : nullptr) return *known;
   const QImage made = drawFace(look, isCutOut(look) ? cutOuts_.of(picture) : picture, picture.size());
-  made_.insert(look, new QImage(made), kibOf(made));
+  if (isKept) made_.insert(look, new QImage(made), kibOf(made));
   return made;
 }
 

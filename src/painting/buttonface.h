@@ -18,6 +18,7 @@ inline constexpr int kFirstCoveringSize = 3;
 /// All that a face depends on, numbers out of range included. It is the key under which a face is kept.
 struct FaceLook {
   QSize size;        ///< device pixels
+  QRect part = {};   ///< of the face, what is to be drawn; null for all of it
   double scale = 1;  ///< device pixels per pixel
   int shape = 0;     ///< 0 to 8, others count as 0
   int style = 0;     ///< 0 to 7, others count as 0
@@ -37,12 +38,21 @@ struct FaceLook {
 
 size_t qHash(const FaceLook& look, size_t seed = 0);
 
+/// The largest face that is drawn as a whole and kept, device pixels. Of a larger one only what is seen is
+/// drawn, each time anew; and of one above the other bound that shows no picture, where little of it is seen.
+inline constexpr qint64 kLargestKeptFace = 1024LL * 1024;
+inline constexpr qint64 kSmallFace = 32LL * 1024;
+
+/// The part of a face that has to be drawn for those device pixels of it to be seen; null for one that is
+/// drawn as a whole.
+QRect partOfFace(const FaceLook& look, const QRectF& seen);
+
 /// True for a face that is cut from its picture.
 bool isCutOut(const FaceLook& look);
 
-/// Draws a face of a keepable size; its alpha is the button's outline. The custom shapes are cut from the
-/// picture, see cutOutRect(); without one they are rectangles. The picture comes with its own size and, for a
-/// cut face, as cutOut() has left it.
+/// Draws a face of a keepable size, or its part; its alpha is the button's outline. The custom shapes are cut
+/// from the picture, see cutOutRect(); without one they are rectangles. The picture comes with its own size
+/// and, for a cut face, as cutOut() has left it.
 QImage drawFace(const FaceLook& look, const QImage& picture, QSize pictureSize);
 
 class ButtonFaces {
@@ -50,6 +60,8 @@ public:
   /// The cut-outs must outlive the faces.
   explicit ButtonFaces(CutOuts& cutOuts);
 
+  /// Whether the face of that look is at hand as a whole.
+  bool holds(const FaceLook& look) const { return made_.contains(look); }
   /// The face of that look; the picture is the one whose key the look holds, null for none.
   QImage face(const FaceLook& look, const QImage& picture);
 

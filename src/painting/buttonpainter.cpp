@@ -111,6 +111,12 @@ FaceLook ButtonPainter::Task::look(QSize size, const QImage& picture) const {
   return made;
 }
 
+/// What was painted of a face: all of it, or the part that is seen of a large one.
+struct ButtonPainter::PaintedFace {
+  QImage image;  ///< null for a face that is too large for that
+  QRectF place;  ///< pixels
+};
+
 /// What stands on a face, laid out.
 struct ButtonPainter::Contents {
   QRectF room;
@@ -135,25 +141,30 @@ void ButtonPainter::paint(QPainter& painter, const Button& button, const QRectF&
     task.isDown = false;
     task.nudge = 0;
   }
-  const QImage face = paintFace(task);
+  const PaintedFace face = paintFace(task);
   const Contents contents = layOut(task);
-  if (face.isNull() || isWithinOutline(button, task.rect, contents.ink()))
+  if (face.image.isNull() || isWithinOutline(button, task.rect, contents.ink()))
     paintContents(painter, task, contents);
   else
     paintWithinOutline(task, contents, face);
 }
 
-// Returns the painted face, null for one that is too large to keep.
-QImage ButtonPainter::paintFace(const Task& task) {
+ButtonPainter::PaintedFace ButtonPainter::paintFace(const Task& task) {
   const QSize size = (task.rect.size() * task.scale.device).toSize();
   if (!isKeepable(size)) {
     task.painter.fillRect(task.clip, task.back());
     return {};
   }
   const QImage picture = coversFace(task.button) ? task.button.picture().shown(size) : QImage();
-  const QImage face = faces_.face(task.look(size, picture), picture);
-  drawWithin(task.painter, task.rect, face, task.clip);
-  return face;
+  FaceLook look = task.look(size, picture);
+  const QRectF& rect = task.rect;
+  const QTransform toFace = QTransform::fromTranslate(-rect.x(), -rect.y()) *
+                            QTransform::fromScale(size.width() / rect.width(), size.height() / rect.height());
+  if (!faces_.holds(look)) look.part = partOfFace(look, toFace.mapRect(task.clip));
+  const QRectF place = look.part.isNull() ? rect : toFace.inverted().mapRect(QRectF(look.part));
+  const QImage face = faces_.face(look, picture);
+  drawWithin(task.painter, place, face, task.clip);
+  return {face, place};
 }
 
 const LaidOutText* ButtonPainter::layOutCaption(const Task& task, QSizeF room) {
@@ -195,21 +206,21 @@ void ButtonPainter::paintContents(QPainter& painter, const Task& task, const Con
 }
 
 // Paints the contents on a layer of their own, which the outline then cuts.
-void ButtonPainter::paintWithinOutline(const Task& task, const Contents& contents, const QImage& face) {
-  const QImage outline = task.button.isCustomShaped() ? outlineMask(face) : face;
+void ButtonPainter::paintWithinOutline(const Task& task, const Contents& contents, const PaintedFace& face) {
+  const QImage outline = task.button.isCustomShaped() ? outlineMask(face.image) : face.image;
   QImage layer(outline.size(), QImage::Format_ARGB32_Premultiplied);
   layer.fill(Qt::transparent);
   {
     QPainter painter(&layer);
     painter.setRenderHints(task.painter.renderHints());
     painter.scale(task.scale.device, task.scale.device);
-    painter.translate(-task.rect.topLeft());
+    painter.translate(-face.place.topLeft());
     paintContents(painter, task, contents);
     painter.resetTransform();
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     painter.drawImage(0, 0, outline);
   }
-  drawWithin(task.painter, task.rect, layer, task.clip);
+  drawWithin(task.painter, face.place, layer, task.clip);
 }
 
 void ButtonPainter::paintSmallPicture(QPainter& painter, const Task& task, const Contents& contents) {

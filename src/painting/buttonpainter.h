@@ -34,16 +34,17 @@ public:
 private:
   struct Task;
   struct Contents;
+  struct PaintedFace;
 
   TextLayouts& texts_;
   ScaledImages& images_;
   ButtonFaces faces_;
 
-  QImage paintFace(const Task& task);
+  PaintedFace paintFace(const Task& task);
   Contents layOut(const Task& task);
   const LaidOutText* layOutCaption(const Task& task, QSizeF room);
   void paintContents(QPainter& painter, const Task& task, const Contents& contents);
-  void paintWithinOutline(const Task& task, const Contents& contents, const QImage& face);
+  void paintWithinOutline(const Task& task, const Contents& contents, const PaintedFace& face);
   void paintSmallPicture(QPainter& painter, const Task& task, const Contents& contents);
 };
 

@@ -13,9 +13,17 @@ class FaceCanvas {
 public:
   /// Begins with a face in its plain colours, cut to its outline: its alpha is the outline that all further
   /// paint keeps within. Premultiplied; its size is in device pixels, of which so many make one pixel.
-  FaceCanvas(const QImage& base, double devicePixelsPerPixel);
+  FaceCanvas(const QImage& base, double devicePixelsPerPixel)
+      : FaceCanvas(base, devicePixelsPerPixel, base.rect(), base.size()) {}
+  /// The same for a part of a face of that size: the base holds that part alone. Everything is placed as on
+  /// the whole face. Edges come out wrong along the sides of the part that are none of the face, as far as
+  /// edgeReach().
+  FaceCanvas(const QImage& base, double devicePixelsPerPixel, const QRect& part, QSize size);
 
-  QSize size() const { return face_.size(); }
+  /// How far edges reach into a face, device pixels.
+  static int edgeReach(double devicePixelsPerPixel);
+
+  QSize size() const { return size_; }
   /// A length in whole device pixels, at least one.
   int device(double pixels) const;
 
@@ -35,7 +43,11 @@ private:
   QImage outline_;
   QImage face_;
   double scale_;
+  QRect part_;
+  QSize size_;
+  bool hasEdges_;  ///< false within a face, far from its outline
 
+  void begin(QPainter& painter) const;
   QImage narrowed(int inset) const;
   void paintMasked(QImage band, const QColor& colour);
 };
