@@ -4,7 +4,7 @@
 
 #include "elements/colour.h"
 #include "painting/clipping.h"
-#include "painting/hittest.h"
+#include "painting/seenelements.h"
 
 namespace veneerer {
 
@@ -40,7 +40,8 @@ void CanvasPainter::paint(QPainter& painter, const Form1& form, const QRect& exp
   begin(painter, pixelsPerTwipX, pixelsPerTwipY);
   painter.fillRect(exposed, form.backColor().toQColor());
   paintNatural(painter, form.picture().shown(), QPointF(), exposed);
-  paintChildren(painter, form, QPointF(), exposed);
+  for (const SeenElement& seen : seenElements(form, exposed, scale_))
+    paintOne(painter, *seen.element, seen.rect, seen.clip);
   painter.restore();
 }
 
@@ -62,17 +63,6 @@ void CanvasPainter::paintButton(QPainter& painter, const Button& button, const Q
   begin(painter, pixelsPerTwip, pixelsPerTwip);
   buttons_.paint(painter, button, pixels, pixels, scale_, state);
   painter.restore();
-}
-
-void CanvasPainter::paintChildren(QPainter& painter, const Element& container, QPointF origin,
-                                  const QRectF& clip) {
-  for (const Element* child : container.children()) {
-    if (!child->isVisible()) continue;
-    const std::optional<QRectF> rect = pixelRect(*child, origin, scale_);
-    if (!rect || !rect->intersects(clip)) continue;
-    if (!isSeeThrough(*child)) paintOne(painter, *child, *rect, clip);
-    if (!child->children().empty()) paintChildren(painter, *child, rect->topLeft(), *rect & clip);
-  }
 }
 
 void CanvasPainter::paintOne(QPainter& painter, const Element& element, const QRectF& rect,

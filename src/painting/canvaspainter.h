@@ -66,7 +66,6 @@ private:
   PixelScale scale_;
 
   void begin(QPainter& painter, double pixelsPerTwipX, double pixelsPerTwipY);
-  void paintChildren(QPainter& painter, const Element& container, QPointF origin, const QRectF& clip);
   void paintOne(QPainter& painter, const Element& element, const QRectF& rect, const QRectF& clip);
   void paintLabel(QPainter& painter, const Label& label, const QRectF& rect, const QRectF& clip);
   void paintPictureBox(QPainter& painter, const PictureBox& box, const QRectF& rect, const QRectF& clip);

@@ -2,13 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "elements/button.h"
 #include "painting/buttonface.h"
 #include "painting/buttonstyle.h"
 #include "painting/customoutline.h"
 #include "painting/facecanvas.h"
+#include "support/pictures.h"
 
 namespace veneerer {
 namespace {
@@ -27,19 +27,6 @@ QImage blot() {
   return image;
 }
 
-int largestDifference(const QImage& one, const QImage& other) {
-  int largest = 0;
-  for (int y = 0; y < one.height(); ++y)
-    for (int x = 0; x < one.width(); ++x) {
-      const QRgb a = one.pixel(x, y);
-      const QRgb b = other.pixel(x, y);
-      for (const int d :
-           {qRed(a) - qRed(b), qGreen(a) - qGreen(b), qBlue(a) - qBlue(b), qAlpha(a) - qAlpha(b)})
-        largest = std::max(largest, std::abs(d));
-    }
-  return largest;
-}
-
 /// How far the face that is drawn in pieces is from the whole one, of 255.
 int seam(FaceLook look, const QImage& picture) {
   const QImage whole = drawFace(look, picture, kFace);
@@ -51,7 +38,7 @@ int seam(FaceLook look, const QImage& picture) {
       look.part = seen.adjusted(-reach, -reach, reach, reach) & QRect(QPoint(), kFace);
       const QImage piece = drawFace(look, picture, kFace);
       const QImage shown = piece.copy(seen.translated(-look.part.topLeft()));
-      largest = std::max(largest, largestDifference(shown, whole.copy(seen)));
+      largest = std::max(largest, test::largestDifference(shown, whole.copy(seen)));
     }
   return largest;
 }

@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QImage>
 #include <QString>
+#include <algorithm>
+#include <cstdlib>
 
 namespace veneerer::test {
 
@@ -17,6 +19,20 @@ inline void writePicture(const QString& path, int width, int height, const QColo
 inline void writeBytes(const QString& path, const QByteArray& bytes) {
   QFile file(path);
   if (file.open(QIODevice::WriteOnly)) file.write(bytes);
+}
+
+/// How far two pictures of one size are apart, of 255: at most, in any pixel and any part of its colour.
+inline int largestDifference(const QImage& one, const QImage& other) {
+  int largest = 0;
+  for (int y = 0; y < one.height(); ++y)
+    for (int x = 0; x < one.width(); ++x) {
+      const QRgb a = one.pixel(x, y);
+      const QRgb b = other.pixel(x, y);
+      for (const int d :
+           {qRed(a) - qRed(b), qGreen(a) - qGreen(b), qBlue(a) - qBlue(b), qAlpha(a) - qAlpha(b)})
+        largest = std::max(largest, std::abs(d));
+    }
+  return largest;
 }
 
 }  // namespace veneerer::test

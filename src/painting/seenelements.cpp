@@ -1,0 +1,118 @@
+#include "painting/seenelements.h"
+
+#include <QRegion>
+#include <algorithm>
+#include <cmath>
+
+#include "elements/button.h"
+#include "elements/label.h"
+#include "painting/buttonshape.h"
+#include "painting/buttonstyle.h"
+#include "painting/hittest.h"
+
+namespace veneerer {
+
+namespace {
+
+// Smaller elements hide too little to be worth the work, and are painted too quickly. Pixels.
+constexpr double kLarge = 160 * 160;
+
+// Beyond this many rectangles looking costs more than it spares.
+constexpr int kMostRectangles = 32;
+constexpr int kMostPieces = 6;
+
+bool isLarge(const QRectF& rect) {
+  return rect.width() * rect.height() >= kLarge;
+}
+
+// The part of a rectangular button's face that round corners leave full.
+QRectF fullPart(const Button& button, const QRectF& rect) {
+  if (button.isCustomShaped() || !isRectangle(button.buttonShape())) return {};
+  const double radius =
+      std::min({buttonStyle(button.buttonStyle()).radius, rect.width() / 2, rect.height() / 2});
+  const double corner = radius * (1 - std::sqrt(0.5));
+  return rect.adjusted(corner, corner, -corner, -corner);
+}
+
+/// The part of an element's place that shows nothing of what lies behind.
+QRectF opaquePart(const Element& element, const QRectF& rect) {
+  switch (element.kind()) {
+    case Kind::PictureBox:
+      return isSeeThrough(element) ? QRectF() : rect;
+    case Kind::Label:
+      return cast<Label>(element).isOpaque() ? rect : QRectF();
+    case Kind::Button:
+      return fullPart(cast<Button>(element), rect);
+    default:
+      return {};
+  }
+}
+
+// The pixels that the rectangle covers, but for what rounding did to twips.
+QRect coveredPixels(const QRectF& rect, double device) {
+  constexpr double kRounding = 1.0 / 64;
+  const auto first = [&](double at) { return static_cast<int>(std::ceil(at - kRounding)); };
+  const auto end = [&](double at) { return static_cast<int>(std::floor(at + kRounding)); };
+  const QRect covered(QPoint(first(rect.left()), first(rect.top())),
+                      QPoint(end(rect.right()), end(rect.bottom())) - QPoint(1, 1));
+  // Where a pixel is no whole number of the device's, the outermost ones are mixed with what lies behind.
+  return device == std::floor(device) ? covered : covered.adjusted(1, 1, -1, -1);
+}
+
+/// Looks from the front to the back.
+class Look {
+public:
+  Look(const QRectF& exposed, const PixelScale& scale) : open_(exposed.toAlignedRect()), scale_(scale) {}
+
+  void at(const Element& container, QPointF origin, const QRectF& clip) {
+    const std::vector<Element*>& children = container.children();
+    for (auto child = children.rbegin(); child != children.rend(); ++child) {
+      if (!(*child)->isVisible()) continue;
+      const std::optional<QRectF> rect = pixelRect(**child, origin, scale_);
+      if (!rect || !rect->intersects(clip)) continue;
+      const QRectF inner = *rect & clip;
+      if (isAnythingHidden_ && !open_.intersects(inner.toAlignedRect())) continue;
+      if (!(*child)->children().empty()) at(**child, rect->topLeft(), inner);
+      if (isSeeThrough(**child)) continue;
+      see({*child, *rect, clip}, inner);
+      hideBehind(**child, *rect, clip);
+    }
+  }
+
+  std::vector<SeenElement> backToFront() && {
+    std::ranges::reverse(seen_);
+    return std::move(seen_);
+  }
+
+private:
+  void see(const SeenElement& whole, const QRectF& inner) {
+    if (!isAnythingHidden_ || !isLarge(inner)) return seen_.push_back(whole);
+    QRegion left = open_ & inner.toAlignedRect();
+    if (left.rectCount() > kMostPieces) left = left.boundingRect();
+    for (const QRect& piece : left) seen_.push_back({whole.element, whole.rect, whole.clip & piece});
+  }
+
+  void hideBehind(const Element& element, const QRectF& rect, const QRectF& clip) {
+    if (!isLarge(rect & clip) || open_.rectCount() > kMostRectangles) return;
+    const QRectF opaque = opaquePart(element, rect) & clip;
+    if (!isLarge(opaque)) return;
+    open_ -= coveredPixels(opaque, scale_.device);
+    isAnythingHidden_ = true;
+  }
+
+  QRegion open_;  ///< the pixels that nothing has hidden yet
+  bool isAnythingHidden_ = false;
+  const PixelScale& scale_;
+  std::vector<SeenElement> seen_;
+};
+
+}  // namespace
+
+std::vector<SeenElement> seenElements(const Element& container, const QRectF& exposed,
+                                      const PixelScale& scale) {
+  Look look(exposed, scale);
+  look.at(container, QPointF(), exposed);
+  return std::move(look).backToFront();
+}
+
+}  // namespace veneerer

@@ -1,0 +1,24 @@
+// What of a window's elements can be seen at all.
+#pragma once
+
+#include <QRectF>
+#include <vector>
+
+#include "elements/element.h"
+#include "painting/pixels.h"
+
+namespace veneerer {
+
+struct SeenElement {
+  const Element* element;
+  QRectF rect;  ///< the element's place, pixels
+  QRectF clip;  ///< what is seen of it lies in there
+};
+
+/// The visible elements within a container, each within its own containers, that can be seen in a rectangle
+/// of pixels: from the back to the front. One that large opaque elements hide isn't among them; one that they
+/// leave pieces of comes once for each.
+std::vector<SeenElement> seenElements(const Element& container, const QRectF& exposed,
+                                      const PixelScale& scale);
+
+}  // namespace veneerer
