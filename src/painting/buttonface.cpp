@@ -124,11 +124,14 @@ size_t qHash(const FaceLook& look, size_t seed) {
                     look.gradient, look.back, look.second, look.pictureSize, look.pictureKey, flags);
 }
 
-QRect partOfFace(const FaceLook& look, const QRectF& seen) {
+QRect partOfFace(const FaceLook& look, QSize picture, const QRectF& seen) {
   const QRect whole(QPoint(), look.size);
   const qint64 area = static_cast<qint64>(whole.width()) * whole.height();
-  const bool isWorthAll = look.pictureKey != 0 || seen.width() * seen.height() * 4 >= double(area) * 3;
-  if (area <= kSmallFace || (area <= kLargestKeptFace && isWorthAll)) return {};
+  const bool isMostlySeen = seen.width() * seen.height() * 4 >= static_cast<double>(area) * 3;
+  // A part's picture is coarse where it is made much smaller.
+  const bool isCoarse = picture.width() > 2 * look.size.width() || picture.height() > 2 * look.size.height();
+  if (area <= (picture.isEmpty() ? kSmallFace : kSmallPictureFace)) return {};
+  if (area <= kLargestKeptFace && (isMostlySeen || isCoarse)) return {};
   const int reach = FaceCanvas::edgeReach(look.scale);
   return seen.toAlignedRect().adjusted(-reach, -reach, reach, reach) & whole;
 }

@@ -39,13 +39,15 @@ struct FaceLook {
 size_t qHash(const FaceLook& look, size_t seed = 0);
 
 /// The largest face that is drawn as a whole and kept, device pixels. Of a larger one only what is seen is
-/// drawn, each time anew; and of one above the other bound that shows no picture, where little of it is seen.
+/// drawn, each time anew; and of one above the other bounds, without and with a picture, where little of it
+/// is seen.
 inline constexpr qint64 kLargestKeptFace = 1024LL * 1024;
 inline constexpr qint64 kSmallFace = 32LL * 1024;
+inline constexpr qint64 kSmallPictureFace = 256LL * 1024;
 
 /// The part of a face that has to be drawn for those device pixels of it to be seen; null for one that is
-/// drawn as a whole.
-QRect partOfFace(const FaceLook& look, const QRectF& seen);
+/// drawn as a whole. The size is that of its picture, empty for none.
+QRect partOfFace(const FaceLook& look, QSize picture, const QRectF& seen);
 
 /// True for a face that is cut from its picture.
 bool isCutOut(const FaceLook& look);

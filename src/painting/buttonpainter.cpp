@@ -160,7 +160,7 @@ ButtonPainter::PaintedFace ButtonPainter::paintFace(const Task& task) {
   const QRectF& rect = task.rect;
   const QTransform toFace = QTransform::fromTranslate(-rect.x(), -rect.y()) *
                             QTransform::fromScale(size.width() / rect.width(), size.height() / rect.height());
-  if (!faces_.holds(look)) look.part = partOfFace(look, toFace.mapRect(task.clip));
+  if (!faces_.holds(look)) look.part = partOfFace(look, picture.size(), toFace.mapRect(task.clip));
   const QRectF place = look.part.isNull() ? rect : toFace.inverted().mapRect(QRectF(look.part));
   const QImage face = faces_.face(look, picture);
   drawWithin(task.painter, place, face, task.clip);

@@ -72,14 +72,20 @@ TEST(FacePart, CoveringPicturesShowNoSeams) {
 TEST(FacePart, IsNoLargerThanWhatIsSeenOfIt) {
   FaceLook look{.size = QSize(4000, 2000)};
   const int reach = FaceCanvas::edgeReach(1);
-  EXPECT_EQ(partOfFace(look, QRectF(100.5, 200, 30, 20)),
+  EXPECT_EQ(partOfFace(look, QSize(), QRectF(100.5, 200, 30, 20)),
             QRect(100, 200, 31, 20).adjusted(-reach, -reach, reach, reach));
-  EXPECT_EQ(partOfFace(look, QRectF(-50, -50, 60, 9000)), QRect(0, 0, 10 + reach, 2000));
+  EXPECT_EQ(partOfFace(look, QSize(), QRectF(-50, -50, 60, 9000)), QRect(0, 0, 10 + reach, 2000));
   look.size = QSize(1024, 1024);
-  EXPECT_TRUE(partOfFace(look, QRectF(0, 0, 900, 900)).isNull()) << "it is kept, so most of it is worth all";
-  EXPECT_EQ(partOfFace(look, QRectF(0, 0, 9, 9)).size(), QSize(9 + reach, 9 + reach));
+  EXPECT_TRUE(partOfFace(look, QSize(), QRectF(0, 0, 900, 900)).isNull())
+      << "it is kept, so most of it is worth all";
+  EXPECT_EQ(partOfFace(look, QSize(), QRectF(0, 0, 9, 9)).size(), QSize(9 + reach, 9 + reach));
+  EXPECT_FALSE(partOfFace(look, QSize(2000, 9), QRectF(0, 0, 9, 9)).isNull());
+  EXPECT_TRUE(partOfFace(look, QSize(3000, 9), QRectF(0, 0, 9, 9)).isNull()) << "it would be coarse";
+  look.size = QSize(512, 512);
+  EXPECT_TRUE(partOfFace(look, QSize(9, 9), QRectF(0, 0, 9, 9)).isNull());
+  EXPECT_FALSE(partOfFace(look, QSize(), QRectF(0, 0, 9, 9)).isNull());
   look.size = QSize(128, 256);
-  EXPECT_TRUE(partOfFace(look, QRectF(0, 0, 9, 9)).isNull());
+  EXPECT_TRUE(partOfFace(look, QSize(), QRectF(0, 0, 9, 9)).isNull());
 }
 
 }  // namespace
