@@ -18,8 +18,8 @@ namespace {
 constexpr double kLarge = 160 * 160;
 
 // Beyond this many rectangles looking costs more than it spares.
-constexpr int kMostRectangles = 32;
-constexpr int kMostPieces = 6;
+constexpr int kMostRectangles = 256;
+constexpr int kMostPieces = 16;
 
 bool isLarge(const QRectF& rect) {
   return rect.width() * rect.height() >= kLarge;
@@ -86,17 +86,17 @@ public:
 
 private:
   void see(const SeenElement& whole, const QRectF& inner) {
-    if (!isAnythingHidden_ || !isLarge(inner)) return seen_.push_back(whole);
+    if (!isAnythingHidden_ || !isLarge(whole.rect)) return seen_.push_back(whole);
     QRegion left = open_ & inner.toAlignedRect();
     if (left.rectCount() > kMostPieces) left = left.boundingRect();
     for (const QRect& piece : left) seen_.push_back({whole.element, whole.rect, whole.clip & piece});
   }
 
   void hideBehind(const Element& element, const QRectF& rect, const QRectF& clip) {
-    if (!isLarge(rect & clip) || open_.rectCount() > kMostRectangles) return;
-    const QRectF opaque = opaquePart(element, rect) & clip;
-    if (!isLarge(opaque)) return;
-    open_ -= coveredPixels(opaque, scale_.device);
+    if (!isLarge(rect) || open_.rectCount() > kMostRectangles) return;
+    const QRect hidden = coveredPixels(opaquePart(element, rect) & clip, scale_.device);
+    if (hidden.isEmpty()) return;
+    open_ -= hidden;
     isAnythingHidden_ = true;
   }
 
