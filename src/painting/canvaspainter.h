@@ -38,6 +38,10 @@ public:
   /// The outlines of custom shapes, for a hit test of what is painted here.
   CutOuts& cutOuts() { return cutOuts_; }
 
+  /// See ScaledImages: what may be spent from now on, and whether it was too little.
+  void setScalingAllowance(qint64 pixels) { images_.setAllowance(pixels); }
+  bool isCoarse() const { return images_.isExceeded(); }
+
   /// Paints the canvas window: its colour, its picture in its own size at the top left, then the visible
   /// elements in stacking order, each within its containers. Only what touches the exposed rectangle
   /// (device-independent pixels) is painted. A screen of 96 dots per inch has 1/15 pixels per twip. Pictures

@@ -1,5 +1,7 @@
 #include "painting/scaledimages.h"
 
+#include "images/picturedecoding.h"
+
 namespace veneerer {
 
 namespace {
@@ -13,7 +15,7 @@ qsizetype kibOf(const QImage& image) {
 }
 
 bool isKeepable(QSize size) {
-  return !size.isEmpty() && static_cast<qint64>(size.width()) * size.height() <= kLargestKeptImage;
+  return !size.isEmpty() && pixelsOf(size) <= kLargestKeptImage;
 }
 
 ScaledImages::ScaledImages() : made_(kCachedKiB) {}
@@ -22,9 +24,20 @@ QImage ScaledImages::scaled(const QImage& image, QSize size) {
   if (image.size() == size) return image;
   const Key key{image.cacheKey(), size.width(), size.height()};
   if (const QImage* known = made_.object(key)) return *known;
+  const qint64 work = pixelsOf(image.size()) + pixelsOf(size);
+  if (work > allowance_) {
+    isExceeded_ = true;
+    return image;
+  }
+  allowance_ -= work;
   const QImage made = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   made_.insert(key, new QImage(made), kibOf(made));
   return made;
+}
+
+void ScaledImages::setAllowance(qint64 pixels) {
+  allowance_ = pixels;
+  isExceeded_ = false;
 }
 
 QRectF centred(QSizeF size, const QRectF& outer) {

@@ -4,6 +4,7 @@
 #include <QCache>
 #include <QImage>
 #include <QPainter>
+#include <limits>
 
 namespace veneerer {
 
@@ -20,8 +21,16 @@ class ScaledImages {
 public:
   ScaledImages();
 
-  /// The image smoothly scaled to exactly that size in device pixels, which must be keepable.
+  /// The image smoothly scaled to exactly that size in device pixels, which must be keepable. One that isn't
+  /// ready made, and would take more than the allowance, comes as it is: the painter's own coarse scaling
+  /// costs no more than what is seen of it.
   QImage scaled(const QImage& image, QSize devicePixels);
+
+  /// What may be spent on scaling from now on, in pixels to read and to make. Without a word there is no
+  /// bound.
+  void setAllowance(qint64 pixels);
+  /// Whether anything came as it is since then.
+  bool isExceeded() const { return isExceeded_; }
 
 private:
   struct Key {
@@ -34,6 +43,8 @@ private:
     return qHashMulti(seed, key.image, key.width, key.height);
   }
   QCache<Key, QImage> made_;
+  qint64 allowance_ = std::numeric_limits<qint64>::max();
+  bool isExceeded_ = false;
 };
 
 /// A rectangle of that size in the middle of another.

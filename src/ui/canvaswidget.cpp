@@ -1,11 +1,13 @@
 #include "ui/canvaswidget.h"
 
+#include <QBackingStore>
+#include <QElapsedTimer>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QToolTip>
-#include <cmath>
+#include <limits>
 
 #include "canvas/sections.h"
 #include "painting/canvassize.h"
@@ -13,6 +15,14 @@
 namespace veneerer {
 
 namespace {
+
+// How long pieces are painted before the operator's next doing comes in between, milliseconds.
+constexpr int kPatience = 40;
+
+// What may be spent on scaling pictures smoothly in one painting, pixels; a tenth of a second at most. The
+// others follow by and by, as long as it makes sense.
+constexpr qint64 kScalingAllowance = 16LL * 1024 * 1024;
+constexpr int kMostRefinements = 8;
 
 // How far around its line the outline is repainted, pixels.
 constexpr int kOutlineReach = 2;
@@ -47,6 +57,9 @@ CanvasWidget::CanvasWidget(const Ui& ui)
       dirty_(pixelsPerTwipX_, pixelsPerTwipY_),
       frames_(state_.form1, [this](const Element& frame) { repaintElement(frame); }) {
   painter_.setFrameSource([this](const Element& frame) { return frames_.frame(frame); });
+  refining_.setSingleShot(true);
+  refining_.setInterval(kPatience);
+  refining_.callOnTimeout(this, &CanvasWidget::refine);
   setObjectName(QStringLiteral("canvas"));
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
@@ -61,6 +74,7 @@ QSize CanvasWidget::sizeHint() const {
 
 void CanvasWidget::changed(const Change& change) {
   if (&change.element.window() != &state_.form1) return;
+  refinements_ = 0;
   if (!change.element.family()) return windowChanged(change.property);
   dirty_.add(change);
   scheduleRepaint();
@@ -98,11 +112,51 @@ void CanvasWidget::repaintDirty() {
   if (pointed_) Q_EMIT pointed(isShown(*pointed_) ? pointed_ : nullptr);
 }
 
+// A picture of the window is painted whole, and what is on the screen in pieces.
 void CanvasWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  for (const QRect& exposed : event->region())
-    painter_.paint(painter, state_.form1, exposed, pixelsPerTwipX_, pixelsPerTwipY_);
+  if (isOnScreen(painter)) {
+    const QRegion left = paintPieces(painter, event->region());
+    if (!left.isEmpty()) update(left);
+  } else {
+    painter_.setScalingAllowance(std::numeric_limits<qint64>::max());
+    for (const QRect& exposed : event->region()) paintPiece(painter, exposed);
+  }
   paintOutline(painter);
+}
+
+bool CanvasWidget::isOnScreen(const QPainter& painter) const {
+  const QBackingStore* screen = backingStore();
+  return screen && painter.paintEngine()->paintDevice() == const_cast<QBackingStore*>(screen)->paintDevice();
+}
+
+// Returns what there was no time for.
+QRegion CanvasWidget::paintPieces(QPainter& painter, const QRegion& region) {
+  painter_.setScalingAllowance(kScalingAllowance);
+  QRegion left = region;
+  QElapsedTimer all;
+  all.start();
+  while (!left.isEmpty() && !all.hasExpired(kPatience)) {
+    const QRect piece = pieces_.take(left);
+    QElapsedTimer one;
+    one.start();
+    paintPiece(painter, piece);
+    pieces_.took(piece.size(), double(one.nsecsElapsed()) / 1e6);
+  }
+  if (painter_.isCoarse() && refinements_ < kMostRefinements) {
+    coarse_ += region - left;
+    refining_.start();
+  }
+  return left;
+}
+
+void CanvasWidget::paintPiece(QPainter& painter, const QRect& piece) {
+  painter_.paint(painter, state_.form1, piece, pixelsPerTwipX_, pixelsPerTwipY_);
+}
+
+void CanvasWidget::refine() {
+  ++refinements_;
+  update(std::exchange(coarse_, QRegion()));
 }
 
 const Element* CanvasWidget::outlined() const {

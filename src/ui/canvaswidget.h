@@ -1,6 +1,7 @@
 // The design canvas: one painted widget for all elements of Form1.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 #include "painting/anigif.h"
@@ -8,6 +9,7 @@
 #include "painting/hittest.h"
 #include "ui/bindings.h"
 #include "ui/dirtyarea.h"
+#include "ui/paintpieces.h"
 
 namespace veneerer {
 
@@ -44,6 +46,10 @@ private:
   void pictureFetched(const Picture& picture);
   void scheduleRepaint();
   void repaintDirty();
+  bool isOnScreen(const QPainter& painter) const;
+  QRegion paintPieces(QPainter& painter, const QRegion& region);
+  void paintPiece(QPainter& painter, const QRect& piece);
+  void refine();
   const Element* outlined() const;
   QRect outlineRect() const;
   void paintOutline(QPainter& painter) const;
@@ -63,6 +69,10 @@ private:
   HitTest hits_;
   DirtyArea dirty_;
   bool repaintScheduled_ = false;
+  PaintPieces pieces_;
+  QRegion coarse_;  ///< where pictures are yet to be scaled smoothly
+  QTimer refining_;
+  int refinements_ = 0;  ///< since the last change
   ucAniGIF frames_;
   QRect outline_;
   Element* grabbed_ = nullptr;

@@ -52,6 +52,20 @@ protected:
   HitTest hits{painter.cutOuts()};
 };
 
+TEST(ScaledImages, ScaleNoMoreThanTheirAllowance) {
+  ScaledImages images;
+  const QImage image = plainPicture(QSize(100, 100), Qt::red).image();
+  images.setAllowance(11'000);
+  EXPECT_EQ(images.scaled(image, QSize(30, 30)).size(), QSize(30, 30));
+  EXPECT_FALSE(images.isExceeded());
+  EXPECT_EQ(images.scaled(image, QSize(20, 20)).size(), QSize(100, 100));
+  EXPECT_TRUE(images.isExceeded());
+  EXPECT_EQ(images.scaled(image, QSize(30, 30)).size(), QSize(30, 30)) << "it is ready made";
+  images.setAllowance(11'000);
+  EXPECT_FALSE(images.isExceeded());
+  EXPECT_EQ(images.scaled(image, QSize(20, 20)).size(), QSize(20, 20));
+}
+
 // The right half is see-through.
 Picture halfPicture(QSize size, const QColor& left) {
   QImage image(size, QImage::Format_ARGB32_Premultiplied);

@@ -1,0 +1,28 @@
+// What has to be repainted, in pieces that don't take long.
+#pragma once
+
+#include <QRegion>
+
+namespace veneerer {
+
+/// A stranger's Skin may take any time to paint. Its canvas is painted piece by piece, and the pieces become
+/// smaller when one takes long. In a small piece more is hidden by what stands in front.
+class PaintPieces {
+public:
+  // The sides of a piece, pixels. All between are halves of the longest, so that pieces of different sizes
+  // share their borders.
+  static constexpr int kLongestSide = 256;
+  static constexpr int kShortestSide = 64;
+
+  /// Takes the next piece out of the region, which mustn't be empty.
+  QRect take(QRegion& region) const;
+
+  /// A piece of that size took so many milliseconds to paint.
+  void took(QSize piece, double milliseconds);
+  int side() const { return side_; }
+
+private:
+  int side_ = kLongestSide;
+};
+
+}  // namespace veneerer
