@@ -7,32 +7,15 @@
 
 #include "designer/designer.h"
 #include "skin/startup.h"
+#include "support/scriptedplatform.h"
 
 namespace veneerer {
 namespace {
 
-/// Answers OK to every question and chooses nothing.
-class AgreeingDialogs : public Dialogs {
-public:
-  void inform(const QString&, const QString&) override {}
-  bool ask(const QString&, const QString&) override { return true; }
-  QString chooseFile(const QString&) override { return {}; }
-  std::optional<Colour> chooseColour(Colour) override { return std::nullopt; }
-  std::optional<FontChoice> chooseFont(const FontChoice&) override { return std::nullopt; }
-};
-
-class DefaultSettings : public Settings {
-public:
-  QString value(const QString&, const QString&, const QString& defaultValue) const override {
-    return defaultValue;
+struct World : test::ScriptedPlatform {
+  World() : ScriptedPlatform(ScriptedDialogs::Unexpected::Agree) {
+    platform.folder = ProgramFolder{QStringLiteral(VENEERER_SOURCE_DIR)};
   }
-};
-
-struct World {
-  AgreeingDialogs dialogs;
-  DefaultSettings settings;
-  Disk disk;
-  Platform platform{dialogs, settings, disk, Screen(), ProgramFolder{QStringLiteral(VENEERER_SOURCE_DIR)}};
 };
 
 void makeDesigner(benchmark::State& run) {

@@ -10,31 +10,16 @@
 
 #include "designer/designer.h"
 #include "painting/hittest.h"
+#include "support/scriptedplatform.h"
 #include "ui/designerwindows.h"
 
 namespace veneerer {
 namespace {
 
-/// Answers OK to every question and chooses nothing.
-class AgreeingDialogs : public Dialogs {
-public:
-  void inform(const QString&, const QString&) override {}
-  bool ask(const QString&, const QString&) override { return true; }
-  QString chooseFile(const QString&) override { return {}; }
-  std::optional<Colour> chooseColour(Colour) override { return std::nullopt; }
-  std::optional<FontChoice> chooseFont(const FontChoice&) override { return std::nullopt; }
-};
-
-class DefaultSettings : public Settings {
-public:
-  QString value(const QString&, const QString&, const QString& defaultValue) const override {
-    return defaultValue;
-  }
-};
-
 // A started program with its windows on the screen.
 struct Program {
   Program() {
+    world.platform.folder = ProgramFolder{QStringLiteral(VENEERER_SOURCE_DIR)};
     designer.startUp();
     settle();
     canvas = find(QStringLiteral("canvas"));
@@ -53,11 +38,8 @@ struct Program {
     QApplication::sendEvent(canvas, &event);
   }
 
-  AgreeingDialogs dialogs;
-  DefaultSettings settings;
-  Disk disk;
-  Platform platform{dialogs, settings, disk, Screen(), ProgramFolder{QStringLiteral(VENEERER_SOURCE_DIR)}};
-  Designer designer{platform};
+  test::ScriptedPlatform world{ScriptedDialogs::Unexpected::Agree};
+  Designer designer{world.platform};
   DesignerWindows windows{designer};
   QWidget* canvas = nullptr;
 };

@@ -7,8 +7,6 @@ namespace veneerer::design {
 
 namespace {
 
-constexpr int kCovers = 28;
-constexpr int kFeatured = 28;
 constexpr int kSpare = 29;  // the last cover and frame, which no layout uses
 
 TextLook captionLook(Colour ink, bool isFeatured, bool bold) {
@@ -32,7 +30,7 @@ void composeDates(Composer& c, Box& cell, int i, bool hasRoom) {
 
 void composeTitles(Composer& c, Box& cell, int i) {
   Form1& f = c.form;
-  const bool isFeatured = i == kFeatured;
+  const bool isFeatured = i == kFeaturedCover;
   const TextLook artist = captionLook(c.theme.row.body, isFeatured, false);
   const TextLook title = captionLook(c.theme.row.heading, isFeatured, true);
   composeCaption(c, f.Label10[i], cell.cutBottom(c.lineOf(artist)),
@@ -71,7 +69,7 @@ void composeOverlapping(Composer& c, const Box& area, const CoverLayout& layout,
 
 void composeFeatured(Composer& c, Box area) {
   const int side = std::min(area.w, area.h);
-  composeCell(c, area.centred(area.w, std::min(area.h, side + c.px(60))), kFeatured, false);
+  composeCell(c, area.centred(area.w, std::min(area.h, side + c.px(60))), kFeaturedCover, false);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // The frame: logo, menu, player and status bar, and the panel that shows on the main screen alone.
 #include "design/screens.h"
+#include "forms/windowframe.h"
 
 namespace veneerer::design {
 
@@ -137,9 +138,8 @@ void composeHidden(Composer& c) {
 }  // namespace
 
 void composeFrame(Composer& c) {
-  // The window's own frame adds to what a Skin shows: 4 pixels across, 500 twips down.
-  c.form.place(0, 0, static_cast<float>((c.plan.width + 4) * kTwipsPerPixel),
-               static_cast<float>(c.plan.height * kTwipsPerPixel + 500));
+  c.form.place(0, 0, static_cast<float>((c.plan.width + kFramePixels) * kTwipsPerPixel),
+               static_cast<float>(c.plan.height * kTwipsPerPixel) + kFrameTwips);
   c.form.setBackColor(c.theme.screen.back);
   c.panel(c.form.Picture2[2], c.form, c.plan.logo, c.theme.bar.back);
   composeMenu(c);

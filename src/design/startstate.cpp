@@ -5,7 +5,6 @@ namespace veneerer::design {
 namespace {
 
 constexpr int kShownCovers = 10;
-constexpr int kFeatured = 28;
 
 template <class T>
 void showRange(Array<T>& family, int first, int last, bool shown) {
@@ -16,7 +15,7 @@ void showCovers(State& state) {
   state.globals.LastCoverIndex->setValue(kShownCovers - 1);
   state.form4.Check5->setValue(1);
   Form1& f = state.form1;
-  for (int i = 0; i <= kFeatured; ++i) {
+  for (int i = 0; i <= kFeaturedCover; ++i) {
     const bool shown = i < kShownCovers;
     f.Image2[i].setVisible(shown);
     f.ucAniGIF1[i].setVisible(shown);

@@ -5,7 +5,6 @@ namespace veneerer::design {
 
 namespace {
 
-constexpr int kTracks = 20;
 constexpr const char* kFooter[] = {"By||Artist", "By||Genre", "By||Year", "By||Album", "Most||Played"};
 
 void composeAlbumInfo(Composer& c, Box area) {

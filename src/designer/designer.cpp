@@ -3,6 +3,7 @@
 #include "canvas/canvasinput.h"
 #include "design/design.h"
 #include "designer/refusalnotes.h"
+#include "forms/currentskin.h"
 #include "panels/coverlayout.h"
 #include "panels/skinproperties.h"
 #include "panels/textureviewer.h"
@@ -67,7 +68,7 @@ struct Designer::Parts {
       writeOrTell(platform.dialogs, QStringLiteral("Save Cover File"), saveCovers);
   }
 
-  SkinFolder skinFolder() const { return SkinFolder(platform.folder, state->form4.Combo3->text()); }
+  SkinFolder skinFolder() const { return currentSkinFolder(*state, platform.folder); }
 
   Platform& platform;
   std::unique_ptr<State> state = makeState();

@@ -7,6 +7,7 @@
 #include "elements/family.h"
 #include "elements/label.h"
 #include "elements/window.h"
+#include "forms/counts.h"
 
 namespace veneerer {
 
@@ -29,19 +30,19 @@ public:
   Array<PictureBox> Picture11{*this, "Picture11", 10};
   Array<PictureBox> Picture12{*this, "Picture12", 1};
   Array<PictureBox> Picture13{*this, "Picture13", 2};
-  Array<PictureBox> Picture14{*this, "Picture14", 10};
+  Array<PictureBox> Picture14{*this, "Picture14", kOtherAlbums};
   Array<PictureBox> Picture15{*this, "Picture15", 11};
   Array<PictureBox> Picture16{*this, "Picture16", 6};
   Single<PictureBox> Picture17{*this, "Picture17"};
   Single<PictureBox> Picture18{*this, "Picture18"};
   Array<PictureBox> Picture19{*this, "Picture19", 10};
-  Array<PictureBox> Picture20{*this, "Picture20", 28};
+  Array<PictureBox> Picture20{*this, "Picture20", kGenres};
   Single<PictureBox> Picture21{*this, "Picture21"};
   Single<PictureBox> Picture22{*this, "Picture22"};
   Single<PictureBox> Picture23{*this, "Picture23"};
   Single<PictureBox> Picture24{*this, "Picture24"};
   Array<PictureBox> Picture25{*this, "Picture25", 5};
-  Array<PictureBox> Picture26{*this, "Picture26", 112};
+  Array<PictureBox> Picture26{*this, "Picture26", kThumbnailsPerGenre* kGenres};
   Array<PictureBox> Picture27{*this, "Picture27", 12};
   Single<PictureBox> Picture28{*this, "Picture28"};
   Single<PictureBox> Picture29{*this, "Picture29"};
@@ -120,9 +121,9 @@ public:
   Array<Button> lvButtons_H61{*this, "lvButtons_H61", 3};
   Array<Button> lvButtons_H62{*this, "lvButtons_H62", 28};
 
-  Array<Label> Label1{*this, "Label1", 20};
+  Array<Label> Label1{*this, "Label1", kTracks};
   Array<Label> Label2{*this, "Label2", 11};
-  Array<Label> Label3{*this, "Label3", 20};
+  Array<Label> Label3{*this, "Label3", kTracks};
   Array<Label> Label4{*this, "Label4", 6};
   Single<Label> Label5{*this, "Label5"};
   Array<Label> Label6{*this, "Label6", 2};
@@ -139,7 +140,7 @@ public:
   Array<Label> Label17{*this, "Label17", 7};
   Single<Label> Label18{*this, "Label18"};
   Array<Label> Label19{*this, "Label19", 12};
-  Array<Label> Label20{*this, "Label20", 28};
+  Array<Label> Label20{*this, "Label20", kGenres};
   Array<Label> Label21{*this, "Label21", 4};
   Array<Label> Label22{*this, "Label22", 2};
   Array<Label> Label23{*this, "Label23", 5};
@@ -178,8 +179,8 @@ public:
   Array<Label> Label56{*this, "Label56", 2};
   Single<Label> Label57{*this, "Label57"};
   Array<Label> Label58{*this, "Label58", 19};
-  Array<Label> Label59{*this, "Label59", 28};
-  Array<Label> Label60{*this, "Label60", 20};
+  Array<Label> Label59{*this, "Label59", kGenres};
+  Array<Label> Label60{*this, "Label60", kTracks};
   Array<Label> Label61{*this, "Label61", 5};
   Array<Label> Label62{*this, "Label62", 29};
   Array<Label> Label63{*this, "Label63", 29};

@@ -7,11 +7,9 @@
 
 #include "elements/family.h"
 #include "elements/window.h"
+#include "forms/counts.h"
 
 namespace veneerer {
-
-/// The last index that every cover family has, that of the featured album. No cover in use lies beyond it.
-inline constexpr int kHighestCover = 28;
 
 /// A number as an index of the last cover in use: the nearest one from -1, none, to kHighestCover.
 inline int toLastCoverIndex(double number) {

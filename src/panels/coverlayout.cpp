@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "forms/currentskin.h"
 #include "records/coverfile.h"
 #include "records/layoutreader.h"
 #include "records/layoutwriter.h"
@@ -35,7 +36,7 @@ CoverLayouts::CoverLayouts(State& state, const Platform& platform, SkinPropertie
 }
 
 SkinFolder CoverLayouts::folder() const {
-  return SkinFolder(platform_.folder, state_.form4.Combo3->text());
+  return currentSkinFolder(state_, platform_.folder);
 }
 
 void CoverLayouts::load(const QString& path) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "elements/colour.h"
+#include "forms/currentskin.h"
 #include "images/pictureencoding.h"
 #include "platform/skinfolder.h"
 #include "records/writefiles.h"
@@ -64,7 +65,7 @@ void show(const Piece& piece, State& state, const SkinFolder& skin) {
 }
 
 void grab(State& state, const Platform& platform) {
-  const SkinFolder skin(platform.folder, state.form4.Combo3->text());
+  const SkinFolder skin = currentSkinFolder(state, platform.folder);
   PictureBox& menu = state.form1.Picture2[0];
   PictureBox& player = state.form1.Picture2[1];
   const Piece menuPiece = composePiece(state, menu, "Menu.bmp", skin, platform.screen);

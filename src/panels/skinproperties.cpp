@@ -9,13 +9,6 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kTracks = 20;
-constexpr int kGenres = 28;
-constexpr int kThumbnailsPerGenre = 4;
-constexpr int kOtherAlbums = 10;
-constexpr int kCovers = 28;
-constexpr int kFeatured = 28;
-
 /// Shows or hides the members from first to last; indices without a member are passed over.
 void show(const Family& family, int first, int last, bool visible) {
   last = std::min(last, family.bound() - 1);
@@ -134,7 +127,7 @@ void SkinProperties::playerStyle() {
 // Row 9, ten albums, does nothing at all, though the row is stored.
 void SkinProperties::otherAlbums() {
   const int row = state_.form4.Combo12->listIndex();
-  if (row > -1 && row < 9) showCount(state_.form1.Picture14, kOtherAlbums - 1, row + 1);
+  if (row > -1 && row < kOtherAlbums - 1) showCount(state_.form1.Picture14, kOtherAlbums - 1, row + 1);
 }
 
 void SkinProperties::quickjumpNames() {
@@ -158,7 +151,7 @@ void SkinProperties::featuredAlbum() {
   Form1& form1 = state_.form1;
   for (const Family* family :
        std::initializer_list<const Family*>{&form1.Image2, &form1.ucAniGIF1, &form1.Label9, &form1.Label10})
-    show(*family, kFeatured, kFeatured, isTicked);
+    show(*family, kFeaturedCover, kFeaturedCover, isTicked);
 }
 
 // The refill differs on purpose from the 28 rows of the start, which no state of the box brings back.

@@ -1,6 +1,7 @@
 #include "panels/textureviewer.h"
 
 #include "elements/numbers.h"
+#include "forms/currentskin.h"
 #include "panels/grab.h"
 #include "panels/textureslots.h"
 
@@ -67,7 +68,7 @@ void TextureViewer::copyFrameToAll() {
   ImageTable& names = state_.names.AlbumFrameName;
   const int row = state_.form5.Combo1->listIndex();
   if (row < 0 || row >= names.bound()) return;
-  const SkinFolder folder(platform_.folder, state_.form4.Combo3->text());
+  const SkinFolder folder = currentSkinFolder(state_, platform_.folder);
   const QString path = folder.resolve(names[row].text());
   for (int i = 0; i < names.bound(); ++i) {
     if (i == row) continue;

@@ -10,7 +10,6 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kFeatured = kHighestCover;
 constexpr int kMostRows = 1000;  // of each family; a stranger's file may be endless
 constexpr int kPlaceLines = 4;
 
@@ -87,13 +86,13 @@ void featuredAlbum(Layout& file, State& state) {
   file.block();
   file.checkValue(*state.form4.Check7);
   file.block();
-  place(file, form1.ucAniGIF1[kFeatured]);
+  place(file, form1.ucAniGIF1[kFeaturedCover]);
   file.block();
-  place(file, form1.Image2[kFeatured]);
+  place(file, form1.Image2[kFeaturedCover]);
   file.block();
-  placeAndStyle(file, form1.Label9[kFeatured]);
+  placeAndStyle(file, form1.Label9[kFeaturedCover]);
   file.block();
-  placeAndStyle(file, form1.Label10[kFeatured]);
+  placeAndStyle(file, form1.Label10[kFeaturedCover]);
 }
 
 }  // namespace

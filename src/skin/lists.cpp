@@ -80,19 +80,19 @@ void fillFirstLists(State& state) {
 
 void fillOtherLists(State& state) {
   Form4& form4 = state.form4;
-  const QStringList covers = numbered("", 1, 28, "");
+  const QStringList covers = numbered("", 1, kCovers, "");
   form4.Combo4->setRows(covers);
   // The number of covers in use, as a cover file shows it.
   form4.Combo4->setText(QString::number(state.globals.LastCoverIndex->value() + 1));
   state.form5.Combo1->setRows(covers);
-  form4.Combo1->setRows(numbered("", 1, 20, ""));
+  form4.Combo1->setRows(numbered("", 1, kTracks, ""));
   form4.Combo7->setRows(covers);
   fillAndSelect(*form4.Combo2, rows(kJumpToLetter), 0);
   fillAndSelect(*form4.Combo5, rows(kGenreStyles), 0);
   fillAndSelect(*form4.Combo9, rows(kHomeScreens), kAlbumViewRow);
   fillAndSelect(*form4.Combo10, rows(kPlayerStyles), 0);
   fillAndSelect(*form4.Combo11, rows(kGenreNavigation), 0);
-  form4.Combo12->setRows(numbered("", 1, 10, " Albums"));
+  form4.Combo12->setRows(numbered("", 1, kOtherAlbums, " Albums"));
   fillAndSelect(*form4.Combo6, rows(kNavigationStyles), 0);
   state.form6.Combo1->setRows(numbered("Style ", 0, 8, ""));
   state.form6.Combo2->setRows(numbered("Style ", 0, 7, ""));

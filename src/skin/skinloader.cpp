@@ -1,5 +1,6 @@
 #include "skin/skinloader.h"
 
+#include "forms/currentskin.h"
 #include "records/layoutreader.h"
 
 namespace veneerer {
@@ -8,7 +9,7 @@ SkinLoader::SkinLoader(State& state, const Platform& platform, CoverLayouts& cov
     : state_(state), platform_(platform), covers_(covers) {}
 
 SkinFolder SkinLoader::folder() const {
-  return SkinFolder(platform_.folder, state_.form4.Combo3->text());
+  return currentSkinFolder(state_, platform_.folder);
 }
 
 void SkinLoader::load() {

@@ -8,8 +8,6 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kGenres = 28;
-
 void nameGenres(Form1& form1) {
   for (int i = 0; i < kGenres; ++i) {
     form1.Picture20[i].setToolTipText(QStringLiteral("Genre Icon ") + signedNumber(i));

@@ -6,9 +6,9 @@
 #include "designer/designer.h"
 #include "elements/printable.h"
 #include "painting/buttonsheet.h"
+#include "platform/scripteddialogs.h"
 #include "records/recorderror.h"
 #include "skintool/arguments.h"
-#include "skintool/batchdialogs.h"
 #include "skintool/batchskin.h"
 #include "skintool/checkcommand.h"
 #include "skintool/output.h"
@@ -44,7 +44,7 @@ public:
     if (arguments_.reload) designer_.reload(designer_.state().form4.Combo3->text());
     ScriptPlayer(designer_, dialogs_).play(arguments_.script, script);
     if (arguments_.command == Command::Dump)
-      print(out, stateAsJson(designer_, dialogs_.messages()));
+      print(out, stateAsJson(designer_, dialogs_.messages));
     else if (arguments_.command == Command::Render)
       renderScreens(designer_, arguments_.to, arguments_.only);
     else
@@ -62,7 +62,7 @@ private:
   }
 
   const Arguments& arguments_;
-  BatchDialogs dialogs_;
+  ScriptedDialogs dialogs_{ScriptedDialogs::Unexpected::Fail};
   BatchSettings settings_;
   Disk disk_;
   Platform platform_;

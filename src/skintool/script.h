@@ -4,7 +4,7 @@
 #include <QString>
 
 #include "designer/designer.h"
-#include "skintool/batchdialogs.h"
+#include "platform/scripteddialogs.h"
 
 namespace veneerer {
 
@@ -21,7 +21,7 @@ QList<ScriptWord> splitScriptLine(const QString& line);
 /// Plays scripts on a designer.
 class ScriptPlayer {
 public:
-  ScriptPlayer(Designer& designer, BatchDialogs& dialogs) : designer_(designer), dialogs_(dialogs) {}
+  ScriptPlayer(Designer& designer, ScriptedDialogs& dialogs) : designer_(designer), dialogs_(dialogs) {}
 
   /// Plays all lines. Throws ScriptError whose text begins with the script's name and the line, or
   /// RecordError when an action ends the program.
@@ -55,7 +55,7 @@ private:
   void chooseRow(RowList& list, const ScriptWord& row);
 
   Designer& designer_;
-  BatchDialogs& dialogs_;
+  ScriptedDialogs& dialogs_;
 };
 
 }  // namespace veneerer

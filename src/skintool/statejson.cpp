@@ -125,9 +125,9 @@ QJsonObject tablesAsJson(const ImageNames& names) {
   return tables;
 }
 
-QJsonArray messagesAsJson(const QList<BatchDialogs::Message>& messages) {
+QJsonArray messagesAsJson(const QList<ScriptedDialogs::Message>& messages) {
   QJsonArray array;
-  for (const BatchDialogs::Message& message : messages)
+  for (const ScriptedDialogs::Message& message : messages)
     array.append(QJsonObject{{QStringLiteral("title"), message.title},
                              {QStringLiteral("text"), message.text},
                              {QStringLiteral("answer"), message.answer}});
@@ -136,10 +136,10 @@ QJsonArray messagesAsJson(const QList<BatchDialogs::Message>& messages) {
 
 }  // namespace
 
-QByteArray stateAsJson(Designer& designer, const QList<BatchDialogs::Message>& messages) {
+QByteArray stateAsJson(Designer& designer, const QList<ScriptedDialogs::Message>& messages) {
   State& state = designer.state();
   designer.fillFonts();
-  const SkinFolder skin(designer.platform().folder, state.form4.Combo3->text());
+  const SkinFolder skin = designer.skinFolder();
   const QString skinPath = QDir::cleanPath(QFileInfo(skin.path()).absoluteFilePath());
   const QJsonObject root{{QStringLiteral("globals"), globalsAsJson(state.globals)},
                          {QStringLiteral("elements"), elementsAsJson(state, skinPath)},

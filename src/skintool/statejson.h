@@ -5,11 +5,11 @@
 #include <QList>
 
 #include "designer/designer.h"
-#include "skintool/batchdialogs.h"
+#include "platform/scripteddialogs.h"
 
 namespace veneerer {
 
 /// Globals, every element with its properties, the tables of image names, and the message boxes shown.
-QByteArray stateAsJson(Designer& designer, const QList<BatchDialogs::Message>& messages);
+QByteArray stateAsJson(Designer& designer, const QList<ScriptedDialogs::Message>& messages);
 
 }  // namespace veneerer

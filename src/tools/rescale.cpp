@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "elements/numbers.h"
+#include "forms/currentskin.h"
 #include "platform/skinfolder.h"
 #include "tools/rescaletables.h"
 
@@ -89,7 +90,7 @@ void Rescale::resampleImages() {
 /// One job a file, so that files can be worked on side by side while the sizes of one file keep their order.
 /// A file that is missing has one too, for the count.
 std::vector<ImageJob> Rescale::collectJobs() {
-  const SkinFolder skin(platform_.folder, state_.form4.Combo3->text());
+  const SkinFolder skin = currentSkinFolder(state_, platform_.folder);
   std::vector<ImageJob> jobs;
   QHash<QString, std::size_t> byFile;
   for (const RescaleTarget& target : kRescaleTargets) {
@@ -129,7 +130,7 @@ QSize Rescale::measuredPixels() const {
 
 /// Returns for each job why it failed, empty where it is done; a failure doesn't keep the others back.
 QStringList Rescale::runJobs(const std::vector<ImageJob>& jobs) {
-  const SkinFolder skin(platform_.folder, state_.form4.Combo3->text());
+  const SkinFolder skin = currentSkinFolder(state_, platform_.folder);
   QSemaphore done;
   QThreadPool pool;
   QList<QFuture<QString>> results;

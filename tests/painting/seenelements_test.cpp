@@ -6,9 +6,9 @@
 #include <QPainter>
 #include <QSet>
 
+#include "elements/colour.h"
 #include "forms/form1.h"
 #include "painting/canvaspainter.h"
-#include "elements/colour.h"
 #include "support/pictures.h"
 
 namespace veneerer {

@@ -3,43 +3,11 @@
 #pragma once
 
 #include <QMap>
-#include <QQueue>
-#include <QStringList>
 
-#include "platform/platform.h"
+#include "platform/scripteddialogs.h"
 #include "support/failingdisk.h"
 
 namespace veneerer::test {
-
-class ScriptedDialogs : public Dialogs {
-public:
-  struct Message {
-    QString title;
-    QString text;
-  };
-  QList<Message> messages;  ///< every box shown, questions included
-  QQueue<bool> answers;     ///< an unexpected question is answered Cancel
-  QQueue<QString> files;
-  QQueue<std::optional<std::int32_t>> colours;
-  QQueue<std::optional<FontChoice>> fonts;
-  QStringList filters;  ///< of the file dialogs that were opened
-
-  void inform(const QString& title, const QString& text) override { messages.append({title, text}); }
-  bool ask(const QString& title, const QString& text) override {
-    messages.append({title, text});
-    return !answers.isEmpty() && answers.dequeue();
-  }
-  QString chooseFile(const QString& filter) override {
-    filters.append(filter);
-    return files.isEmpty() ? QString() : files.dequeue();
-  }
-  std::optional<Colour> chooseColour(Colour) override {
-    return colours.isEmpty() ? std::nullopt : colours.dequeue();
-  }
-  std::optional<FontChoice> chooseFont(const FontChoice&) override {
-    return fonts.isEmpty() ? std::nullopt : fonts.dequeue();
-  }
-};
 
 class MapSettings : public Settings {
 public:
@@ -50,6 +18,9 @@ public:
 };
 
 struct ScriptedPlatform {
+  explicit ScriptedPlatform(ScriptedDialogs::Unexpected unexpected = ScriptedDialogs::Unexpected::Cancel)
+      : dialogs(unexpected) {}
+
   ScriptedDialogs dialogs;
   MapSettings settings;
   FailingDisk disk;

@@ -10,7 +10,6 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kGenres = 28;
 constexpr int kThumbnailsPerGenre = 4;
 
 template <class T>

@@ -5,15 +5,13 @@
 // key, only the colours of two samples on Form6.
 #include "elements/numbers.h"
 #include "elements/printable.h"
+#include "forms/windowframe.h"
 #include "records/recorderror.h"
 #include "records/recordfiles.h"
 
 namespace veneerer {
 
 namespace {
-
-constexpr int kTrackRows = 20;
-constexpr int kCovers = 28;
 
 // The backdrop of row i: its thumbnail and the screen behind it. Rows 11 and 13 reach no canvas element, row
 // 12 is shown by no thumbnail and on another screen, row 13 has no thumbnail of its own.
@@ -28,7 +26,7 @@ std::vector<Element*> backdropBoxes(State& state, int i) {
 
 void showCount(const Family& family, int count) {
   for (Element* member : family.members())
-    if (member->index() < kTrackRows) member->setVisible(member->index() < count);
+    if (member->index() < kTracks) member->setVisible(member->index() < count);
 }
 
 void showTrackRows(Loading& loading) {
@@ -101,9 +99,8 @@ Layout resolutionFile(State& state) {
   file.field(ValueKind::Text, state.form4.Text1[0], Property::Text);
   file.field(ValueKind::Text, state.form4.Text1[1], Property::Text);
   file.atEnd([](Loading& loading) {
-    // The window's frame: 4 pixels across, 500 twips down.
-    loading.state.form1.setWidth(windowSide(loading, Axis::X, 4));
-    loading.state.form1.setHeight(windowSide(loading, Axis::Y, 0) + 500);
+    loading.state.form1.setWidth(windowSide(loading, Axis::X, kFramePixels));
+    loading.state.form1.setHeight(windowSide(loading, Axis::Y, 0) + kFrameTwips);
   });
   return file;
 }
