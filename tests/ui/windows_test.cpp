@@ -209,7 +209,7 @@ TEST(Mnemonics, AreDifferentAndLeaveAmpersandsAlone) {
 }
 
 // Last: a program that has failed once says nothing more.
-TEST_F(Windows, ZMalformedFileIsToldOnceAndEndsTheProgram) {
+TEST_F(Windows, AMalformedFileIsToldOnceAndEndsTheProgram) {
   QString told;
   QTimer answer;
   answer.callOnTimeout([&] {
