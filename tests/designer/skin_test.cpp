@@ -32,6 +32,22 @@ TEST_F(Skin, TheSplashTellsWhatAFullLoadReadsAndAReloadTellsNothing) {
   EXPECT_TRUE(told.isEmpty());
 }
 
+TEST_F(Skin, TheWindowsComeUpInTheirOrderAndTheSplashGoesLast) {
+  QStringList told;
+  const Attachment watching = state().board.watch([&](const Change& change) {
+    if (change.property == Property::Visible && !change.element.family())
+      told.append(change.element.key() + (change.element.isVisible() ? u'+' : u'-'));
+  });
+  start();
+  EXPECT_EQ(told.join(u' ').toStdString(), "frmSplash+ Form4+ Form5+ Form6+ Form1+ Form2+ frmSplash-");
+  told.clear();
+  designer->openChooser();
+  state().form3.List1->select(0);
+  EXPECT_EQ(told.first().toStdString() + ' ' + told.at(1).toStdString(), "Form1- Form3+");
+  EXPECT_EQ(told.filter(QStringLiteral("Form1")).last().toStdString(), "Form1+");
+  EXPECT_TRUE(told.contains(QStringLiteral("Form3-")));
+}
+
 TEST_F(Skin, TheFileWithoutEffectIsNeitherReadNorWritten) {
   // Larger than any record file may be: opening it would fail.
   constexpr qint64 kSize = 17 * 1024 * 1024;
