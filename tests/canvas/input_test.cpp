@@ -200,6 +200,9 @@ TEST_F(CanvasInputTest, DragsWhileTheLimitHoldsAndNoFurther) {
   letter.place(100, 300, 200, 200);
   drag(letter, 0, 10);
   EXPECT_EQ(letter.top(), 300);
+  letter.setLeft(800);
+  drag(letter, 10, 0);
+  EXPECT_EQ(letter.left(), 800) << "its edge stands on the container's";
 }
 
 TEST_F(CanvasInputTest, MovesOnlyWithTheLeftButtonFromTheLastAnchor) {

@@ -1,6 +1,8 @@
 // Cover layouts, from file to canvas and back.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "designer/skinfixture.h"
 #include "records/recorderror.h"
 
@@ -94,6 +96,17 @@ TEST_F(Covers, ConfirmBeforeOverwritingAndBeforeLoading) {
   EXPECT_EQ(state().globals.LastCoverIndex->value(), 4);
   saveAs("../outside.cov");
   EXPECT_FALSE(QFile::exists(root.path() + QStringLiteral("/Skins/outside.cov")));
+}
+
+TEST_F(Covers, StackTowardsTheMiddleAndFillTheirPlaces) {
+  chooseCount(5);
+  saveAs("five.cov");
+  form1().Image2[4].setStretch(false);
+  load("five.cov");
+  std::vector<int> covers = {0, 1, 2, 3, 4};
+  std::ranges::sort(covers, {}, [&](int cover) { return form1().Image2[cover].stackOrder(); });
+  EXPECT_EQ(covers, (std::vector<int>{0, 1, 4, 3, 2})) << "from the bottom";
+  EXPECT_TRUE(form1().Image2[4].as<bool>(Property::Stretch));
 }
 
 TEST_F(Covers, AnOlderFileLeavesTheCaptionsAlone) {

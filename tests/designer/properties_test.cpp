@@ -98,8 +98,10 @@ TEST_F(Properties, CoverCounts) {
   state().globals.LastCoverIndex->setValue(27);
   form4().Check6->setValue(0);
   EXPECT_FALSE(form1().Label62[0].isVisible());
+  state().globals.LastCoverIndex->setValue(11);
   form4().Check6->setValue(1);
-  EXPECT_TRUE(form1().Label63[28].isVisible()) << "one further than the covers";
+  EXPECT_TRUE(form1().Label63[12].isVisible()) << "one further than the covers";
+  EXPECT_FALSE(form1().Label63[13].isVisible());
   form4().Check7->setValue(1);
   EXPECT_TRUE(form1().ucAniGIF1[28].isVisible());
   state().globals.LastCoverIndex->setValue(2);
