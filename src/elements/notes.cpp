@@ -1,10 +1,12 @@
 #include "elements/notes.h"
 
+#include "elements/printable.h"
+
 namespace veneerer {
 
 void Notes::say(const QString& note) {
-  texts_.append(note);
-  if (listener_) listener_(note);
+  texts_.append(shownText(note));
+  if (listener_) listener_(texts_.last());
 }
 
 }  // namespace veneerer

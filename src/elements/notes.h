@@ -11,7 +11,7 @@ class Notes {
 public:
   using Listener = std::function<void(const QString& note)>;
 
-  /// Adds a note, one sentence of plain text, and tells it to the listener.
+  /// Adds a note, one sentence of plain text of which shownText() is kept, and tells it to the listener.
   void say(const QString& note);
 
   /// All notes since the start, in order.

@@ -12,15 +12,15 @@
 
 namespace veneerer {
 
-/// Message boxes and the common dialogs.
+/// Message boxes and the common dialogs. Of the texts of a box shownText() is shown, whoever shows it.
 class Dialogs {
 public:
   virtual ~Dialogs() = default;
 
   /// A box that only informs.
-  virtual void inform(const QString& title, const QString& text) = 0;
+  void inform(const QString& title, const QString& text);
   /// A box with OK and Cancel; true for OK.
-  virtual bool ask(const QString& title, const QString& text) = 0;
+  bool ask(const QString& title, const QString& text);
   /// A file dialog. The filter reads "Image Files|*.bmp;*.jpg". The full name of the chosen file, empty on
   /// cancel.
   virtual QString chooseFile(const QString& filter) = 0;
@@ -29,6 +29,10 @@ public:
   virtual std::optional<Colour> chooseColour(Colour initial) = 0;
   /// A font dialog with effects; nothing on cancel.
   virtual std::optional<FontChoice> chooseFont(const FontChoice& initial) = 0;
+
+private:
+  virtual void showMessage(const QString& title, const QString& text) = 0;
+  virtual bool showQuestion(const QString& title, const QString& text) = 0;
 };
 
 /// The screen that the program stands on.

@@ -9,11 +9,11 @@ T ScriptedDialogs::taken(QQueue<T>& queue, const T& otherwise, const QString& wh
   return otherwise;
 }
 
-void ScriptedDialogs::inform(const QString& title, const QString& text) {
+void ScriptedDialogs::showMessage(const QString& title, const QString& text) {
   messages.append({title, text, QStringLiteral("ok")});
 }
 
-bool ScriptedDialogs::ask(const QString& title, const QString& text) {
+bool ScriptedDialogs::showQuestion(const QString& title, const QString& text) {
   const bool isOk = taken(answers, unexpected_ == Unexpected::Agree,
                           QStringLiteral("the question \"%1\" finds no answer").arg(text));
   messages.append({title, text, isOk ? QStringLiteral("ok") : QStringLiteral("cancel")});

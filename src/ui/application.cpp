@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QTextStream>
 
+#include "elements/printable.h"
 #include "platform/version.h"
 #include "records/recorderror.h"
 
@@ -29,11 +30,11 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 
 void Application::fail(const QString& message) {
   if (std::exchange(failed_, true)) return;
-  QTextStream(stderr) << message << Qt::endl;
+  QTextStream(stderr) << printable(message) << Qt::endl;
   QMessageBox box(QMessageBox::Critical, QStringLiteral("Veneerer"), QString(), QMessageBox::Ok,
                   activeWindow());
   box.setTextFormat(Qt::PlainText);
-  box.setText(message);
+  box.setText(shownText(message));
   box.setInformativeText(
       QStringLiteral("The program ends. Files that were written before stay as they are."));
   box.exec();

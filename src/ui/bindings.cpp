@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <QStyleHints>
 
+#include "elements/printable.h"
+
 namespace veneerer {
 
 namespace {
@@ -159,7 +161,7 @@ public:
     widget.setTextFormat(Qt::PlainText);
     show(Property::Caption);
   }
-  void show(Property) override { widget_.setText(label_.caption()); }
+  void show(Property) override { widget_.setText(shownText(label_.caption())); }
 
 private:
   Label& label_;
@@ -241,10 +243,6 @@ void bindPainted(const Ui& ui, Element& element, QAbstractButton& widget) {
   QObject::connect(&ui.pictures, &PictureFetcher::fetched, &widget, [&](const Picture& picture) {
     if (element.as<Picture>(Property::Picture) == picture) widget.update();
   });
-}
-
-QString plainToolTip(const QString& text) {
-  return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
 }
 
 }  // namespace veneerer

@@ -15,6 +15,7 @@
 #include "ui/controls.h"
 #include "ui/operator.h"
 #include "ui/picturefetcher.h"
+#include "ui/plaintext.h"
 
 namespace veneerer {
 
@@ -43,8 +44,5 @@ QLabel* makeCaption(const Ui& ui, Label& element);
 /// For a control that paints its element itself: it is painted anew after each change and when its picture
 /// has been fetched, takes the focus by the tabulator, and a click on it is the click event of the element.
 void bindPainted(const Ui& ui, Element& element, QAbstractButton& widget);
-
-/// A text as it stands where a widget would otherwise take it for rich text.
-QString plainToolTip(const QString& text);
 
 }  // namespace veneerer

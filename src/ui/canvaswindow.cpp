@@ -10,6 +10,7 @@
 
 #include "canvas/screens.h"
 #include "ui/description.h"
+#include "ui/plaintext.h"
 
 namespace veneerer {
 
@@ -30,10 +31,6 @@ private:
   ComboBox& list_;
   QMenu& menu_;
 };
-
-QString plainMenuText(QString text) {
-  return text.replace(u'&', QStringLiteral("&&"));
-}
 
 }  // namespace
 

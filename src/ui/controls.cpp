@@ -8,6 +8,9 @@
 #include <QStylePainter>
 #include <QToolTip>
 
+#include "elements/printable.h"
+#include "ui/plaintext.h"
+
 namespace veneerer {
 
 TextCombo::TextCombo(QWidget* parent) : QComboBox(parent) {
@@ -21,13 +24,13 @@ void TextCombo::present(const QStringList& rows, int row, const QString& text) {
   const QSignalBlocker quiet(this);
   if (rows != rows_) {
     clear();
-    addItems(rows);
+    addItems(shownRows(rows));
     rows_ = rows;
   }
   setCurrentIndex(row);
   // Setting the text that stands there already would move the operator's cursor.
   if (isEditable() && lineEdit()->text() != text) lineEdit()->setText(text);
-  text_ = text;
+  text_ = shownText(text);
   update();
 }
 
@@ -50,7 +53,7 @@ void TextCombo::paintEvent(QPaintEvent*) {
 bool TextCombo::event(QEvent* event) {
   const bool says = event->type() == QEvent::ToolTip && toolTip().isEmpty() && !text_.isEmpty();
   if (!says) return QComboBox::event(event);
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text_.toHtmlEscaped(), this);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), plainToolTip(text_), this);
   return true;
 }
 
@@ -72,7 +75,8 @@ RowListView::RowListView(QWidget* parent) : QListView(parent) {
 }
 
 void RowListView::present(const QStringList& rows, int row) {
-  if (rows != model_.stringList()) model_.setStringList(rows);
+  if (rows != rows_) model_.setStringList(shownRows(rows));
+  rows_ = rows;
   setCurrentIndex(row < 0 ? QModelIndex() : model_.index(row));
   if (row < 0) clearSelection();
 }

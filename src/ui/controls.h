@@ -28,7 +28,7 @@ protected:
 
 private:
   QStringList rows_;
-  QString text_;
+  QString text_;  ///< as it is shown
 };
 
 /// A push button no wider than its text asks for.
@@ -67,6 +67,7 @@ private:
   void tell();
 
   QStringListModel model_;
+  QStringList rows_;
   bool pressed_ = false;
   bool arrowsChoose_ = false;
 };

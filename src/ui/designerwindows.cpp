@@ -3,6 +3,7 @@
 #include <QScreen>
 #include <QStyle>
 
+#include "elements/printable.h"
 #include "ui/placement.h"
 
 namespace veneerer {
@@ -30,8 +31,9 @@ QSize roomFor(const QWidget& window, QSize available) {
   return whole.boundedTo(available);
 }
 
-QString mainTitle(QString skin, const QString& caption) {
-  if (skin.isEmpty()) return caption;
+QString mainTitle(const QString& skinName, const QString& caption) {
+  if (skinName.isEmpty()) return caption;
+  QString skin = shownText(skinName);
   // The toolkit's mark for changes, doubled, stands for itself.
   skin.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
   return skin + QStringLiteral(" — ") + caption;

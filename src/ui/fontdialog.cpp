@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include "elements/printable.h"
 #include "tools/fontlist.h"
 
 namespace veneerer {
@@ -56,7 +57,7 @@ void tellOfMissingFamily(QFontDialog& dialog, const QString& family) {
   line->setTextFormat(Qt::PlainText);
   line->setText(
       QStringLiteral("This machine has no \"%1\". The label keeps it unless you choose another font.")
-          .arg(family));
+          .arg(excerpt(family)));
   line->setWordWrap(true);
   grid->addWidget(line, grid->rowCount(), 0, 1, -1);
 }

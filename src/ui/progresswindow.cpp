@@ -6,6 +6,8 @@
 #include <QProgressBar>
 #include <QVBoxLayout>
 
+#include "elements/printable.h"
+
 namespace veneerer {
 
 namespace {
@@ -36,7 +38,7 @@ ProgressWindow::ProgressWindow() : QDialog(owner()), what_(new QLabel), bar_(new
 void ProgressWindow::tell(int done, int total, const QString& what) {
   bar_->setMaximum(total);
   bar_->setValue(done);
-  what_->setText(what);
+  what_->setText(shownText(what));
   show();
   QCoreApplication::processEvents();
 }

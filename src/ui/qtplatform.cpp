@@ -46,11 +46,11 @@ bool runBox(const QString& title, const QString& text, QMessageBox::Icon icon,
 
 }  // namespace
 
-void QtDialogs::inform(const QString& title, const QString& text) {
+void QtDialogs::showMessage(const QString& title, const QString& text) {
   runBox(title, text, QMessageBox::Information, QMessageBox::Ok);
 }
 
-bool QtDialogs::ask(const QString& title, const QString& text) {
+bool QtDialogs::showQuestion(const QString& title, const QString& text) {
   return runBox(title, text, QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel);
 }
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "elements/notes.h"
+
 namespace veneerer {
 namespace {
 
@@ -27,6 +29,17 @@ TEST(Printable, CutsAnExcerptBetweenCodePoints) {
   const QString notes = QStringLiteral("\U0001F3B5").repeated(70);
   EXPECT_EQ(excerpt(notes), notes.left(120));
   EXPECT_EQ(excerpt(QStringLiteral("a\nbc"), 3).toStdString(), "a?b");
+}
+
+TEST(Printable, ShowsAThousandCharactersOfAnyText) {
+  const QString note = QStringLiteral("\U0001F3B5");
+  EXPECT_EQ(shownText(QStringLiteral("a\n") + note.repeated(998)), QStringLiteral("a?") + note.repeated(998));
+  const QString cut = note.repeated(999) + QChar(0x2026);
+  EXPECT_EQ(shownText(note.repeated(1001)), cut);
+  EXPECT_EQ(shownText(note.repeated(1'000'000)), cut);
+  Notes notes;
+  notes.say(note.repeated(2000));
+  EXPECT_EQ(notes.texts(), QStringList{cut});
 }
 
 }  // namespace

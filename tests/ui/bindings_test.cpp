@@ -1,5 +1,7 @@
 // Controls and elements, both ways.
 #include <QStyleHints>
+#include <QTextDocument>
+#include <QToolTip>
 
 #include "ui/uifixture.h"
 
@@ -75,6 +77,26 @@ TEST_F(Bindings, ACombosRowsAndTextFollow) {
   EXPECT_EQ(form4().Combo4->text().toStdString(), "123");
   form4().Combo1->setText(QStringLiteral("many"));
   EXPECT_EQ(widget<QComboBox>("Form4.Combo1").currentIndex(), -1);
+}
+
+TEST_F(Bindings, ListsAndTheirTipsShowAStrangersTextsAsTheyStand) {
+  auto& combo = widget<QComboBox>("Form4.Combo10");
+  for (const QString& text : {QStringLiteral("R&B"), QStringLiteral("<b>bold</b>  R&B"),
+                              QStringLiteral("a &lt; b"), QStringLiteral("&lt;i&gt; <i>")}) {
+    form4().Combo10->setText(text);
+    QHelpEvent question(QEvent::ToolTip, QPoint(1, 1), combo.mapToGlobal(QPoint(1, 1)));
+    QApplication::sendEvent(&combo, &question);
+    QTextDocument tip;
+    if (Qt::mightBeRichText(QToolTip::text()))
+      tip.setHtml(QToolTip::text());
+    else
+      tip.setPlainText(QToolTip::text());
+    EXPECT_EQ(tip.toPlainText().toStdString(), text.toStdString());
+  }
+  form4().File1->setRows({QStringLiteral("<b>R&B</b>\n\u202e.cov"), QString(2000, u'x')});
+  const QAbstractItemModel* rows = widget<QListView>("Form4.File1").model();
+  EXPECT_EQ(rows->index(0, 0).data().toString().toStdString(), "<b>R&B</b>??.cov");
+  EXPECT_EQ(rows->index(1, 0).data().toString().size(), 1000);
 }
 
 TEST_F(Bindings, TheWheelChoosesNothingEvenInTheBoxWithTheKeys) {

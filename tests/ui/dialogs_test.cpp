@@ -168,6 +168,19 @@ TEST_F(PictureDialog, TheSketchIsSmallAndBearsHostileFiles) {
   EXPECT_FALSE(sketchOf(at("pipe.bmp"), QSize(200, 200)).size.isValid());
 }
 
+TEST(Boxes, ShowAStrangersTextAsItStandsAndNoMoreOfItThanCanBeRead) {
+  QString text;
+  Qt::TextFormat format = Qt::AutoText;
+  const test::OnModal<QMessageBox> operation([&](QMessageBox& box) {
+    text = box.text();
+    format = box.textFormat();
+    box.accept();
+  });
+  QtDialogs().inform(QStringLiteral("Image"), QStringLiteral("<b>R&B</b>\u202e") + QString(2000, u'x'));
+  EXPECT_EQ(text, QStringLiteral("<b>R&B</b>?") + QString(988, u'x') + QChar(0x2026));
+  EXPECT_EQ(format, Qt::PlainText);
+}
+
 class Questions : public test::UiFixture {};
 
 TEST_F(Questions, LeaveTheSplashInSight) {

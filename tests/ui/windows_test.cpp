@@ -57,9 +57,9 @@ TEST_F(Windows, TitlesAreTheirCaptionsAndTheCanvasBeginsWithTheSkin) {
   EXPECT_EQ(title("Form5"), "Texture Viewer");
   EXPECT_EQ(title("Form6"), "Tools");
   EXPECT_EQ(title("Form1"), "S — Veneerer");
-  makeSkin(QStringLiteral("T"));
-  designer->reload(QStringLiteral("T"));
-  EXPECT_EQ(title("Form1"), "T — Veneerer");
+  makeSkin(QStringLiteral("R&B\u202e"));
+  designer->reload(QStringLiteral("R&B\u202e"));
+  EXPECT_EQ(title("Form1"), "R&B? — Veneerer");
   form4().Combo3->setRows({QStringLiteral("S"), QStringLiteral("T")});
   form4().Combo3->select(0);
   EXPECT_EQ(title("Form1"), "S — Veneerer");
