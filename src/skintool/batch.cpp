@@ -44,7 +44,7 @@ public:
     if (arguments_.reload) designer_.reload(designer_.state().form4.Combo3->text());
     ScriptPlayer(designer_, dialogs_).play(arguments_.script, script);
     if (arguments_.command == Command::Dump)
-      print(out, stateAsJson(designer_, dialogs_.messages));
+      printState(out, designer_, dialogs_.messages);
     else if (arguments_.command == Command::Render)
       renderScreens(designer_, arguments_.to, arguments_.only);
     else

@@ -6,9 +6,12 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <charconv>
+#include <map>
 #include <span>
+#include <utility>
 
 #include "elements/family.h"
+#include "skintool/output.h"
 
 namespace veneerer {
 
@@ -94,15 +97,40 @@ QJsonObject elementAsJson(const Element& element, const QString& skinPath) {
   return object;
 }
 
-QJsonObject elementsAsJson(State& state, const QString& skinPath) {
-  QJsonObject elements;
+std::map<QString, const Element*> elementsByKey(State& state) {
+  std::map<QString, const Element*> elements;
   for (Window* window : state.windows()) {
-    elements.insert(window->key(), elementAsJson(*window, skinPath));
+    elements.emplace(window->key(), window);
     for (const Family* family : window->families())
-      for (const Element* element : family->members())
-        elements.insert(element->key(), elementAsJson(*element, skinPath));
+      for (const Element* element : family->members()) elements.emplace(element->key(), element);
   }
   return elements;
+}
+
+/// The lines of an object without the braces around them.
+QByteArray linesOf(const QJsonObject& object) {
+  QByteArray lines = QJsonDocument(object).toJson();
+  lines.chop(3);
+  return lines.remove(0, 2);
+}
+
+void putIndented(std::FILE* out, QByteArrayView lines) {
+  while (!lines.isEmpty()) {
+    const qsizetype end = lines.indexOf('\n');
+    const qsizetype size = end < 0 ? lines.size() : end + 1;
+    put(out, "    ");
+    putJson(out, lines.first(size));
+    lines = lines.sliced(size);
+  }
+}
+
+void putElements(std::FILE* out, State& state, const QString& skinPath) {
+  const char* ahead = "    \"elements\": {\n";
+  for (const auto& [key, element] : elementsByKey(state)) {
+    put(out, std::exchange(ahead, ",\n"));
+    putIndented(out, linesOf({{key, elementAsJson(*element, skinPath)}}));
+  }
+  put(out, "\n    },\n");
 }
 
 QJsonObject globalsAsJson(const Globals& globals) {
@@ -136,17 +164,18 @@ QJsonArray messagesAsJson(const QList<ScriptedDialogs::Message>& messages) {
 
 }  // namespace
 
-QByteArray stateAsJson(Designer& designer, const QList<ScriptedDialogs::Message>& messages) {
+void printState(std::FILE* out, Designer& designer, const QList<ScriptedDialogs::Message>& messages) {
   State& state = designer.state();
   designer.fillFonts();
   const SkinFolder skin = designer.skinFolder();
   const QString skinPath = QDir::cleanPath(QFileInfo(skin.path()).absoluteFilePath());
-  const QJsonObject root{{QStringLiteral("globals"), globalsAsJson(state.globals)},
-                         {QStringLiteral("elements"), elementsAsJson(state, skinPath)},
-                         {QStringLiteral("tables"), tablesAsJson(state.names)},
-                         {QStringLiteral("messages"), messagesAsJson(messages)},
-                         {QStringLiteral("notes"), QJsonArray::fromStringList(state.notes.texts())}};
-  return QJsonDocument(root).toJson();
+  put(out, "{\n");
+  putElements(out, state, skinPath);
+  putJson(out, linesOf({{QStringLiteral("globals"), globalsAsJson(state.globals)},
+                        {QStringLiteral("messages"), messagesAsJson(messages)},
+                        {QStringLiteral("notes"), QJsonArray::fromStringList(state.notes.texts())},
+                        {QStringLiteral("tables"), tablesAsJson(state.names)}}));
+  print(out, "\n}\n");
 }
 
 }  // namespace veneerer

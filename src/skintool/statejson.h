@@ -1,8 +1,8 @@
 // The state of a designer as JSON.
 #pragma once
 
-#include <QByteArray>
 #include <QList>
+#include <cstdio>
 
 #include "designer/designer.h"
 #include "platform/scripteddialogs.h"
@@ -10,6 +10,8 @@
 namespace veneerer {
 
 /// Globals, every element with its properties, the tables of image names, and the message boxes shown.
-QByteArray stateAsJson(Designer& designer, const QList<ScriptedDialogs::Message>& messages);
+/// Element by element, for a stranger's texts may be many times larger as JSON. Throws std::runtime_error
+/// when it can't be written.
+void printState(std::FILE* out, Designer& designer, const QList<ScriptedDialogs::Message>& messages);
 
 }  // namespace veneerer

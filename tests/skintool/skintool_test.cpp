@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "elements/printable.h"
 #include "records/recorderror.h"
 #include "skintool/batchrun.h"
 #include "skintool/render.h"
@@ -70,6 +71,17 @@ TEST_F(Skintool, PlaysWhatAnOperatorDoes) {
   EXPECT_EQ(globals[u"SectionNumber"].toInt(), 70);
   EXPECT_EQ(globals[u"ElementIndex"].toInt(), 2);
   EXPECT_EQ(state[u"tables"].toObject()[u"ImageName"].toArray().size(), 16);
+}
+
+TEST_F(Skintool, ADumpHoldsNothingThatSteersATerminal) {
+  const QString name = QStringLiteral("a\u001b]0;x\u0007\u009b31m\u202e\U000E0041\u007f.cov");
+  write(skin() + u'/' + name, " 0 \r\n-1 \r\nAlbum Covers\r\nAlbum Frames\r\nAlbum Title\r\n");
+  const QString typed = QStringLiteral("\u00e9\U0001F3B5 ").repeated(40'000) + name;
+  const QJsonObject state = dump("set Form4.Text2 \"" + typed.toUtf8() + "\"\n");
+  EXPECT_EQ(element(state, "Form4.File1")[u"List"].toArray()[0].toString(), name);
+  EXPECT_TRUE(element(state, "Form4.Text2")[u"Text"].toString() == typed);
+  const QString printed = QString::fromUtf8(out.replace('\n', ' '));
+  EXPECT_TRUE(printable(printed) == printed);
 }
 
 TEST_F(Skintool, PressesWithAnyButton) {
