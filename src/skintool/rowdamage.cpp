@@ -75,6 +75,7 @@ QString writtenNumber(ValueKind kind, double number) {
 
 QString writtenNumber(const Row& row, double number) {
   if (row.reference()) return plainNumber(number);
+  if (row.counter()) return wholeText(row.counter()->intoRange(number));
   return writtenNumber(row.field() ? row.field()->kind : ValueKind::Integer, number);
 }
 
@@ -102,6 +103,12 @@ QString shownText(const RawValue& raw) {
   return isCaption ? raw.text : withoutLeadingBlanks(raw.text);
 }
 
+/// Boxes that show a number take any text.
+bool holdsText(const RawValue& raw) {
+  const Field* field = raw.row->field();
+  return field && field->kind == ValueKind::Text && std::holds_alternative<QString>(raw.value);
+}
+
 QString firstOf(std::initializer_list<QString> damages) {
   for (const QString& damage : damages)
     if (!damage.isEmpty()) return damage;
@@ -115,14 +122,14 @@ QString rowDamage(const RawValue& raw) {
   const Sort sort = sortOf(*raw.row);
   const QString what = nameOf(*raw.row);
   const QString text = shownText(raw);
-  const bool isText = sort == Sort::Text || sort == Sort::Reference;
+  const bool isText = sort == Sort::Text || sort == Sort::Reference || holdsText(raw);
   if (isText && withoutLeadingBlanks(text).startsWith(u'"')) return quotesDamage(what, raw);
   if (!raw.endsLine) return lineDamage(sort == Sort::Number ? QStringLiteral("line") : what, raw.text);
   if (sort == Sort::Dropped) return lineDamage(what, raw.text);
   if (sort == Sort::Text)
     return firstOf({utf8Damage(what, text), undefinedByteDamage(what, text), textDamage(what, text)});
   const bool isName = sort == Sort::Reference && !std::holds_alternative<double>(raw.value);
-  return isName ? textDamage(what, text) : numberDamage(raw);
+  return isName || holdsText(raw) ? textDamage(what, text) : numberDamage(raw);
 }
 
 }  // namespace veneerer

@@ -84,6 +84,12 @@ TEST_F(Check, TellsWhatALoadOrASaveWouldSpoil) {
       {"main.ini", 96, "8,5", "the font size \"8,5\" comes back as \"8\""},
       {"a.cov", 4, " 12.5 ", "the number \"12.5\" comes back as \"12\""},
       {"resolution.ini", 5, "600.0", "the number \"600.0\" comes back as \"600\""},
+      {"resolution.ini", 4, "\"600, 99999999999\"",
+       "the number \"600, 99999999999\" loses its quotes; then a comma cuts the number \"600, "
+       "99999999999\""},
+      {"resolution.ini", 5, "\"#NULL#\"",
+       "the number \"#NULL#\" loses its quotes; then the next load fails on the number \"#NULL#\""},
+      {"a.cov", 2, " 40 ", "the number \"40\" comes back as \"28\""},
   };
   for (const Changed& c : cases) {
     const QByteArray before = bytesOf(c.file);
