@@ -73,13 +73,16 @@ QString SkinFolder::above(const QString& folder) const {
 }
 
 const SkinFolder::Names& SkinFolder::listing(const QString& folder) const {
-  const auto known = listings_.constFind(folder);
+  // Links give one folder more names than can be listed.
+  const QString real = QFileInfo(folder).canonicalFilePath();
+  const auto known = listings_.constFind(real);
   if (known != listings_.constEnd()) return *known;
   Names names;
-  const QStringList found = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+  QStringList found;
+  if (!real.isEmpty()) found = QDir(real).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
   // Of names that differ in case alone the first one stays.
   for (auto name = found.rbegin(); name != found.rend(); ++name) names.insert(folded(*name), *name);
-  return *listings_.insert(folder, names);
+  return *listings_.insert(real, names);
 }
 
 bool SkinFolder::contains(const QString& path) const {

@@ -46,6 +46,10 @@ public:
   /// or the reference is longer than kLongestReference. A reference may lead out of the folder.
   QString resolve(const QString& reference) const;
 
+  /// The names of all that stands in that folder, in no order. Of names that differ in case alone there is
+  /// one.
+  QStringList names(const QString& folder) const { return listing(folder).values(); }
+
   /// True when the path, links resolved, lies inside this folder: only such a file may be deleted or
   /// overwritten for a reference's sake.
   bool contains(const QString& path) const;
@@ -57,7 +61,7 @@ private:
   using Names = QHash<QString, QString>;  ///< by their folded case
 
   QString path_;
-  mutable QHash<QString, Names> listings_;
+  mutable QHash<QString, Names> listings_;  ///< by the folder's path, links resolved
 
   const Names& listing(const QString& folder) const;
   QString above(const QString& folder) const;

@@ -1,6 +1,5 @@
 #include "skintool/referencedamage.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include "elements/printable.h"
@@ -19,8 +18,9 @@ QString unnameableFile(const SkinFolder& folder, const QString& reference) {
   if (!reference.contains(u'?')) return {};
   const QFileInfo sought(folder.path() + QString(reference).replace(u'\\', u'/'));
   if (!folder.contains(sought.path())) return {};
-  for (const QString& name : QDir(sought.path()).entryList(QDir::Files))
-    if (asSaved(name).compare(sought.fileName(), Qt::CaseInsensitive) == 0) return name;
+  const QString wanted = sought.fileName();
+  for (const QString& name : folder.names(sought.path()))
+    if (name.size() == wanted.size() && asSaved(name).compare(wanted, Qt::CaseInsensitive) == 0) return name;
   return {};
 }
 

@@ -63,6 +63,9 @@ TEST_F(SkinFolderTest, AWayBackLeadsWhereTheSystemLeads) {
   test::writeBytes(at("elsewhere/a.bmp"), "x");
   QFile::link(at("elsewhere/inner"), at("Skins/Blue/link"));
   EXPECT_EQ(QFileInfo(resolve("\\Link\\..\\A.bmp")).canonicalFilePath(), at("elsewhere/a.bmp"));
+  QFile::link(at("Skins/Blue"), at("Skins/Blue/self"));
+  EXPECT_EQ(QFileInfo(resolve("\\Self\\SELF\\IMAGES\\menu.bmp")).canonicalFilePath(),
+            at("Skins/Blue/images/Menu.bmp"));
   EXPECT_EQ(resolve("\\MENU.INI\\..\\images\\menu.bmp"), QString()) << "a file has no way back";
 }
 
