@@ -17,6 +17,10 @@ namespace veneerer {
 
 namespace {
 
+// More than a thousand Skins' worth; a stranger's folder may hold any number of files that tell of any number
+// of covers.
+constexpr std::size_t kMostCoverLines = 1'000'000;
+
 class SkinCheck {
 public:
   SkinCheck(const SkinFolder& folder, const Screen& screen, qint64 decoding)
@@ -29,9 +33,7 @@ public:
   Findings run() {
     for (const SaveEntry& entry : saveOrder()) checkEntry(entry);
     if (!hasRecords_) warn(QString(), QStringLiteral("no record file is here"));
-    // A load lists plain files only; anything else of such a name stands in a save's way.
-    for (const QString& name : coverNames())
-      check(name, coverFile(skin_.state, name, lastCoverOf(bytesOf(name))), isFile(name));
+    checkCovers();
     checkCanvasSize();
     tellUntriedPictures();
     // A routine without effect names it.
@@ -59,6 +61,23 @@ private:
     } catch (const RecordError&) {
       return {};
     }
+  }
+
+  void checkCovers() {
+    std::size_t lines = 0;
+    int unchecked = 0;
+    for (const QString& name : coverNames()) {
+      if (lines > kMostCoverLines) {
+        ++unchecked;
+        continue;
+      }
+      const Layout layout = coverFile(skin_.state, name, lastCoverOf(bytesOf(name)));
+      lines += layout.size();
+      // A load lists plain files only; anything else of such a name stands in a save's way.
+      check(name, layout, isFile(name));
+    }
+    if (unchecked > 0)
+      warn(QString(), QStringLiteral("there are too many cover files: %1 not checked").arg(unchecked));
   }
 
   void checkEntry(const SaveEntry& entry) {

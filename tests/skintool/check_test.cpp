@@ -200,13 +200,24 @@ TEST_F(Check, TellsWhatIsNoFileUnderAFilesName) {
   QFile::link(QStringLiteral("gone"), file("tab.ini"));
   QFile::link(QStringLiteral("gone"), file("b.cov"));
   QDir().mkpath(file("c.cov"));
+  ASSERT_EQ(::mkfifo(QFile::encodeName(file("d.cov")).constData(), 0600), 0);
   write(file(".menu.ini.999999999-0123456789abcdef.saving"), "what a killed save left");
   EXPECT_EQ(check(),
             (QList<QByteArray>{"main.ini: error: there is something under this name that is no file",
                                "menu_v2.ini: warning: there is something under this name that is no file",
                                "tab.ini: warning: the file is a link that leads nowhere",
                                "b.cov: warning: the file is a link that leads nowhere",
-                               "c.cov: warning: there is something under this name that is no file", ""}));
+                               "c.cov: warning: there is something under this name that is no file",
+                               "d.cov: warning: there is something under this name that is no file", ""}));
+}
+
+TEST_F(Check, LeavesOutCoverFilesBeyondAMillionLines) {
+  const QByteArray cover = " 1 \r\n 2000 \r\nAlbum Covers\r\n" + QByteArray("1\n").repeated(4000);
+  for (int i = 10; i < 40; ++i) write(file(qPrintable(QStringLiteral("b%1.cov").arg(i))), cover);
+  const QList<QByteArray> findings = check();
+  EXPECT_TRUE(findings.contains("warning: there are too many cover files: 7 not checked"))
+      << out.toStdString();
+  EXPECT_TRUE(findings[0].startsWith("b10.cov:4004: error: ")) << out.toStdString();
 }
 
 TEST_F(Check, NamesTheSkinWhereThereAreSeveral) {
