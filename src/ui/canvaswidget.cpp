@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPaintEngine>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -41,7 +42,7 @@ MouseButton buttonOf(const QMouseEvent& event) {
 }
 
 QRect reach(const QRect& outline) {
-  constexpr int r = kOutlineReach;
+  const int r = kOutlineReach;
   return outline.isNull() ? outline : outline.adjusted(-r, -r, r, r);
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kFrame = 12;  // milliseconds; the rest of a frame is left for painting
 
-enum Priority { kBehind = 0, kAhead = 1 };
+enum Priority { Behind = 0, Ahead = 1 };
 
 }  // namespace
 
@@ -33,7 +33,7 @@ QFuture<QImage> PictureFetcher::thumbnail(const Picture& picture, QSize within) 
   return QtConcurrent::task(&Picture::thumbnail)
       .withArguments(picture, within)
       .onThreadPool(pool_)
-      .withPriority(kBehind)
+      .withPriority(Behind)
       .spawn();
 }
 
@@ -50,7 +50,7 @@ void PictureFetcher::fetch(const Picture& picture) {
         QMetaObject::invokeMethod(
             this, [this, picture] { arrived(picture); }, Qt::QueuedConnection);
       },
-      kAhead);
+      Ahead);
   if (!done->tryAcquire(1, patience())) late_.insert(picture.id());
 }
 
