@@ -1,5 +1,7 @@
 #include "elements/button.h"
 
+#include "elements/kinds.h"
+
 namespace veneerer {
 
 namespace {
@@ -25,12 +27,10 @@ bool isInside(const Value& value, int last) {
 }  // namespace
 
 void Button::resetDefaultColors() {
-  constexpr Colour kFace = static_cast<std::int32_t>(0x8000000F);
-  constexpr Colour kText = static_cast<std::int32_t>(0x80000012);
-  setBackColor(kFace);
-  setForeColor(kText);
-  set(Property::HoverBackColor, kFace);
-  set(Property::HoverForeColor, kText);
+  setBackColor(kButtonFace);
+  setForeColor(kButtonText);
+  set(Property::HoverBackColor, kButtonFace);
+  set(Property::HoverForeColor, kButtonText);
 }
 
 QString Button::refusal(Property property, const Value& value) const {

@@ -13,10 +13,6 @@ using Defaults = std::vector<PropertyDefault>;
 
 constexpr int kKindCount = static_cast<int>(Kind::CoverIndex) + 1;
 
-// System colours in the signed form of the record files.
-constexpr Colour kButtonFace = static_cast<std::int32_t>(0x8000000F);
-constexpr Colour kButtonText = static_cast<std::int32_t>(0x80000012);
-
 Defaults operator+(Defaults left, const Defaults& right) {
   left.insert(left.end(), right.begin(), right.end());
   return left;

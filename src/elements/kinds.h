@@ -7,6 +7,10 @@
 
 namespace veneerer {
 
+/// The platform's standard for a button and its text, system colours in the form of the record files.
+inline constexpr Colour kButtonFace = static_cast<std::int32_t>(0x8000000F);
+inline constexpr Colour kButtonText = static_cast<std::int32_t>(0x80000012);
+
 struct PropertyDefault {
   Property property;
   Value value;

@@ -75,10 +75,6 @@ NewFile CoverLayouts::compose(const QString& name) {
   return {name, composeRecords(coverFile(state_, name, state_.globals.LastCoverIndex->value()))};
 }
 
-void CoverLayouts::save(const SkinFolder& target, const QString& name) {
-  writeFiles(platform_.disk, target.path(), {compose(name)});
-}
-
 void CoverLayouts::listFiles() {
   state_.form4.File1->setRows(folder().coverFiles());
 }
@@ -122,7 +118,7 @@ void CoverLayouts::offerSave(const SkinFolder& target) {
                              QStringLiteral("Do you want to save the COVER Layout Too?")))
     return;
   const QString name = nameToWrite(target);
-  if (!name.isEmpty()) save(target, name);
+  if (!name.isEmpty()) writeFiles(platform_.disk, target.path(), {compose(name)});
   listFiles();
 }
 

@@ -22,8 +22,6 @@ public:
   /// Loads a cover file; one that isn't there changes nothing. Ends by showing the number of covers in
   /// Combo4. Throws RecordError.
   void load(const QString& path);
-  /// Composes the whole file and writes it under that name. Throws WriteRefused and RecordError.
-  void save(const SkinFolder& target, const QString& name);
 
   /// Points the list of cover files at the Skin named by Combo3.
   void listFiles();

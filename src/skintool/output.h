@@ -12,8 +12,8 @@ void print(std::FILE* out, QByteArrayView text);
 /// The same for text that is one piece of several: it is written with the next print().
 void put(std::FILE* out, QByteArrayView text);
 
-/// Puts a piece of JSON. Characters that would steer a terminal stand in it as "\uXXXX", which changes no
-/// value.
+/// Puts a piece of JSON. Characters that would steer a terminal stand in it as an escape (\u and digits),
+/// which changes no value.
 void putJson(std::FILE* out, QByteArrayView json);
 
 }  // namespace veneerer
