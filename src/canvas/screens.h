@@ -48,10 +48,14 @@ inline constexpr std::array<std::u16string_view, 32> kScreenEntries = {
 /// The panel of an entry, 0 to 31.
 Element& screenOf(State& state, int entry);
 
-/// Hides every screen but the two that the Skin's properties keep shown.
-void hideAllScreens(State& state);
+/// Whether the element is the panel of an entry.
+bool isScreen(const State& state, const Element& element);
 
-/// Shows the screen of an entry alone and in front. No row (-1) shows nothing new. The current Section stays.
+/// Shows the screen of an entry in front, alone but for the two that the Skin's properties keep shown. No row
+/// (-1) shows nothing new. The current Section stays.
 void showScreen(State& state, int entry);
+
+/// Whether those screens are shown, and only those, that showScreen() shows for that entry.
+bool isScreenShown(State& state, int entry);
 
 }  // namespace veneerer

@@ -116,11 +116,13 @@ TEST(Screens, ShowsOneEntryAndWhatTheSkinKeeps) {
   }
   state.form4.Check9->setValue(0);
   state.form4.Check12->setValue(1);
-  hideAllScreens(state);
+  EXPECT_FALSE(isScreenShown(state, 31));
+  showScreen(state, 31);
+  EXPECT_TRUE(isScreenShown(state, 31));
   EXPECT_FALSE(screenOf(state, 27).isVisible());
   EXPECT_TRUE(screenOf(state, 13).isVisible());
   showScreen(state, -1);
-  EXPECT_TRUE(screenOf(state, 13).isVisible());
+  EXPECT_TRUE(isScreenShown(state, 31));
 }
 
 }  // namespace veneerer

@@ -4,9 +4,9 @@
 #include <QStatusBar>
 #include <limits>
 
+#include "canvas/description.h"
 #include "canvas/sections.h"
 #include "support/pictures.h"
-#include "ui/description.h"
 #include "ui/dirtyarea.h"
 #include "ui/uifixture.h"
 

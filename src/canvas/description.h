@@ -1,4 +1,4 @@
-// Elements in words, for the status line.
+// Elements in words, for the status line and for the names of steps.
 #pragma once
 
 #include "forms/state.h"
@@ -8,6 +8,10 @@ namespace veneerer {
 
 /// "Label16(3)", "lvButtons_H9".
 QString shortName(const Element& element);
+
+/// What the operator knows an element by: its caption, with its index in parentheses for one of many; a
+/// screen by its entry in the Edit Section list. Else shortName(). Plain text of one line.
+QString elementTitle(State& state, const Element& element);
 
 /// Where the element stands: the entry of its screen in the Edit Section list, or "Frame".
 QString screenName(State& state, const Element& element);

@@ -1,12 +1,15 @@
-#include "ui/description.h"
+#include "canvas/description.h"
 
 #include "canvas/screens.h"
 #include "canvas/sections.h"
 #include "elements/numbers.h"
+#include "elements/printable.h"
 
 namespace veneerer {
 
 namespace {
+
+constexpr int kLongestTitle = 40;  // code points
 
 const QString kGap = QStringLiteral("   ");
 
@@ -47,6 +50,18 @@ QString sectionText(State& state, const Element& element) {
 
 QString shortName(const Element& element) {
   return element.key().section(u'.', -1);
+}
+
+QString elementTitle(State& state, const Element& element) {
+  if (!element.family()) return QStringLiteral("the canvas");
+  if (const int entry = entryOf(state, element); entry >= 0) return entryText(entry);
+  if (!element.has(Property::Caption)) return shortName(element);
+  // The mark of a new line is for the canvas alone.
+  const QString caption =
+      QString(element.as<QString>(Property::Caption)).replace(QStringLiteral("||"), QStringLiteral(" "));
+  const QString title = excerpt(caption.simplified(), kLongestTitle);
+  if (title.isEmpty()) return shortName(element);
+  return element.index() < 0 ? title : QStringLiteral("%1 (%2)").arg(title).arg(element.index());
 }
 
 QString screenName(State& state, const Element& element) {
