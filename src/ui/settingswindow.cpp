@@ -2,30 +2,32 @@
 
 #include <QHBoxLayout>
 
+#include "forms/fieldlabels.h"
 #include "ui/layouts.h"
 
 namespace veneerer {
 
 namespace {
 
-struct ListRow {
-  const char* label;
-  ComboBox* list;
-};
+// "N.o Covers" alone stands without a colon.
+QLabel* makeFieldLabel(const Element& element, QWidget* control) {
+  const QString text = fieldLabel(*element.family());
+  return makeLabel(text.contains(u'.') ? text : text + u':', control);
+}
 
 QGroupBox* fileFrame(const Ui& ui, Form4& form) {
   auto* row = compact(new QHBoxLayout);
   TextCombo* skin = makeCombo(ui, *form.Combo3);
   skin->setToolTip(QStringLiteral("The Skin that is loaded; choosing another one loads it"));
-  row->addWidget(makeLabel(QStringLiteral("Loaded Skin:"), skin));
+  row->addWidget(makeFieldLabel(*form.Combo3, skin));
   row->addWidget(skin, 1);
   row->addWidget(makeCommand(ui, *form.Command4));
   return makeFrame(QStringLiteral("File Options"), row);
 }
 
-void addList(QGridLayout* grid, int row, int column, int columns, const Ui& ui, const ListRow& entry) {
-  TextCombo* list = makeCombo(ui, *entry.list);
-  grid->addWidget(makeLabel(QString::fromLatin1(entry.label), list), row, column);
+void addList(QGridLayout* grid, int row, int column, int columns, const Ui& ui, ComboBox& box) {
+  TextCombo* list = makeCombo(ui, box);
+  grid->addWidget(makeFieldLabel(box, list), row, column);
   grid->addWidget(list, row, column + 1, 1, columns);
 }
 
@@ -34,17 +36,11 @@ QLayout* listsLayout(const Ui& ui, Form4& form) {
   auto* grid = new QGridLayout;
   grid->setSpacing(4);
   int row = 0;
-  for (const ListRow& entry : {ListRow{"Default Screen:", &*form.Combo8},
-                               {"Default HOME Screen:", &*form.Combo9},
-                               {"Player Style:", &*form.Combo10},
-                               {"Navigation Style:", &*form.Combo6},
-                               {"Jump To Letter:", &*form.Combo2},
-                               {"Genre Style:", &*form.Combo5},
-                               {"Genre Nav:", &*form.Combo11},
-                               {"Other Albums:", &*form.Combo12}})
-    addList(grid, row++, 0, 3, ui, entry);
-  addList(grid, row, 0, 1, ui, {"Number of genres shown:", &*form.Combo7});
-  addList(grid, row, 2, 1, ui, {"Number of tracks shown:", &*form.Combo1});
+  for (ComboBox* list : {&*form.Combo8, &*form.Combo9, &*form.Combo10, &*form.Combo6, &*form.Combo2,
+                         &*form.Combo5, &*form.Combo11, &*form.Combo12})
+    addList(grid, row++, 0, 3, ui, *list);
+  addList(grid, row, 0, 1, ui, *form.Combo7);
+  addList(grid, row, 2, 1, ui, *form.Combo1);
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(3, 1);
   return grid;
@@ -78,7 +74,7 @@ QGroupBox* resolutionFrame(const Ui& ui, Form4& form) {
     field->setToolTip(tip);
     addField(grid, 0, 2 * i, i == 0 ? QStringLiteral("X:") : QStringLiteral("Y:"), field);
   }
-  return makeFrame(QStringLiteral("Skin Resolution"), grid);
+  return makeFrame(fieldLabel(form.Text1), grid);
 }
 
 QLayout* coverFileLayout(const Ui& ui, Form4& form) {
@@ -86,11 +82,11 @@ QLayout* coverFileLayout(const Ui& ui, Form4& form) {
   RowListView* files = makeFileList(ui, *form.File1);
   files->setToolTip(
       QStringLiteral("Click to load a cover layout; double-click to load it without a question"));
-  column->addWidget(makeLabel(QStringLiteral("Cover files:"), files));
+  column->addWidget(makeFieldLabel(*form.File1, files));
   column->addWidget(files, 1);
   auto* name = new QHBoxLayout;
   QLineEdit* field = makeField(ui, *form.Text2);
-  name->addWidget(makeLabel(QStringLiteral("File name:"), field));
+  name->addWidget(makeFieldLabel(*form.Text2, field));
   name->addWidget(field, 1);
   column->addLayout(name);
   column->addWidget(makeCommand(ui, *form.Command1));
@@ -101,7 +97,7 @@ QLayout* coverOptionsLayout(const Ui& ui, Form4& form) {
   auto* column = new QVBoxLayout;
   auto* count = new QHBoxLayout;
   TextCombo* covers = makeEditableCombo(ui, *form.Combo4);
-  count->addWidget(makeLabel(QStringLiteral("N.o Covers"), covers));
+  count->addWidget(makeFieldLabel(*form.Combo4, covers));
   count->addWidget(covers, 1);
   column->addLayout(count);
   CheckBox* const boxes[] = {&*form.Check1, &*form.Check3, &*form.Check4,
