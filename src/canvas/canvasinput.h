@@ -18,6 +18,9 @@ public:
   /// The move event; the button is the one held down.
   void move(Element& element, float x, float y, MouseButton held) { dragging_.move(element, x, y, held); }
 
+  /// Fills the fields of Form6 anew from the element in hand; no tool hears of it.
+  void refill() { selection_.refill(); }
+
 private:
   State& state_;
   Dialogs& dialogs_;

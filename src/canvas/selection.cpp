@@ -25,6 +25,13 @@ void Selection::click(Element& element) {
   fillFields(element);
 }
 
+void Selection::refill() {
+  Element* element = currentElement(state_);
+  if (!element) return;
+  const ViewsOnly views(state_.board);
+  fillFields(*element);
+}
+
 void Selection::fillFields(Element& element) {
   if (&element.window() == &state_.form6) {
     // The font samples show nothing of themselves.

@@ -15,6 +15,9 @@ public:
   /// alone.
   void click(Element& element);
 
+  /// Shows the values of the element in hand in the fields of Form6; no tool hears of it.
+  void refill();
+
 private:
   void fillFields(Element& element);
   void fillSample(Button& sample);

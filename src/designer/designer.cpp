@@ -3,7 +3,10 @@
 #include "canvas/canvasinput.h"
 #include "design/design.h"
 #include "designer/refusalnotes.h"
+#include "elements/printable.h"
+#include "elements/require.h"
 #include "forms/currentskin.h"
+#include "history/stepname.h"
 #include "panels/coverlayout.h"
 #include "panels/skinproperties.h"
 #include "panels/textureviewer.h"
@@ -46,13 +49,20 @@ struct Designer::Parts {
 
   void firstSkinChosen() {
     if (state->form3.List1->listIndex() < 0) return;
-    chooseSkin(*state, state->form3.List1->text(), loader);
-    followFonts();
+    const QString name = state->form3.List1->text();
+    loadAs(name, [&] { chooseSkin(*state, name, loader); });
+    if (!std::exchange(isLoaded, true)) history.start();
   }
 
   void reload() {
-    loader.reload();
+    loadAs(state->form4.Combo3->text(), [&] { loader.reload(); });
+  }
+
+  void loadAs(const QString& name, const std::function<void()>& load) {
+    const History::Action action(history, QStringLiteral("Skin ") + shownText(name));
+    load();
     followFonts();
+    history.markClean();
   }
 
   /// The list of fonts, once there is one, knows the families of the Skin that is loaded.
@@ -64,8 +74,27 @@ struct Designer::Parts {
     const SkinFolder skin = skinFolder();
     const auto saveAll = [&] { saveRecords(*state, platform.disk, skin); };
     const auto saveCovers = [&] { covers.offerSave(skin); };
-    if (writeOrTell(platform.dialogs, QStringLiteral("Save Skin"), saveAll))
-      writeOrTell(platform.dialogs, QStringLiteral("Save Cover File"), saveCovers);
+    if (!writeOrTell(platform.dialogs, QStringLiteral("Save Skin"), saveAll)) return;
+    history.markClean();
+    writeOrTell(platform.dialogs, QStringLiteral("Save Cover File"), saveCovers);
+  }
+
+  /// The commands that do nothing but write files, and list them anew.
+  bool isSave(const Element& element) const {
+    return &element == &*state->form4.Command4 || &element == &*state->form4.Command1 ||
+           &element == &*state->form2.Command1;
+  }
+
+  /// Some commands write files as well, which no undo brings back.
+  QString nameOf(const Element& element) const {
+    const QString name = actionName(*state, element);
+    const bool writes = &element == &*state->form6.Command10 || &element == &*state->form5.Command1;
+    return writes ? name + QStringLiteral(" (its files stay)") : name;
+  }
+
+  void click(Element& element) {
+    const RefusalNotes::Command command(refusals);
+    state->board.click(element);
   }
 
   SkinFolder skinFolder() const { return currentSkinFolder(*state, platform.folder); }
@@ -79,6 +108,9 @@ struct Designer::Parts {
   CanvasInput canvas{*state, platform.dialogs};
   ToolsPalette tools{*state, platform, platform.progress};
   SkinLoader loader{*state, platform, covers};
+  History history{*state, [this] { canvas.refill(); }};
+  const char gesture = 0;  ///< its address is what a press, its moves and its click join
+  bool isLoaded = false;   ///< a Skin is, so that the next one is a step
   std::vector<Attachment> attachments;
 };
 
@@ -99,9 +131,10 @@ SkinFolder Designer::skinFolder() const {
 }
 
 bool Designer::startUp() {
-  const bool isLoaded = veneerer::startUp(*parts_->state, parts_->platform, parts_->loader);
+  parts_->isLoaded = veneerer::startUp(*parts_->state, parts_->platform, parts_->loader);
   parts_->followFonts();
-  return isLoaded;
+  if (parts_->isLoaded) parts_->history.start();
+  return parts_->isLoaded;
 }
 
 void Designer::openChooser() {
@@ -109,6 +142,7 @@ void Designer::openChooser() {
 }
 
 void Designer::reload(const QString& skinName) {
+  const History::Action action(parts_->history);
   parts_->state->form4.Combo3->setText(skinName);
   parts_->reload();
 }
@@ -127,25 +161,64 @@ void Designer::fillFonts() {
 }
 
 void Designer::click(Element& element) {
-  const RefusalNotes::Command command(parts_->refusals);
-  parts_->state->board.click(element);
+  if (parts_->isSave(element)) {
+    const History::Pause pause(parts_->history);
+    return parts_->click(element);
+  }
+  const bool isOnCanvas = &element.window() == &parts_->state->form1;
+  const History::Action action(parts_->history, parts_->nameOf(element),
+                               isOnCanvas ? &parts_->gesture : nullptr);
+  parts_->click(element);
 }
 
 void Designer::press(Element& element, float x, float y, MouseButton button) {
-  if (&element.window() == &parts_->state->form1) parts_->canvas.press(element, x, y, button);
+  if (&element.window() != &parts_->state->form1) return;
+  parts_->history.settle();
+  const History::Action action(parts_->history, {}, &parts_->gesture);
+  parts_->canvas.press(element, x, y, button);
 }
 
 void Designer::move(Element& element, float x, float y, MouseButton button) {
-  if (&element.window() == &parts_->state->form1) parts_->canvas.move(element, x, y, button);
+  if (&element.window() != &parts_->state->form1) return;
+  const History::Action action(parts_->history, {}, &parts_->gesture);
+  parts_->canvas.move(element, x, y, button);
 }
 
-void Designer::doubleClick(Element& element) {
-  parts_->state->board.doubleClick(element);
+void Designer::type(Element& field, const QString& text) {
+  const History::Action action(parts_->history, actionName(*parts_->state, field), &field);
+  field.set(Property::Text, text);
+}
+
+bool Designer::choose(RowList& list, int row) {
+  const History::Action action(parts_->history, actionName(*parts_->state, list));
+  return list.select(row);
+}
+
+void Designer::chooseTwice(RowList& list, int row) {
+  require(row >= 0 && list.hasRow(row), "a row that is there is chosen");
+  const History::Action action(parts_->history, actionName(*parts_->state, list));
+  list.setText(list.list().at(row));
+  parts_->state->board.doubleClick(list);
+}
+
+void Designer::tick(CheckBox& box, int value) {
+  const History::Action action(parts_->history, actionName(*parts_->state, box));
+  box.setValue(value);
+}
+
+void Designer::select(OptionButton& option) {
+  const History::Action action(parts_->history);
+  option.select();
 }
 
 void Designer::resizeCanvas(float width, float height) {
+  const History::Action action(parts_->history);
   parts_->state->form1.setWidth(width);
   parts_->state->form1.setHeight(height);
+}
+
+History& Designer::history() {
+  return parts_->history;
 }
 
 }  // namespace veneerer

@@ -5,7 +5,9 @@
 #include <memory>
 
 #include "canvas/mousebutton.h"
+#include "elements/controls.h"
 #include "forms/state.h"
+#include "history/history.h"
 #include "platform/platform.h"
 #include "platform/skinfolder.h"
 
@@ -48,9 +50,8 @@ public:
   /// with the user's fonts, so a shell asks for it when its first paint is done or the list is needed.
   void fillFonts();
 
-  // What an operator does. Typing, ticking and choosing are changes of the elements themselves
-  // (TextBox::setText, CheckBox::setValue, OptionButton::select, RowList::select), which act by their
-  // notices.
+  // What an operator does. Each call is an action that can be undone; a press, the moves behind it and the
+  // click that ends them are one step, and so are the texts typed into one field one after the other.
 
   /// The click event of an element of the canvas, a command button, a thumbnail or a sample.
   void click(Element& element);
@@ -58,10 +59,20 @@ public:
   void press(Element& element, float x, float y, MouseButton button);
   /// The move event; the button is the one held down.
   void move(Element& element, float x, float y, MouseButton button);
-  /// The second event of the cover list Form4.File1, on its chosen row.
-  void doubleClick(Element& element);
+  /// Types a text into a text or combo box, which may be one letter more than before.
+  void type(Element& field, const QString& text);
+  /// Picks a row. False when the list has no such row.
+  bool choose(RowList& list, int row);
+  /// The second event of the cover list Form4.File1 on that row, without the question of the first.
+  void chooseTwice(RowList& list, int row);
+  /// Sets a check box, to 0 or 1.
+  void tick(CheckBox& box, int value);
+  void select(OptionButton& option);
   /// The operator sizes the canvas window; twips. The elements keep their places.
   void resizeCanvas(float width, float height);
+
+  /// What was done, for undo and redo. It begins behind start-up.
+  History& history();
 
 private:
   struct Parts;

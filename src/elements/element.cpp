@@ -50,6 +50,13 @@ bool Element::set(Property property, Value value) {
   return isAccepted;
 }
 
+void Element::restore(Property property, Value value) {
+  require(typeOf(value) == propertyType(property), "the value is not of the property's type");
+  const ViewsOnly views(window_.board());
+  const Value old = replace(property, std::move(value));
+  notify(property, old);
+}
+
 void Element::place(float left, float top, float width, float height) {
   setLeft(left);
   setTop(top);

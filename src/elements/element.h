@@ -63,6 +63,10 @@ public:
   /// property's own.
   bool set(Property property, Value value);
 
+  /// Puts a value back that the element had before: no rule of its kind is asked, nothing follows from it,
+  /// and views alone hear of it.
+  void restore(Property property, Value value);
+
   /// What is wrong with a value outside of the property's range, such as a row that a list doesn't have;
   /// empty for one inside. What a button refuses because of its picture or outline is no matter of range.
   virtual QString rangeFault(Property property, const Value& value) const;

@@ -35,6 +35,13 @@ MouseButton otherButton(const ScriptWord& word) {
   throw ScriptError(QStringLiteral("press knows only the words \"right\" and \"middle\""));
 }
 
+// Undo and redo know no other word.
+bool areAll(const QList<ScriptWord>& words) {
+  if (words.isEmpty()) return false;
+  if (!isWord(words[0], u"all")) throw ScriptError(QStringLiteral("the only word behind it is all"));
+  return true;
+}
+
 ScriptWord quotedWord(const QString& line, qsizetype& at) {
   ScriptWord word{{}, true};
   for (++at; at < line.size() && line[at] != u'"'; ++at) {
@@ -90,6 +97,8 @@ const ScriptPlayer::Entry ScriptPlayer::kActions[] = {
     {QLatin1String("file"), 1, 1, &ScriptPlayer::file},
     {QLatin1String("colour"), 1, 1, &ScriptPlayer::colour},
     {QLatin1String("font"), 1, 6, &ScriptPlayer::font},
+    {QLatin1String("undo"), 0, 1, &ScriptPlayer::undo},
+    {QLatin1String("redo"), 0, 1, &ScriptPlayer::redo},
 };
 
 void ScriptPlayer::play(const QString& name, const QString& text) {
@@ -114,6 +123,8 @@ void ScriptPlayer::playLine(const QString& line) {
     if (name.text != entry.name) continue;
     if (words.size() < entry.fewest || words.size() > entry.most)
       throw ScriptError(QStringLiteral("%1 takes another number of words").arg(excerpt(name.text)));
+    // Only a move goes on with the line ahead of it.
+    if (entry.action != &ScriptPlayer::move) designer_.history().settle();
     (this->*entry.action)(words);
     return;
   }
@@ -138,7 +149,7 @@ void ScriptPlayer::chooseRow(RowList& list, const ScriptWord& row) {
   bool isNumber = false;
   int index = row.text.toInt(&isNumber);
   if (row.isQuoted || !isNumber) index = static_cast<int>(list.list().indexOf(row.text));
-  if (index < 0 || !list.select(index))
+  if (index < 0 || !designer_.choose(list, index))
     throw ScriptError(QStringLiteral("%1 has no row \"%2\"").arg(list.key(), excerpt(row.text)));
 }
 
@@ -170,31 +181,29 @@ void ScriptPlayer::choose(const Words& words) {
   chooseRow(rows(words[0]), words[1]);
 }
 
-// The row is shown as chosen without the first event of the list, which would ask.
 void ScriptPlayer::doubleClick(const Words& words) {
   RowList& list = rows(words[0]);
   if (&list != &*designer_.state().form4.File1)
     throw ScriptError(QStringLiteral("%1 has no second event").arg(words[0].text));
   if (!list.list().contains(words[1].text))
     throw ScriptError(QStringLiteral("%1 has no row \"%2\"").arg(list.key(), excerpt(words[1].text)));
-  list.setText(words[1].text);
-  designer_.doubleClick(list);
+  designer_.chooseTwice(list, static_cast<int>(list.list().indexOf(words[1].text)));
 }
 
 void ScriptPlayer::set(const Words& words) {
   Element& found = element(words[0]);
   if (found.kind() != Kind::TextBox && found.kind() != Kind::ComboBox)
     throw ScriptError(QStringLiteral("nothing can be typed into %1").arg(words[0].text));
-  found.set(Property::Text, words[1].text);
+  designer_.type(found, words[1].text);
 }
 
 void ScriptPlayer::tick(const Words& words) {
   Element& found = element(words[0]);
   if (found.kind() == Kind::OptionButton && words.size() == 1)
-    cast<OptionButton>(found).select();
+    designer_.select(cast<OptionButton>(found));
   else if (found.kind() == Kind::CheckBox && words.size() == 2 &&
            (words[1].text == u"0" || words[1].text == u"1"))
-    found.set(Property::Value, wholeNumber(words[1]));
+    designer_.tick(cast<CheckBox>(found), wholeNumber(words[1]));
   else
     throw ScriptError(QStringLiteral("%1 can't be ticked like that").arg(words[0].text));
 }
@@ -246,6 +255,16 @@ void ScriptPlayer::font(const Words& words) {
     *flag = true;
   }
   dialogs_.fonts.enqueue(font);
+}
+
+void ScriptPlayer::undo(const Words& words) {
+  if (areAll(words)) return designer_.history().undoAll();
+  if (!designer_.history().undo()) throw ScriptError(QStringLiteral("there is nothing to undo"));
+}
+
+void ScriptPlayer::redo(const Words& words) {
+  if (areAll(words)) return designer_.history().redoAll();
+  if (!designer_.history().redo()) throw ScriptError(QStringLiteral("there is nothing to redo"));
 }
 
 }  // namespace veneerer

@@ -49,6 +49,8 @@ private:
   void file(const Words& words);
   void colour(const Words& words);
   void font(const Words& words);
+  void undo(const Words& words);
+  void redo(const Words& words);
 
   Element& element(const ScriptWord& word);
   RowList& rows(const ScriptWord& word);

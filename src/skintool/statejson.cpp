@@ -133,8 +133,9 @@ void putElements(std::FILE* out, State& state, const QString& skinPath) {
   put(out, "\n    },\n");
 }
 
-QJsonObject globalsAsJson(const Globals& globals) {
-  return {{QStringLiteral("SectionNumber"), globals.SectionNumber},
+QJsonObject globalsAsJson(const Globals& globals, const History& history) {
+  return {{QStringLiteral("Modified"), history.isModified()},
+          {QStringLiteral("SectionNumber"), globals.SectionNumber},
           {QStringLiteral("ElementIndex"), globals.ElementIndex},
           {QStringLiteral("DragAnchorX"), asShortestDouble(globals.DragAnchorX)},
           {QStringLiteral("DragAnchorY"), asShortestDouble(globals.DragAnchorY)},
@@ -171,7 +172,7 @@ void printState(std::FILE* out, Designer& designer, const QList<ScriptedDialogs:
   const QString skinPath = QDir::cleanPath(QFileInfo(skin.path()).absoluteFilePath());
   put(out, "{\n");
   putElements(out, state, skinPath);
-  putJson(out, linesOf({{QStringLiteral("globals"), globalsAsJson(state.globals)},
+  putJson(out, linesOf({{QStringLiteral("globals"), globalsAsJson(state.globals, designer.history())},
                         {QStringLiteral("messages"), messagesAsJson(messages)},
                         {QStringLiteral("notes"), QJsonArray::fromStringList(state.notes.texts())},
                         {QStringLiteral("tables"), tablesAsJson(state.names)}}));

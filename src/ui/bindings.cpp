@@ -1,6 +1,7 @@
 #include "ui/bindings.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QStyleHints>
 
 #include "elements/printable.h"
@@ -9,11 +10,34 @@ namespace veneerer {
 
 namespace {
 
+// Leaves the keys of undo and redo to the history.
+class NoUndoOfItsOwn : public QObject {
+public:
+  using QObject::QObject;
+
+protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::ShortcutOverride) return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    return key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo);
+  }
+};
+
+// Each letter is told at once. The burst that is one step ends with Enter, the loss of the focus or a rest;
+// the field's own undo would undo half of it.
+void bindTyping(const Ui& ui, Element& element, QLineEdit& field, QObject& owner) {
+  Operator& hands = ui.hands;
+  QObject::connect(&field, &QLineEdit::textEdited, &owner,
+                   [&](const QString& text) { hands.type(element, text); });
+  QObject::connect(&field, &QLineEdit::editingFinished, &owner, [&] { hands.release(); });
+  field.installEventFilter(new NoUndoOfItsOwn(&owner));
+}
+
 class FieldBinding : public Binding {
 public:
-  FieldBinding(const Ui&, TextBox& box, QLineEdit& widget)
+  FieldBinding(const Ui& ui, TextBox& box, QLineEdit& widget)
       : Binding(box, widget), box_(box), widget_(widget) {
-    connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) { box_.setText(text); });
+    bindTyping(ui, box, widget, *this);
     show(Property::Text);
   }
   void show(Property) override {
@@ -28,29 +52,28 @@ private:
 
 class ComboBinding : public Binding {
 public:
-  ComboBinding(const Ui&, ComboBox& box, TextCombo& widget)
-      : Binding(box, widget), box_(box), widget_(widget) {
+  ComboBinding(const Ui& ui, ComboBox& box, TextCombo& widget)
+      : Binding(box, widget), hands_(ui.hands), box_(box), widget_(widget) {
     connect(&widget, &QComboBox::activated, this, &ComboBinding::choose);
-    if (widget.isEditable())
-      connect(widget.lineEdit(), &QLineEdit::textEdited, this,
-              [this](const QString& text) { box_.setText(text); });
+    if (widget.isEditable()) bindTyping(ui, box, *widget.lineEdit(), *this);
     show(Property::List);
   }
   void show(Property) override { widget_.present(box_.list(), box_.listIndex(), box_.text()); }
 
 private:
   void choose(int row) {
-    box_.select(row);
+    hands_.choose(box_, row);
     show(Property::ListIndex);
   }
+  Operator& hands_;
   ComboBox& box_;
   TextCombo& widget_;
 };
 
 class ListBinding : public Binding {
 public:
-  ListBinding(const Ui&, RowList& list, RowListView& widget)
-      : Binding(list, widget), list_(list), widget_(widget) {
+  ListBinding(const Ui& ui, RowList& list, RowListView& widget)
+      : Binding(list, widget), hands_(ui.hands), list_(list), widget_(widget) {
     connect(&widget, &RowListView::chosen, this, &ListBinding::chosen);
     ListBinding::show(Property::List);
   }
@@ -59,9 +82,10 @@ public:
 protected:
   virtual void chosen(int row) { choose(row); }
   void choose(int row) {
-    list_.select(row);
+    hands_.choose(list_, row);
     show(Property::ListIndex);
   }
+  Operator& hands_;
   RowList& list_;
   RowListView& widget_;
 };
@@ -70,8 +94,7 @@ protected:
 // first half of a double click.
 class FileListBinding : public ListBinding {
 public:
-  FileListBinding(const Ui& ui, FileList& list, RowListView& widget)
-      : ListBinding(ui, list, widget), hands_(ui.hands) {
+  FileListBinding(const Ui& ui, FileList& list, RowListView& widget) : ListBinding(ui, list, widget) {
     wait_.setSingleShot(true);
     connect(&wait_, &QTimer::timeout, this, [this] { choose(row_); });
     connect(&widget, &RowListView::choseTwice, this, &FileListBinding::choseTwice);
@@ -84,22 +107,19 @@ private:
   }
   void choseTwice(int row) {
     wait_.stop();
-    // The text brings the row with it and isn't a selection, which would ask.
-    if (list_.hasRow(row) && row >= 0) list_.setText(list_.list().at(row));
-    hands_.doubleClick(list_);
+    if (row >= 0 && list_.hasRow(row)) hands_.chooseTwice(list_, row);
     show(Property::ListIndex);
   }
-  Operator& hands_;
   QTimer wait_;
   int row_ = -1;
 };
 
 class CheckBinding : public Binding {
 public:
-  CheckBinding(const Ui&, CheckBox& box, QCheckBox& widget)
+  CheckBinding(const Ui& ui, CheckBox& box, QCheckBox& widget)
       : Binding(box, widget), box_(box), widget_(widget) {
-    connect(&widget, &QCheckBox::clicked, this, [this] {
-      box_.setValue(box_.isTicked() ? 0 : 1);
+    connect(&widget, &QCheckBox::clicked, this, [this, &hands = ui.hands] {
+      hands.tick(box_, box_.isTicked() ? 0 : 1);
       show(Property::Value);
     });
     show(Property::Caption);

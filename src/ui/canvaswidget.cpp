@@ -204,6 +204,7 @@ void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
   hold(nullptr);
   scheduleRepaint();
   if (windowRect(*element).contains(toTwips(event->position()))) hands_.click(*element);
+  hands_.release();
 }
 
 void CanvasWidget::leaveEvent(QEvent*) {

@@ -19,34 +19,34 @@ namespace {
 // Ticks the entry of the Edit Section list that is chosen.
 class ScreenMenuBinding : public Binding {
 public:
-  ScreenMenuBinding(ComboBox &list, QMenu &menu)
-      : Binding(list, menu), list_(list), menu_(menu) {
+  ScreenMenuBinding(ComboBox& list, QMenu& menu) : Binding(list, menu), list_(list), menu_(menu) {
     show(Property::ListIndex);
   }
   void show(Property) override {
-    const QList<QAction *> entries = menu_.actions();
-    for (int i = 0; i < entries.size(); ++i)
-      entries[i]->setChecked(i == list_.listIndex());
+    const QList<QAction*> entries = menu_.actions();
+    for (int i = 0; i < entries.size(); ++i) entries[i]->setChecked(i == list_.listIndex());
   }
 
 private:
-  ComboBox &list_;
-  QMenu &menu_;
+  ComboBox& list_;
+  QMenu& menu_;
 };
 
-} // namespace
+}  // namespace
 
-CanvasWindow::CanvasWindow(const Ui &ui)
-    : ui_(ui), state_(ui.hands.state()), view_(new QScrollArea),
-      canvas_(new CanvasWidget(ui)), status_(new StatusLine),
+CanvasWindow::CanvasWindow(const Ui& ui)
+    : ui_(ui),
+      state_(ui.hands.state()),
+      view_(new QScrollArea),
+      canvas_(new CanvasWidget(ui)),
+      status_(new StatusLine),
       room_(screen()->availableGeometry().size()) {
   view_->setFrameShape(QFrame::NoFrame);
   view_->setWidget(canvas_);
   view_->setBackgroundRole(QPalette::Dark);
   setCentralWidget(view_);
   statusBar()->addWidget(status_, 1);
-  state_.notes.setListener(
-      [this](const QString &note) { status_->tell(note); });
+  state_.notes.setListener([this](const QString& note) { status_->tell(note); });
   connect(canvas_, &CanvasWidget::resized, this, &CanvasWindow::fitCanvas);
   connect(canvas_, &CanvasWidget::pointed, this, &CanvasWindow::pointed);
   addFileMenu();
@@ -56,18 +56,18 @@ CanvasWindow::CanvasWindow(const Ui &ui)
   fitCanvas();
 }
 
-CanvasWindow::~CanvasWindow() { state_.notes.setListener({}); }
+CanvasWindow::~CanvasWindow() {
+  state_.notes.setListener({});
+}
 
 QSize CanvasWindow::sizeHint() const {
-  const int bars =
-      menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
+  const int bars = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
   return canvas_->sizeHint() + QSize(0, bars);
 }
 
-QAction *CanvasWindow::addCommand(QMenu *menu, const QString &text,
-                                  const QKeySequence &keys,
-                                  const QString &tip) {
-  QAction *action = menu->addAction(text);
+QAction* CanvasWindow::addCommand(QMenu* menu, const QString& text, const QKeySequence& keys,
+                                  const QString& tip) {
+  QAction* action = menu->addAction(text);
   action->setShortcut(keys);
   // The keys work in every window of the program.
   action->setShortcutContext(Qt::ApplicationShortcut);
@@ -76,61 +76,53 @@ QAction *CanvasWindow::addCommand(QMenu *menu, const QString &text,
 }
 
 void CanvasWindow::addFileMenu() {
-  QMenu *menu = menuBar()->addMenu(QStringLiteral("&File"));
-  QAction *open = addCommand(
-      menu, QStringLiteral("&Open Skin..."), QKeySequence::Open,
-      QStringLiteral("Choose another Skin; what isn't saved is lost"));
+  QMenu* menu = menuBar()->addMenu(QStringLiteral("&File"));
+  QAction* open = addCommand(menu, QStringLiteral("&Open Skin..."), QKeySequence::Open,
+                             QStringLiteral("Choose another Skin; what isn't saved is lost"));
   connect(open, &QAction::triggered, this, [this] { ui_.hands.chooseSkin(); });
-  QAction *save =
-      addCommand(menu, QStringLiteral("&Save Skin"), QKeySequence::Save,
-                 QStringLiteral("Write the record files of the Skin"));
-  connect(save, &QAction::triggered, this,
-          [this] { ui_.hands.click(*state_.form4.Command4); });
+  QAction* save = addCommand(menu, QStringLiteral("&Save Skin"), QKeySequence::Save,
+                             QStringLiteral("Write the record files of the Skin"));
+  connect(save, &QAction::triggered, this, [this] { ui_.hands.click(*state_.form4.Command4); });
   menu->addSeparator();
-  QAction *quit =
-      addCommand(menu, QStringLiteral("&Quit"), QKeySequence::Quit,
-                 QStringLiteral("End the program; nothing is saved"));
+  QAction* quit = addCommand(menu, QStringLiteral("&Quit"), QKeySequence::Quit,
+                             QStringLiteral("End the program; nothing is saved"));
   connect(quit, &QAction::triggered, this, &QWidget::close);
 }
 
 void CanvasWindow::addViewMenu() {
-  QMenu *menu = menuBar()->addMenu(QStringLiteral("&View"));
+  QMenu* menu = menuBar()->addMenu(QStringLiteral("&View"));
   addScreenMenu(menu->addMenu(QStringLiteral("&Screen")));
   menu->addSeparator();
-  QAction *next = addCommand(
-      menu, QStringLiteral("&Next Screen"), QKeySequence(u"Ctrl+PgDown"_qs),
-      QStringLiteral("Show the screen behind this one in the list"));
+  QAction* next = addCommand(menu, QStringLiteral("&Next Screen"), QKeySequence(u"Ctrl+PgDown"_qs),
+                             QStringLiteral("Show the screen behind this one in the list"));
   connect(next, &QAction::triggered, this, [this] { showScreen(1); });
-  QAction *previous = addCommand(
-      menu, QStringLiteral("&Previous Screen"), QKeySequence(u"Ctrl+PgUp"_qs),
-      QStringLiteral("Show the screen ahead of this one in the list"));
+  QAction* previous = addCommand(menu, QStringLiteral("&Previous Screen"), QKeySequence(u"Ctrl+PgUp"_qs),
+                                 QStringLiteral("Show the screen ahead of this one in the list"));
   connect(previous, &QAction::triggered, this, [this] { showScreen(-1); });
 }
 
-void CanvasWindow::addScreenMenu(QMenu *menu) {
-  auto *oneOfThem = new QActionGroup(menu);
+void CanvasWindow::addScreenMenu(QMenu* menu) {
+  auto* oneOfThem = new QActionGroup(menu);
   for (int i = 0; i < static_cast<int>(kScreenEntries.size()); ++i) {
     const QStringView text = kScreenEntries[static_cast<std::size_t>(i)];
-    QAction *entry = menu->addAction(plainMenuText(text.toString()));
+    QAction* entry = menu->addAction(plainMenuText(text.toString()));
     entry->setCheckable(true);
     oneOfThem->addAction(entry);
-    connect(entry, &QAction::triggered, this,
-            [this, i] { state_.form6.Combo6->select(i); });
+    connect(entry, &QAction::triggered, this, [this, i] { ui_.hands.choose(*state_.form6.Combo6, i); });
   }
   new ScreenMenuBinding(*state_.form6.Combo6, *menu);
 }
 
 void CanvasWindow::showScreen(int step) {
-  ComboBox &screens = *state_.form6.Combo6;
+  ComboBox& screens = *state_.form6.Combo6;
   const int row = screens.listIndex() + step;
-  if (row >= 0)
-    screens.select(row);
+  if (row >= 0) ui_.hands.choose(screens, row);
 }
 
 void CanvasWindow::addWindowMenu() {
   struct Entry {
-    const char *text;
-    Window *window;
+    const char* text;
+    Window* window;
     int key;
   };
   const Entry entries[] = {
@@ -139,29 +131,25 @@ void CanvasWindow::addWindowMenu() {
       {"Texture &Viewer", &state_.form5, Qt::Key_F5},
       {"&Tools", &state_.form6, Qt::Key_F6},
   };
-  QMenu *menu = menuBar()->addMenu(QStringLiteral("&Window"));
-  for (const Entry &entry : entries) {
-    QAction *action = addCommand(
-        menu, QString::fromLatin1(entry.text), QKeySequence(entry.key),
-        QStringLiteral("Bring this window to the front"));
-    connect(action, &QAction::triggered, this,
-            [this, window = entry.window] { Q_EMIT asked(window); });
+  QMenu* menu = menuBar()->addMenu(QStringLiteral("&Window"));
+  for (const Entry& entry : entries) {
+    QAction* action = addCommand(menu, QString::fromLatin1(entry.text), QKeySequence(entry.key),
+                                 QStringLiteral("Bring this window to the front"));
+    connect(action, &QAction::triggered, this, [this, window = entry.window] { Q_EMIT asked(window); });
   }
 }
 
 void CanvasWindow::addHelpMenu() {
-  QMenu *menu = menuBar()->addMenu(QStringLiteral("&Help"));
-  connect(menu->addAction(QStringLiteral("&About")), &QAction::triggered, this,
-          &CanvasWindow::about);
+  QMenu* menu = menuBar()->addMenu(QStringLiteral("&Help"));
+  connect(menu->addAction(QStringLiteral("&About")), &QAction::triggered, this, &CanvasWindow::about);
 }
 
 void CanvasWindow::about() {
-  const Splash &splash = state_.frmSplash;
+  const Splash& splash = state_.frmSplash;
   QMessageBox box(this);
   box.setWindowTitle(QStringLiteral("About"));
   box.setTextFormat(Qt::PlainText);
-  box.setText(splash.lblProductName->caption() + u'\n' +
-              splash.lblPlatform->caption() + u'\n' +
+  box.setText(splash.lblProductName->caption() + u'\n' + splash.lblPlatform->caption() + u'\n' +
               splash.lblVersion->caption());
   box.setInformativeText(splash.Label2->caption());
   box.exec();
@@ -174,21 +162,17 @@ void CanvasWindow::setRoom(QSize room) {
 
 void CanvasWindow::fitCanvas() {
   canvas_->resize(canvas_->sizeHint());
-  if (!isMaximized())
-    resize(sizeHint().boundedTo(room_));
+  if (!isMaximized()) resize(sizeHint().boundedTo(room_));
 }
 
-void CanvasWindow::pointed(const Element *element) {
-  status_->describe(element ? describe(state_, *element, ui_.hands.screen())
-                            : QString());
+void CanvasWindow::pointed(const Element* element) {
+  status_->describe(element ? describe(state_, *element, ui_.hands.screen()) : QString());
 }
 
-// The other windows come up in the same breath, so the focus is asked for
-// behind them.
-void CanvasWindow::showEvent(QShowEvent *event) {
+// The other windows come up in the same breath, so the focus is asked for behind them.
+void CanvasWindow::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
-  if (!event->spontaneous())
-    QTimer::singleShot(0, this, &CanvasWindow::takeFocus);
+  if (!event->spontaneous()) QTimer::singleShot(0, this, &CanvasWindow::takeFocus);
 }
 
 void CanvasWindow::takeFocus() {
@@ -196,4 +180,4 @@ void CanvasWindow::takeFocus() {
   canvas_->setFocus();
 }
 
-} // namespace veneerer
+}  // namespace veneerer

@@ -1,6 +1,14 @@
 #include "ui/operator.h"
 
+#include <chrono>
+
 namespace veneerer {
+
+Operator::Operator(Designer& designer) : designer_(designer) {
+  rest_.setSingleShot(true);
+  rest_.setInterval(std::chrono::seconds(2));
+  connect(&rest_, &QTimer::timeout, this, &Operator::release);
+}
 
 void Operator::click(Element& element) {
   designer_.click(element);
@@ -17,8 +25,24 @@ void Operator::move(Element& element, float x, float y, MouseButton button) {
   Q_EMIT acted();
 }
 
-void Operator::doubleClick(Element& element) {
-  designer_.doubleClick(element);
+void Operator::type(Element& field, const QString& text) {
+  designer_.type(field, text);
+  rest_.start();
+  Q_EMIT acted();
+}
+
+void Operator::choose(RowList& list, int row) {
+  designer_.choose(list, row);
+  Q_EMIT acted();
+}
+
+void Operator::chooseTwice(RowList& list, int row) {
+  designer_.chooseTwice(list, row);
+  Q_EMIT acted();
+}
+
+void Operator::tick(CheckBox& box, int value) {
+  designer_.tick(box, value);
   Q_EMIT acted();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 
 #include "designer/designer.h"
 
@@ -12,9 +13,10 @@ class Operator : public QObject {
   Q_OBJECT
 
 public:
-  explicit Operator(Designer& designer) : designer_(designer) {}
+  explicit Operator(Designer& designer);
 
   State& state() { return designer_.state(); }
+  History& history() { return designer_.history(); }
   const Screen& screen() const { return designer_.platform().screen; }
 
   void click(Element& element);
@@ -22,7 +24,13 @@ public:
   void press(Element& element, float x, float y, MouseButton button);
   /// As press; the button is the one held down.
   void move(Element& element, float x, float y, MouseButton button);
-  void doubleClick(Element& element);
+  /// The button was released: what comes next is another gesture.
+  void release() { designer_.history().settle(); }
+  void type(Element& field, const QString& text);
+  void choose(RowList& list, int row);
+  /// The second event of the cover list, on that row.
+  void chooseTwice(RowList& list, int row);
+  void tick(CheckBox& box, int value);
   /// Shows the chooser, which lists the Skins, in the canvas's place.
   void chooseSkin();
   /// Fills the list of fonts; slow.
@@ -34,6 +42,7 @@ Q_SIGNALS:
 
 private:
   Designer& designer_;
+  QTimer rest_;  ///< ends a burst of typing
 };
 
 }  // namespace veneerer

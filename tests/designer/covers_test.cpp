@@ -36,8 +36,8 @@ protected:
   static int linesOf(int covers) { return 5 + covers * 44 + 7 + 4 + 4 + 18 + 2 + 2; }
 
   void load(const char* name) {
-    form4().File1->setText(QString::fromLatin1(name));
-    designer->doubleClick(*form4().File1);
+    form4().File1->setRows({QString::fromLatin1(name)});
+    designer->chooseTwice(*form4().File1, 0);
   }
 };
 

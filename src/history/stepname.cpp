@@ -1,0 +1,89 @@
+#include "history/stepname.h"
+
+#include <algorithm>
+
+#include "canvas/description.h"
+#include "elements/controls.h"
+#include "forms/fieldlabels.h"
+
+namespace veneerer {
+
+namespace {
+
+using P = Property;
+
+struct Group {
+  const char* name;
+  std::vector<Property> properties;
+};
+
+// Properties that are changed together and have one name.
+const Group kGroups[] = {
+    {"Place", {P::Left, P::Top}},
+    {"Size", {P::Width, P::Height}},
+    {"Place and Size", {P::Left, P::Top, P::Width, P::Height}},
+    {"Font", {P::FontName, P::FontSize, P::FontBold, P::FontItalic, P::FontUnderline, P::FontStrikethrough}},
+    {"Shape", {P::ButtonShape, P::Width, P::Height}},
+    {"Picture", {P::Picture, P::Name, P::ButtonShape, P::PictureSize}},
+};
+
+template <class T>
+void addOnce(std::vector<T>& list, T item) {
+  if (std::ranges::find(list, item) == list.end()) list.push_back(item);
+}
+
+// "FontSize" as "Font Size", in British spelling like all that the windows say.
+QString wordsOf(Property property) {
+  if (property == P::BackColor) return QStringLiteral("Back Colour");
+  if (property == P::ForeColor) return QStringLiteral("Fore Colour");
+  if (property == P::GradientColor) return QStringLiteral("Gradient Colour");
+  QString words;
+  for (const QChar letter : QString(propertyName(property))) {
+    if (letter.isUpper() && !words.isEmpty()) words += u' ';
+    words += letter;
+  }
+  return words;
+}
+
+QString nameOf(const std::vector<Property>& properties) {
+  if (properties.size() == 1) return wordsOf(properties.front());
+  for (const Group& group : kGroups)
+    if (std::ranges::all_of(properties,
+                            [&](Property p) { return std::ranges::count(group.properties, p) > 0; }))
+      return QString::fromLatin1(group.name);
+  return QStringLiteral("Properties");
+}
+
+// What shows on the canvas counts; a panel only tells of it.
+bool isTelling(const Element& element, const Window& canvas) {
+  return &element.window() == &canvas;
+}
+
+}  // namespace
+
+QString stepName(State& state, const Changes& changes) {
+  std::vector<Element*> elements;
+  std::vector<Property> properties;
+  const auto gather = [&](bool onCanvas) {
+    for (const ValueChange& change : changes.values) {
+      if (onCanvas && !isTelling(*change.element, state.form1)) continue;
+      addOnce(elements, change.element);
+      addOnce(properties, change.property);
+    }
+  };
+  gather(true);
+  if (elements.empty()) gather(false);
+  if (elements.empty()) return QStringLiteral("Stacking");
+  const QString what = elements.size() == 1 ? elementTitle(state, *elements.front())
+                                            : QStringLiteral("%1 elements").arg(elements.size());
+  return QStringLiteral("%1 of %2").arg(nameOf(properties), what);
+}
+
+QString actionName(const State& state, const Element& control) {
+  if (!control.family() || &control.window() == &state.form1) return {};
+  const bool isNamed = control.kind() == Kind::CommandButton || control.kind() == Kind::CheckBox;
+  if (isNamed) return control.as<QString>(Property::Caption);
+  return fieldLabel(*control.family());
+}
+
+}  // namespace veneerer

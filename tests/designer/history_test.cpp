@@ -1,0 +1,214 @@
+// Undo and redo: what was done by whatever hand comes back exactly.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "canvas/screens.h"
+#include "designer/skinfixture.h"
+#include "elements/kinds.h"
+#include "history/restored.h"
+#include "panels/textureslots.h"
+
+namespace veneerer {
+namespace {
+
+constexpr int kScripts = 60;
+constexpr int kActions = 25;
+
+class Undo : public test::SkinFixture {
+protected:
+  void SetUp() override {
+    copySkin(QStringLiteral("Black_and_Blue_gif_V8.0(800x600)"), QStringLiteral("S"));
+    copySkin(QStringLiteral("Copper_Lounge(1024x768)"), QStringLiteral("T"));
+    start();
+  }
+
+  void copySkin(const QString& from, const QString& to) {
+    const QString source = QStringLiteral(VENEERER_SOURCE_DIR "/Skins/") + from;
+    for (const QString& folder : {QString(), QStringLiteral("/images")}) {
+      const QString target = root.path() + QStringLiteral("/Skins/") + to + folder;
+      QDir().mkpath(target);
+      for (const QString& file : QDir(source + folder).entryList(QDir::Files))
+        QFile::copy(source + folder + u'/' + file, target + u'/' + file);
+    }
+  }
+
+  struct Restored {
+    const Element* element;
+    Property property;
+    Value value;
+    std::vector<Element*> order;
+  };
+
+  /// All that an undo brings back.
+  std::vector<Restored> restored() {
+    std::vector<Window*> windows = state().windows();
+    windows.insert(windows.end(), {&state().names, &state().globals});
+    std::vector<Restored> all;
+    for (Window* window : windows) {
+      add(*window, all);
+      for (const Family* family : window->families())
+        for (const Element* element : family->members()) add(*element, all);
+    }
+    return all;
+  }
+
+  static std::string difference(const std::vector<Restored>& a, const std::vector<Restored>& b) {
+    std::string told;
+    for (std::size_t i = 0; i < a.size() && told.size() < 500; ++i)
+      if (!isSameValue(a[i].value, b[i].value) || a[i].order != b[i].order)
+        told += (a[i].element->key() + u' ' + propertyName(a[i].property) + u'\n').toStdString();
+    return told;
+  }
+
+  Element& anyOf(const Window& window) {
+    const auto& families = window.families();
+    const auto& members = families[random() % families.size()]->members();
+    return *members[random() % members.size()];
+  }
+
+  void doAnything() {
+    Window* const windows[] = {&state().form1, &state().form1, &state().form2,
+                               &state().form4, &state().form5, &state().form6};
+    Element& element = anyOf(*windows[random() % std::size(windows)]);
+    if (&element.window() == &form1())
+      drag(element);
+    else
+      act(element);
+  }
+
+  void drag(Element& element) {
+    designer->press(element, 0, 0, MouseButton::Left);
+    for (int i = 0; i < 3; ++i)
+      designer->move(element, float(random() % 600) - 300, float(random() % 600) - 300, MouseButton::Left);
+    if (random() % 2) designer->click(element);
+  }
+
+  void act(Element& element) {
+    // It lists the cover files, which follow the disk.
+    if (&element == &*form4().Command1) return;
+    world.dialogs.colours.enqueue(static_cast<std::int32_t>(random() % 0xFFFFFF));
+    world.dialogs.fonts.enqueue(FontChoice{QStringLiteral("DejaVu Sans"), 11, true, false, false, false});
+    const char* const texts[] = {"0", "150", "1200", "-30", "", "Two||lines", "#102030"};
+    const QString text = QString::fromLatin1(texts[random() % std::size(texts)]);
+    if (auto* list = dynamic_cast<RowList*>(&element); list && !list->list().isEmpty())
+      designer->choose(*list, int(random() % std::size_t(list->list().size())));
+    else if (element.kind() == Kind::TextBox)
+      designer->type(element, text);
+    else if (element.kind() == Kind::CheckBox)
+      designer->tick(cast<CheckBox>(element), int(random() % 2));
+    else
+      designer->click(element);
+  }
+
+  std::mt19937 random{12};
+
+private:
+  void add(const Element& element, std::vector<Restored>& all) {
+    for (const PropertyDefault& each : propertiesOf(element.kind()))
+      if (isRestored(state(), element, each.property))
+        all.push_back({&element, each.property, element.get(each.property), {}});
+    all.push_back({&element, Property::StackOrder, {}, orderOf(state(), element)});
+  }
+};
+
+TEST_F(Undo, UndoesAndRedoesAnythingExactly) {
+  for (int script = 0; script < kScripts; ++script) {
+    History& history = designer->history();
+    history.start();
+    const auto first = restored();
+    for (int action = 0; action < kActions; ++action) {
+      doAnything();
+      if (random() % 6 == 0) history.undo();
+      if (random() % 12 == 0) history.redo();
+    }
+    history.redoAll();
+    const auto last = restored();
+    history.undoAll();
+    ASSERT_EQ(difference(first, restored()), "") << "undone, script " << script;
+    history.redoAll();
+    ASSERT_EQ(difference(last, restored()), "") << "redone, script " << script;
+  }
+}
+
+TEST_F(Undo, WhatBelongsTogetherIsOneStep) {
+  History& history = designer->history();
+  const auto steps = [&] { return history.stack().count(); };
+  Button& button = form1().lvButtons_H1[2];
+  designer->press(button, 0, 0, MouseButton::Left);
+  designer->move(button, 30, 0, MouseButton::Left);
+  designer->move(button, 0, 45, MouseButton::Left);
+  EXPECT_EQ(history.stack().undoText(), QStringLiteral("Place of Queue (2)"));
+  designer->click(button);
+  EXPECT_EQ(steps(), 1) << "a drag and its click";
+  for (const char* text : {"9", "90", "900"})
+    designer->type(state().form6.Text3[0], QString::fromLatin1(text));
+  EXPECT_EQ(steps(), 2) << "a burst of typing";
+  EXPECT_TRUE(history.stack().undoText().startsWith(QStringLiteral("Height of ")));
+  history.settle();
+  designer->type(state().form6.Text3[0], QStringLiteral("800"));
+  EXPECT_EQ(steps(), 3) << "the next burst";
+  designer->press(button, 0, 0, MouseButton::Left);
+  designer->move(button, 30, 0, MouseButton::Left);
+  designer->move(button, -30, 0, MouseButton::Left);
+  EXPECT_EQ(steps(), 3) << "there and back is no step";
+  designer->choose(*state().form6.Combo6, 5);
+  EXPECT_EQ(steps(), 3) << "neither is the choice of a screen";
+  designer->tick(*form4().Check6, form4().Check6->isTicked() ? 0 : 1);
+  EXPECT_EQ(history.stack().undoText(), QStringLiteral("Show Album Date and Genre"));
+  designer->choose(*state().form6.Combo6, 9);
+  history.undo();
+  EXPECT_EQ(state().form6.Combo6->listIndex(), 5) << "the screen of the step shows";
+  EXPECT_TRUE(isScreenShown(state(), 5));
+}
+
+TEST_F(Undo, TheFieldsShowWhatIsInHand) {
+  Button& button = form1().lvButtons_H1[2];
+  const QString height = QString::number(button.height());
+  designer->click(button);
+  designer->type(state().form6.Text3[0], QStringLiteral("90"));
+  designer->history().undo();
+  EXPECT_EQ(state().form6.Text3[0].text(), height);
+  EXPECT_EQ(button.height(), height.toFloat());
+}
+
+TEST_F(Undo, ALoadAndASaveAreTheCleanPlace) {
+  History& history = designer->history();
+  EXPECT_FALSE(history.isModified());
+  designer->type(form4().Text1[0], QStringLiteral("900"));
+  EXPECT_TRUE(history.isModified());
+  history.undo();
+  EXPECT_FALSE(history.isModified());
+  history.redo();
+  designer->save();
+  EXPECT_FALSE(history.isModified());
+  EXPECT_EQ(history.stack().count(), 1) << "a save is no step";
+  history.undo();
+  EXPECT_TRUE(history.isModified()) << "the disk holds what was undone";
+  designer->reload(QStringLiteral("T"));
+  EXPECT_FALSE(history.isModified());
+  EXPECT_EQ(history.stack().undoText(), QStringLiteral("Skin T"));
+  history.undo();
+  EXPECT_EQ(form4().Combo3->text(), QStringLiteral("S"));
+  EXPECT_TRUE(history.isModified());
+}
+
+TEST_F(Undo, APictureIsReadAnew) {
+  PictureBox& screen = form1().Picture1[3];
+  const QString file = screen.picture().path();
+  ASSERT_FALSE(file.isEmpty());
+  world.dialogs.files.enqueue(form1().Picture1[9].picture().path());
+  for (Element* thumbnail : state().form5.Image1.members()) {
+    const TextureSlot slot = textureSlot(state(), *thumbnail);
+    if (std::ranges::count(slot.canvas, &screen) > 0) designer->click(*thumbnail);
+  }
+  ASSERT_NE(screen.picture().path(), file);
+  ASSERT_TRUE(QImage(40, 30, QImage::Format_RGB32).save(file, "BMP"));
+  designer->history().undo();
+  EXPECT_EQ(screen.picture().path(), file);
+  EXPECT_EQ(screen.picture().image().size(), QSize(40, 30));
+}
+
+}  // namespace
+}  // namespace veneerer
