@@ -5,6 +5,7 @@
 #include <QStyleHints>
 
 #include "elements/printable.h"
+#include "ui/keys.h"
 
 namespace veneerer {
 
@@ -18,8 +19,8 @@ public:
 protected:
   bool eventFilter(QObject*, QEvent* event) override {
     if (event->type() != QEvent::ShortcutOverride) return false;
-    const auto* key = static_cast<QKeyEvent*>(event);
-    return key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo);
+    const QKeySequence keys(static_cast<QKeyEvent*>(event)->keyCombination());
+    return kUndoKeys.contains(keys) || kRedoKeys.contains(keys);
   }
 };
 

@@ -10,6 +10,8 @@
 
 #include "canvas/description.h"
 #include "canvas/screens.h"
+#include "ui/arrangement.h"
+#include "ui/keys.h"
 #include "ui/plaintext.h"
 
 namespace veneerer {
@@ -32,6 +34,13 @@ private:
   QMenu& menu_;
 };
 
+void makeCommand(QAction& action, const QList<QKeySequence>& keys, const QString& tip) {
+  action.setShortcuts(keys);
+  // The keys work in every window of the program.
+  action.setShortcutContext(Qt::ApplicationShortcut);
+  action.setStatusTip(tip);
+}
+
 }  // namespace
 
 CanvasWindow::CanvasWindow(const Ui& ui)
@@ -39,8 +48,7 @@ CanvasWindow::CanvasWindow(const Ui& ui)
       state_(ui.hands.state()),
       view_(new QScrollArea),
       canvas_(new CanvasWidget(ui)),
-      status_(new StatusLine),
-      room_(screen()->availableGeometry().size()) {
+      status_(new StatusLine) {
   view_->setFrameShape(QFrame::NoFrame);
   view_->setWidget(canvas_);
   view_->setBackgroundRole(QPalette::Dark);
@@ -49,7 +57,10 @@ CanvasWindow::CanvasWindow(const Ui& ui)
   state_.notes.setListener([this](const QString& note) { status_->tell(note); });
   connect(canvas_, &CanvasWidget::resized, this, &CanvasWindow::fitCanvas);
   connect(canvas_, &CanvasWidget::pointed, this, &CanvasWindow::pointed);
+  setDockNestingEnabled(true);
+  setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
   addFileMenu();
+  addEditMenu();
   addViewMenu();
   addWindowMenu();
   addHelpMenu();
@@ -60,43 +71,57 @@ CanvasWindow::~CanvasWindow() {
   state_.notes.setListener({});
 }
 
-QSize CanvasWindow::sizeHint() const {
-  const int bars = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
-  return canvas_->sizeHint() + QSize(0, bars);
-}
-
-QAction* CanvasWindow::addCommand(QMenu* menu, const QString& text, const QKeySequence& keys,
+QAction* CanvasWindow::addCommand(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
                                   const QString& tip) {
   QAction* action = menu->addAction(text);
-  action->setShortcut(keys);
-  // The keys work in every window of the program.
-  action->setShortcutContext(Qt::ApplicationShortcut);
-  action->setStatusTip(tip);
+  makeCommand(*action, keys, tip);
   return action;
 }
 
 void CanvasWindow::addFileMenu() {
   QMenu* menu = menuBar()->addMenu(QStringLiteral("&File"));
-  QAction* open = addCommand(menu, QStringLiteral("&Open Skin..."), QKeySequence::Open,
+  QAction* open = addCommand(menu, QStringLiteral("&Open Skin..."), {QKeySequence::Open},
                              QStringLiteral("Choose another Skin; what isn't saved is lost"));
   connect(open, &QAction::triggered, this, [this] { ui_.hands.chooseSkin(); });
-  QAction* save = addCommand(menu, QStringLiteral("&Save Skin"), QKeySequence::Save,
+  QAction* save = addCommand(menu, QStringLiteral("&Save Skin"), {QKeySequence::Save},
                              QStringLiteral("Write the record files of the Skin"));
   connect(save, &QAction::triggered, this, [this] { ui_.hands.click(*state_.form4.Command4); });
   menu->addSeparator();
-  QAction* quit = addCommand(menu, QStringLiteral("&Quit"), QKeySequence::Quit,
+  QAction* quit = addCommand(menu, QStringLiteral("&Quit"), {QKeySequence::Quit},
                              QStringLiteral("End the program; nothing is saved"));
   connect(quit, &QAction::triggered, this, &QWidget::close);
+}
+
+void CanvasWindow::addEditMenu() {
+  QMenu* menu = menuBar()->addMenu(QStringLiteral("&Edit"));
+  History& history = ui_.hands.history();
+  QUndoStack& steps = history.stack();
+  const auto add = [&](const QString& text, const QList<QKeySequence>& keys, const QString& tip, bool can,
+                       auto textChanged, auto canChanged) {
+    QAction* action = addCommand(menu, text, keys, tip);
+    action->setEnabled(can);
+    connect(&steps, textChanged, action,
+            [action, text](const QString& step) { action->setText(text + u' ' + plainMenuText(step)); });
+    connect(&steps, canChanged, action, &QAction::setEnabled);
+    return action;
+  };
+  QAction* undo = add(QStringLiteral("&Undo"), kUndoKeys, QStringLiteral("Take the last step back"),
+                      steps.canUndo(), &QUndoStack::undoTextChanged, &QUndoStack::canUndoChanged);
+  connect(undo, &QAction::triggered, this, [&history] { history.undo(); });
+  QAction* redo = add(QStringLiteral("&Redo"), kRedoKeys, QStringLiteral("Do that step again"),
+                      steps.canRedo(), &QUndoStack::redoTextChanged, &QUndoStack::canRedoChanged);
+  connect(redo, &QAction::triggered, this, [&history] { history.redo(); });
+  connect(&steps, &QUndoStack::cleanChanged, this, [this](bool isClean) { setWindowModified(!isClean); });
 }
 
 void CanvasWindow::addViewMenu() {
   QMenu* menu = menuBar()->addMenu(QStringLiteral("&View"));
   addScreenMenu(menu->addMenu(QStringLiteral("&Screen")));
   menu->addSeparator();
-  QAction* next = addCommand(menu, QStringLiteral("&Next Screen"), QKeySequence(u"Ctrl+PgDown"_qs),
+  QAction* next = addCommand(menu, QStringLiteral("&Next Screen"), {QKeySequence(u"Ctrl+PgDown"_qs)},
                              QStringLiteral("Show the screen behind this one in the list"));
   connect(next, &QAction::triggered, this, [this] { showScreen(1); });
-  QAction* previous = addCommand(menu, QStringLiteral("&Previous Screen"), QKeySequence(u"Ctrl+PgUp"_qs),
+  QAction* previous = addCommand(menu, QStringLiteral("&Previous Screen"), {QKeySequence(u"Ctrl+PgUp"_qs)},
                                  QStringLiteral("Show the screen ahead of this one in the list"));
   connect(previous, &QAction::triggered, this, [this] { showScreen(-1); });
 }
@@ -120,23 +145,35 @@ void CanvasWindow::showScreen(int step) {
 }
 
 void CanvasWindow::addWindowMenu() {
-  struct Entry {
-    const char* text;
-    Window* window;
-    int key;
-  };
-  const Entry entries[] = {
-      {"&Button Settings", &state_.form2, Qt::Key_F2},
-      {"&File Controls/Settings", &state_.form4, Qt::Key_F4},
-      {"Texture &Viewer", &state_.form5, Qt::Key_F5},
-      {"&Tools", &state_.form6, Qt::Key_F6},
-  };
-  QMenu* menu = menuBar()->addMenu(QStringLiteral("&Window"));
-  for (const Entry& entry : entries) {
-    QAction* action = addCommand(menu, QString::fromLatin1(entry.text), QKeySequence(entry.key),
-                                 QStringLiteral("Bring this window to the front"));
-    connect(action, &QAction::triggered, this, [this, window = entry.window] { Q_EMIT asked(window); });
-  }
+  panelMenu_ = menuBar()->addMenu(QStringLiteral("&Window"));
+  panelMenu_->addSeparator();
+  QAction* first = addCommand(panelMenu_, QStringLiteral("&Arrange"), {},
+                              QStringLiteral("Put all panels back beside the canvas"));
+  connect(first, &QAction::triggered, this, &CanvasWindow::arrange);
+}
+
+void CanvasWindow::add(const Panel& panel) {
+  panels_.append(panel);
+  auto* action = new QAction(panel.menuText, panelMenu_);
+  panelMenu_->insertAction(panelMenu_->actions().at(panels_.size() - 1), action);
+  makeCommand(*action, {panel.keys}, QStringLiteral("Bring this panel to the front"));
+  connect(action, &QAction::triggered, this, [this, panel] { bringUp(panel); });
+  addDockWidget(Qt::RightDockWidgetArea, panel.dock);
+}
+
+void CanvasWindow::bringUp(const Panel& panel) {
+  if (panel.element)
+    panel.element->setVisible(true);
+  else
+    panel.dock->show();
+  panel.dock->raise();
+  panel.dock->activateWindow();
+}
+
+void CanvasWindow::arrange() {
+  QList<QDockWidget*> docks;
+  for (const Panel& panel : panels_) docks.append(panel.dock);
+  arrangePanels(*this, docks, canvas_->sizeHint());
 }
 
 void CanvasWindow::addHelpMenu() {
@@ -155,14 +192,8 @@ void CanvasWindow::about() {
   box.exec();
 }
 
-void CanvasWindow::setRoom(QSize room) {
-  room_ = room;
-  fitCanvas();
-}
-
 void CanvasWindow::fitCanvas() {
   canvas_->resize(canvas_->sizeHint());
-  if (!isMaximized()) resize(sizeHint().boundedTo(room_));
 }
 
 void CanvasWindow::pointed(const Element* element) {

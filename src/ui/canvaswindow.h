@@ -1,6 +1,8 @@
-// Form1's window: the canvas, the menus and the line that tells what is under the pointer.
+// The main window: Form1's canvas in the middle, the menus, the panels around it, and the line that tells
+// what is under the pointer.
 #pragma once
 
+#include <QDockWidget>
 #include <QMainWindow>
 #include <QScrollArea>
 
@@ -8,6 +10,14 @@
 #include "ui/statusline.h"
 
 namespace veneerer {
+
+/// A panel of the main window. It can be torn off, and closed and brought back by the menu and its key.
+struct Panel {
+  QDockWidget* dock;
+  Window* element;   ///< whose Visible tells whether the panel is open; null for one that is ours alone
+  QString menuText;  ///< with a mnemonic
+  QKeySequence keys;
+};
 
 /// The canvas keeps Form1's size; sizing this window only opens or closes the view on it. When the window
 /// comes up it is the active one, with the focus on the canvas.
@@ -18,27 +28,27 @@ public:
   explicit CanvasWindow(const Ui& ui);
   ~CanvasWindow() override;
 
-  QSize sizeHint() const override;
+  /// Takes a panel in, behind those that are there.
+  void add(const Panel& panel);
 
-  /// The window takes no more than that by itself, pixels; a larger canvas is scrolled.
-  void setRoom(QSize room);
+  /// All panels back at the canvas's side, in as many columns as the screen has room for, the first one of
+  /// each in front; and the window as large as it all needs and the screen allows.
+  void arrange();
 
 protected:
   void showEvent(QShowEvent* event) override;
 
-Q_SIGNALS:
-  /// The operator wants that window in front.
-  void asked(veneerer::Window* window);
-
 private:
   void addFileMenu();
+  void addEditMenu();
   void addViewMenu();
   void addScreenMenu(QMenu* view);
   void addWindowMenu();
   void addHelpMenu();
-  QAction* addCommand(QMenu* menu, const QString& text, const QKeySequence& keys, const QString& tip);
+  QAction* addCommand(QMenu* menu, const QString& text, const QList<QKeySequence>& keys, const QString& tip);
   void showScreen(int step);
   void fitCanvas();
+  void bringUp(const Panel& panel);
   void takeFocus();
   void pointed(const Element* element);
   void about();
@@ -48,7 +58,8 @@ private:
   QScrollArea* view_;
   CanvasWidget* canvas_;
   StatusLine* status_;
-  QSize room_;
+  QMenu* panelMenu_;
+  QList<Panel> panels_;
 };
 
 }  // namespace veneerer

@@ -1,13 +1,9 @@
 // All windows of a designer, each tied to its element.
 #pragma once
 
-#include "ui/buttonsettingswindow.h"
 #include "ui/canvaswindow.h"
 #include "ui/chooserwindow.h"
-#include "ui/settingswindow.h"
 #include "ui/splashwindow.h"
-#include "ui/texturewindow.h"
-#include "ui/toolswindow.h"
 #include "ui/windowbinding.h"
 
 namespace veneerer {
@@ -19,9 +15,9 @@ public:
 
 private:
   WindowBinding* bind(Window& element, QWidget& widget, OnClose onClose);
-  WindowBinding* bindBeside(Window& element, QWidget& widget, OnClose onClose);
   void bindCanvas(State& state);
-  void placeAll();
+  void addPanel(Window& element, QWidget* content, const char* menuText, Qt::Key key);
+  void addHistory();
 
   Operator hands_;
   PictureFetcher pictures_;
@@ -29,11 +25,6 @@ private:
   SplashWindow splash_;
   ChooserWindow chooser_;
   CanvasWindow canvas_;
-  ToolsWindow tools_;
-  SettingsWindow settings_;
-  TextureWindow textures_;
-  ButtonSettingsWindow buttons_;
-  bool placed_ = false;
 };
 
 }  // namespace veneerer

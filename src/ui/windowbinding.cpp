@@ -28,7 +28,7 @@ void WindowBinding::showOrHide() {
     return widget_.hide();
   }
   if (beforeFirstShow_) std::exchange(beforeFirstShow_, nullptr)();
-  if (corner_) widget_.setGeometry(QRect(*corner_, widget_.size()));
+  if (corner_ && widget_.isWindow()) widget_.setGeometry(QRect(*corner_, widget_.size()));
   widget_.show();
 }
 

@@ -15,11 +15,12 @@ protected:
   void SetUp() override {
     start();
     windows = std::make_unique<DesignerWindows>(*designer);
-    for (Window* window : {static_cast<Window*>(&form1()), static_cast<Window*>(&form4()),
-                           static_cast<Window*>(&form5()), static_cast<Window*>(&form6())}) {
+    for (Window* window : std::initializer_list<Window*>{&form4(), &form5(), &form6(), &form1()}) {
       window->setVisible(false);
       window->setVisible(true);
     }
+    // The whole canvas is in sight, however small the screen is.
+    widget<QWidget>("Form1").resize(1600, 900);
     // The lists of fonts and the first paints.
     QTest::qWait(1);
   }

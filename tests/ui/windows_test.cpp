@@ -7,8 +7,8 @@
 #include "records/recorderror.h"
 #include "support/pictures.h"
 #include "ui/application.h"
+#include "ui/arrangement.h"
 #include "ui/layouts.h"
-#include "ui/placement.h"
 #include "ui/uifixture.h"
 
 namespace veneerer {
@@ -51,7 +51,9 @@ TEST_F(Windows, ClosingTheCanvasOrTheChooserEndsTheProgram) {
 }
 
 TEST_F(Windows, TitlesAreTheirCaptionsAndTheCanvasBeginsWithTheSkin) {
-  const auto title = [this](const char* key) { return widget<QWidget>(key).windowTitle().toStdString(); };
+  const auto title = [this](const char* key) {
+    return widget<QWidget>(key).windowTitle().remove(QStringLiteral("[*]")).toStdString();
+  };
   EXPECT_EQ(title("Form2"), "Button Settings");
   EXPECT_EQ(title("Form4"), "File Controls/Settings");
   EXPECT_EQ(title("Form5"), "Texture Viewer");
@@ -173,27 +175,49 @@ TEST_F(Windows, ThumbnailsChooseTheirPictures) {
             path(QStringLiteral("back.bmp")).toStdString());
 }
 
-TEST(Placement, CoversNeitherTheCanvasNorOtherWindowsWhereThereIsRoom) {
-  const QList<QSize> sizes{{553, 712}, {560, 632}, {550, 690}, {454, 498}};
-  const auto overlaps = [](const QList<QRect>& places, const QRect& canvas) {
-    int count = 0;
-    for (const QRect& place : places) {
-      count += place.intersects(canvas) ? 1 : 0;
-      for (const QRect& other : places) count += &other != &place && other.intersects(place) ? 1 : 0;
-    }
-    return count;
-  };
-  const QSize canvas(808, 706);
-  const QRect wide(0, 0, 2560, 1440);
-  EXPECT_EQ(overlaps(placeBeside(wide, canvas, sizes), QRect(wide.topLeft(), canvas)), 0);
-  const QRect small(0, 24, 1368, 744);
-  for (const QRect& place : placeBeside(small, canvas, sizes)) {
-    EXPECT_TRUE(small.contains(place));
-    EXPECT_FALSE(place.intersects(QRect(small.topLeft(), canvas)));
-  }
-  const QRect tiny(0, 0, 640, 480);
-  for (const QRect& place : placeBeside(tiny, canvas, sizes))
-    EXPECT_TRUE(tiny.contains(place.topLeft())) << "the title can be reached";
+TEST(Arrangement, GivesColumnsToAsManyPanelsAsThereIsRoomFor) {
+  const QList<int> widths{550, 560, 550, 450};
+  EXPECT_EQ(columnsOf(widths, 0), (QList<int>{0, 0, 0, 0})) << "the first has its place in any case";
+  EXPECT_EQ(columnsOf(widths, 1109), (QList<int>{0, 0, 0, 0}));
+  EXPECT_EQ(columnsOf(widths, 1110), (QList<int>{0, 1, 1, 1})) << "the last column takes the others";
+  EXPECT_EQ(columnsOf({550, 560, 100}, 700), (QList<int>{0, 0, 0})) << "none comes ahead of its turn";
+  EXPECT_EQ(columnsOf(widths, 3000), (QList<int>{0, 1, 2, 3}));
+}
+
+TEST_F(Windows, PanelsAreTornOffAndArrangedAgain) {
+  auto& tools = widget<QDockWidget>("Form6");
+  auto& history = widget<QDockWidget>("history");
+  EXPECT_TRUE(history.isHidden()) << "it waits until it is asked for";
+  menuEntry("&History")->trigger();
+  EXPECT_FALSE(history.isHidden());
+  tools.setFloating(true);
+  EXPECT_TRUE(tools.isWindow());
+  widget<QDockWidget>("Form4").close();
+  menuEntry("&Arrange")->trigger();
+  EXPECT_FALSE(tools.isWindow());
+  EXPECT_FALSE(history.isHidden());
+  EXPECT_TRUE(widget<QDockWidget>("Form4").isHidden()) << "what was closed stays closed";
+}
+
+TEST_F(Windows, TheMenuUndoesAndTellsWhat) {
+  QAction* undo = menuEntry("&Undo");
+  ASSERT_TRUE(undo);
+  EXPECT_FALSE(undo->isEnabled());
+  auto& canvasWindow = widget<QMainWindow>("Form1");
+  auto& field = widget<QLineEdit>("Form4.Text1(0)");
+  field.setFocus();
+  const QString before = form4().Text1[0].text();
+  QTest::keyClicks(&field, QStringLiteral("12"));
+  EXPECT_EQ(undo->text(), QStringLiteral("&Undo Skin Resolution"));
+  EXPECT_TRUE(canvasWindow.isWindowModified());
+  field.window()->activateWindow();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return field.hasFocus(); }));
+  QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(form4().Text1[0].text(), before) << "the whole burst, not a letter";
+  EXPECT_EQ(field.text(), before);
+  EXPECT_FALSE(canvasWindow.isWindowModified());
+  QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(field.text(), before + QStringLiteral("12"));
 }
 
 TEST(Mnemonics, AreDifferentAndLeaveAmpersandsAlone) {

@@ -1,0 +1,14 @@
+// Keys that more than one window knows.
+#pragma once
+
+#include <QKeySequence>
+#include <QList>
+
+namespace veneerer {
+
+// The same on every desktop, whatever it calls its standard.
+inline const QList<QKeySequence> kUndoKeys{QKeySequence(Qt::CTRL | Qt::Key_Z)};
+inline const QList<QKeySequence> kRedoKeys{QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+                                           QKeySequence(Qt::CTRL | Qt::Key_Y)};
+
+}  // namespace veneerer
