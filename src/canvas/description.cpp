@@ -30,13 +30,6 @@ QString inPixels(const Element& e, const Screen& screen) {
                    QStringLiteral("px"));
 }
 
-// The entry of the Edit Section list whose screen the element is, -1 for none.
-int entryOf(State& state, const Element& element) {
-  for (int entry = 0; entry < static_cast<int>(kScreenEntries.size()); ++entry)
-    if (&element == &screenOf(state, entry)) return entry;
-  return -1;
-}
-
 QString entryText(int entry) {
   return QStringView(kScreenEntries[static_cast<std::size_t>(entry)]).toString();
 }

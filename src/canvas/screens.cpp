@@ -28,6 +28,12 @@ Element& screenOf(State& state, int entry) {
   return *state.form1.Picture23;
 }
 
+int entryOf(State& state, const Element& element) {
+  for (int entry = 0; entry < kEntries; ++entry)
+    if (&element == &screenOf(state, entry)) return entry;
+  return -1;
+}
+
 bool isScreen(const State& state, const Element& element) {
   const Form1& form1 = state.form1;
   return element.family() == &form1.Picture1 || &element == &form1.Picture12[0] ||

@@ -48,6 +48,9 @@ inline constexpr std::array<std::u16string_view, 32> kScreenEntries = {
 /// The panel of an entry, 0 to 31.
 Element& screenOf(State& state, int entry);
 
+/// The entry whose panel the element is, -1 for none.
+int entryOf(State& state, const Element& element);
+
 /// Whether the element is the panel of an entry.
 bool isScreen(const State& state, const Element& element);
 

@@ -3,6 +3,7 @@
 #include "canvas/canvasinput.h"
 #include "design/design.h"
 #include "designer/refusalnotes.h"
+#include "editing/setting.h"
 #include "elements/printable.h"
 #include "elements/require.h"
 #include "forms/currentskin.h"
@@ -109,6 +110,7 @@ struct Designer::Parts {
   ToolsPalette tools{*state, platform, platform.progress};
   SkinLoader loader{*state, platform, covers};
   History history{*state, [this] { canvas.refill(); }};
+  OverlaySelection overlay;
   const char gesture = 0;  ///< its address is what a press, its moves and its click join
   bool isLoaded = false;   ///< a Skin is, so that the next one is a step
   std::vector<Attachment> attachments;
@@ -215,6 +217,39 @@ void Designer::resizeCanvas(float width, float height) {
   const History::Action action(parts_->history);
   parts_->state->form1.setWidth(width);
   parts_->state->form1.setHeight(height);
+}
+
+void Designer::setProperty(const std::vector<Element*>& elements, Property property, const Value& value) {
+  const History::Action action(parts_->history);
+  const RefusalNotes::Command command(parts_->refusals);
+  for (Element* element : elements)
+    if (element->has(property)) veneerer::setProperty(*element, property, value);
+}
+
+void Designer::copyLook(const Element& from, const std::vector<Element*>& to) {
+  const History::Action action(parts_->history, QStringLiteral("Paste Style"));
+  const RefusalNotes::Command command(parts_->refusals);
+  for (Element* element : to)
+    if (element != &from) veneerer::copyLook(from, *element);
+}
+
+void Designer::align(Line line) {
+  const History::Action action(parts_->history, QStringLiteral("Align"));
+  alignElements(parts_->overlay.elements(), line);
+}
+
+void Designer::distribute(Along along) {
+  const History::Action action(parts_->history, QStringLiteral("Distribute"));
+  distributeElements(parts_->overlay.elements(), along);
+}
+
+void Designer::makeSameSize(Sides sides) {
+  const History::Action action(parts_->history, QStringLiteral("Same Size"));
+  veneerer::makeSameSize(parts_->overlay.elements(), sides);
+}
+
+OverlaySelection& Designer::overlay() {
+  return parts_->overlay;
 }
 
 History& Designer::history() {

@@ -5,6 +5,8 @@
 #include <memory>
 
 #include "canvas/mousebutton.h"
+#include "editing/arranging.h"
+#include "editing/overlayselection.h"
 #include "elements/controls.h"
 #include "forms/state.h"
 #include "history/history.h"
@@ -70,6 +72,19 @@ public:
   void select(OptionButton& option);
   /// The operator sizes the canvas window; twips. The elements keep their places.
   void resizeCanvas(float width, float height);
+
+  // The designer's own hands: no Section takes part, and none of the tools' exceptions and limits.
+
+  /// Sets one property of all these elements that have it.
+  void setProperty(const std::vector<Element*>& elements, Property property, const Value& value);
+  /// Gives these elements what they have in common of the look of that one.
+  void copyLook(const Element& from, const std::vector<Element*>& to);
+  /// Puts what is selected on the overlay in line with its first element.
+  void align(Line line);
+  void distribute(Along along);
+  void makeSameSize(Sides sides);
+  /// What is selected on the overlay.
+  OverlaySelection& overlay();
 
   /// What was done, for undo and redo. It begins behind start-up.
   History& history();

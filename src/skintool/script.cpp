@@ -99,6 +99,10 @@ const ScriptPlayer::Entry ScriptPlayer::kActions[] = {
     {QLatin1String("font"), 1, 6, &ScriptPlayer::font},
     {QLatin1String("undo"), 0, 1, &ScriptPlayer::undo},
     {QLatin1String("redo"), 0, 1, &ScriptPlayer::redo},
+    {QLatin1String("select"), 0, 10000, &ScriptPlayer::select},
+    {QLatin1String("align"), 1, 1, &ScriptPlayer::align},
+    {QLatin1String("distribute"), 1, 1, &ScriptPlayer::distribute},
+    {QLatin1String("samesize"), 1, 1, &ScriptPlayer::sameSize},
 };
 
 void ScriptPlayer::play(const QString& name, const QString& text) {
@@ -265,6 +269,36 @@ void ScriptPlayer::undo(const Words& words) {
 void ScriptPlayer::redo(const Words& words) {
   if (areAll(words)) return designer_.history().redoAll();
   if (!designer_.history().redo()) throw ScriptError(QStringLiteral("there is nothing to redo"));
+}
+
+// Only what stands on the canvas has a place there.
+void ScriptPlayer::select(const Words& words) {
+  std::vector<Element*> elements;
+  for (const ScriptWord& word : words) {
+    Element& found = element(word);
+    if (!found.family() || &found.window() != &designer_.state().form1)
+      throw ScriptError(QStringLiteral("%1 can't be selected").arg(found.key()));
+    elements.push_back(&found);
+  }
+  designer_.overlay().select(std::move(elements));
+}
+
+void ScriptPlayer::align(const Words& words) {
+  const std::optional<Line> line = lineNamed(words[0].text);
+  if (!line) throw ScriptError(QStringLiteral("align knows no \"%1\"").arg(excerpt(words[0].text)));
+  designer_.align(*line);
+}
+
+void ScriptPlayer::distribute(const Words& words) {
+  const std::optional<Along> along = alongNamed(words[0].text);
+  if (!along) throw ScriptError(QStringLiteral("distribute knows no \"%1\"").arg(excerpt(words[0].text)));
+  designer_.distribute(*along);
+}
+
+void ScriptPlayer::sameSize(const Words& words) {
+  const std::optional<Sides> sides = sidesNamed(words[0].text);
+  if (!sides) throw ScriptError(QStringLiteral("samesize knows no \"%1\"").arg(excerpt(words[0].text)));
+  designer_.makeSameSize(*sides);
 }
 
 }  // namespace veneerer

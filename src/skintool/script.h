@@ -51,6 +51,10 @@ private:
   void font(const Words& words);
   void undo(const Words& words);
   void redo(const Words& words);
+  void select(const Words& words);
+  void align(const Words& words);
+  void distribute(const Words& words);
+  void sameSize(const Words& words);
 
   Element& element(const ScriptWord& word);
   RowList& rows(const ScriptWord& word);

@@ -1,0 +1,49 @@
+#include "editing/setting.h"
+
+#include <algorithm>
+
+#include "elements/button.h"
+#include "elements/window.h"
+
+namespace veneerer {
+
+namespace {
+
+using P = Property;
+
+// A shape ahead of the picture size, which a custom shape refuses.
+constexpr P kLook[] = {P::BackColor,     P::ForeColor,         P::BackStyle,   P::Alignment,
+                       P::FontName,      P::FontSize,          P::FontBold,    P::FontItalic,
+                       P::FontUnderline, P::FontStrikethrough, P::ButtonShape, P::ButtonStyle,
+                       P::GradientColor, P::GradientMode};
+
+bool isSize(Property property) {
+  return property == P::Width || property == P::Height;
+}
+
+}  // namespace
+
+void setProperty(Element& element, Property property, const Value& value) {
+  if (element.kind() != Kind::Button || !isSize(property)) {
+    element.set(property, value);
+    return;
+  }
+  // A shape that doesn't come back says nothing of itself: the size was asked for.
+  const QuietRefusals quiet(element.window().board());
+  auto& button = cast<Button>(element);
+  const int shape = button.buttonShape();
+  button.setButtonShape(0);
+  button.set(property, value);
+  button.setButtonShape(shape);
+}
+
+bool isLook(Property property) {
+  return std::ranges::find(kLook, property) != std::end(kLook);
+}
+
+void copyLook(const Element& from, Element& to) {
+  for (const Property property : kLook)
+    if (from.has(property) && to.has(property)) setProperty(to, property, from.get(property));
+}
+
+}  // namespace veneerer
