@@ -57,6 +57,28 @@ QString elementTitle(State& state, const Element& element) {
   return element.index() < 0 ? title : QStringLiteral("%1 (%2)").arg(title).arg(element.index());
 }
 
+// British spelling, like all that the windows say.
+QString propertyTitle(Property property) {
+  QString title;
+  for (const QChar letter : QString(propertyName(property))) {
+    if (letter.isUpper() && !title.isEmpty()) title += u' ';
+    title += letter;
+  }
+  return title.replace(QStringLiteral("Color"), QStringLiteral("Colour"));
+}
+
+QString fontText(const Element& element) {
+  if (!element.has(Property::FontName)) return {};
+  QStringList words{excerpt(element.as<QString>(Property::FontName), kLongestTitle),
+                    singleText(element.as<float>(Property::FontSize))};
+  for (const auto& [flag, word] : {std::pair(Property::FontBold, "bold"),
+                                   {Property::FontItalic, "italic"},
+                                   {Property::FontUnderline, "underlined"},
+                                   {Property::FontStrikethrough, "struck through"}})
+    if (element.as<bool>(flag)) words.append(QString::fromLatin1(word));
+  return words.join(u' ');
+}
+
 QString screenName(State& state, const Element& element) {
   for (const Element* e = &element; e; e = e->container())
     if (const int entry = entryOf(state, *e); entry >= 0) return entryText(entry);

@@ -13,6 +13,12 @@ QString shortName(const Element& element);
 /// screen by its entry in the Edit Section list. Else shortName(). Plain text of one line.
 QString elementTitle(State& state, const Element& element);
 
+/// A property in words: "Font Size", "Back Colour".
+QString propertyTitle(Property property);
+
+/// "Arial 9 bold"; empty for an element without a font.
+QString fontText(const Element& element);
+
 /// Where the element stands: the entry of its screen in the Edit Section list, or "Frame".
 QString screenName(State& state, const Element& element);
 

@@ -32,21 +32,8 @@ void addOnce(std::vector<T>& list, T item) {
   if (std::ranges::find(list, item) == list.end()) list.push_back(item);
 }
 
-// "FontSize" as "Font Size", in British spelling like all that the windows say.
-QString wordsOf(Property property) {
-  if (property == P::BackColor) return QStringLiteral("Back Colour");
-  if (property == P::ForeColor) return QStringLiteral("Fore Colour");
-  if (property == P::GradientColor) return QStringLiteral("Gradient Colour");
-  QString words;
-  for (const QChar letter : QString(propertyName(property))) {
-    if (letter.isUpper() && !words.isEmpty()) words += u' ';
-    words += letter;
-  }
-  return words;
-}
-
 QString nameOf(const std::vector<Property>& properties) {
-  if (properties.size() == 1) return wordsOf(properties.front());
+  if (properties.size() == 1) return propertyTitle(properties.front());
   for (const Group& group : kGroups)
     if (std::ranges::all_of(properties,
                             [&](Property p) { return std::ranges::count(group.properties, p) > 0; }))

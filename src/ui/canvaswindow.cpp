@@ -7,10 +7,12 @@
 #include <QShowEvent>
 #include <QStatusBar>
 #include <QTimer>
+#include <QToolBar>
 
 #include "canvas/description.h"
 #include "canvas/screens.h"
 #include "ui/arrangement.h"
+#include "ui/inhandline.h"
 #include "ui/keys.h"
 #include "ui/plaintext.h"
 
@@ -57,6 +59,7 @@ CanvasWindow::CanvasWindow(const Ui& ui)
   state_.notes.setListener([this](const QString& note) { status_->tell(note); });
   connect(canvas_, &CanvasWidget::resized, this, &CanvasWindow::fitCanvas);
   connect(canvas_, &CanvasWidget::pointed, this, &CanvasWindow::pointed);
+  addInHandLine();
   setDockNestingEnabled(true);
   setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
   addFileMenu();
@@ -76,6 +79,14 @@ QAction* CanvasWindow::addCommand(QMenu* menu, const QString& text, const QList<
   QAction* action = menu->addAction(text);
   makeCommand(*action, keys, tip);
   return action;
+}
+
+void CanvasWindow::addInHandLine() {
+  auto* bar = new QToolBar(QStringLiteral("In hand"));
+  bar->setMovable(false);
+  bar->toggleViewAction()->setVisible(false);
+  bar->addWidget(new InHandLine(ui_));
+  addToolBar(Qt::TopToolBarArea, bar);
 }
 
 void CanvasWindow::addFileMenu() {

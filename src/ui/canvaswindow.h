@@ -39,6 +39,7 @@ protected:
   void showEvent(QShowEvent* event) override;
 
 private:
+  void addInHandLine();
   void addFileMenu();
   void addEditMenu();
   void addViewMenu();

@@ -5,6 +5,8 @@
 
 #include "elements/printable.h"
 #include "ui/buttonsettingswindow.h"
+#include "ui/inspector.h"
+#include "ui/outlinepanel.h"
 #include "ui/settingswindow.h"
 #include "ui/texturewindow.h"
 #include "ui/toolswindow.h"
@@ -36,6 +38,8 @@ DesignerWindows::DesignerWindows(Designer& designer)
   addPanel(state.form4, new SettingsWindow(ui_), "&File Controls/Settings", Qt::Key_F4);
   addPanel(state.form5, new TextureWindow(ui_), "Texture &Viewer", Qt::Key_F5);
   addPanel(state.form2, new ButtonSettingsWindow(ui_), "&Button Settings", Qt::Key_F2);
+  addPanel("inspector", new Inspector(ui_), "&Inspector", Qt::Key_F7);
+  addPanel("outline", new OutlinePanel(ui_), "&Outline", Qt::Key_F3);
   addHistory();
 }
 
@@ -62,16 +66,21 @@ void DesignerWindows::addPanel(Window& element, QWidget* content, const char* me
   canvas_.add({dock, &element, QString::fromLatin1(menuText), QKeySequence(key)});
 }
 
-// The history isn't on the operator's mind until it is asked for.
-void DesignerWindows::addHistory() {
-  auto* dock = new QDockWidget(QStringLiteral("History"), &canvas_);
-  auto* steps = new QUndoView(&hands_.history().stack());
-  steps->setEmptyLabel(QStringLiteral("As it was loaded"));
-  steps->setAccessibleName(QStringLiteral("History"));
-  dock->setWidget(steps);
-  dock->setObjectName(QStringLiteral("history"));
+// They aren't on the operator's mind until they are asked for.
+void DesignerWindows::addPanel(const char* name, QWidget* content, const char* menuText, Qt::Key key) {
+  auto* dock = new QDockWidget(content->windowTitle(), &canvas_);
+  dock->setWidget(content);
+  dock->setObjectName(QString::fromLatin1(name));
   dock->hide();
-  canvas_.add({dock, nullptr, QStringLiteral("&History"), QKeySequence(Qt::Key_F8)});
+  canvas_.add({dock, nullptr, QString::fromLatin1(menuText), QKeySequence(key)});
+}
+
+void DesignerWindows::addHistory() {
+  auto* steps = new QUndoView(&hands_.history().stack());
+  steps->setWindowTitle(QStringLiteral("History"));
+  steps->setEmptyLabel(QStringLiteral("As it was loaded"));
+  steps->setAccessibleName(steps->windowTitle());
+  addPanel("history", steps, "&History", Qt::Key_F8);
 }
 
 }  // namespace veneerer

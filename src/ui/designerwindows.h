@@ -17,6 +17,7 @@ private:
   WindowBinding* bind(Window& element, QWidget& widget, OnClose onClose);
   void bindCanvas(State& state);
   void addPanel(Window& element, QWidget* content, const char* menuText, Qt::Key key);
+  void addPanel(const char* name, QWidget* content, const char* menuText, Qt::Key key);
   void addHistory();
 
   Operator hands_;

@@ -14,9 +14,11 @@ class Operator : public QObject {
 
 public:
   explicit Operator(Designer& designer);
+  ~Operator() override;
 
   State& state() { return designer_.state(); }
   History& history() { return designer_.history(); }
+  Dialogs& dialogs() { return designer_.platform().dialogs; }
   const Screen& screen() const { return designer_.platform().screen; }
 
   void click(Element& element);
@@ -31,6 +33,16 @@ public:
   /// The second event of the cover list, on that row.
   void chooseTwice(RowList& list, int row);
   void tick(CheckBox& box, int value);
+  /// Sets a property of all these elements.
+  void set(const std::vector<Element*>& elements, Property property, const Value& value);
+  void copyLook(const Element& from, const std::vector<Element*>& to);
+  void align(Line line);
+  void distribute(Along along);
+  void makeSameSize(Sides sides);
+  OverlaySelection& overlay() { return designer_.overlay(); }
+  /// The next press on the canvas picks the colour that is seen there, and is no press.
+  void pickColour(std::function<void(Colour)> picked) { Q_EMIT pickingColour(std::move(picked)); }
+
   /// Shows the chooser, which lists the Skins, in the canvas's place.
   void chooseSkin();
   /// Fills the list of fonts; slow.
@@ -39,6 +51,9 @@ public:
 Q_SIGNALS:
   /// An action has ended: the element in hand may be another one.
   void acted();
+  /// Something else is selected, or locked, on the overlay.
+  void selected();
+  void pickingColour(std::function<void(veneerer::Colour)> picked);
 
 private:
   Designer& designer_;

@@ -1,0 +1,102 @@
+#include "ui/inhandline.h"
+
+#include <QHBoxLayout>
+
+#include "canvas/description.h"
+#include "canvas/screens.h"
+#include "canvas/sections.h"
+#include "editing/inspection.h"
+#include "painting/hittest.h"
+#include "ui/colourmenu.h"
+
+namespace veneerer {
+
+namespace {
+
+constexpr int kChip = 16;  // device-independent pixels
+constexpr Property kColours[] = {Property::ForeColor, Property::BackColor, Property::GradientColor};
+
+QString textOf(State& state, const Element& element, const veneerer::Screen& screen) {
+  QStringList parts{elementTitle(state, element), describe(state, element, screen)};
+  if (const QString font = fontText(element); !font.isEmpty()) parts.append(font);
+  return parts.join(QStringLiteral("   "));
+}
+
+// The entry whose screen holds the element, -1 for the frame.
+int screenHolding(State& state, const Element& element) {
+  for (const Element* e = &element; e; e = e->container())
+    if (const int entry = entryOf(state, *e); entry >= 0) return entry;
+  return -1;
+}
+
+}  // namespace
+
+InHandLine::InHandLine(const Ui& ui)
+    : hands_(ui.hands),
+      watching_(ui.hands.state().board.watch([this](const Change&) { telling_.start(); })),
+      what_(new QLabel),
+      elsewhere_(new QLabel(QStringLiteral("on another screen"))),
+      goThere_(new QPushButton(QStringLiteral("&Go there"))) {
+  setObjectName(QStringLiteral("inHandLine"));
+  what_->setTextFormat(Qt::PlainText);
+  what_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(6, 2, 6, 2);
+  row->addWidget(what_, 1);
+  for (std::size_t i = 0; i < std::size(kColours); ++i) {
+    chips_.append(new QLabel);
+    row->addWidget(chips_.last());
+  }
+  row->addWidget(elsewhere_);
+  row->addWidget(goThere_);
+  goThere_->setToolTip(QStringLiteral("Show the screen of the element in hand"));
+  telling_.setSingleShot(true);
+  telling_.setInterval(0);
+  telling_.callOnTimeout(this, &InHandLine::tell);
+  connect(&hands_, &Operator::acted, &telling_, qOverload<>(&QTimer::start));
+  connect(goThere_, &QPushButton::clicked, this, [this] {
+    const Element* element = currentElement(hands_.state());
+    const int entry = element ? screenHolding(hands_.state(), *element) : -1;
+    if (entry >= 0) hands_.choose(*hands_.state().form6.Combo6, entry);
+  });
+  tell();
+}
+
+void InHandLine::tell() {
+  State& state = hands_.state();
+  const Element* element = currentElement(state);
+  const bool isOnCanvas = element && &element->window() == &state.form1;
+  text_ = element ? textOf(state, *element, hands_.screen())
+                  : QStringLiteral("Click an element to take it in hand");
+  showText();
+  showColours(element);
+  const int entry = isOnCanvas ? screenHolding(state, *element) : -1;
+  const bool isElsewhere = entry >= 0 && !isShown(screenOf(state, entry));
+  elsewhere_->setVisible(isElsewhere);
+  goThere_->setVisible(isElsewhere);
+}
+
+void InHandLine::showText() {
+  what_->setText(what_->fontMetrics().elidedText(text_, Qt::ElideRight, what_->width()));
+  what_->setToolTip(plainToolTip(text_));
+  what_->setAccessibleName(QStringLiteral("In hand: ") + text_);
+}
+
+void InHandLine::showColours(const Element* element) {
+  for (qsizetype i = 0; i < chips_.size(); ++i) {
+    const Property property = kColours[i];
+    const bool has = element && element->has(property);
+    chips_[i]->setVisible(has);
+    if (!has) continue;
+    const Colour colour = element->as<Colour>(property);
+    chips_[i]->setPixmap(colourChip(colour.toQColor(), kChip));
+    chips_[i]->setToolTip(propertyTitle(property) + u' ' + valueText(colour));
+    chips_[i]->setAccessibleName(chips_[i]->toolTip());
+  }
+}
+
+void InHandLine::resizeEvent(QResizeEvent*) {
+  showText();
+}
+
+}  // namespace veneerer

@@ -1,0 +1,103 @@
+#include "ui/inspector.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "canvas/description.h"
+#include "canvas/sections.h"
+#include "ui/colourmenu.h"
+#include "ui/layouts.h"
+
+namespace veneerer {
+
+Inspector::Inspector(const Ui& ui)
+    : hands_(ui.hands),
+      watching_(ui.hands.state().board.watch([this](const Change& change) {
+        if (std::ranges::count(model_.elements(), &change.element) > 0) refreshing_.start();
+      })),
+      model_(ui.hands),
+      title_(new QLabel),
+      table_(new QTableView),
+      copy_(new QToolButton),
+      paste_(new QToolButton) {
+  setWindowTitle(QStringLiteral("Inspector"));
+  title_->setTextFormat(Qt::PlainText);
+  title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  table_->setModel(&model_);
+  table_->setAccessibleName(QStringLiteral("Properties"));
+  table_->setSelectionMode(QAbstractItemView::SingleSelection);
+  table_->setEditTriggers(QAbstractItemView::AllEditTriggers);
+  table_->setAlternatingRowColors(true);
+  table_->setShowGrid(false);
+  table_->verticalHeader()->hide();
+  table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
+  table_->horizontalHeader()->setSectionResizeMode(InspectorModel::Text, QHeaderView::Stretch);
+  table_->setContextMenuPolicy(Qt::CustomContextMenu);
+  copy_->setText(QStringLiteral("Copy Style"));
+  copy_->setToolTip(QStringLiteral("Remember the colours, the font and the style of this element"));
+  paste_->setText(QStringLiteral("Paste Style"));
+  paste_->setToolTip(QStringLiteral("Give what is selected the style that was copied"));
+  auto* row = new QHBoxLayout;
+  row->addWidget(title_, 1);
+  row->addWidget(copy_);
+  row->addWidget(paste_);
+  auto* column = compact(new QVBoxLayout(this));
+  column->addLayout(row);
+  column->addWidget(table_);
+  refreshing_.setSingleShot(true);
+  refreshing_.setInterval(0);
+  refreshing_.callOnTimeout(this, [this] { model_.refresh(); });
+  connect(&hands_, &Operator::acted, this, &Inspector::inspect);
+  connect(&hands_, &Operator::selected, this, &Inspector::inspect);
+  connect(table_, &QTableView::clicked, this, [this](const QModelIndex& index) {
+    if (index.column() == InspectorModel::Name) showColours(index);
+  });
+  connect(table_, &QTableView::customContextMenuRequested, this,
+          [this](const QPoint& at) { showColours(table_->indexAt(at)); });
+  connect(copy_, &QToolButton::clicked, this, &Inspector::copyStyle);
+  connect(paste_, &QToolButton::clicked, this, &Inspector::pasteStyle);
+  inspect();
+}
+
+std::vector<Element*> Inspector::inspected() const {
+  const std::vector<Element*>& selected = hands_.overlay().elements();
+  if (!selected.empty()) return selected;
+  Element* inHand = currentElement(hands_.state());
+  return inHand ? std::vector<Element*>{inHand} : std::vector<Element*>();
+}
+
+void Inspector::inspect() {
+  const std::vector<Element*> elements = inspected();
+  const bool isOther = elements != model_.elements();
+  model_.inspect(elements);
+  if (isOther) table_->resizeColumnToContents(InspectorModel::Name);
+  QString title = QStringLiteral("Click an element to see its properties");
+  if (!elements.empty()) title = elementTitle(hands_.state(), *elements.front());
+  if (elements.size() > 1) title += QStringLiteral(" and %1 more").arg(elements.size() - 1);
+  title_->setText(title);
+  copy_->setEnabled(!elements.empty());
+  paste_->setEnabled(!elements.empty() && styleFrom_);
+}
+
+void Inspector::showColours(const QModelIndex& index) {
+  if (!index.isValid()) return;
+  const Property property = model_.propertyAt(index.row());
+  if (propertyType(property) != ValueType::Colour) return;
+  auto* menu = new ColourMenu(
+      hands_, model_.elements().front()->as<Colour>(property),
+      [this, property](Colour colour) { model_.set(property, colour); }, this);
+  menu->popup(QCursor::pos());
+}
+
+void Inspector::copyStyle() {
+  styleFrom_ = model_.elements().front();
+  inspect();
+}
+
+void Inspector::pasteStyle() {
+  if (styleFrom_) hands_.copyLook(*styleFrom_, model_.elements());
+}
+
+}  // namespace veneerer

@@ -1,0 +1,35 @@
+// The inspector: every property of what is selected on the overlay, else of the element in hand.
+#pragma once
+
+#include <QLabel>
+#include <QTableView>
+#include <QToolButton>
+
+#include "ui/bindings.h"
+#include "ui/inspectormodel.h"
+
+namespace veneerer {
+
+class Inspector : public QWidget {
+public:
+  explicit Inspector(const Ui& ui);
+
+private:
+  void inspect();
+  void showColours(const QModelIndex& index);
+  void copyStyle();
+  void pasteStyle();
+  std::vector<Element*> inspected() const;
+
+  Operator& hands_;
+  Attachment watching_;
+  InspectorModel model_;
+  QLabel* title_;
+  QTableView* table_;
+  QToolButton* copy_;
+  QToolButton* paste_;
+  QTimer refreshing_;
+  const Element* styleFrom_ = nullptr;  ///< whose look is to be given on
+};
+
+}  // namespace veneerer

@@ -1,0 +1,93 @@
+#include "ui/inspectormodel.h"
+
+#include <algorithm>
+
+#include "canvas/description.h"
+#include "elements/printable.h"
+#include "ui/colourmenu.h"
+#include "ui/plaintext.h"
+
+namespace veneerer {
+
+namespace {
+
+constexpr int kChip = 14;  // device-independent pixels
+
+}  // namespace
+
+void InspectorModel::inspect(const std::vector<Element*>& elements) {
+  if (elements == elements_) return refresh();
+  beginResetModel();
+  elements_ = elements;
+  properties_ = elements.empty() ? std::vector<Property>() : inspectedProperties(*elements.front());
+  endResetModel();
+}
+
+void InspectorModel::refresh() {
+  if (!properties_.empty()) Q_EMIT dataChanged(index(0, Text), index(rowCount() - 1, Pixels));
+}
+
+void InspectorModel::set(Property property, const Value& value) {
+  hands_.set(elements_, property, value);
+}
+
+int InspectorModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(properties_.size());
+}
+
+QVariant InspectorModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (role != Qt::DisplayRole || orientation != Qt::Horizontal) return {};
+  const char* const titles[] = {"Property", "Value", "Pixels"};
+  return QString::fromLatin1(titles[section]);
+}
+
+bool InspectorModel::isMixed(Property property) const {
+  return std::ranges::any_of(elements_, [&](const Element* element) {
+    return element->has(property) && element->get(property) != elements_.front()->get(property);
+  });
+}
+
+QString InspectorModel::textAt(const QModelIndex& index) const {
+  const Property property = propertyAt(index.row());
+  if (index.column() == Name) return propertyTitle(property);
+  if (isMixed(property)) return QStringLiteral("(several)");
+  const Element& element = *elements_.front();
+  return index.column() == Text ? valueText(element.get(property))
+                                : pixelText(element, property, hands_.screen());
+}
+
+QVariant InspectorModel::data(const QModelIndex& index, int role) const {
+  const Property property = propertyAt(index.row());
+  if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) return shownText(textAt(index));
+  if (role == Qt::EditRole) return isMixed(property) ? QString() : textAt(index);
+  if (role == Qt::ToolTipRole) return plainToolTip(textAt(index));
+  const bool isColour = propertyType(property) == ValueType::Colour;
+  if (role == Qt::DecorationRole && index.column() == Text && isColour && !isMixed(property))
+    return colourChip(elements_.front()->as<Colour>(property).toQColor(), kChip);
+  return {};
+}
+
+Qt::ItemFlags InspectorModel::flags(const QModelIndex& index) const {
+  Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+  const Property property = propertyAt(index.row());
+  const ValueType type = propertyType(property);
+  const bool canBeTyped = type != ValueType::Picture && type != ValueType::Stored && type != ValueType::Texts;
+  const bool hasPixels = !pixelText(*elements_.front(), property, hands_.screen()).isEmpty();
+  if ((index.column() == Text && canBeTyped) || (index.column() == Pixels && hasPixels))
+    flags |= Qt::ItemIsEditable;
+  return flags;
+}
+
+bool InspectorModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+  if (role != Qt::EditRole) return false;
+  const QString text = value.toString();
+  // What wasn't typed over is kept to the last digit.
+  if (text == data(index, Qt::EditRole).toString()) return false;
+  const Property property = propertyAt(index.row());
+  const std::optional<Value> typed =
+      index.column() == Text ? typedValue(property, text) : typedPixels(property, text, hands_.screen());
+  if (typed) set(property, *typed);
+  return typed.has_value();
+}
+
+}  // namespace veneerer

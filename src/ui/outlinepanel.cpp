@@ -1,0 +1,92 @@
+#include "ui/outlinepanel.h"
+
+#include <QHeaderView>
+#include <QVBoxLayout>
+
+#include "canvas/sections.h"
+#include "ui/layouts.h"
+
+namespace veneerer {
+
+namespace {
+
+// A burst of changes is read anew when it is over, milliseconds.
+constexpr int kRest = 300;
+
+bool isListed(Property property) {
+  return property == Property::Caption || property == Property::Visible;
+}
+
+}  // namespace
+
+OutlinePanel::OutlinePanel(const Ui& ui)
+    : hands_(ui.hands),
+      model_(ui.hands.state()),
+      query_(new QLineEdit),
+      tree_(new QTreeView),
+      watching_(ui.hands.state().board.watch([this](const Change& change) {
+        if (&change.element.window() == &hands_.state().form1 && isListed(change.property))
+          rereading_.start();
+      })) {
+  setWindowTitle(QStringLiteral("Outline"));
+  query_->setPlaceholderText(QStringLiteral("Caption, name, Section or screen"));
+  query_->setClearButtonEnabled(true);
+  query_->setAccessibleName(QStringLiteral("Search"));
+  tree_->setModel(&model_);
+  tree_->setAccessibleName(QStringLiteral("Elements"));
+  tree_->setUniformRowHeights(true);
+  tree_->setHeaderHidden(false);
+  tree_->header()->setStretchLastSection(false);
+  tree_->header()->setSectionResizeMode(OutlineModel::Title, QHeaderView::Stretch);
+  const auto widthOf = [this](const char* text) {
+    return tree_->fontMetrics().horizontalAdvance(QString::fromLatin1(text)) + 16;
+  };
+  tree_->header()->resizeSection(OutlineModel::Key, widthOf("lvButtons_H23(88)"));
+  tree_->header()->resizeSection(OutlineModel::Section, widthOf("Section"));
+  auto* column = compact(new QVBoxLayout(this));
+  column->addWidget(query_);
+  column->addWidget(tree_);
+  rereading_.setSingleShot(true);
+  rereading_.setInterval(kRest);
+  rereading_.callOnTimeout(this, [this] {
+    if (isVisible()) search(query_->text());
+  });
+  connect(query_, &QLineEdit::textChanged, this, [this](const QString& text) {
+    model_.search(text);
+    if (!text.isEmpty()) tree_->expandAll();
+  });
+  connect(query_, &QLineEdit::returnPressed, tree_, [this] { tree_->setFocus(); });
+  connect(tree_, &QTreeView::clicked, this, &OutlinePanel::select);
+  connect(tree_, &QTreeView::activated, this, &OutlinePanel::click);
+  connect(&hands_, &Operator::acted, this, &OutlinePanel::showInHand);
+}
+
+void OutlinePanel::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  search(query_->text());
+  showInHand();
+}
+
+void OutlinePanel::search(const QString& query) {
+  model_.readAnew();
+  if (!query.isEmpty()) tree_->expandAll();
+}
+
+void OutlinePanel::select() {
+  if (Element* element = model_.elementAt(tree_->currentIndex())) hands_.overlay().select({element});
+}
+
+void OutlinePanel::click(const QModelIndex& index) {
+  if (Element* element = model_.elementAt(index)) hands_.click(*element);
+}
+
+// Only as far as it is to be seen: a search isn't disturbed by what is clicked on the canvas.
+void OutlinePanel::showInHand() {
+  if (!isVisible() || !query_->text().isEmpty() || tree_->hasFocus()) return;
+  const Element* element = currentElement(hands_.state());
+  if (!element) return;
+  const QModelIndex index = model_.indexOf(*element);
+  if (index.isValid() && index != tree_->currentIndex()) tree_->setCurrentIndex(index);
+}
+
+}  // namespace veneerer

@@ -1,0 +1,34 @@
+// The outline: all elements of the canvas, with a search.
+#pragma once
+
+#include <QLineEdit>
+#include <QTreeView>
+
+#include "ui/bindings.h"
+#include "ui/outlinemodel.h"
+
+namespace veneerer {
+
+/// A click on a row selects its element on the overlay, Enter and a double click are the element's click.
+class OutlinePanel : public QWidget {
+public:
+  explicit OutlinePanel(const Ui& ui);
+
+protected:
+  void showEvent(QShowEvent* event) override;
+
+private:
+  void search(const QString& query);
+  void select();
+  void click(const QModelIndex& index);
+  void showInHand();
+
+  Operator& hands_;
+  OutlineModel model_;
+  QLineEdit* query_;
+  QTreeView* tree_;
+  QTimer rereading_;
+  Attachment watching_;
+};
+
+}  // namespace veneerer

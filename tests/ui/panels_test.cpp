@@ -1,0 +1,98 @@
+// The panels of our own: the inspector, the outline, and the line that tells the element in hand.
+#include <QTableView>
+#include <QTreeView>
+
+#include "ui/inspectormodel.h"
+#include "ui/outlinemodel.h"
+#include "ui/uifixture.h"
+
+namespace veneerer {
+namespace {
+
+class Panels : public test::UiFixture {
+protected:
+  void bringUp(int key) {
+    QTest::keyClick(&widget<QWidget>("Form1"), static_cast<Qt::Key>(key));
+    QTest::qWait(1);
+  }
+  template <class V>
+  V& viewIn(const char* dock) {
+    return *widget<QWidget>(dock).findChild<V*>();
+  }
+  /// The text of a property's row in the inspector.
+  QModelIndex row(const char* title, int column = InspectorModel::Text) {
+    QAbstractItemModel& model = *viewIn<QTableView>("inspector").model();
+    for (int i = 0; i < model.rowCount(); ++i)
+      if (model.index(i, 0).data() == QLatin1String(title)) return model.index(i, column);
+    ADD_FAILURE() << "no row " << title;
+    return {};
+  }
+};
+
+TEST_F(Panels, TheInspectorReadsAndSetsWhatIsInHand) {
+  Button& button = form1().lvButtons_H1[2];
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(button));
+  bringUp(Qt::Key_F7);
+  QAbstractItemModel& model = *viewIn<QTableView>("inspector").model();
+  EXPECT_EQ(row("Caption").data().toString(), button.caption());
+  EXPECT_EQ(row("Height", InspectorModel::Pixels).data().toString(), QString::number(button.height() / 15));
+  EXPECT_TRUE(model.setData(row("Height", InspectorModel::Pixels), QStringLiteral("50")));
+  EXPECT_EQ(button.height(), 750);
+  EXPECT_TRUE(model.setData(row("Fore Colour"), QStringLiteral("#FF0000")));
+  EXPECT_EQ(button.foreColor(), Colour(0xFF));
+  EXPECT_FALSE(model.setData(row("Fore Colour"), QStringLiteral("reddish")))
+      << "what names no value is left alone";
+  EXPECT_EQ(designer->history().stack().count(), 3) << "the click's placeholder and each value a step";
+  designer->history().undo();
+  EXPECT_NE(row("Fore Colour").data().toString(), QStringLiteral("#FF0000"));
+}
+
+TEST_F(Panels, TheInspectorSetsWhatIsSelectedTogether) {
+  Label& first = form1().Label16[3];
+  Button& second = form1().lvButtons_H1[2];
+  bringUp(Qt::Key_F7);
+  designer->overlay().select({&first, &second});
+  QAbstractItemModel& model = *viewIn<QTableView>("inspector").model();
+  second.setWidth(first.width() + 15);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return row("Width").data() == QStringLiteral("(several)"); }));
+  model.setData(row("Width"), QStringLiteral("900"));
+  EXPECT_EQ(first.width(), 900);
+  EXPECT_EQ(second.width(), 900);
+  EXPECT_EQ(state().globals.SectionNumber, 0) << "selecting is no click";
+}
+
+TEST_F(Panels, TheOutlineFindsSelectsAndClicks) {
+  bringUp(Qt::Key_F3);
+  auto& tree = viewIn<QTreeView>("outline");
+  auto& query = viewIn<QLineEdit>("outline");
+  QTest::keyClicks(&query, QStringLiteral("label16 3"));
+  const auto& model = static_cast<const OutlineModel&>(*tree.model());
+  const QModelIndex found = model.indexOf(form1().Label16[3]);
+  ASSERT_TRUE(found.isValid());
+  EXPECT_FALSE(model.indexOf(form1().Label16[4]).isValid());
+  tree.setCurrentIndex(found);
+  QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(found).center());
+  EXPECT_EQ(designer->overlay().elements(), std::vector<Element*>{&form1().Label16[3]});
+  EXPECT_EQ(state().globals.SectionNumber, 0);
+  QTest::keyClick(&tree, Qt::Key_Return);
+  EXPECT_EQ(state().globals.ElementIndex, 3);
+  EXPECT_GT(state().globals.SectionNumber, 0) << "Enter is the element's click";
+}
+
+TEST_F(Panels, TheLineTellsTheElementInHandAndGoesThere) {
+  auto& line = widget<QWidget>("inHandLine");
+  QPushButton* goThere = line.findChild<QPushButton*>();
+  designer->choose(*form6().Combo6, 0);
+  designer->click(form1().Label16[3]);
+  const auto tells = [&](const char* text) {
+    return line.findChild<QLabel*>()->accessibleName().contains(QLatin1String(text));
+  };
+  EXPECT_TRUE(QTest::qWaitFor([&] { return tells("Label16(3)"); }));
+  EXPECT_FALSE(goThere->isHidden());
+  goThere->click();
+  EXPECT_TRUE(form1().Label16[3].container()->isVisible());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return goThere->isHidden(); }));
+}
+
+}  // namespace
+}  // namespace veneerer
