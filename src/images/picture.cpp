@@ -4,10 +4,13 @@
 #include <QFileInfo>
 #include <QHash>
 #include <atomic>
+#include <climits>
 #include <mutex>
 
 #include "files/plainfile.h"
 #include "images/picturecache.h"
+#include "images/picturecopies.h"
+#include "images/picturedecoding.h"
 #include "images/pictureformat.h"
 
 namespace veneerer {
@@ -16,7 +19,7 @@ class PictureFile {
 public:
   PictureFile(QString path, bool isIcon, std::shared_ptr<PictureCache> cache)
       : path_(std::move(path)), isIcon_(isIcon), cache_(std::move(cache)) {}
-  explicit PictureFile(const QImage& image) : drawn_{image, image} {}
+  explicit PictureFile(const QImage& image) : size_(image.size()), drawn_(image) {}
   ~PictureFile() {
     if (cache_) cache_->drop(this);
   }
@@ -27,51 +30,59 @@ public:
   bool isIcon() const { return isIcon_; }
   PictureCache* cache() const { return cache_.get(); }
 
+  QSize size() const { return size_; }
+
   /// What can be had without decoding: nothing for a picture that must be decoded first.
-  std::optional<DecodedPicture> atHand() const {
+  std::optional<QImage> atHand(const PictureNeed& need) const {
     if (!cache_) return drawn_;
-    std::optional<DecodedPicture> kept = cache_->find(this);
-    return !kept && isBroken_ ? DecodedPicture() : kept;
+    const QSize size = size_;
+    if (size.isNull()) return QImage();
+    std::optional<QImage> kept = size.isValid() ? cache_->find(this, copyFor(need, size)) : std::nullopt;
+    const bool isCorner = kept && need.use == PictureNeed::Use::Natural;
+    if (isCorner && !covers(kept->size(), need.size.boundedTo(size))) kept.reset();
+    return kept;
   }
 
-  DecodedPicture decoded() const {
+  QImage decoded(const PictureNeed& need) const {
     // One thread decodes, those that want the same picture wait for it.
-    const std::lock_guard lock(decoding_);
-    if (const std::optional<DecodedPicture> kept = atHand()) return *kept;
-    const DecodedPicture made = decodePicture(path_);
-    if (made.isNull())
-      isBroken_ = true;
-    else
-      cache_->keep(this, made);
-    return made;
+    const std::lock_guard lock(cache_->decoding);
+    if (const std::optional<QImage> kept = atHand(need)) return *kept;
+    const std::optional<QImage> whole = cache_->find(this, PictureCopy::Whole);
+    return kept(whole ? *whole : decodePicture(path_), need);
+  }
+
+  QImage thumbnail(QSize within) const {
+    const std::lock_guard lock(cache_->decoding);
+    return decodeThumbnail(path_, within);
   }
 
 private:
+  QImage kept(const QImage& picture, const PictureNeed& need) const {
+    size_ = picture.size();
+    const QImage copy = copyOf(picture, need);
+    if (!copy.isNull()) cache_->keep(this, copyFor(need, picture.size()), copy);
+    return copy;
+  }
+
   QString path_;
   bool isIcon_ = false;
-  std::shared_ptr<PictureCache> cache_;  // null for a drawn picture
-  DecodedPicture drawn_;
-  mutable std::mutex decoding_;
-  mutable std::atomic<bool> isBroken_ = false;
+  std::shared_ptr<PictureCache> cache_;        // null for a drawn picture
+  mutable std::atomic<QSize> size_ = QSize();  // (0, 0) of one that can't be decoded
+  QImage drawn_;
 };
 
 namespace {
 
-DecodedPicture decodedOf(const std::shared_ptr<PictureFile>& file) {
+// Any picture's own size is within.
+constexpr PictureNeed kWhole{PictureNeed::Use::Natural, {INT_MAX, INT_MAX}};
+
+QImage shownOf(const std::shared_ptr<PictureFile>& file, const PictureNeed& need) {
   if (!file) return {};
-  const std::optional<DecodedPicture> atHand = file->atHand();
-  return atHand ? *atHand : file->decoded();
-}
-
-DecodedPicture shownOf(const std::shared_ptr<PictureFile>& file) {
-  if (!file || !file->cache() || !file->cache()->fetch) return decodedOf(file);
-  if (const std::optional<DecodedPicture> atHand = file->atHand()) return *atHand;
-  file->cache()->fetch(Picture(file));
-  return file->atHand().value_or(DecodedPicture());
-}
-
-bool covers(QSize size, QSize other) {
-  return size.width() >= other.width() && size.height() >= other.height();
+  if (const std::optional<QImage> atHand = file->atHand(need)) return *atHand;
+  const auto& fetch = file->cache()->fetch;
+  if (!fetch) return file->decoded(need);
+  fetch(Picture(file), need);
+  return file->atHand(need).value_or(QImage());
 }
 
 }  // namespace
@@ -93,26 +104,34 @@ bool Picture::isIcon() const {
 }
 
 QImage Picture::image() const {
-  return decodedOf(file_).whole;
+  return image(kWhole);
 }
 
-QImage Picture::shown() const {
-  return shownOf(file_).whole;
+QImage Picture::image(const PictureNeed& need) const {
+  if (!file_) return {};
+  const std::optional<QImage> atHand = file_->atHand(need);
+  return atHand ? *atHand : file_->decoded(need);
 }
 
 QImage Picture::shown(QSize devicePixels) const {
-  const DecodedPicture picture = shownOf(file_);
-  return covers(picture.reduced.size(), devicePixels) ? picture.reduced : picture.whole;
+  return shownOf(file_, {PictureNeed::Use::Scaled, devicePixels});
+}
+
+QImage Picture::shownCorner(QSize pixels) const {
+  return shownOf(file_, {PictureNeed::Use::Natural, pixels});
+}
+
+QSize Picture::size() const {
+  return file_ ? file_->size() : QSize();
 }
 
 QImage Picture::thumbnail(QSize within) const {
   if (!file_) return {};
-  const std::optional<DecodedPicture> atHand = file_->atHand();
-  if (!atHand) return decodeThumbnail(file_->path(), within);
-  const QImage& image = atHand->reduced;
-  if (image.isNull() || covers(within, image.size())) return image;
-  const QSize size = image.size().scaled(within, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
-  return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  const std::optional<QImage> atHand = file_->atHand({PictureNeed::Use::Scaled, within});
+  if (!atHand) return file_->thumbnail(within);
+  if (atHand->isNull() || covers(within, atHand->size())) return *atHand;
+  const QSize size = atHand->size().scaled(within, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+  return atHand->scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 struct PictureStore::Entries {
@@ -149,7 +168,7 @@ Picture PictureStore::load(const QString& path) {
   return Picture(file);
 }
 
-void PictureStore::fetchWith(std::function<void(const Picture&)> fetch) {
+void PictureStore::fetchWith(std::function<void(const Picture&, const PictureNeed&)> fetch) {
   entries_->cache->fetch = std::move(fetch);
 }
 

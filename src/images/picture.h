@@ -12,6 +12,7 @@ namespace veneerer {
 
 class PictureCache;
 class PictureFile;
+struct PictureNeed;
 
 class Picture {
 public:
@@ -36,13 +37,20 @@ public:
   /// decoding where it isn't at hand. Safe to call from several threads.
   QImage image() const;
 
-  /// The same for painting: where the store has somebody who fetches pictures, one that isn't at hand in time
-  /// is a null image for now. Only for the thread that set the store up.
-  QImage shown() const;
+  /// What of it serves the need; waits as image() does.
+  QImage image(const PictureNeed& need) const;
 
-  /// As shown(), for scaling to that size in device pixels: of a very large picture a smaller copy, if it has
-  /// pixels enough.
+  /// The picture for being scaled to that size in device pixels: of a very large one a smaller copy, if it
+  /// has pixels enough. Where the store has somebody who fetches pictures, one that isn't at hand in time is
+  /// a null image for now. Only for the thread that set the store up.
   QImage shown(QSize devicePixels) const;
+
+  /// As shown(), for being painted in its own size: at least so much of its top left corner as it has.
+  QImage shownCorner(QSize pixels) const;
+
+  /// The size of the picture in its file, pixels; invalid before it was decoded for the first time, empty for
+  /// one that can't be.
+  QSize size() const;
 
   /// The picture in the largest size of its proportions within that one, never larger than it is. What is
   /// decoded for this alone isn't kept. Waits for the decoding; safe to call from several threads.
@@ -71,9 +79,9 @@ public:
   Picture load(const QString& path);
 
   /// From now on a picture that is to be shown and isn't at hand is asked of that function, which sees to it
-  /// that somebody calls image() on another thread and may wait a moment for it. A null function has them
-  /// decoded on the spot again.
-  void fetchWith(std::function<void(const Picture&)> fetch);
+  /// that somebody calls image() for that need on another thread and may wait a moment for it. A null
+  /// function has them decoded on the spot again.
+  void fetchWith(std::function<void(const Picture&, const PictureNeed&)> fetch);
 
   /// What the decoded pictures take now, bytes.
   qint64 decodedBytes() const;

@@ -4,25 +4,43 @@
 
 namespace veneerer {
 
-std::optional<DecodedPicture> PictureCache::find(const void* key) {
-  const std::lock_guard lock(mutex_);
-  const DecodedPicture* kept = kept_.object(key);
+namespace {
+
+std::pair<const void*, int> keyOf(const void* picture, PictureCopy copy) {
+  return {picture, static_cast<int>(copy)};
+}
+
+std::optional<QImage> valueOf(const QImage* kept) {
   return kept ? std::optional(*kept) : std::nullopt;
 }
 
-void PictureCache::keep(const void* key, const DecodedPicture& picture) {
+}  // namespace
+
+std::optional<QImage> PictureCache::find(const void* key, PictureCopy copy) {
   const std::lock_guard lock(mutex_);
-  kept_.insert(key, new DecodedPicture(picture), std::max<qint64>(1, picture.bytes()));
+  return valueOf(copy == PictureCopy::Whole ? wholes_.object(key) : copies_.object(keyOf(key, copy)));
+}
+
+void PictureCache::keep(const void* key, PictureCopy copy, const QImage& image) {
+  const std::lock_guard lock(mutex_);
+  const qint64 bytes = std::max<qint64>(1, image.sizeInBytes());
+  const bool isWhole = copy == PictureCopy::Whole;
+  const qint64 wholes = wholes_.totalCost() + (isWhole ? bytes : 0);
+  copies_.setMaxCost(mostBytes_ - std::min(wholes, mostBytes_ / 8 * 3));
+  if (!isWhole) copies_.insert(keyOf(key, copy), new QImage(image), bytes);
+  wholes_.setMaxCost(mostBytes_ - copies_.totalCost());
+  if (isWhole) wholes_.insert(key, new QImage(image), bytes);
 }
 
 void PictureCache::drop(const void* key) {
   const std::lock_guard lock(mutex_);
-  kept_.remove(key);
+  for (const PictureCopy copy : {PictureCopy::Reduced, PictureCopy::Corner}) copies_.remove(keyOf(key, copy));
+  wholes_.remove(key);
 }
 
 qint64 PictureCache::bytes() const {
   const std::lock_guard lock(mutex_);
-  return kept_.totalCost();
+  return copies_.totalCost() + wholes_.totalCost();
 }
 
 }  // namespace veneerer

@@ -2,7 +2,6 @@
 
 #include <QBuffer>
 #include <QImageReader>
-#include <cmath>
 
 #include "files/plainfile.h"
 #include "images/jpegscans.h"
@@ -84,28 +83,14 @@ private:
   bool isWithinBounds_ = false;
 };
 
-QImage reduced(const QImage& image) {
-  const qint64 pixels = pixelsOf(image.size());
-  if (pixels <= kMostScaledPixels) return image;
-  const double factor = std::sqrt(double(kMostScaledPixels) / double(pixels));
-  const QSize size = (QSizeF(image.size()) * factor).toSize().expandedTo(QSize(1, 1));
-  return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
 }  // namespace
 
 qint64 pixelsOf(QSize size) {
   return size.isEmpty() ? 0 : qint64(size.width()) * size.height();
 }
 
-qint64 DecodedPicture::bytes() const {
-  const bool isOne = whole.cacheKey() == reduced.cacheKey();
-  return whole.sizeInBytes() + (isOne ? 0 : reduced.sizeInBytes());
-}
-
-DecodedPicture decodePicture(const QString& path) {
-  const QImage whole = Decoder(path).read(QSize());
-  return {whole, reduced(whole)};
+QImage decodePicture(const QString& path) {
+  return Decoder(path).read(QSize());
 }
 
 QImage decodeThumbnail(const QString& path, QSize within) {

@@ -18,23 +18,10 @@ inline constexpr qint64 kMostPictureBytes = 4 * kMostPicturePixels + 1024 * 1024
 /// The most scans of a JPEG file.
 inline constexpr int kMostJpegScans = 100;
 
-/// Pixels above this are walked too slowly to be scaled again and again: so much of a larger picture is kept
-/// beside it, ready for scaling.
-inline constexpr qint64 kMostScaledPixels = 4LL * 1024 * 1024;
-
 qint64 pixelsOf(QSize size);
 
-/// A picture as it is kept for painting.
-struct DecodedPicture {
-  QImage whole;    ///< null for a picture that can't be decoded
-  QImage reduced;  ///< the same within kMostScaledPixels, its proportions kept; whole itself if that is
-
-  bool isNull() const { return whole.isNull(); }
-  qint64 bytes() const;
-};
-
-/// The picture of that file in a format that paints fast.
-DecodedPicture decodePicture(const QString& path);
+/// The picture of that file in a format that paints fast; null for one that can't be decoded.
+QImage decodePicture(const QString& path);
 
 /// The same in the largest size of its proportions within that one, never larger than it is.
 QImage decodeThumbnail(const QString& path, QSize within);

@@ -1,8 +1,10 @@
 #include "painting/canvaspainter.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "elements/colour.h"
+#include "painting/canvassize.h"
 #include "painting/clipping.h"
 #include "painting/seenelements.h"
 
@@ -10,9 +12,22 @@ namespace veneerer {
 
 namespace {
 
-// In its own size: a pixel of the picture is a device-independent pixel.
-void paintNatural(QPainter& painter, const QImage& image, QPointF at, const QRectF& clip) {
-  drawWithin(painter, QRectF(at, QSizeF(image.size())), image, clip);
+// A corner of a picture reaches at least a pixel past what is seen, with which the last one may be mixed, and
+// grows in steps: an element that is sized shows the same corner for a while. Pixels.
+constexpr int kCornerStep = 256;
+
+QSize cornerFor(QPointF end) {
+  const auto side = [](double pixels) { return (static_cast<int>(pixels) / kCornerStep + 1) * kCornerStep; };
+  return QSize(side(end.x() + 1), side(end.y() + 1));
+}
+
+// The canvas from its top left corner, without those far sides that no canvas has.
+QRectF canvasBounds(const Form1& form, const QRect& exposed, const PixelScale& scale) {
+  const auto within = [](double pixels) {
+    return pixels > 0 ? std::min<double>(pixels, kLongestCanvasSide) : 0;
+  };
+  const QRectF canvas(0, 0, within(form.width() * scale.x), within(form.height() * scale.y));
+  return canvas | QRectF(exposed);
 }
 
 // A line one pixel wide along the inner edge, drawn as four bars: only those in sight cost anything.
@@ -38,8 +53,9 @@ void CanvasPainter::paint(QPainter& painter, const Form1& form, const QRect& exp
   painter.save();
   painter.setClipRect(exposed, Qt::IntersectClip);
   begin(painter, pixelsPerTwipX, pixelsPerTwipY);
+  bounds_ = canvasBounds(form, exposed, scale_);
   painter.fillRect(exposed, form.backColor().toQColor());
-  paintNatural(painter, form.picture().shown(), QPointF(), exposed);
+  paintNatural(painter, form.picture(), QRectF(QPointF(), bounds_.bottomRight()), exposed);
   for (const SeenElement& seen : seenElements(form, exposed, scale_))
     paintOne(painter, *seen.element, seen.rect, seen.clip);
   painter.restore();
@@ -53,6 +69,7 @@ void CanvasPainter::paintElement(QPainter& painter, const Element& element, cons
   }
   painter.save();
   begin(painter, pixelsPerTwip, pixelsPerTwip);
+  bounds_ = pixels;
   paintOne(painter, element, pixels, pixels);
   painter.restore();
 }
@@ -99,11 +116,19 @@ void CanvasPainter::paintLabel(QPainter& painter, const Label& label, const QRec
   drawTextWithin(painter, text, rect.topLeft(), shown);
 }
 
+// In its own size: a pixel of the picture is a device-independent pixel.
+void CanvasPainter::paintNatural(QPainter& painter, const Picture& picture, const QRectF& rect,
+                                 const QRectF& clip) {
+  const QPointF end = (rect & bounds_).bottomRight() - rect.topLeft();
+  const QImage image = picture.shownCorner(cornerFor(end));
+  drawWithin(painter, QRectF(rect.topLeft(), QSizeF(image.size())), image, clip);
+}
+
 void CanvasPainter::paintPictureBox(QPainter& painter, const PictureBox& box, const QRectF& rect,
                                     const QRectF& clip) {
   const QRectF shown = rect & clip;
   painter.fillRect(shown, box.backColor().toQColor());
-  paintNatural(painter, box.picture().shown(), rect.topLeft(), shown);
+  paintNatural(painter, box.picture(), rect, shown);
   if (box.as<std::int32_t>(Property::BorderStyle) == 1) paintBorder(painter, rect, clip);
 }
 
@@ -112,7 +137,7 @@ void CanvasPainter::paintImageBox(QPainter& painter, const ImageBox& box, const 
   if (box.as<bool>(Property::Stretch))
     paintStretched(painter, box.picture(), rect, clip);
   else
-    paintNatural(painter, box.picture().shown(), rect.topLeft(), rect & clip);
+    paintNatural(painter, box.picture(), rect, rect & clip);
 }
 
 void CanvasPainter::paintFrame(QPainter& painter, const AnimatedFrame& frame, const QRectF& rect,
@@ -127,18 +152,24 @@ void CanvasPainter::paintFrame(QPainter& painter, const AnimatedFrame& frame, co
 
 void CanvasPainter::paintAlphaImage(QPainter& painter, const AlphaImage& element, const QRectF& rect,
                                     const QRectF& clip) {
-  const QSize size = element.picture().shown().size();
-  if (!size.isEmpty()) paintStretched(painter, element.picture(), fitted(size, rect), clip);
+  const Picture& picture = element.picture();
+  // It has a size once it was decoded.
+  if (!picture.size().isValid()) picture.shown(devicePixels(rect));
+  if (!picture.size().isEmpty()) paintStretched(painter, picture, fitted(picture.size(), rect), clip);
 }
 
 void CanvasPainter::paintStretched(QPainter& painter, const Picture& picture, const QRectF& rect,
                                    const QRectF& clip) {
-  const QSizeF size = rect.size() * scale_.device;
-  // Sizes are within reach of 32 bits: pixelRect and the device scale see to that.
-  const QSize device(qRound(size.width()), qRound(size.height()));
+  const QSize device = devicePixels(rect);
   const QImage image = picture.shown(device);
   if (image.isNull()) return;
   drawWithin(painter, rect, isKeepable(device) ? images_.scaled(image, device) : image, clip);
+}
+
+QSize CanvasPainter::devicePixels(const QRectF& rect) const {
+  const QSizeF size = rect.size() * scale_.device;
+  // Sizes are within reach of 32 bits: pixelRect and the device scale see to that.
+  return QSize(qRound(size.width()), qRound(size.height()));
 }
 
 }  // namespace veneerer

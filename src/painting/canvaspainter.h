@@ -68,15 +68,18 @@ private:
   const Element* hovered_ = nullptr;
   const Element* pressed_ = nullptr;
   PixelScale scale_;
+  QRectF bounds_;  ///< what is ever painted lies in there, whichever part of it is painted now; pixels
 
   void begin(QPainter& painter, double pixelsPerTwipX, double pixelsPerTwipY);
   void paintOne(QPainter& painter, const Element& element, const QRectF& rect, const QRectF& clip);
+  void paintNatural(QPainter& painter, const Picture& picture, const QRectF& rect, const QRectF& clip);
   void paintLabel(QPainter& painter, const Label& label, const QRectF& rect, const QRectF& clip);
   void paintPictureBox(QPainter& painter, const PictureBox& box, const QRectF& rect, const QRectF& clip);
   void paintImageBox(QPainter& painter, const ImageBox& box, const QRectF& rect, const QRectF& clip);
   void paintFrame(QPainter& painter, const AnimatedFrame& frame, const QRectF& rect, const QRectF& clip);
   void paintAlphaImage(QPainter& painter, const AlphaImage& image, const QRectF& rect, const QRectF& clip);
   void paintStretched(QPainter& painter, const Picture& picture, const QRectF& rect, const QRectF& clip);
+  QSize devicePixels(const QRectF& rect) const;
 };
 
 }  // namespace veneerer

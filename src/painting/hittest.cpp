@@ -65,10 +65,11 @@ bool HitTest::meets(const Element& element, double x, double y) const {
     case Kind::Button:
       return isSeenAt(cast<Button>(element), rect.size(), at, cutOuts_);
     case Kind::AnimatedFrame:
-      return isSeenAt(element.as<Picture>(Property::Picture).shown(), rect, at);
+      return isSeenAt(element.as<Picture>(Property::Picture).shown(rect.size().toSize()), rect, at);
     case Kind::AlphaImage: {
-      const QImage image = element.as<Picture>(Property::Picture).shown();
-      return !image.isNull() && isSeenAt(image, fitted(image.size(), rect), at);
+      const Picture& picture = element.as<Picture>(Property::Picture);
+      const QImage image = picture.shown(rect.size().toSize());
+      return !image.isNull() && isSeenAt(image, fitted(picture.size(), rect), at);
     }
     default:
       return true;

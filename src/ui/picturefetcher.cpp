@@ -18,7 +18,9 @@ enum Priority { Behind = 0, Ahead = 1 };
 
 PictureFetcher::PictureFetcher(Operator& hands) : state_(hands.state()) {
   pool_.setMaxThreadCount(1);
-  state_.pictures.fetchWith([this](const Picture& picture) { fetch(picture); });
+  state_.pictures.fetchWith([this](const Picture& picture, const PictureNeed& need) {
+    fetch({picture, need});
+  });
   watching_ = state_.board.watch([this](const Change&) { seen_.clear(); });
   connect(&hands, &Operator::acted, this, [this] { seen_.clear(); });
 }
@@ -39,19 +41,19 @@ QFuture<QImage> PictureFetcher::thumbnail(const Picture& picture, QSize within) 
 
 // A screen may show more pictures than can be kept decoded. Each is fetched once for what the operator did
 // last, or the screen would be painted over and over as they push one another out.
-void PictureFetcher::fetch(const Picture& picture) {
-  if (asked_.contains(picture) || seen_.contains(picture)) return;
-  asked_.append(picture);
+void PictureFetcher::fetch(const Task& task) {
+  if (asked_.contains(task) || seen_.contains(task)) return;
+  asked_.append(task);
   const auto done = std::make_shared<QSemaphore>();
   pool_.start(
-      [this, picture, done] {
-        picture.image();
+      [this, task, done] {
+        task.picture.image(task.need);
         done->release();
         QMetaObject::invokeMethod(
-            this, [this, picture] { arrived(picture); }, Qt::QueuedConnection);
+            this, [this, task] { arrived(task); }, Qt::QueuedConnection);
       },
       Ahead);
-  if (!done->tryAcquire(1, patience())) late_.insert(picture.id());
+  if (!done->tryAcquire(1, patience())) late_.append(task);
 }
 
 /// What is left of the time for waiting in this pass, milliseconds.
@@ -64,10 +66,10 @@ int PictureFetcher::patience() {
   return static_cast<int>(deadline_.remainingTime());
 }
 
-void PictureFetcher::arrived(const Picture& picture) {
-  asked_.removeOne(picture);
-  seen_.append(picture);
-  if (late_.remove(picture.id())) Q_EMIT fetched(picture);
+void PictureFetcher::arrived(const Task& task) {
+  asked_.removeOne(task);
+  seen_.append(task);
+  if (late_.removeOne(task)) Q_EMIT fetched(task.picture);
 }
 
 }  // namespace veneerer

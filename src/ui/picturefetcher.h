@@ -4,9 +4,9 @@
 #include <QDeadlineTimer>
 #include <QFuture>
 #include <QObject>
-#include <QSet>
 #include <QThreadPool>
 
+#include "images/picturecopies.h"
 #include "ui/operator.h"
 
 namespace veneerer {
@@ -30,17 +30,22 @@ Q_SIGNALS:
   void fetched(const veneerer::Picture& picture);
 
 private:
-  void fetch(const Picture& picture);
+  struct Task {
+    Picture picture;
+    PictureNeed need;
+    bool operator==(const Task&) const = default;
+  };
+  void fetch(const Task& task);
   int patience();
-  void arrived(const Picture& picture);
+  void arrived(const Task& task);
 
   State& state_;
   Attachment watching_;
   QDeadlineTimer deadline_;
   bool isWaiting_ = false;  ///< the deadline counts for this pass through the loop
-  QList<Picture> asked_;    ///< under way
-  QSet<quintptr> late_;     ///< of these, what was painted without
-  QList<Picture> seen_;     ///< has arrived since the last change of any element
+  QList<Task> asked_;       ///< under way
+  QList<Task> late_;        ///< of these, what was painted without
+  QList<Task> seen_;        ///< has arrived since the last change of any element
   QThreadPool pool_;
 };
 

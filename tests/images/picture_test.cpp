@@ -5,11 +5,15 @@
 #include <QColor>
 #include <QTemporaryDir>
 
+#include "images/picturecopies.h"
+#include "support/hostilepictures.h"
 #include "support/pictures.h"
 
 using namespace veneerer;
 
 namespace {
+
+constexpr QSize kSize(9, 9);
 
 struct PictureTest : testing::Test {
   QString path(const char* name) { return folder.filePath(QString::fromLatin1(name)); }
@@ -95,9 +99,45 @@ TEST_F(PictureTest, TheLeastRecentlySeenGoesFirst) {
   pictures[0].image();
   pictures[2].image();
   QList<QString> fetched;
-  small.fetchWith([&](const Picture& picture) { fetched.append(picture.path()); });
-  for (const Picture& picture : pictures) picture.shown();
+  small.fetchWith([&](const Picture& picture, const PictureNeed&) { fetched.append(picture.path()); });
+  for (const Picture& picture : pictures) picture.shown(kSize);
   EXPECT_EQ(fetched, QList<QString>{path("b.png")});
+}
+
+TEST_F(PictureTest, OfAVeryLargeOneOnlyWhatIsShownIsKept) {
+  const QSize large(4000, 3000);
+  test::writeBytes(path("a.png"), test::flatPng(large));
+  const Picture picture = store.load(path("a.png"));
+  EXPECT_FALSE(picture.size().isValid());
+  const QImage reduced = picture.shown(QSize(600, 500));
+  EXPECT_EQ(picture.size(), large);
+  EXPECT_LE(reduced.width() * reduced.height(), kMostCopiedPixels + large.width());
+  EXPECT_NEAR(double(reduced.width()) / reduced.height(), 4.0 / 3, 0.01);
+  EXPECT_EQ(picture.shown(QSize(900, 200)).cacheKey(), reduced.cacheKey()) << "it has pixels enough";
+  EXPECT_EQ(picture.shownCorner(QSize(1024, 9000)).size(), QSize(1024, 3000));
+  EXPECT_EQ(picture.shownCorner(QSize(1024, 768)).size(), QSize(1024, 3000)) << "more is at hand";
+  EXPECT_EQ(store.decodedBytes(), reduced.sizeInBytes() + 4 * 1024 * 3000);
+  EXPECT_EQ(picture.shown(QSize(3000, 3000)).size(), large) << "it isn't made larger";
+  EXPECT_EQ(picture.shownCorner(QSize(4000, 2000)).size(), large);
+}
+
+TEST_F(PictureTest, AWholeOneDoesntPushOutTheCopiesOfOthers) {
+  constexpr int kPictures = 6;
+  const QSize large(3000, 2000);
+  PictureStore small(2 * 4 * 3000 * 2000 + kPictures * 4 * 9 * 9);
+  QList<Picture> pictures;
+  for (int i = 0; i < kPictures; ++i) {
+    test::writeBytes(path("%1.png").arg(i), test::flatPng(large));
+    pictures.append(small.load(path("%1.png").arg(i)));
+    pictures[i].shownCorner(kSize);
+  }
+  for (const Picture& picture : pictures) EXPECT_EQ(picture.image().size(), large);
+  int fetched = 0;
+  small.fetchWith([&](const Picture&, const PictureNeed&) { ++fetched; });
+  for (const Picture& picture : pictures) EXPECT_EQ(picture.shownCorner(kSize).size(), kSize);
+  EXPECT_EQ(fetched, 0);
+  EXPECT_FALSE(pictures.last().shown(large).isNull());
+  EXPECT_TRUE(pictures.first().shown(large).isNull()) << "there is room for two";
 }
 
 TEST_F(PictureTest, AThumbnailIsNotKept) {
@@ -117,18 +157,18 @@ TEST_F(PictureTest, WhatIsShownMayComeLater) {
   const Picture good = store.load(path("a.png"));
   const Picture broken = store.load(path("broken.gif"));
   int asked = 0;
-  store.fetchWith([&](const Picture&) { ++asked; });
-  EXPECT_TRUE(good.shown().isNull());
+  store.fetchWith([&](const Picture&, const PictureNeed&) { ++asked; });
+  EXPECT_TRUE(good.shown(kSize).isNull());
   EXPECT_TRUE(broken.shown(QSize(2, 2)).isNull());
   EXPECT_EQ(asked, 2);
   good.image();
   broken.image();
-  EXPECT_EQ(good.shown().size(), QSize(4, 4));
-  EXPECT_TRUE(broken.shown().isNull());
+  EXPECT_EQ(good.shown(kSize).size(), QSize(4, 4));
+  EXPECT_TRUE(broken.shown(kSize).isNull());
   EXPECT_EQ(asked, 2) << "one that can't be decoded isn't tried again";
-  store.fetchWith([](const Picture& picture) { picture.image(); });
+  store.fetchWith([](const Picture& picture, const PictureNeed& need) { picture.image(need); });
   test::writePicture(path("b.png"), 5, 5, Qt::red);
-  EXPECT_EQ(store.load(path("b.png")).shown().size(), QSize(5, 5)) << "who fetches may wait for it";
+  EXPECT_EQ(store.load(path("b.png")).shown(kSize).size(), QSize(5, 5)) << "who fetches may wait for it";
 }
 
 TEST_F(PictureTest, ADrawnPictureHasNoPath) {

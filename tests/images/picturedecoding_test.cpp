@@ -58,7 +58,7 @@ protected:
     test::writeBytes(path, bytes);
     return path;
   }
-  QImage decoded(const QByteArray& bytes) { return decodePicture(write(bytes)).whole; }
+  QImage decoded(const QByteArray& bytes) { return decodePicture(write(bytes)); }
 
   QTemporaryDir folder;
 };
@@ -156,16 +156,6 @@ TEST_F(Decoding, AThumbnailIsNoLargerThanItsRoomAndItsPicture) {
   EXPECT_EQ(thumbnail(test::flatPng({6000, 10})), QSize(100, 1));
   EXPECT_EQ(thumbnail(test::flatPng({20, 10})), QSize(20, 10));
   EXPECT_TRUE(thumbnail(test::flatPng({8000, 6300})).isEmpty());
-}
-
-TEST_F(Decoding, AVeryLargePictureHasASmallerCopyForScaling) {
-  const DecodedPicture large = decodePicture(write(test::flatPng({4000, 3000})));
-  EXPECT_EQ(large.whole.size(), QSize(4000, 3000));
-  EXPECT_LE(pixelsOf(large.reduced.size()), kMostScaledPixels + 4000);
-  EXPECT_NEAR(double(large.reduced.width()) / large.reduced.height(), 4.0 / 3, 0.01);
-  EXPECT_EQ(large.bytes(), large.whole.sizeInBytes() + large.reduced.sizeInBytes());
-  const DecodedPicture small = decodePicture(write(test::flatPng({400, 300})));
-  EXPECT_EQ(small.bytes(), small.whole.sizeInBytes());
 }
 
 }  // namespace

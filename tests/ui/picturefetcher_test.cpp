@@ -10,12 +10,14 @@
 namespace veneerer {
 namespace {
 
+constexpr QSize kLarge(6900, 6900);
+
 /// What of a widget is painted while the pixels of a picture are there.
 class Paints : public QObject {
 public:
   Paints(QWidget& widget, Picture picture) : picture_(std::move(picture)) { widget.installEventFilter(this); }
   bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Paint && !picture_.shown().isNull())
+    if (event->type() == QEvent::Paint && !picture_.shown(QSize(1, 1)).isNull())
       painted += static_cast<QPaintEvent*>(event)->region();
     return false;
   }
@@ -29,7 +31,7 @@ class Fetching : public test::UiFixture {
 protected:
   /// A picture whose decoding takes many frames.
   Picture large(const char* name = "large.png") {
-    static const QByteArray png = test::flatPng({6900, 6900});
+    static const QByteArray png = test::flatPng(kLarge);
     test::writeBytes(path(QString::fromLatin1(name)), png);
     return state().pictures.load(path(QString::fromLatin1(name)));
   }
@@ -42,7 +44,7 @@ TEST_F(Fetching, ALargePictureIsPaintedWhenItIsThere) {
   const Picture picture = large();
   Paints paints(canvas(), picture);
   cover.setPicture(picture);
-  EXPECT_TRUE(picture.shown().isNull());
+  EXPECT_TRUE(picture.shown(kLarge).isNull());
   EXPECT_TRUE(QTest::qWaitFor([&] { return paints.painted.contains(middle(cover)); }));
   EXPECT_EQ(canvas().grab().toImage().pixelColor(middle(cover)), QColor(Qt::black));
 }
@@ -52,10 +54,10 @@ TEST_F(Fetching, IsToldOnceAndOnlyOfWhatCameTooLate) {
   PictureFetcher fetcher(hands);
   QSignalSpy told(&fetcher, &PictureFetcher::fetched);
   const Picture picture = large();
-  for (int i = 0; i < 3; ++i) EXPECT_TRUE(picture.shown().isNull());
+  for (int i = 0; i < 3; ++i) EXPECT_TRUE(picture.shown(kLarge).isNull());
   ASSERT_TRUE(told.wait());
   EXPECT_EQ(told.size(), 1);
-  EXPECT_EQ(picture.shown().size(), QSize(6900, 6900));
+  EXPECT_EQ(picture.shown(kLarge).size(), kLarge);
   QTest::qWait(1);
   EXPECT_EQ(told.size(), 1);
 }
@@ -65,10 +67,10 @@ TEST_F(Fetching, PicturesOutliveWhoFetchesThem) {
   auto fetcher = std::make_unique<PictureFetcher>(hands);
   const Picture one = large("one.png");
   const Picture other = large("other.png");
-  EXPECT_TRUE(one.shown().isNull());
-  EXPECT_TRUE(other.shown().isNull());
+  EXPECT_TRUE(one.shown(kLarge).isNull());
+  EXPECT_TRUE(other.shown(kLarge).isNull());
   fetcher.reset();
-  EXPECT_EQ(other.shown().size(), QSize(6900, 6900)) << "decoded on the spot";
+  EXPECT_EQ(other.shown(kLarge).size(), kLarge) << "decoded on the spot";
 }
 
 TEST_F(Fetching, AThumbnailIsDecodedInItsSizeAlone) {
