@@ -7,6 +7,7 @@
 #include "designer/designer.h"
 #include "ui/application.h"
 #include "ui/designerwindows.h"
+#include "ui/qtbackground.h"
 #include "ui/qtplatform.h"
 
 using namespace veneerer;
@@ -40,7 +41,8 @@ int main(int argc, char** argv) {
   IniSettings settings;
   Disk disk;
   QtProgress progress;
-  Platform platform{dialogs, settings, disk, primaryScreen(), folder, &progress};
+  QtBackground background;
+  Platform platform{dialogs, settings, disk, primaryScreen(), folder, &progress, &background};
   Designer designer(platform);
   dialogs.setSkin([&designer] { return designer.skinFolder(); });
   DesignerWindows windows(designer);

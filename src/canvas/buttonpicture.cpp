@@ -18,15 +18,15 @@ bool takesChosenPicture(State& state, const Element& element) {
          element.family() == &state.form1.Picture17;
 }
 
-void choosePicture(State& state, Dialogs& dialogs, Element& element) {
-  const QString path = dialogs.chooseFile(QStringLiteral("Image Files|*.bmp;*.jpg;*.gif"));
+void choosePicture(State& state, const Platform& platform, Element& element) {
+  const QString path = platform.dialogs.chooseFile(QStringLiteral("Image Files|*.bmp;*.jpg;*.gif"));
   if (path.isEmpty()) {
     give(state, element, Picture(), QString());
     return;
   }
   const Picture picture = state.pictures.load(path);
-  if (picture.image().isNull()) {
-    dialogs.inform(QStringLiteral("Image"), QStringLiteral("The image can't be read: ") + path);
+  if (decodeAside(platform, picture).isNull()) {
+    platform.dialogs.inform(QStringLiteral("Image"), QStringLiteral("The image can't be read: ") + path);
     return;
   }
   give(state, element, picture, u'\\' + bareFileName(path));

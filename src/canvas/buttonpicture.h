@@ -12,6 +12,6 @@ bool takesChosenPicture(State& state, const Element& element);
 /// Asks for an image file. The chosen one is shown and its bare name, behind a backslash, kept as the
 /// element's image reference; cancel clears both. A file that can't be decoded is told of and changes
 /// nothing.
-void choosePicture(State& state, Dialogs& dialogs, Element& element);
+void choosePicture(State& state, const Platform& platform, Element& element);
 
 }  // namespace veneerer

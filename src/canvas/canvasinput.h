@@ -10,7 +10,7 @@ namespace veneerer {
 class CanvasInput {
 public:
   /// Listens to the clicks on the canvas and on the samples of Form6 for as long as it lives.
-  CanvasInput(State& state, Dialogs& dialogs);
+  CanvasInput(State& state, const Platform& platform);
 
   /// The press event; x and y in twips in the element's own coordinates. The right button gives a button its
   /// picture.
@@ -23,7 +23,7 @@ public:
 
 private:
   State& state_;
-  Dialogs& dialogs_;
+  const Platform& platform_;
   Selection selection_;
   Dragging dragging_;
   Attachment canvasClicks_;

@@ -106,7 +106,7 @@ struct Designer::Parts {
   SkinProperties properties{*state, platform.screen};
   CoverLayouts covers{*state, platform, properties};
   TextureViewer textures{*state, platform};
-  CanvasInput canvas{*state, platform.dialogs};
+  CanvasInput canvas{*state, platform};
   ToolsPalette tools{*state, platform, platform.progress};
   SkinLoader loader{*state, platform, covers};
   History history{*state, [this] { canvas.refill(); }};

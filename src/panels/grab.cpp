@@ -22,18 +22,21 @@ int toPixels(float twips, double twipsPerPixel) {
   return static_cast<int>(std::clamp(twips / twipsPerPixel, -2 * kMostPixels, 2 * kMostPixels));
 }
 
-/// The part of the canvas window's own picture that lies under the panel.
-QImage pieceUnder(const State& state, const PictureBox& panel, const Screen& screen) {
+QRect pixelsUnder(const PictureBox& panel, const Screen& screen) {
   const QPoint corner(toPixels(panel.left(), screen.twipsPerPixelX()),
                       toPixels(panel.top(), screen.twipsPerPixelY()));
   const QSize size(toPixels(panel.width(), screen.twipsPerPixelX()),
                    toPixels(panel.height(), screen.twipsPerPixelY()));
-  if (size.isEmpty() || size.width() > kMostPixels || size.height() > kMostPixels) return {};
-  QImage piece(size, QImage::Format_RGB32);
-  piece.fill(panel.backColor().toQColor());
-  QPainter painter(&piece);
-  painter.drawImage(QPoint(0, 0), state.form1.picture().image(), QRect(corner, size));
-  return piece;
+  return QRect(corner, size);
+}
+
+/// A part of the backdrop as a file, empty for a size that a picture can't have.
+QByteArray encodePart(const QImage& backdrop, const QRect& part, const QColor& beyond) {
+  if (part.isEmpty() || part.width() > kMostPixels || part.height() > kMostPixels) return {};
+  QImage piece(part.size(), QImage::Format_RGB32);
+  piece.fill(beyond);
+  QPainter(&piece).drawImage(QPoint(0, 0), backdrop, part);
+  return encodePicture(piece, "BMP");
 }
 
 /// A panel's piece of the backdrop, ready to be written.
@@ -43,11 +46,14 @@ struct Piece {
   QByteArray bytes;
 };
 
-Piece composePiece(const State& state, PictureBox& panel, const char* name, const SkinFolder& skin,
-                   const Screen& screen) {
+Piece composePiece(const QImage& backdrop, PictureBox& panel, const char* name, const SkinFolder& skin,
+                   const Platform& platform) {
   const QString fixed = QString::fromLatin1(name);
   const QString existing = skin.resolve(QStringLiteral("\\images\\") + fixed);
-  const QByteArray bytes = encodePicture(pieceUnder(state, panel, screen), "BMP");
+  const QRect part = pixelsUnder(panel, platform.screen);
+  const QColor beyond = panel.backColor().toQColor();
+  QByteArray bytes;
+  platform.runAside([&] { bytes = encodePart(backdrop, part, beyond); });
   if (bytes.isEmpty())
     throw RecordError(fixed, 0, panel.key(), {},
                       QStringLiteral("the panel has no size that a picture can have"));
@@ -64,12 +70,12 @@ void show(const Piece& piece, State& state, const SkinFolder& skin) {
   piece.panel.setPicture(state.pictures.load(skin.file(piece.name)));
 }
 
-void grab(State& state, const Platform& platform) {
+void grab(State& state, const QImage& backdrop, const Platform& platform) {
   const SkinFolder skin = currentSkinFolder(state, platform.folder);
   PictureBox& menu = state.form1.Picture2[0];
   PictureBox& player = state.form1.Picture2[1];
-  const Piece menuPiece = composePiece(state, menu, "Menu.bmp", skin, platform.screen);
-  const Piece playerPiece = composePiece(state, player, "Player.bmp", skin, platform.screen);
+  const Piece menuPiece = composePiece(backdrop, menu, "Menu.bmp", skin, platform);
+  const Piece playerPiece = composePiece(backdrop, player, "Player.bmp", skin, platform);
   makeImagesFolder(skin, platform.disk);
   writeFiles(platform.disk, skin.path(),
              {{menuPiece.name, menuPiece.bytes}, {playerPiece.name, playerPiece.bytes}});
@@ -86,12 +92,13 @@ void grab(State& state, const Platform& platform) {
 
 void grabPlayerAndMenu(State& state, const Platform& platform) {
   const QString title = QStringLiteral("Texture Viewer");
-  if (state.form1.picture().image().isNull()) {
+  const QImage backdrop = decodeAside(platform, state.form1.picture());
+  if (backdrop.isNull()) {
     platform.dialogs.inform(title, QStringLiteral("The album view has no picture to grab from."));
     return;
   }
   try {
-    grab(state, platform);
+    grab(state, backdrop, platform);
   } catch (const RecordError& error) {
     platform.dialogs.inform(title, error.message());
   }

@@ -32,7 +32,7 @@ Picture TextureViewer::ask(const QString& filter, QString& name) const {
   const QString path = platform_.dialogs.chooseFile(filter);
   if (path.isEmpty()) return {};
   const Picture picture = state_.pictures.load(path);
-  if (picture.image().isNull()) {
+  if (decodeAside(platform_, picture).isNull()) {
     platform_.dialogs.inform(
         QStringLiteral("Texture Viewer"),
         QStringLiteral("\"%1\" is no picture that can be shown.").arg(bareFileName(path)));

@@ -4,11 +4,13 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 #include "elements/axis.h"
 #include "elements/label.h"
 #include "files/disk.h"
+#include "images/picture.h"
 
 namespace veneerer {
 
@@ -63,6 +65,14 @@ public:
   virtual void step(int done, int total, const QString& what) = 0;
 };
 
+/// Runs what takes long and touches no element, so that windows can stay alive meanwhile.
+class Background {
+public:
+  virtual ~Background() = default;
+  /// Returns when the work is done, and throws what it throws. No action of an operator begins meanwhile.
+  virtual void run(const std::function<void()>& work) = 0;
+};
+
 /// Where the program stands.
 struct ProgramFolder {
   QString path;            ///< holds "Skins" and "images"
@@ -76,8 +86,15 @@ struct Platform {
   Disk& disk;  ///< everything that is written goes through it
   Screen screen;
   ProgramFolder folder;
-  Progress* progress = nullptr;  ///< told of what takes long; may be null
+  Progress* progress = nullptr;      ///< told of what takes long; may be null
+  Background* background = nullptr;  ///< runs what takes long; where it is null, that is run on the spot
+
+  /// See Background::run.
+  void runAside(const std::function<void()>& work) const;
 };
+
+/// The decoded picture, a null image where it can't be decoded; the windows stay alive meanwhile.
+QImage decodeAside(const Platform& platform, const Picture& picture);
 
 /// Pixels in twips by the screen's dots per logical inch, rounded to the nearest whole number, halves to
 /// even. Nothing when the result is beyond 32 bits.

@@ -97,7 +97,7 @@ class FileListBinding : public ListBinding {
 public:
   FileListBinding(const Ui& ui, FileList& list, RowListView& widget) : ListBinding(ui, list, widget) {
     wait_.setSingleShot(true);
-    connect(&wait_, &QTimer::timeout, this, [this] { choose(row_); });
+    connect(&wait_, &QTimer::timeout, this, [this] { hands_.isActing() ? wait_.start() : choose(row_); });
     connect(&widget, &RowListView::choseTwice, this, &FileListBinding::choseTwice);
   }
 

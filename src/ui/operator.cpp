@@ -1,5 +1,6 @@
 #include "ui/operator.h"
 
+#include <QScopedValueRollback>
 #include <chrono>
 
 namespace veneerer {
@@ -16,70 +17,66 @@ Operator::~Operator() {
   designer_.overlay().setListener({});
 }
 
-void Operator::click(Element& element) {
-  designer_.click(element);
+template <class Action>
+void Operator::act(Action action) {
+  {
+    const QScopedValueRollback<bool> acting(isActing_, true);
+    action();
+  }
   Q_EMIT acted();
+}
+
+void Operator::click(Element& element) {
+  act([&] { designer_.click(element); });
 }
 
 void Operator::press(Element& element, float x, float y, MouseButton button) {
-  designer_.press(element, x, y, button);
-  Q_EMIT acted();
+  act([&] { designer_.press(element, x, y, button); });
 }
 
 void Operator::move(Element& element, float x, float y, MouseButton button) {
-  designer_.move(element, x, y, button);
-  Q_EMIT acted();
+  act([&] { designer_.move(element, x, y, button); });
 }
 
 void Operator::type(Element& field, const QString& text) {
-  designer_.type(field, text);
+  act([&] { designer_.type(field, text); });
   rest_.start();
-  Q_EMIT acted();
 }
 
 void Operator::choose(RowList& list, int row) {
-  designer_.choose(list, row);
-  Q_EMIT acted();
+  act([&] { designer_.choose(list, row); });
 }
 
 void Operator::chooseTwice(RowList& list, int row) {
-  designer_.chooseTwice(list, row);
-  Q_EMIT acted();
+  act([&] { designer_.chooseTwice(list, row); });
 }
 
 void Operator::tick(CheckBox& box, int value) {
-  designer_.tick(box, value);
-  Q_EMIT acted();
+  act([&] { designer_.tick(box, value); });
 }
 
 void Operator::set(const std::vector<Element*>& elements, Property property, const Value& value) {
-  designer_.setProperty(elements, property, value);
-  Q_EMIT acted();
+  act([&] { designer_.setProperty(elements, property, value); });
 }
 
 void Operator::copyLook(const Element& from, const std::vector<Element*>& to) {
-  designer_.copyLook(from, to);
-  Q_EMIT acted();
+  act([&] { designer_.copyLook(from, to); });
 }
 
 void Operator::align(Line line) {
-  designer_.align(line);
-  Q_EMIT acted();
+  act([&] { designer_.align(line); });
 }
 
 void Operator::distribute(Along along) {
-  designer_.distribute(along);
-  Q_EMIT acted();
+  act([&] { designer_.distribute(along); });
 }
 
 void Operator::makeSameSize(Sides sides) {
-  designer_.makeSameSize(sides);
-  Q_EMIT acted();
+  act([&] { designer_.makeSameSize(sides); });
 }
 
 void Operator::chooseSkin() {
-  designer_.openChooser();
-  Q_EMIT acted();
+  act([&] { designer_.openChooser(); });
 }
 
 void Operator::fillFonts() {

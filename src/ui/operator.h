@@ -43,6 +43,8 @@ public:
   /// The next press on the canvas picks the colour that is seen there, and is no press.
   void pickColour(std::function<void(Colour)> picked) { Q_EMIT pickingColour(std::move(picked)); }
 
+  /// While an action is under way, which may show dialogs or wait for a picture, no other one is to begin.
+  bool isActing() const { return isActing_; }
   /// Shows the chooser, which lists the Skins, in the canvas's place.
   void chooseSkin();
   /// Fills the list of fonts; slow.
@@ -56,8 +58,12 @@ Q_SIGNALS:
   void pickingColour(std::function<void(veneerer::Colour)> picked);
 
 private:
+  template <class Action>
+  void act(Action action);
+
   Designer& designer_;
   QTimer rest_;  ///< ends a burst of typing
+  bool isActing_ = false;
 };
 
 }  // namespace veneerer

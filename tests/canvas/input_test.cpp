@@ -31,7 +31,7 @@ protected:
   Form6& form6 = state.form6;
   Globals& globals = state.globals;
   test::ScriptedPlatform world;
-  CanvasInput input{state, world.dialogs};
+  CanvasInput input{state, world.platform};
 };
 
 TEST_F(CanvasInputTest, ClickShowsAButtonsValues) {

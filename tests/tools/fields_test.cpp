@@ -129,7 +129,7 @@ TEST_F(FieldsTest, ARowCountsAsChosenAlsoWhenItIsTheSame) {
 }
 
 TEST_F(FieldsTest, AClickFillsTheFieldsAndThereTheyAct) {
-  CanvasInput input(state, world.dialogs);
+  CanvasInput input(state, world.platform);
   form1.lvButtons_H1[2].setPictureSize(PictureSize::Side24);
   form1.lvButtons_H1[2].setCaption(QStringLiteral("Queue"));
   state.board.click(form1.lvButtons_H1[2]);
