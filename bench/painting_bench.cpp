@@ -111,7 +111,8 @@ BENCHMARK(drawnFace)->DenseRange(0, 7)->Unit(benchmark::kMicrosecond);
 
 void keptFace(benchmark::State& state) {
   CutOuts cutOuts;
-  ButtonFaces faces(cutOuts);
+  ScaledImages images;
+  ButtonFaces faces(cutOuts, images);
   const FaceLook look = lookOf(0);
   for (auto _ : state) benchmark::DoNotOptimize(faces.face(look, QImage()));
 }

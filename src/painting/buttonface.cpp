@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "elements/button.h"
+#include "images/picturedecoding.h"
 #include "painting/buttonshape.h"
 #include "painting/buttonstyle.h"
 #include "painting/facecanvas.h"
@@ -144,13 +145,17 @@ QImage drawFace(const FaceLook& look, const QImage& picture, QSize pictureSize) 
   return isCutOut(look) ? drawCut(look, picture, pictureSize) : drawPlain(look, picture);
 }
 
-ButtonFaces::ButtonFaces(CutOuts& cutOuts) : made_(kCachedKiB), cutOuts_(cutOuts) {}
+ButtonFaces::ButtonFaces(CutOuts& cutOuts, ScaledImages& images)
+    : made_(kCachedKiB), cutOuts_(cutOuts), images_(images) {}
 
 QImage ButtonFaces::face(const FaceLook& look, const QImage& picture) {
   const bool isKept = look.part.isNull();
   if (const QImage* known = isKept ? made_.object(look) : nullptr) return *known;
-  const QImage made = drawFace(look, isCutOut(look) ? cutOuts_.of(picture) : picture, picture.size());
-  if (isKept) made_.insert(look, new QImage(made), kibOf(made));
+  const bool isScaled = isKept && !picture.isNull() && picture.size() != look.size;
+  const bool isCoarse = isScaled && !images_.spend(pixelsOf(picture.size()) + pixelsOf(look.size));
+  const QImage shown = isCoarse ? picture.scaled(look.size, Qt::KeepAspectRatio) : picture;
+  const QImage made = drawFace(look, isCutOut(look) ? cutOuts_.of(shown) : shown, picture.size());
+  if (isKept && !isCoarse) made_.insert(look, new QImage(made), kibOf(made));
   return made;
 }
 

@@ -7,6 +7,7 @@
 #include <QImage>
 
 #include "painting/customoutline.h"
+#include "painting/scaledimages.h"
 
 namespace veneerer {
 
@@ -59,17 +60,19 @@ QImage drawFace(const FaceLook& look, const QImage& picture, QSize pictureSize);
 
 class ButtonFaces {
 public:
-  /// The cut-outs must outlive the faces.
-  explicit ButtonFaces(CutOuts& cutOuts);
+  /// Both must outlive the faces. Pictures are scaled within the images' allowance.
+  ButtonFaces(CutOuts& cutOuts, ScaledImages& images);
 
   /// Whether the face of that look is at hand as a whole.
   bool holds(const FaceLook& look) const { return made_.contains(look); }
-  /// The face of that look; the picture is the one whose key the look holds, null for none.
+  /// The face of that look; the picture is the one whose key the look holds, null for none. Where scaling it
+  /// is beyond the allowance it is shown coarsely, and the face isn't kept.
   QImage face(const FaceLook& look, const QImage& picture);
 
 private:
   QCache<FaceLook, QImage> made_;
   CutOuts& cutOuts_;
+  ScaledImages& images_;
 };
 
 }  // namespace veneerer

@@ -23,7 +23,7 @@ class ButtonPainter {
 public:
   /// The caches must outlive the painter.
   ButtonPainter(TextLayouts& texts, ScaledImages& images, CutOuts& cutOuts)
-      : texts_(texts), images_(images), faces_(cutOuts) {}
+      : texts_(texts), images_(images), faces_(cutOuts, images) {}
 
   /// Paints the button over a rectangle; what lies outside the clip isn't touched. Both in pixels. Nothing
   /// shows past the button's outline. A face that is too large to keep (see kLargestKeptImage) is painted as

@@ -24,12 +24,7 @@ QImage ScaledImages::scaled(const QImage& image, QSize size) {
   if (image.size() == size) return image;
   const Key key{image.cacheKey(), size.width(), size.height()};
   if (const QImage* known = made_.object(key)) return *known;
-  const qint64 work = pixelsOf(image.size()) + pixelsOf(size);
-  if (work > allowance_) {
-    isExceeded_ = true;
-    return image;
-  }
-  allowance_ -= work;
+  if (!spend(pixelsOf(image.size()) + pixelsOf(size))) return image;
   const QImage made = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   made_.insert(key, new QImage(made), kibOf(made));
   return made;
@@ -38,6 +33,13 @@ QImage ScaledImages::scaled(const QImage& image, QSize size) {
 void ScaledImages::setAllowance(qint64 pixels) {
   allowance_ = pixels;
   isExceeded_ = false;
+}
+
+bool ScaledImages::spend(qint64 pixels) {
+  isExceeded_ |= pixels > allowance_;
+  if (pixels > allowance_) return false;
+  allowance_ -= pixels;
+  return true;
 }
 
 QRectF centred(QSizeF size, const QRectF& outer) {

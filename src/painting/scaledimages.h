@@ -29,7 +29,9 @@ public:
   /// What may be spent on scaling from now on, in pixels to read and to make. Without a word there is no
   /// bound.
   void setAllowance(qint64 pixels);
-  /// Whether anything came as it is since then.
+  /// Takes so much out of the allowance for scaling that is done elsewhere; false when it isn't there.
+  bool spend(qint64 pixels);
+  /// Whether anything was beyond the allowance since then.
   bool isExceeded() const { return isExceeded_; }
 
 private:

@@ -216,6 +216,20 @@ TEST_F(ButtonPainting, ACaptionOnGlassIsntGlass) {
   EXPECT_GT(count(paint(), Qt::red), 30);
 }
 
+TEST_F(ButtonPainting, AFaceThatWasTooCostlyComesOutWellLater) {
+  button.setPicture(Picture::drawn(disc(QSize(301, 203))));
+  button.setPictureSize(PictureSize::Stretched);
+  const QImage smooth = paint();
+  button.setPicture(Picture::drawn(disc(QSize(301, 203))));
+  images.setAllowance(0);
+  EXPECT_NE(paint(), smooth);
+  EXPECT_TRUE(images.isExceeded());
+  images.setAllowance(100000);
+  EXPECT_EQ(paint(), smooth);
+  EXPECT_EQ(paint(), smooth) << "it is ready made";
+  EXPECT_FALSE(images.isExceeded());
+}
+
 TEST_F(ButtonPainting, StatesShowAndNoFaceOutlivesItsProperties) {
   button.setCaption(QStringLiteral("OK"));
   const QImage plain = paint();
