@@ -1,5 +1,6 @@
 #include "painting/seenelements.h"
 
+#include <QList>
 #include <QRegion>
 #include <algorithm>
 #include <cmath>
@@ -25,24 +26,26 @@ bool isLarge(const QRectF& rect) {
   return rect.width() * rect.height() >= kLarge;
 }
 
-// The part of a rectangular button's face that round corners leave full.
-QRectF fullPart(const Button& button, const QRectF& rect) {
+// The parts of a rectangular button's face that round corners leave full.
+QList<QRectF> fullParts(const Button& button, const QRectF& rect) {
   if (button.isCustomShaped() || !isRectangle(button.buttonShape())) return {};
   const double radius =
       std::min({buttonStyle(button.buttonStyle()).radius, rect.width() / 2, rect.height() / 2});
+  if (radius <= 0) return {rect};
   const double corner = radius * (1 - std::sqrt(0.5));
-  return rect.adjusted(corner, corner, -corner, -corner);
+  return {rect.adjusted(corner, corner, -corner, -corner), rect.adjusted(radius, 0, -radius, 0),
+          rect.adjusted(0, radius, 0, -radius)};
 }
 
-/// The part of an element's place that shows nothing of what lies behind.
-QRectF opaquePart(const Element& element, const QRectF& rect) {
+/// The parts of an element's place that show nothing of what lies behind.
+QList<QRectF> opaqueParts(const Element& element, const QRectF& rect) {
   switch (element.kind()) {
     case Kind::PictureBox:
-      return isSeeThrough(element) ? QRectF() : rect;
+      return isSeeThrough(element) ? QList<QRectF>() : QList{rect};
     case Kind::Label:
-      return cast<Label>(element).isOpaque() ? rect : QRectF();
+      return cast<Label>(element).isOpaque() ? QList{rect} : QList<QRectF>();
     case Kind::Button:
-      return fullPart(cast<Button>(element), rect);
+      return fullParts(cast<Button>(element), rect);
     default:
       return {};
   }
@@ -94,10 +97,12 @@ private:
 
   void hideBehind(const Element& element, const QRectF& rect, const QRectF& clip) {
     if (!isLarge(rect) || open_.rectCount() > kMostRectangles) return;
-    const QRect hidden = coveredPixels(opaquePart(element, rect) & clip, scale_.device);
-    if (hidden.isEmpty()) return;
-    open_ -= hidden;
-    isAnythingHidden_ = true;
+    for (const QRectF& part : opaqueParts(element, rect)) {
+      const QRect hidden = coveredPixels(part & clip, scale_.device);
+      if (hidden.isEmpty()) continue;
+      open_ -= hidden;
+      isAnythingHidden_ = true;
+    }
   }
 
   QRegion open_;  ///< the pixels that nothing has hidden yet

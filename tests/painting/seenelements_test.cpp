@@ -8,6 +8,7 @@
 
 #include "elements/colour.h"
 #include "forms/form1.h"
+#include "painting/buttonstyle.h"
 #include "painting/canvaspainter.h"
 #include "support/pictures.h"
 
@@ -58,6 +59,19 @@ TEST_F(Seen, WhatLiesBehindAnOpaqueElementIsNotPainted) {
   EXPECT_EQ(seen().size(), 2) << "the label and the front button";
   form.lvButtons_H1[9].setButtonShape(1);
   EXPECT_EQ(seen().size(), 3) << "its leaning side shows what lies behind";
+}
+
+TEST_F(Seen, BehindARoundButtonOnlyItsCornersShow) {
+  for (int style = 0; style < kButtonStyleCount; ++style) {
+    const int radius = static_cast<int>(buttonStyle(style).radius);
+    if (radius >= 150) continue;  // round all over
+    for (int i = 0; i < 2; ++i) put(form.lvButtons_H1[i], 100, 100, 300, 300);
+    form.lvButtons_H1[1].setButtonStyle(style);
+    for (const SeenElement& element : seen()) {
+      if (element.element != &form.lvButtons_H1[0]) continue;
+      EXPECT_LE((element.clip & element.rect).height(), radius) << style;
+    }
+  }
 }
 
 TEST_F(Seen, ASeeThroughElementHidesNothing) {
