@@ -22,8 +22,8 @@ constexpr int kPatience = 40;
 
 // What may be spent on scaling pictures smoothly in one painting, pixels; a tenth of a second at most. The
 // others follow by and by, as long as it makes sense.
-constexpr qint64 kScalingAllowance = 16LL * 1024 * 1024;
-constexpr int kMostRefinements = 8;
+constexpr qint64 kScalingAllowance = 12LL * 1024 * 1024;
+constexpr int kMostRefinements = 12;
 
 // How far around its line the outline is repainted, pixels.
 constexpr int kOutlineReach = 2;
@@ -76,6 +76,7 @@ QSize CanvasWidget::sizeHint() const {
 void CanvasWidget::changed(const Change& change) {
   if (&change.element.window() != &state_.form1) return;
   refinements_ = 0;
+  pieces_.begin();
   if (!change.element.family()) return windowChanged(change.property);
   dirty_.add(change);
   scheduleRepaint();

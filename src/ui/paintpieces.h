@@ -14,6 +14,10 @@ public:
   static constexpr int kLongestSide = 256;
   static constexpr int kShortestSide = 64;
 
+  /// What is painted from now on may be far slower than what was painted last, as a whole or here and there:
+  /// the pieces are small until many of them were quick.
+  void begin();
+
   /// Takes the next piece out of the region, which mustn't be empty.
   QRect take(QRegion& region) const;
 
@@ -22,7 +26,8 @@ public:
   int side() const { return side_; }
 
 private:
-  int side_ = kLongestSide;
+  int side_ = kShortestSide;
+  int quick_ = 0;  ///< so many pieces of that side were quick, one behind the other
 };
 
 }  // namespace veneerer

@@ -39,6 +39,30 @@ TEST(PaintPieces, AreAsSmallAsTheSlowestNeeds) {
   EXPECT_LT(pieces.side(), PaintPieces::kLongestSide) << "unless it is slow";
 }
 
+TEST(PaintPieces, AreSmallUntilManyWereQuick) {
+  PaintPieces pieces;
+  for (int i = 0; i < 50; ++i) pieces.took(QSize(pieces.side(), pieces.side()), i % 5 == 0 ? 15 : 1);
+  EXPECT_EQ(pieces.side(), PaintPieces::kShortestSide) << "one of a few may be slow again";
+  for (int i = 0; i < 50; ++i) pieces.took(QSize(pieces.side(), pieces.side()), 1);
+  EXPECT_EQ(pieces.side(), PaintPieces::kLongestSide);
+  pieces.begin();
+  EXPECT_EQ(pieces.side(), PaintPieces::kShortestSide);
+}
+
+/// Black and white points, which coarse and smooth scaling show quite differently.
+QImage grain(int side) {
+  QImage image(side, side, QImage::Format_RGB32);
+  quint32 random = 1;
+  for (int y = 0; y < side; ++y) {
+    auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+    for (int x = 0; x < side; ++x) {
+      random = random * 1664525 + 1013904223;
+      row[x] = random >> 31 ? qRgb(255, 255, 255) : qRgb(0, 0, 0);
+    }
+  }
+  return image;
+}
+
 class PiecewiseCanvas : public test::UiFixture {
 protected:
   /// What of the canvas stands on the screen.
@@ -59,6 +83,19 @@ TEST_F(PiecewiseCanvas, OfASlowSkinIsCompleteInTheEnd) {
     }
   ASSERT_FALSE(shown().isNull());
   ASSERT_EQ(shown().size(), whole().size());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return test::largestDifference(shown(), whole()) <= 8; }));
+}
+
+TEST_F(PiecewiseCanvas, IsScaledSmoothlyByAndBy) {
+  constexpr int kPictures = 8;
+  form6().Combo6->select(9);
+  for (int i = 0; i < kPictures; ++i) {
+    ImageBox& cover = form1().Image2[i];
+    cover.place(float(i % 4) * 1800, float(i / 4) * 1800, 1700, 1700);
+    cover.setVisible(true);
+    cover.setPicture(Picture::drawn(grain(2000)));
+  }
+  QTest::qWait(1);
   EXPECT_TRUE(QTest::qWaitFor([&] { return test::largestDifference(shown(), whole()) <= 8; }));
 }
 
