@@ -1,16 +1,16 @@
 #include "ui/picturepreview.h"
 
 #include <QFileInfo>
-#include <QImageReader>
 #include <QVBoxLayout>
 #include <QtConcurrentRun>
+
+#include "images/picturedecoding.h"
 
 namespace veneerer {
 
 namespace {
 
 constexpr QSize kPicture(220, 180);
-constexpr qint64 kMostPixels = 48 << 20;
 
 QString sizeText(const Sketch& sketch) {
   if (!sketch.size.isValid()) return QStringLiteral("Not a picture");
@@ -21,14 +21,7 @@ QString sizeText(const Sketch& sketch) {
 }  // namespace
 
 Sketch sketchOf(const QString& path, QSize largest) {
-  if (!QFileInfo(path).isFile()) return {};
-  QImageReader reader(path);
-  reader.setDecideFormatFromContent(true);
-  const QSize size = reader.size();
-  if (!size.isValid() || qint64(size.width()) * size.height() > kMostPixels) return {{}, size};
-  const bool fits = size.boundedTo(largest) == size;
-  if (!fits) reader.setScaledSize(size.scaled(largest, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-  return {reader.read(), size};
+  return {decodeThumbnail(path, largest), costOfPicture(path).size};
 }
 
 PicturePreview::PicturePreview(QWidget* parent) : QWidget(parent), picture_(new QLabel), text_(new QLabel) {
