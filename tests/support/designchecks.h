@@ -75,10 +75,10 @@ inline bool showsWholeText(const Element& element) {
   const bool isButton = element.kind() == Kind::Button;
   const double width = element.width() / 15 - (isButton ? 4 : 0);
   const QString caption = element.as<QString>(Property::Caption);
-  const LaidOutText& text = texts.of({QString(caption).replace(QStringLiteral("||"), QStringLiteral("\n")),
-                                      element.as<QString>(Property::FontName),
-                                      qRound(element.as<float>(Property::FontSize) * 96 / 72),
-                                      fontFlags(element), static_cast<int>(isButton ? 4096 : width), 0});
+  const LaidOutText& text =
+      texts.of({QString(caption).replace("||", "\n"), element.as<QString>(Property::FontName),
+                qRound(element.as<float>(Property::FontSize) * 96 / 72), fontFlags(element),
+                static_cast<int>(isButton ? 4096 : width), 0});
   return text.width <= width + 0.5 && text.height <= element.height() / 15 + 0.5;
 }
 

@@ -39,7 +39,7 @@ public:
   QString makeFolder(const QString& path) override { return fails() ? reason() : Disk::makeFolder(path); }
 
 private:
-  static QString reason() { return QStringLiteral("made to fail"); }
+  static QString reason() { return "made to fail"; }
   bool fails() {
     const int operation = ++operations;
     return failing_ > 0 && (isKilled_ ? operation >= failing_ : operation == failing_);

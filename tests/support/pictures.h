@@ -1,11 +1,12 @@
 // Picture files for tests.
 #pragma once
 
-#include <QFile>
 #include <QImage>
 #include <QString>
 #include <algorithm>
 #include <cstdlib>
+
+#include "support/files.h"
 
 namespace veneerer::test {
 
@@ -16,9 +17,13 @@ inline void writePicture(const QString& path, int width, int height, const QColo
   image.save(path);
 }
 
-inline void writeBytes(const QString& path, const QByteArray& bytes) {
-  QFile file(path);
-  if (file.open(QIODevice::WriteOnly)) file.write(bytes);
+/// The pixels of a picture's size for which that holds.
+template <class Holds>
+int countPixels(QSize size, Holds holds) {
+  int count = 0;
+  for (int y = 0; y < size.height(); ++y)
+    for (int x = 0; x < size.width(); ++x) count += holds(x, y) ? 1 : 0;
+  return count;
 }
 
 /// How far two pictures of one size are apart, of 255: at most, in any pixel and any part of its colour.

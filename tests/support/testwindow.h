@@ -36,4 +36,6 @@ struct TestWindow : Switchboard, Window {
   Array<OptionButton> Option1{*this, "Option1", 3};
 };
 
+using Notices = std::vector<TestWindow::Notice>;
+
 }  // namespace veneerer::test
