@@ -1,7 +1,8 @@
 // Whole behaviours, each a folder beside this file that is named for it:
 //
 //     skin.txt        the Skin "S", see caseskin.h; further ones are other-NAME.txt. Without it: an empty one
-//     script.txt      what the operator does after the load; may be missing
+//     script.txt      what the operator does after the load; may be missing. Paths count from the folder of
+//                     "Skins"
 //     expected.json   the entries of the state that the case is about, as a dump writes them
 //     expected/       files of the Skin's folder as they are afterwards
 //     error.txt       what the run ends with instead, as it stands on standard error
@@ -10,37 +11,17 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
 
 #include "cases/caseskin.h"
-#include "skintool/batch.h"
+#include "skintool/batchrun.h"
+#include "support/files.h"
 
 namespace veneerer::test {
 namespace {
 
 const QString kCases = QStringLiteral(VENEERER_SOURCE_DIR "/tests/cases/");
-
-QByteArray contents(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString& path, const QByteArray& bytes) {
-  QDir().mkpath(QFileInfo(path).path());
-  QFile file(path);
-  if (file.open(QIODevice::WriteOnly)) file.write(bytes);
-}
-
-QByteArray drained(std::FILE* file) {
-  std::rewind(file);
-  QFile reader;
-  const QByteArray bytes = reader.open(file, QIODevice::ReadOnly) ? reader.readAll() : QByteArray();
-  std::fclose(file);
-  return bytes;
-}
 
 /// What of the state stands under the names that are expected; what isn't there stays away.
 QJsonObject likeExpected(const QJsonObject& state, const QJsonObject& expected) {
@@ -52,29 +33,28 @@ QJsonObject likeExpected(const QJsonObject& state, const QJsonObject& expected) 
   return same;
 }
 
-class Case : public testing::TestWithParam<std::string> {
+class Case : public BatchTest, public testing::WithParamInterface<std::string> {
 protected:
   void SetUp() override {
-    addSkin(QStringLiteral("skin.txt"), QStringLiteral("S"));
-    for (const QString& file : QDir(folder).entryList({QStringLiteral("other-*.txt")}))
-      addSkin(file, file.mid(6).chopped(4));
+    addSkin("skin.txt", "S");
+    for (const QString& file : QDir(folder).entryList({"other-*.txt"})) addSkin(file, file.mid(6).chopped(4));
+    QDir::setCurrent(root.path());
   }
 
-  void addSkin(const QString& file, const QString& name) {
-    const QString path = root.path() + QStringLiteral("/Skins/") + name;
-    QDir().mkpath(path);
-    makeCaseSkin(QString::fromUtf8(contents(folder + file)), path);
+  void addSkin(const QString& file, const QString& name) const {
+    const QString made = path("Skins/" + name);
+    QDir().mkpath(made);
+    makeCaseSkin(QString::fromUtf8(bytesOf(folder + file)), made);
   }
 
-  void run() {
-    QStringList words{QStringLiteral("skintool"), QStringLiteral("dump"), skin};
-    const QString script = folder + QStringLiteral("script.txt");
-    if (QFile::exists(script)) words << QStringLiteral("--script") << script;
-    std::FILE* out = std::tmpfile();
-    std::FILE* err = std::tmpfile();
-    status = runBatch(words, out, err);
-    state = QJsonDocument::fromJson(withoutFolders(drained(out))).object();
-    error = withoutFolders(drained(err));
+  int dump() {
+    const QString script = folder + "script.txt";
+    QStringList words{"dump", skin()};
+    if (QFile::exists(script)) words << "--script" << script;
+    const int status = run(words);
+    state = QJsonDocument::fromJson(withoutFolders(out)).object();
+    error = withoutFolders(err);
+    return status;
   }
 
   /// Paths count from the folder that holds "Skins".
@@ -83,38 +63,34 @@ protected:
   }
 
   void expectSame(const QString& name, const QByteArray& produced) {
-    const QByteArray expected = contents(folder + name);
+    const QByteArray expected = bytesOf(folder + name);
     if (produced == expected) return;
     const QString left = QStringLiteral(VENEERER_BINARY_DIR "/cases/") + QDir(folder).dirName() + u'/' + name;
-    write(left, produced);
+    writeBytes(left, produced);
     ADD_FAILURE() << "see: diff -u " << (folder + name).toStdString() << ' ' << left.toStdString();
   }
 
   const QString folder = kCases + QString::fromStdString(GetParam()) + u'/';
-  QTemporaryDir root;
-  const QString skin = root.path() + QStringLiteral("/Skins/S");
-  int status = -1;
   QJsonObject state;
   QByteArray error;
 };
 
 TEST_P(Case, IsAsExpected) {
-  run();
-  const QString fault = QStringLiteral("error.txt");
+  const int status = dump();
+  const QString fault = "error.txt";
   ASSERT_EQ(status, QFile::exists(folder + fault) ? 1 : 0) << error.toStdString();
   if (status == 1) return expectSame(fault, error);
 
-  const QString json = QStringLiteral("expected.json");
-  const QStringList files = QDir(folder + QStringLiteral("expected")).entryList(QDir::Files);
+  const QString json = "expected.json";
+  const QStringList files = QDir(folder + "expected").entryList(QDir::Files);
   ASSERT_TRUE(QFile::exists(folder + json) || !files.isEmpty()) << "the case expects nothing";
   if (QFile::exists(folder + json)) {
-    const auto expected = QJsonDocument::fromJson(contents(folder + json));
+    const auto expected = QJsonDocument::fromJson(bytesOf(folder + json));
     ASSERT_FALSE(expected.object().isEmpty()) << "expected.json can't be read";
     const QJsonObject like = likeExpected(state, expected.object());
     if (like != expected.object()) expectSame(json, QJsonDocument(like).toJson());
   }
-  for (const QString& name : files)
-    expectSame(QStringLiteral("expected/") + name, contents(skin + u'/' + name));
+  for (const QString& name : files) expectSame("expected/" + name, bytesOf(skin() + '/' + name));
 }
 
 std::vector<std::string> caseNames() {

@@ -1,7 +1,5 @@
 #include "cases/caseskin.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QImage>
@@ -9,29 +7,21 @@
 #include <stdexcept>
 
 #include "skintool/batch.h"
+#include "support/files.h"
 
 namespace veneerer::test {
 
 namespace {
 
-using Files = QHash<QString, QByteArray>;
-
 // The record files of the built-in design, made once.
 const Files& designFiles() {
   static const Files files = [] {
     QTemporaryDir root;
-    const QString skin = root.path() + QStringLiteral("/Skins/Design");
-    const QString saved = root.path() + QStringLiteral("/Saved");
+    const QString skin = root.path() + "/Skins/Design";
+    const QString saved = root.path() + "/Saved";
     QDir().mkpath(skin);
-    runBatch({QStringLiteral("skintool"), QStringLiteral("save"), skin, QStringLiteral("--to"), saved,
-              QStringLiteral("--cover"), QStringLiteral("design.cov")},
-             stdout, stderr);
-    Files made;
-    for (const QString& name : QDir(saved).entryList(QDir::Files)) {
-      QFile file(saved + u'/' + name);
-      if (file.open(QIODevice::ReadOnly)) made.insert(name, file.readAll());
-    }
-    return made;
+    runBatch({"skintool", "save", skin, "--to", saved, "--cover", "design.cov"}, stdout, stderr);
+    return filesBelow(saved);
   }();
   return files;
 }
@@ -63,13 +53,12 @@ public:
 
   void write(const QString& folder) const {
     for (auto it = records_.begin(); it != records_.end(); ++it) {
-      QFile file(folder + u'/' + it.key());
-      if (file.open(QIODevice::WriteOnly)) file.write(it->join('\n'));
+      writeBytes(folder + '/' + it.key(), it->join('\n'));
     }
     for (auto it = pictures_.begin(); it != pictures_.end(); ++it) {
       const QString path = folder + u'/' + it.key();
       QDir().mkpath(QFileInfo(path).path());
-      it->save(path, "BMP");
+      it->save(path, path.endsWith(".ico") ? "ICO" : "BMP");
     }
   }
 
@@ -80,7 +69,7 @@ private:
 
   static QByteArray written(QString text) {
     if (text == u"\"\"") text.clear();
-    return text.replace(QStringLiteral("\\s"), QStringLiteral(" ")).toLatin1() + '\r';
+    return text.replace("\\s", " ").toLatin1() + '\r';
   }
 
   // A picture's path may hold blanks, as those of the system do.

@@ -3,43 +3,28 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "skintool/batch.h"
+#include "support/files.h"
 
 namespace veneerer {
 
 /// A folder with one Skin, S, and the batch tool run on it.
 class BatchTest : public testing::Test {
 protected:
-  BatchTest() { QDir(root.path()).mkpath(QStringLiteral("Skins/S/images")); }
+  BatchTest() { QDir(root.path()).mkpath("Skins/S/images"); }
 
-  QString skin() const { return root.path() + QStringLiteral("/Skins/S"); }
-  QString path(const char* name) const { return root.path() + u'/' + QString::fromLatin1(name); }
+  QString skin() const { return path("Skins/S"); }
+  QString path(const QString& name) const { return root.filePath(name); }
 
-  int run(QStringList words) {
-    words.prepend(QStringLiteral("skintool"));
+  int run(const QStringList& words) {
     std::FILE* outFile = std::tmpfile();
     std::FILE* errFile = std::tmpfile();
-    const int status = runBatch(words, outFile, errFile);
-    out = contents(outFile);
-    err = contents(errFile);
+    const int status = runBatch(QStringList("skintool") + words, outFile, errFile);
+    out = test::drained(outFile);
+    err = test::drained(errFile);
     return status;
-  }
-  static QByteArray contents(std::FILE* file) {
-    std::rewind(file);
-    QFile reader;
-    QByteArray bytes;
-    if (reader.open(file, QIODevice::ReadOnly)) bytes = reader.readAll();
-    std::fclose(file);
-    return bytes;
-  }
-  void write(const QString& name, const QByteArray& bytes) {
-    QFile file(name);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
   }
 
   QTemporaryDir root;

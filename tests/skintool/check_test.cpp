@@ -14,24 +14,18 @@ namespace {
 
 class Check : public BatchTest {
 protected:
-  void SetUp() override {
-    ASSERT_EQ(run({QStringLiteral("save"), skin(), QStringLiteral("--to"), skin(), QStringLiteral("--cover"),
-                   QStringLiteral("a.cov")}),
-              0);
-  }
-  QString file(const char* name) const { return skin() + u'/' + QString::fromUtf8(name); }
-  QByteArray bytesOf(const char* name) const {
-    QFile reader(file(name));
-    return reader.open(QIODevice::ReadOnly) ? reader.readAll() : QByteArray();
-  }
+  void SetUp() override { ASSERT_EQ(run({"save", skin(), "--to", skin(), "--cover", "a.cov"}), 0); }
+  QString file(const QString& name) const { return skin() + '/' + name; }
+  void write(const QString& name, const QByteArray& bytes) const { test::writeBytes(file(name), bytes); }
+  QByteArray bytesOf(const QString& name) const { return test::bytesOf(file(name)); }
   void change(const char* name, int line, const QByteArray& text) {
     QList<QByteArray> lines = bytesOf(name).split('\n');
     ASSERT_LT(line, lines.size());
     lines[line - 1] = text + '\r';
-    write(file(name), lines.join('\n'));
+    write(name, lines.join('\n'));
   }
   QList<QByteArray> check() {
-    status = run({QStringLiteral("check"), skin()});
+    status = run({"check", skin()});
     return out.split('\n');
   }
   int status = -1;
@@ -48,7 +42,7 @@ TEST_F(Check, TellsErrorsFirstEachWithItsLine) {
   check();
   EXPECT_EQ(out.toStdString(), "") << "a Skin of our own has no finding";
   EXPECT_EQ(status, 0);
-  write(file("progress.ini"), " 1 \r\n 2 \r\n 3 \r\n 4 \r\n 5 \r\n");
+  write("progress.ini", " 1 \r\n 2 \r\n 3 \r\n 4 \r\n 5 \r\n");
   change("tab.ini", 3, "wide");
   change("font.ini", 2, "red");
   change("resolution.ini", 4, "99999999999999");
@@ -81,6 +75,7 @@ TEST_F(Check, TellsWhatALoadOrASaveWouldSpoil) {
       {"spin.ini", 8, " 1.50 ", "the number \"1.50\" comes back as \"1.5\""},
       {"spin.ini", 8, " 1234.56789 ", "the number \"1234.56789\" comes back as \"1234.568\""},
       {"main.ini", 95, "007", "the font name \"007\" comes back as \"7\""},
+      {"main.ini", 96, "8.5", "the font size \"8.5\" comes back as \"8\""},
       {"main.ini", 96, "8,5", "the font size \"8,5\" comes back as \"8\""},
       {"a.cov", 4, " 12.5 ", "the number \"12.5\" comes back as \"12\""},
       {"resolution.ini", 5, "600.0", "the number \"600.0\" comes back as \"600\""},
@@ -97,7 +92,7 @@ TEST_F(Check, TellsWhatALoadOrASaveWouldSpoil) {
     const QByteArray place = QByteArray(c.file) + ':' + QByteArray::number(c.line);
     check();
     EXPECT_EQ(out.toStdString(), (place + ": warning: " + c.said + '\n').toStdString());
-    write(file(c.file), before);
+    write(c.file, before);
   }
 }
 
@@ -106,20 +101,18 @@ TEST_F(Check, TellsTheCommaThatMovesAFileAndNoneOfItsConsequences) {
   change("genbut.ini", 2, "a, b");
   change("licence.ini", 2, "1,5");
   const QList<QByteArray> findings = check();
-  EXPECT_TRUE(
-      findings.contains("genbut.ini:1: warning: a comma cuts the label line \"General Buttons a, b\""))
-      << out.toStdString();
-  EXPECT_TRUE(findings.contains("licence.ini:2: warning: a comma cuts the line \"1,5\""))
-      << out.toStdString();
+  for (const char* finding : {"genbut.ini:1: warning: a comma cuts the label line \"General Buttons a, b\"",
+                              "licence.ini:2: warning: a comma cuts the line \"1,5\""})
+    EXPECT_TRUE(findings.contains(finding)) << finding << '\n' << out.toStdString();
   EXPECT_EQ(out.count("genbut.ini"), 2);
 }
 
 TEST_F(Check, TellsOfImagesWhyTheyWontBeShown) {
-  const QString grabbed = skin() + QStringLiteral("/images/Player.bmp");
+  const QString grabbed = skin() + "/images/Player.bmp";
   QImage(2, 2, QImage::Format_RGB32).save(grabbed);
   QImage(2, 2, QImage::Format_RGB32).save(path("outside.bmp"));
-  write(file("images/\u0141.bmp"), "BM");
-  write(file("images/text.bmp"), "no picture");
+  write("images/\u0141.bmp", "BM");
+  write("images/text.bmp", "no picture");
   const struct {
     QByteArray reference;
     QByteArray said;
@@ -158,8 +151,7 @@ TEST_F(Check, TellsOfACanvasThatIsTooLargeToBeDrawn) {
 }
 
 TEST_F(Check, TellsHowManyImagesItDidntTry) {
-  for (const char* name : {"a", "b", "c"})
-    write(file("images/") + QString::fromLatin1(name), test::flatPng({100, 100}));
+  for (const char* name : {"a", "b", "c"}) write(QString("images/") + name, test::flatPng({100, 100}));
   change("filter.ini", 1, "\\images\\a");
   change("skin.ini", 4, "\\images\\b");
   change("skin.ini", 6, "\\images\\c");
@@ -167,19 +159,19 @@ TEST_F(Check, TellsHowManyImagesItDidntTry) {
   EXPECT_EQ(findings.size(), 0);
   findings = checkSkin(SkinFolder(skin()), Screen(), 25'000);
   ASSERT_EQ(findings.size(), 1);
-  EXPECT_EQ(findings[0].text, QStringLiteral("all images together take too long to decode: 1 not tried"));
+  EXPECT_EQ(findings[0].text, "all images together take too long to decode: 1 not tried");
 }
 
 TEST_F(Check, TellsOfFilesThatNoLoadReads) {
-  write(file("search_choice.ini"), bytesOf("search_Choice.ini"));
+  write("search_choice.ini", bytesOf("search_Choice.ini"));
   check();
   EXPECT_EQ(out.toStdString(), "") << "twins that agree are no fault";
   change("search_choice.ini", 2, " 77 ");
-  write(file("mine.ini"), "x\r\n");
-  write(file("Nav.ini"), bytesOf("nav.ini"));
-  write(file("ten covers"), bytesOf("a.cov"));
-  write(file("notes.txt"), " 1 \r\n 2 \r\nAlbum\r\n");
-  write(file("B\n1: error: forged\x1B]0;x\x07.COV"), bytesOf("a.cov") + "more\r\n");
+  write("mine.ini", "x\r\n");
+  write("Nav.ini", bytesOf("nav.ini"));
+  write("ten covers", bytesOf("a.cov"));
+  write("notes.txt", " 1 \r\n 2 \r\nAlbum\r\n");
+  write("B\n1: error: forged\x1B]0;x\x07.COV", bytesOf("a.cov") + "more\r\n");
   const QList<QByteArray> findings = check();
   EXPECT_EQ(findings.size(), 6) << out.toStdString();
   for (const char* finding :
@@ -192,16 +184,14 @@ TEST_F(Check, TellsOfFilesThatNoLoadReads) {
 }
 
 TEST_F(Check, TellsWhatIsNoFileUnderAFilesName) {
-  QFile::remove(file("main.ini"));
-  QFile::remove(file("menu_v2.ini"));
-  QFile::remove(file("tab.ini"));
+  for (const char* name : {"main.ini", "menu_v2.ini", "tab.ini"}) QFile::remove(file(name));
   QDir().mkpath(file("main.ini"));
   ASSERT_EQ(::mkfifo(QFile::encodeName(file("menu_v2.ini")).constData(), 0600), 0);
-  QFile::link(QStringLiteral("gone"), file("tab.ini"));
-  QFile::link(QStringLiteral("gone"), file("b.cov"));
+  QFile::link("gone", file("tab.ini"));
+  QFile::link("gone", file("b.cov"));
   QDir().mkpath(file("c.cov"));
   ASSERT_EQ(::mkfifo(QFile::encodeName(file("d.cov")).constData(), 0600), 0);
-  write(file(".menu.ini.999999999-0123456789abcdef.saving"), "what a killed save left");
+  write(".menu.ini.999999999-0123456789abcdef.saving", "what a killed save left");
   EXPECT_EQ(check(),
             (QList<QByteArray>{"main.ini: error: there is something under this name that is no file",
                                "menu_v2.ini: warning: there is something under this name that is no file",
@@ -213,7 +203,7 @@ TEST_F(Check, TellsWhatIsNoFileUnderAFilesName) {
 
 TEST_F(Check, LeavesOutCoverFilesBeyondAMillionLines) {
   const QByteArray cover = " 1 \r\n 2000 \r\nAlbum Covers\r\n" + QByteArray("1\n").repeated(4000);
-  for (int i = 10; i < 40; ++i) write(file(qPrintable(QStringLiteral("b%1.cov").arg(i))), cover);
+  for (int i = 10; i < 40; ++i) write(QStringLiteral("b%1.cov").arg(i), cover);
   const QList<QByteArray> findings = check();
   EXPECT_TRUE(findings.contains("warning: there are too many cover files: 7 not checked"))
       << out.toStdString();
@@ -223,10 +213,10 @@ TEST_F(Check, LeavesOutCoverFilesBeyondAMillionLines) {
 TEST_F(Check, NamesTheSkinWhereThereAreSeveral) {
   const QString empty = path("Skins/Empty");
   QDir().mkpath(empty);
-  EXPECT_EQ(run({QStringLiteral("check"), empty}), 0);
+  EXPECT_EQ(run({"check", empty}), 0);
   EXPECT_EQ(out.toStdString(), "warning: no record file is here\n");
   change("font.ini", 2, "red");
-  EXPECT_EQ(run({QStringLiteral("check"), empty, skin()}), 1);
+  EXPECT_EQ(run({"check", empty, skin()}), 1);
   EXPECT_TRUE(out.startsWith("S/font.ini:2: error: ")) << out.toStdString();
   EXPECT_TRUE(out.endsWith("\nEmpty/warning: no record file is here\n")) << out.toStdString();
 }
@@ -247,9 +237,12 @@ TEST(TextDamage, TellsWhatASaveDoesToALiveText) {
       {u"#NULL#", "the next load fails on the caption \"#NULL#\""},
   };
   for (const auto& c : cases)
-    EXPECT_EQ(textDamage(QStringLiteral("caption"), QString::fromUtf16(c.text)).toStdString(), c.said);
+    EXPECT_EQ(textDamage("caption", QString::fromUtf16(c.text)).toStdString(), c.said);
+  // The bytes beside those that stand for no character.
+  EXPECT_EQ(undefinedByteDamage("caption", "\u0178\u00A0").toStdString(), "");
+  EXPECT_TRUE(undefinedByteDamage("caption", "\u0081").contains("the byte 81"));
   // A lone byte of the code page looks like the start of a longer character.
-  EXPECT_EQ(utf8Damage(QStringLiteral("caption"), QStringLiteral("caf\u00E9")).toStdString(), "");
+  EXPECT_EQ(utf8Damage("caption", "caf\u00E9").toStdString(), "");
 }
 
 }  // namespace
