@@ -17,9 +17,8 @@ protected:
 
   // The saver writes these and no loader reads them back into the same place.
   static bool isCrossed(const Row& row) {
-    static const QSet<QString> crossed = {QStringLiteral("Form1.lvButtons_H42(3)"),
-                                          QStringLiteral("Form1.lvButtons_H49(7)"),
-                                          QStringLiteral("Form1.lvButtons_H49(8)")};
+    static const QSet<QString> crossed = {"Form1.lvButtons_H42(3)", "Form1.lvButtons_H49(7)",
+                                          "Form1.lvButtons_H49(8)"};
     const Element* element = row.field() ? row.field()->into.element : nullptr;
     if (row.reference()) element = row.reference()->button;
     return element && crossed.contains(element->key());
@@ -32,29 +31,18 @@ protected:
   }
 
   Value distinct(const Slot& slot) {
-    ++counter_;
-    switch (slot.property) {
-      case Property::FontSize:
-        return float(counter_ % 90 + 5);
-      case Property::Alignment:
-        return counter_ % 3;
-      case Property::Value:
-        return counter_ % 2;
-      case Property::ListIndex:
-        return counter_ % int(static_cast<RowList&>(*slot.element).list().size());
-      case Property::ButtonShape:
-        return counter_ % 6 + 1;
-      case Property::Text:
-        return QString::number(counter_ % 20 + 1);
-      case Property::Caption:
-      case Property::FontName:
-        return QStringLiteral("Text %1").arg(counter_);
-      default:
-        break;
-    }
-    if (propertyType(slot.property) == ValueType::Single) return float(counter_) + 0.5f;
-    if (propertyType(slot.property) == ValueType::Colour) return Colour(counter_);
-    return counter_;
+    const int n = ++counter_;
+    const Property property = slot.property;
+    if (property == Property::FontSize) return float(n % 90 + 5);
+    if (property == Property::Alignment) return n % 3;
+    if (property == Property::Value) return n % 2;
+    if (property == Property::ButtonShape) return n % 6 + 1;
+    if (property == Property::ListIndex) return n % int(static_cast<RowList&>(*slot.element).list().size());
+    if (property == Property::Text) return QString::number(n % 20 + 1);
+    if (propertyType(property) == ValueType::Text) return QStringLiteral("Text %1").arg(n);
+    if (propertyType(property) == ValueType::Single) return float(n) + 0.5f;
+    if (propertyType(property) == ValueType::Colour) return Colour(n);
+    return n;
   }
 
   void fill(State& state) {
@@ -98,10 +86,10 @@ private:
 };
 
 TEST_F(Distinct, ComesBackFieldByFieldAfterALoadAndAfterAReload) {
-  makeSkin(QStringLiteral("Empty"));
+  makeSkin("Empty");
   start();
   fill(state());
-  designer->saveTo(SkinFolder(root.path() + QStringLiteral("/Skins/S")));
+  designer->saveTo(SkinFolder(root.path() + "/Skins/S"));
   test::ScriptedPlatform second;
   second.platform.folder.path = root.path();
   second.settings.values = world.settings.values;
@@ -110,11 +98,11 @@ TEST_F(Distinct, ComesBackFieldByFieldAfterALoadAndAfterAReload) {
   loaded.startUp();
   compare(state(), loaded.state(), false);
 
-  second.settings.values.insert(QStringLiteral("Settings/Skin"), QStringLiteral("Empty"));
+  second.settings.values.insert("Settings/Skin", "Empty");
   Designer reloaded(second.platform);
   second.dialogs.answers.enqueue(true);
   reloaded.startUp();
-  reloaded.reload(QStringLiteral("S"));
+  reloaded.reload("S");
   compare(state(), reloaded.state(), true);
 }
 
