@@ -23,9 +23,6 @@ TEST(SectionTable, HasOneRowPerFamilyInTheOrderOfNumbers) {
     EXPECT_EQ(sectionOf(state, family), section.number);
     EXPECT_EQ(familyOfSection(state, section.number), &family);
   }
-  // 154 families of the canvas and the three samples of Form6.
-  EXPECT_EQ(sections().size(), 157u);
-  EXPECT_EQ(last, 190);
 }
 
 TEST(SectionTable, NamesNothingUnderUnusedNumbers) {
@@ -35,31 +32,6 @@ TEST(SectionTable, NamesNothingUnderUnusedNumbers) {
   for (const Family* family : std::initializer_list<Family*>{&state.form1.Picture9, &state.form1.Label29,
                                                              &state.form1.lvButtons_H20, &state.form6.Text1})
     EXPECT_EQ(sectionOf(state, *family), 0) << qPrintable(family->name());
-}
-
-TEST(SectionTable, ServesAFieldOnlyWhereTheElementHasItsProperty) {
-  const std::map<ToolField, Property> properties = {{ToolField::Size, Property::Height},
-                                                    {ToolField::Shape, Property::ButtonShape},
-                                                    {ToolField::Style, Property::ButtonStyle},
-                                                    {ToolField::Gradient, Property::GradientMode},
-                                                    {ToolField::Alignment, Property::Alignment},
-                                                    {ToolField::Colour, Property::BackColor},
-                                                    {ToolField::FontSize, Property::FontSize},
-                                                    {ToolField::FontName, Property::FontName},
-                                                    {ToolField::FontDialog, Property::FontBold},
-                                                    {ToolField::Caption, Property::Caption},
-                                                    {ToolField::TypedColour, Property::BackColor},
-                                                    {ToolField::CopiedColours, Property::BackColor},
-                                                    {ToolField::CopiedFontSize, Property::FontSize},
-                                                    {ToolField::CopiedFontName, Property::FontName},
-                                                    {ToolField::ShownFontSize, Property::FontSize}};
-  State state;
-  for (const Section& section : sections())
-    for (const auto& [field, property] : properties)
-      if (section.fields.has(field)) {
-        EXPECT_TRUE(section.family(state).members().front()->has(property))
-            << section.number << ' ' << static_cast<int>(field);
-      }
 }
 
 TEST(SectionTable, ClearsTheIndexOnlyForSingleControls) {
@@ -83,10 +55,8 @@ TEST(DragTable, GivesEachFamilyAtMostOneRule) {
     EXPECT_LE(rules[family], 1) << qPrintable(family->name());
     if (rules[family] == 0) without.append(family->name());
   }
-  EXPECT_EQ(without,
-            QStringList({QStringLiteral("Picture9"), QStringLiteral("Picture21"), QStringLiteral("Picture22"),
-                         QStringLiteral("Image1"), QStringLiteral("lvButtons_H5"),
-                         QStringLiteral("lvButtons_H20"), QStringLiteral("lvButtons_H55")}));
+  EXPECT_EQ(without, QStringList({"Picture9", "Picture21", "Picture22", "Image1", "lvButtons_H5",
+                                  "lvButtons_H20", "lvButtons_H55"}));
 }
 
 TEST(DragTable, FindsTheOtherFamilyAtEveryIndex) {

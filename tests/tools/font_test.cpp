@@ -5,34 +5,15 @@ namespace veneerer {
 
 using FontTest = ToolsTest;
 
-TEST_F(FontTest, EditsTheLabelInHand) {
-  current(22, 4);
-  form6.List1->select(1);
-  type(*form6.Text4, "0");
-  EXPECT_EQ(form1.Label1[4].fontName(), u"Courier");
-  EXPECT_EQ(form1.Label1[4].fontSize(), 0);
-  EXPECT_NE(form1.Label1[3].fontName(), u"Courier");
-  FontChoice bold{QStringLiteral("Times"), 11};
-  bold.bold = true;
-  world.dialogs.fonts.enqueue(bold);
-  state.board.click(*form6.Command14);
-  EXPECT_EQ(form1.Label1[4].fontName(), u"Times");
-  EXPECT_EQ(form1.Label1[4].fontSize(), 11);
-  EXPECT_TRUE(form1.Label1[4].font().bold);
-  world.dialogs.fonts.enqueue(std::nullopt);
-  state.board.click(*form6.Command14);
-  EXPECT_EQ(form1.Label1[4].fontName(), u"Times");
-}
-
 TEST_F(FontTest, ThePlainCopySparesTheLabelInHandAndTheGlobalOneDoesNot) {
   type(*form6.Text4, "20");
   current(22, 4);
-  state.board.click(form6.Command1[0]);
+  click(form6.Command1[0]);
   EXPECT_EQ(form1.Label1[19].fontSize(), 20);
   EXPECT_EQ(form1.Label1[4].fontSize(), 6);
   EXPECT_NE(form1.Label3[0].fontSize(), 20);
   current(0);
-  state.board.click(form6.Command1[1]);
+  click(form6.Command1[1]);
   EXPECT_EQ(form1.Label1[4].fontSize(), 20);
   EXPECT_EQ(form1.Label3[0].fontSize(), 20);
   EXPECT_NE(form1.Label42->fontSize(), 20);
@@ -41,14 +22,14 @@ TEST_F(FontTest, ThePlainCopySparesTheLabelInHandAndTheGlobalOneDoesNot) {
 TEST_F(FontTest, CopiesNothingWithoutASizeOrAName) {
   for (const char* text : {"0", "-4", "big"}) {
     type(*form6.Text4, text);
-    state.board.click(form6.Command1[1]);
+    click(form6.Command1[1]);
     EXPECT_EQ(form1.Label1[4].fontSize(), 6) << text;
   }
   const QString before = form1.Label1[4].fontName();
-  state.board.click(form6.Command4[1]);
+  click(form6.Command4[1]);
   EXPECT_EQ(form1.Label1[4].fontName(), before);
   form6.List1->select(0);
-  state.board.click(form6.Command4[1]);
+  click(form6.Command4[1]);
   EXPECT_EQ(form1.Label1[4].fontName(), u"Tahoma");
   // Section 138 copies sizes, but no font types.
   EXPECT_NE(form1.Label53[0].fontName(), u"Tahoma");
@@ -57,9 +38,8 @@ TEST_F(FontTest, CopiesNothingWithoutASizeOrAName) {
 TEST_F(FontTest, CopiesAlignmentAndBackgroundsUpToTheirLastCover) {
   form6.Combo5->select(1);
   current(171, 5);
-  state.board.click(*form6.Command11);
-  EXPECT_EQ(form1.Label63[27].alignment(), 1);
-  EXPECT_EQ(form1.Label63[28].alignment(), 0);
+  click(*form6.Command11);
+  EXPECT_EQ(valuesOf<int>(form1.Label63, Property::Alignment, {27, 28}), (QList<int>{1, 0}));
   EXPECT_EQ(form1.Label62[0].alignment(), 0);
   current(0);
   for (Element* label : form1.Label9.members()) static_cast<Label*>(label)->setOpaque(false);

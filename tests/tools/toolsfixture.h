@@ -14,9 +14,8 @@ protected:
     form6.Combo1->setRows(rows(9));
     form6.Combo2->setRows(rows(8));
     form6.Combo4->setRows(rows(5));
-    form6.Combo5->setRows(
-        {QStringLiteral("Left Align"), QStringLiteral("Right Align"), QStringLiteral("Center Align")});
-    form6.List1->setRows({QStringLiteral("Tahoma"), QStringLiteral("Courier")});
+    form6.Combo5->setRows({"Left Align", "Right Align", "Center Align"});
+    form6.List1->setRows({"Tahoma", "Courier", "Times"});
     spread();
   }
 
@@ -45,7 +44,15 @@ protected:
     state.globals.SectionNumber = section;
     state.globals.ElementIndex = index;
   }
-  static void type(TextBox& field, const char* text) { field.setText(QString::fromLatin1(text)); }
+  static void type(TextBox& field, const char* text) { field.setText(text); }
+  void click(Element& element) { state.board.click(element); }
+  /// One property of some members of a family.
+  template <class T = float>
+  static QList<T> valuesOf(const Family& family, Property property, std::initializer_list<int> members) {
+    QList<T> values;
+    for (int member : members) values.append(family.find(member)->as<T>(property));
+    return values;
+  }
 
   State state;
   Form1& form1 = state.form1;
