@@ -9,11 +9,10 @@
 //   <- written from another element, or written and read by no one
 #include <gtest/gtest.h>
 
-#include <QFile>
-
 #include "records/coverfile.h"
 #include "records/layoutwriter.h"
 #include "skin/catalogue.h"
+#include "support/files.h"
 
 namespace veneerer {
 namespace {
@@ -34,8 +33,8 @@ struct Unit {
     if (first >= 0) place = QStringLiteral("(%1)").arg(first);
     if (first < last) place = QStringLiteral("(%1-%2)").arg(first).arg(last);
     place += source;
-    if (!owner.isEmpty()) place += QStringLiteral(": ");
-    return QStringLiteral("%1 ").arg(line, 6) + owner + place + words.join(QStringLiteral(", ")) + u'\n';
+    if (!owner.isEmpty()) place += ": ";
+    return QStringLiteral("%1 ").arg(line, 6) + owner + place + words.join(", ") + u'\n';
   }
 };
 
@@ -44,19 +43,16 @@ struct Group {
   Words words;
 };
 
-const Words kColours = {QStringLiteral("BackColor"), QStringLiteral("ForeColor")};
-const Words kPlace = {QStringLiteral("Top"), QStringLiteral("Left"), QStringLiteral("Height"),
-                      QStringLiteral("Width")};
-const Words kStyle = Words{QStringLiteral("ButtonStyle")} + kColours +
-                     Words{QStringLiteral("GradientColor"), QStringLiteral("GradientMode")};
-const Words kWhole = {QStringLiteral("Width as a whole, scaled"), QStringLiteral("Height as a whole, scaled"),
-                      QStringLiteral("Left as a whole, scaled"), QStringLiteral("Top as a whole, scaled")};
+const Words kColours = {"BackColor", "ForeColor"};
+const Words kPlace = {"Top", "Left", "Height", "Width"};
+const Words kStyle = Words{"ButtonStyle"} + kColours + Words{"GradientColor", "GradientMode"};
+const Words kWhole = {"Width as a whole, scaled", "Height as a whole, scaled", "Left as a whole, scaled",
+                      "Top as a whole, scaled"};
 const Group kGroups[] = {
-    {"ButtonRecord", Words{QStringLiteral("Caption"), QStringLiteral("ButtonShape~")} + kStyle},
-    {"plain ButtonRecord", Words{QStringLiteral("Caption"), QStringLiteral("ButtonShape")} + kStyle},
-    {"GeometryQuad",
-     {QStringLiteral("Height"), QStringLiteral("Width"), QStringLiteral("Top"), QStringLiteral("Left")}},
-    {"LabelRecord", kColours + kPlace + Words{QStringLiteral("FontName"), QStringLiteral("FontSize")}},
+    {"ButtonRecord", Words{"Caption", "ButtonShape~"} + kStyle},
+    {"plain ButtonRecord", Words{"Caption", "ButtonShape"} + kStyle},
+    {"GeometryQuad", {"Height", "Width", "Top", "Left"}},
+    {"LabelRecord", kColours + kPlace + Words{"FontName", "FontSize"}},
     {"colours", kColours},
     {"PlaceQuad", kPlace},
     {"cover place", kWhole},
@@ -80,7 +76,7 @@ void fold(Words& words, const Group& group) {
 /// The element's name; those of the canvas stand without their window.
 QString nameOf(const Element& element) {
   QString name = element.key();
-  return name.startsWith(QStringLiteral("Form1.")) ? name.mid(6) : name;
+  return name.startsWith("Form1.") ? name.mid(6) : name;
 }
 
 QString familyOf(const Element& element) {
@@ -111,14 +107,17 @@ private:
     if (const Field* field = row.field()) return unitOf(*field->into.element, wordOf(*field));
     if (const Reference* reference = row.reference()) return unitOf(*reference);
     if (const Counter* counter = row.counter())
-      return {QLatin1String(counter->name), -1, -1, {countOf(*counter)}};
+      return {QLatin1String(counter->name),
+              -1,
+              -1,
+              {counter->kept ? QStringLiteral("count") : QString::number(counter->newest)}};
     const Literal& literal = *row.literal();
     const QString text = u'"' + literal.text + u'"';
-    if (literal.captionOf) return unitOf(*literal.captionOf, text + QStringLiteral(" Caption"));
+    if (literal.captionOf) return unitOf(*literal.captionOf, text + " Caption");
     // label_align.ini heads each value with the label's own name.
     const Field* next = i + 1 < layout_.size() ? layout_.rows()[i + 1].field() : nullptr;
     if (next && nameOf(*next->into.element) == QString(literal.text).remove(u' '))
-      return unitOf(*next->into.element, QStringLiteral("name"));
+      return unitOf(*next->into.element, "name");
     return {{}, -1, -1, {text}};
   }
 
@@ -128,29 +127,22 @@ private:
       const char* word = reference.keepsPictureWhenEmpty ? "image unless empty" : "image";
       return unitOf(*reference.button, QLatin1String(word));
     }
-    Unit unit = tableOf(reference.into);
+    const int index = reference.into->index();
+    Unit unit{reference.into->family()->name(), index, index, {}};
     Words boxes;
     for (const Element* box : reference.boxes)
       if (box)
         boxes.append(box->index() == unit.first ? familyOf(*box) + QStringLiteral("(i)") : nameOf(*box));
     unit.words.append(boxes.isEmpty() ? QStringLiteral("kept")
-                                      : QStringLiteral("shown in ") + boxes.join(QStringLiteral(" and ")));
+                                      : QStringLiteral("shown in ") + boxes.join(" and "));
     return unit;
-  }
-
-  Unit tableOf(const ImageSlot* entry) const {
-    return {entry->family()->name(), entry->index(), entry->index(), {}};
-  }
-
-  static QString countOf(const Counter& counter) {
-    return counter.kept ? QStringLiteral("count") : QString::number(counter.newest);
   }
 
   QString wordOf(const Field& field) const {
     QString word = propertyName(field.into.property);
-    if (field.kind == ValueKind::NumberText) word += QStringLiteral(" as a number");
-    if (field.kind == ValueKind::Whole) word += QStringLiteral(" as a whole");
-    if (field.scale == &state_.globals.CoverScale) word += QStringLiteral(", scaled");
+    if (field.kind == ValueKind::NumberText) word += " as a number";
+    if (field.kind == ValueKind::Whole) word += " as a whole";
+    if (field.scale == &state_.globals.CoverScale) word += ", scaled";
     if (field.isHeldBack) word += u'~';
     if (field.aboveMinusOneOnly) word += u'^';
     return word;
@@ -163,7 +155,7 @@ private:
     if (row.reference() && row.reference()->from != row.reference()->into)
       for (const Element* button : row.reference()->button->family()->members())
         if (state_.names.of(*button) == row.reference()->from) from = button;
-    if (row.isWrittenOnly) return QStringLiteral(" <- no one reads it");
+    if (row.isWrittenOnly) return " <- no one reads it";
     return from ? QStringLiteral(" <- ") + nameOf(*from) : QString();
   }
 
@@ -212,7 +204,7 @@ class Layouts : public testing::Test {
 protected:
   Layouts() {
     for (const SaveEntry& entry : saveOrder()) layouts.push_back(entry.layout(state));
-    layouts.push_back(coverFile(state, QStringLiteral("any.cov"), 27));
+    layouts.push_back(coverFile(state, "any.cov", 27));
   }
 
   State state;
@@ -238,10 +230,9 @@ TEST_F(Layouts, HaveOneLineForEachRowAndAReasonForEachOddOne) {
 }
 
 TEST_F(Layouts, HaveTheOutlinesOfTheFormat) {
-  QFile file(QStringLiteral(VENEERER_SOURCE_DIR "/tests/skin/outlines.txt"));
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QString told = test::bytesOf(VENEERER_SOURCE_DIR "/tests/skin/outlines.txt");
   QHash<QString, QString> expected;
-  for (const QString& text : QString::fromUtf8(file.readAll()).split(QStringLiteral("\n\n")))
+  for (const QString& text : told.split("\n\n"))
     expected.insert(text.section(u',', 0, 0), text.trimmed() + u'\n');
   for (const Layout& layout : layouts)
     EXPECT_EQ(Outline(state, layout).text().toStdString(), expected.take(layout.fileName()).toStdString());
