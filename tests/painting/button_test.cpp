@@ -8,8 +8,8 @@
 #include "elements/window.h"
 #include "painting/buttonface.h"
 #include "painting/buttonpainter.h"
-#include "painting/buttonsheet.h"
 #include "painting/customoutline.h"
+#include "support/pictures.h"
 
 namespace veneerer {
 namespace {
@@ -61,10 +61,7 @@ protected:
 };
 
 int count(const QImage& image, QColor colour) {
-  int found = 0;
-  for (int y = 0; y < image.height(); ++y)
-    for (int x = 0; x < image.width(); ++x) found += image.pixelColor(x, y) == colour;
-  return found;
+  return test::countPixels(image.size(), [&](int x, int y) { return image.pixelColor(x, y) == colour; });
 }
 
 TEST_F(ButtonPainting, EveryShapeStyleAndGradientLooksDifferent) {
@@ -95,12 +92,12 @@ TEST_F(ButtonPainting, TheCaptionIsDrawnInItsColourAsItStands) {
   button.setButtonStyle(2);
   button.set(Property::FontSize, 10.0f);
   button.set(Property::FontBold, true);
-  button.setCaption(QStringLiteral("II"));
+  button.setCaption("II");
   const int withoutSign = count(paint(), Qt::red);
   EXPECT_GT(withoutSign, 0);
-  button.setCaption(QStringLiteral("I&I"));
+  button.setCaption("I&I");
   EXPECT_GT(count(paint(), Qt::red), withoutSign) << "the sign & must show";
-  button.setCaption(QStringLiteral("II||II"));
+  button.setCaption("II||II");
   const QImage twoLines = paint();
   EXPECT_GT(count(twoLines.copy(0, 0, 60, 15), Qt::red), 0);
   EXPECT_GT(count(twoLines.copy(0, 15, 60, 15), Qt::red), 0);
@@ -138,6 +135,21 @@ TEST_F(ButtonPainting, PicturesFollowTheirSize) {
   EXPECT_EQ(covered[3], 60 * 30);
   EXPECT_GT(covered[4], 26 * 26);
   EXPECT_LT(covered[4], covered[3]);
+}
+
+TEST_F(ButtonPainting, APictureStandsWhereItsAlignmentSays) {
+  button.setPicture(filled(Qt::blue));
+  button.setButtonStyle(2);
+  button.set(Property::FontSize, 6.0f);
+  button.setCaption("I");
+  const std::pair<PictureAlign, QRect> halves[] = {{PictureAlign::LeftEdge, {0, 0, 30, 30}},
+                                                   {PictureAlign::RightEdge, {30, 0, 30, 30}},
+                                                   {PictureAlign::TopCenter, {0, 0, 60, 15}},
+                                                   {PictureAlign::BottomCenter, {0, 15, 60, 15}}};
+  for (const auto& [align, half] : halves) {
+    button.set(Property::PictureAlign, static_cast<int>(align));
+    EXPECT_GT(count(paint().copy(half), Qt::blue), 16 * 16 / 2) << static_cast<int>(align);
+  }
 }
 
 TEST_F(ButtonPainting, AStyleShowsUnderASeeThroughPictureAndAroundAnyOther) {
@@ -180,9 +192,8 @@ TEST_F(ButtonPainting, EveryFaceAnswersThePointerWithItsHoverColoursLocked) {
         button.setBackColor(back);
         const QImage rest = paint();
         const QImage hover = paint({.hover = true});
-        int changed = 0;
-        for (int y = 0; y < 30; ++y)
-          for (int x = 0; x < 60; ++x) changed += hover.pixel(x, y) != rest.pixel(x, y);
+        const int changed =
+            test::countPixels(kSize, [&](int x, int y) { return hover.pixel(x, y) != rest.pixel(x, y); });
         EXPECT_GT(changed, 40) << style << ' ' << back << ' ' << picture.image().width();
       }
 }
@@ -194,14 +205,13 @@ TEST_F(ButtonPainting, CaptionsEndAtTheOutline) {
     button.setButtonShape(shape);
     button.setCaption(QString());
     const QImage bare = paint();
-    button.setCaption(QStringLiteral("MMMMMMMM||MMMMMMMM"));
+    button.setCaption("MMMMMMMM||MMMMMMMM");
     const QImage lettered = paint();
     EXPECT_NE(lettered, bare) << shape;
-    int spilt = 0;
-    for (int y = 0; y < 30; ++y)
-      for (int x = 0; x < 60; ++x)
-        spilt += bare.pixelColor(x, y) == Qt::magenta && lettered.pixelColor(x, y) != Qt::magenta;
-    EXPECT_EQ(spilt, 0) << shape;
+    const auto isSpilt = [&](int x, int y) {
+      return bare.pixelColor(x, y) == Qt::magenta && lettered.pixelColor(x, y) != Qt::magenta;
+    };
+    EXPECT_EQ(test::countPixels(kSize, isSpilt), 0) << shape;
   }
 }
 
@@ -212,7 +222,7 @@ TEST_F(ButtonPainting, ACaptionOnGlassIsntGlass) {
   button.setButtonShape(7);
   button.set(Property::FontSize, 16.0f);
   button.set(Property::FontBold, true);
-  button.setCaption(QStringLiteral("MM"));
+  button.setCaption("MM");
   EXPECT_GT(count(paint(), Qt::red), 30);
 }
 
@@ -231,7 +241,7 @@ TEST_F(ButtonPainting, AFaceThatWasTooCostlyComesOutWellLater) {
 }
 
 TEST_F(ButtonPainting, StatesShowAndNoFaceOutlivesItsProperties) {
-  button.setCaption(QStringLiteral("OK"));
+  button.setCaption("OK");
   const QImage plain = paint();
   EXPECT_NE(paint({.pressed = true}), plain);
   EXPECT_NE(paint({.hover = true}), plain);
@@ -268,10 +278,6 @@ TEST(CustomOutline, CopesWithAnyPicture) {
   EXPECT_EQ(onlyBackground.pixelColor(0, 0), Qt::red) << "a button that is nowhere could never be clicked";
   EXPECT_TRUE(cutOut(QImage()).isNull());
   EXPECT_EQ(cutOut(QImage(1, 1, QImage::Format_Mono)).size(), QSize(1, 1));
-}
-
-TEST(ButtonSheet, IsDrawnAtEveryScale) {
-  EXPECT_EQ(buttonSheet(2).size(), buttonSheet(1).size() * 2);
 }
 
 }  // namespace

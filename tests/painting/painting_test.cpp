@@ -1,12 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <QPainter>
 #include <limits>
 
 #include "elements/colour.h"
-#include "forms/form1.h"
-#include "painting/canvaspainter.h"
-#include "painting/hittest.h"
+#include "support/canvasfixture.h"
+#include "support/pictures.h"
 
 namespace veneerer {
 namespace {
@@ -21,20 +19,8 @@ Picture plainPicture(QSize size, Qt::GlobalColor colour) {
   return Picture::drawn(image);
 }
 
-// A canvas of 100 by 100 pixels whose elements are placed in pixels.
-class Painting : public testing::Test {
+class Painting : public test::CanvasFixture {
 protected:
-  Painting() {
-    for (Family* family : form.families())
-      for (Element* element : family->members()) element->setVisible(false);
-  }
-
-  void put(Element& element, Element& container, float left, float top, float width, float height) {
-    element.setContainer(container);
-    element.place(left * 15, top * 15, width * 15, height * 15);
-    element.setVisible(true);
-  }
-
   QImage paint(double device = 1) {
     QImage image(QSize(100, 100) * device, QImage::Format_RGB32);
     image.setDevicePixelRatio(device);
@@ -44,11 +30,19 @@ protected:
     return image;
   }
 
+  /// Red on blue.
+  Label& putLabel(Element& container, const QRectF& place, const char* caption, float fontSize) {
+    Label& label = form.Label16[0];
+    put(label, container, place);
+    label.setForeColor(kRed);
+    label.setBackColor(kBlue);
+    label.setFontSize(fontSize);
+    label.setCaption(caption);
+    return label;
+  }
+
   Element* at(float x, float y) { return hits.elementAt(form, x * 15, y * 15); }
 
-  Switchboard board;
-  Form1 form{board};
-  CanvasPainter painter;
   HitTest hits{painter.cutOuts()};
 };
 
@@ -75,21 +69,14 @@ Picture halfPicture(QSize size, const QColor& left) {
 }
 
 bool holdsColour(const QImage& image, const QRect& in, QColor colour) {
-  for (int y = in.top(); y <= in.bottom(); ++y)
-    for (int x = in.left(); x <= in.right(); ++x)
-      if (image.pixelColor(x, y) == colour) return true;
-  return false;
+  const QImage part = image.copy(in);
+  return test::countPixels(part.size(), [&](int x, int y) { return part.pixelColor(x, y) == colour; }) > 0;
 }
 
 TEST_F(Painting, LabelsShowTheirColoursAndWhatLiesUnderThem) {
-  put(form.Picture2[3], form, 10, 10, 80, 80);
+  put(form.Picture2[3], {10, 10, 80, 80});
   form.Picture2[3].setBackColor(kGreen);
-  Label& label = form.Label16[0];
-  put(label, form.Picture2[3], 10, 10, 60, 30);
-  label.setCaption(QStringLiteral("MMMM"));
-  label.setForeColor(kRed);
-  label.setBackColor(kBlue);
-  label.setFontSize(18);
+  Label& label = putLabel(form.Picture2[3], {10, 10, 60, 30}, "MMMM", 18);
 
   const QImage opaque = paint();
   EXPECT_EQ(opaque.pixelColor(5, 5), Qt::black);
@@ -104,12 +91,7 @@ TEST_F(Painting, LabelsShowTheirColoursAndWhatLiesUnderThem) {
 }
 
 TEST_F(Painting, AlignmentMovesTheTextAndWrapsIt) {
-  Label& label = form.Label16[0];
-  put(label, form, 0, 0, 90, 60);
-  label.setBackColor(kBlue);
-  label.setForeColor(kRed);
-  label.setFontSize(12);
-  label.setCaption(QStringLiteral("MI"));
+  Label& label = putLabel(form, {0, 0, 90, 60}, "MI", 12);
   const QRect left(0, 0, 30, 20);
   const QRect right(60, 0, 30, 20);
   const QRect second(0, 20, 90, 20);
@@ -118,19 +100,20 @@ TEST_F(Painting, AlignmentMovesTheTextAndWrapsIt) {
   EXPECT_FALSE(holdsColour(paint(), left, Qt::red));
   EXPECT_TRUE(holdsColour(paint(), right, Qt::red));
   EXPECT_FALSE(holdsColour(paint(), second, Qt::red));
-  label.setCaption(QStringLiteral("MIMIMI MIMIMI"));
+  label.setCaption("MIMIMI MIMIMI");
   EXPECT_TRUE(holdsColour(paint(), second, Qt::red));
 }
 
 TEST_F(Painting, ChildrenAreClippedToTheirContainersAndHiddenWithThem) {
-  put(form.Picture2[3], form, 10, 10, 30, 30);
-  put(form.Picture2[4], form.Picture2[3], 20, 20, 70, 70);
+  put(form.Picture2[3], {10, 10, 30, 30});
+  put(form.Picture2[4], form.Picture2[3], {20, 20, 70, 70});
   form.Picture2[3].setBackColor(kGreen);
   form.Picture2[4].setBackColor(kRed);
   EXPECT_EQ(paint().pixelColor(35, 35), Qt::red);
   EXPECT_EQ(paint().pixelColor(45, 45), Qt::black);
   EXPECT_EQ(at(35, 35), &form.Picture2[4]);
-  EXPECT_EQ(at(45, 45), nullptr);
+  EXPECT_EQ(at(10, 10), &form.Picture2[3]) << "the first pixel is its own,";
+  EXPECT_EQ(at(40, 20), nullptr) << "the one behind the last isn't";
   EXPECT_EQ(windowRect(form.Picture2[4]), QRectF(30 * 15, 30 * 15, 70 * 15, 70 * 15));
   form.Picture2[3].setVisible(false);
   EXPECT_EQ(paint().pixelColor(35, 35), Qt::black);
@@ -139,10 +122,10 @@ TEST_F(Painting, ChildrenAreClippedToTheirContainersAndHiddenWithThem) {
 }
 
 TEST_F(Painting, TheMainScreenShowsNothingButItsChildren) {
-  put(form.Picture2[3], form, 0, 0, 50, 50);
+  put(form.Picture2[3], {0, 0, 50, 50});
   form.Picture2[3].setBackColor(kGreen);
-  put(form.Picture1[0], form, 0, 0, 100, 100);
-  put(form.Picture2[4], form.Picture1[0], 60, 60, 20, 20);
+  put(form.Picture1[0], {0, 0, 100, 100});
+  put(form.Picture2[4], form.Picture1[0], {60, 60, 20, 20});
   form.Picture2[4].setBackColor(kRed);
   EXPECT_EQ(paint().pixelColor(10, 10), Qt::green);
   EXPECT_EQ(paint().pixelColor(70, 70), Qt::red);
@@ -152,8 +135,8 @@ TEST_F(Painting, TheMainScreenShowsNothingButItsChildren) {
 }
 
 TEST_F(Painting, FramesAndAlphaImagesLetTheMouseThroughWhereTheyAreSeeThrough) {
-  put(form.Image2[0], form, 10, 10, 80, 80);
-  put(form.ucAniGIF1[0], form, 0, 0, 100, 100);
+  put(form.Image2[0], {10, 10, 80, 80});
+  put(form.ucAniGIF1[0], {0, 0, 100, 100});
   EXPECT_EQ(at(50, 50), &form.Image2[0]) << "a frame without a picture";
   form.ucAniGIF1[0].setPicture(halfPicture({20, 20}, Qt::red));
   EXPECT_EQ(at(20, 50), &form.ucAniGIF1[0]);
@@ -162,7 +145,7 @@ TEST_F(Painting, FramesAndAlphaImagesLetTheMouseThroughWhereTheyAreSeeThrough) {
   form.ucAniGIF1[0].setPicture(halfPicture({20, 20}, QColor(255, 0, 0, 3)));
   EXPECT_EQ(at(20, 50), &form.Image2[0]) << "too faint to be seen";
 
-  put(form.aicAlphaImage1[0], form, 0, 0, 100, 100);
+  put(form.aicAlphaImage1[0], {0, 0, 100, 100});
   form.aicAlphaImage1[0].setPicture(halfPicture({40, 20}, Qt::red));
   EXPECT_EQ(at(20, 50), &form.aicAlphaImage1[0]);
   EXPECT_EQ(at(60, 50), &form.Image2[0]);
@@ -171,10 +154,10 @@ TEST_F(Painting, FramesAndAlphaImagesLetTheMouseThroughWhereTheyAreSeeThrough) {
 
 // What takes the mouse is what is painted, but for the pixels along the outline.
 TEST_F(Painting, AButtonTakesTheMouseWithinItsOutline) {
-  put(form.Picture2[3], form, 0, 0, 100, 100);
+  put(form.Picture2[3], {0, 0, 100, 100});
   form.Picture2[3].setBackColor(kGreen);
   Button& button = form.lvButtons_H1[0];
-  put(button, form, 10, 10, 80, 40);
+  put(button, {10, 10, 80, 40});
   button.setBackColor(kRed);
   QImage cross(60, 30, QImage::Format_RGB32);
   cross.fill(Qt::white);
@@ -186,13 +169,10 @@ TEST_F(Painting, AButtonTakesTheMouseWithinItsOutline) {
       button.setButtonShape(shape);
       button.setButtonStyle(style);
       const QImage image = paint();
-      int wrong = 0;
-      for (int y = 0; y < 60; ++y)
-        for (int x = 0; x < 100; ++x) {
-          const bool isBare = image.pixelColor(x, y) == Qt::green;
-          const auto centre = [](int pixel) { return static_cast<float>(pixel) + 0.5f; };
-          wrong += isBare != (at(centre(x), centre(y)) == &form.Picture2[3]);
-        }
+      const int wrong = test::countPixels(QSize(100, 60), [&](int x, int y) {
+        const bool isBare = image.pixelColor(x, y) == Qt::green;
+        return isBare != (at(float(x) + 0.5f, float(y) + 0.5f) == &form.Picture2[3]);
+      });
       EXPECT_LT(wrong, 120) << "shape " << shape << ", style " << style;
     }
   EXPECT_EQ(at(20, 30), &form.Picture2[3]) << "shape 8 keeps its picture's size";
@@ -200,7 +180,7 @@ TEST_F(Painting, AButtonTakesTheMouseWithinItsOutline) {
 }
 
 TEST_F(Painting, PicturesKeepTheirSizeUnlessTheyStretch) {
-  put(form.Picture2[3], form, 10, 10, 60, 60);
+  put(form.Picture2[3], {10, 10, 60, 60});
   form.Picture2[3].setBackColor(kGreen);
   form.Picture2[3].setPicture(plainPicture(QSize(20, 20), Qt::red));
   EXPECT_EQ(paint().pixelColor(29, 29), Qt::red);
@@ -209,7 +189,7 @@ TEST_F(Painting, PicturesKeepTheirSizeUnlessTheyStretch) {
   EXPECT_EQ(paint(2).pixelColor(62, 62), Qt::green);
 
   form.Picture2[3].setVisible(false);
-  put(form.Image2[0], form, 0, 0, 40, 40);
+  put(form.Image2[0], {0, 0, 40, 40});
   form.Image2[0].setPicture(plainPicture(QSize(20, 20), Qt::yellow));
   EXPECT_EQ(paint().pixelColor(30, 30), Qt::black);
   form.Image2[0].setStretch(true);
@@ -225,7 +205,7 @@ TEST_F(Painting, AbsurdNumbersAreDrawnAsNothing) {
   Element* const elements[] = {&form.Label16[0], &form.lvButtons_H1[0], &form.Picture2[3],
                                &form.Image2[0],  &form.ucAniGIF1[0],    &form.aicAlphaImage1[0]};
   for (Element* element : elements) {
-    put(*element, form, 0, 0, 10, 10);
+    put(*element, {0, 0, 10, 10});
     if (element->has(Property::Picture)) element->set(Property::Picture, plainPicture({9, 9}, Qt::red));
     if (element->has(Property::Caption))
       element->set(Property::Caption, QStringLiteral("word ").repeated(50'000));
@@ -246,12 +226,7 @@ TEST_F(Painting, AbsurdNumbersAreDrawnAsNothing) {
 }
 
 TEST_F(Painting, UnderlinesStandUnderTheirText) {
-  Label& label = form.Label16[0];
-  put(label, form, 0, 0, 90, 60);
-  label.setBackColor(kBlue);
-  label.setForeColor(kRed);
-  label.setFontSize(12);
-  label.setCaption(QStringLiteral("iii iii iii iii iii iii iii iii iii"));
+  Label& label = putLabel(form, {0, 0, 90, 60}, "iii iii iii iii iii iii iii iii iii", 12);
   // The pixels of each row that are as red as a rule is, which no row of this text alone comes close to.
   const auto ruled = [&](const QImage& image) {
     std::vector<QRect> rows;
@@ -284,18 +259,6 @@ TEST_F(Painting, UnderlinesStandUnderTheirText) {
   }
 }
 
-TEST_F(Painting, AHeldButtonLooksPressed) {
-  put(form.lvButtons_H1[0], form, 10, 10, 40, 20);
-  put(form.lvButtons_H1[1], form, 10, 40, 40, 20);
-  const QImage rest = paint();
-  painter.setPressed(&form.lvButtons_H1[0]);
-  const QImage held = paint();
-  EXPECT_NE(held.copy(0, 0, 100, 35), rest.copy(0, 0, 100, 35));
-  EXPECT_EQ(held.copy(0, 35, 100, 65), rest.copy(0, 35, 100, 65));
-  painter.setPressed(nullptr);
-  EXPECT_EQ(paint(), rest);
-}
-
 TEST(TextLayouts, HoldNoMoreThanCanBeSeen) {
   TextLayouts layouts;
   const auto glyphs = [&](const TextRequest& request) {
@@ -303,13 +266,13 @@ TEST(TextLayouts, HoldNoMoreThanCanBeSeen) {
     for (const QGlyphRun& run : layouts.of(request).runs) count += run.glyphIndexes().size();
     return count;
   };
-  TextRequest request{QString(1'000'000, u'W'), QStringLiteral("Arial"), 20, 0, 100, 30, 0};
+  TextRequest request{QString(1'000'000, u'W'), "Arial", 20, 0, 100, 30, 0};
   EXPECT_GE(glyphs(request), 5);
   EXPECT_LE(glyphs(request), 40) << "one line without a break";
   request.text = QStringLiteral("W ").repeated(500'000);
   EXPECT_GE(glyphs(request), 5);
   EXPECT_LE(glyphs(request), 40) << "many lines";
-  request.text = QStringLiteral("WWW");
+  request.text = "WWW";
   EXPECT_EQ(glyphs(request), 3);
 }
 

@@ -3,13 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include <QPainter>
 #include <QSet>
 
 #include "elements/colour.h"
-#include "forms/form1.h"
 #include "painting/buttonstyle.h"
-#include "painting/canvaspainter.h"
+#include "support/canvasfixture.h"
 #include "support/pictures.h"
 
 namespace veneerer {
@@ -17,32 +15,17 @@ namespace {
 
 constexpr QRect kCanvas(0, 0, 640, 480);
 
-class Seen : public testing::Test {
+class Seen : public test::CanvasFixture {
 protected:
-  Seen() {
-    for (Family* family : form.families())
-      for (Element* element : family->members()) element->setVisible(false);
-  }
-
-  // In pixels, on the canvas itself.
-  void put(Element& element, double left, double top, double width, double height) {
-    element.setContainer(form);
-    element.place(float(left * 15), float(top * 15), float(width * 15), float(height * 15));
-    element.setVisible(true);
-  }
-
   std::vector<SeenElement> seen() const { return seenElements(form, kCanvas, PixelScale()); }
 
   quint32 random(quint32 below) { return (seed_ = seed_ * 1664525 + 1013904223) / 65536 % below; }
 
   /// Puts it somewhere, partly outside the canvas and between the pixels.
   void scatter(Element& element) {
-    put(element, random(600) - 100.0 + random(4) / 4.0, random(400) - 100.0 + random(4) / 4.0,
-        40 + random(500), 40 + random(400));
+    const QPointF corner(random(600) - 100.0 + random(4) / 4.0, random(400) - 100.0 + random(4) / 4.0);
+    put(element, {corner, QSizeF(40 + random(500), 40 + random(400))});
   }
-
-  Switchboard board;
-  Form1 form{board};
 
 private:
   quint32 seed_ = 1;
@@ -50,9 +33,9 @@ private:
 
 TEST_F(Seen, WhatLiesBehindAnOpaqueElementIsNotPainted) {
   PictureBox& front = form.Picture1[5];
-  for (int i = 0; i < 10; ++i) put(form.lvButtons_H1[i], 100, 100, 300, 300);
-  put(form.Label4[0], 150, 150, 10, 10);
-  put(front, 90, 90, 320, 320);
+  for (int i = 0; i < 10; ++i) put(form.lvButtons_H1[i], {100, 100, 300, 300});
+  put(form.Label4[0], {150, 150, 10, 10});
+  put(front, {90, 90, 320, 320});
   ASSERT_EQ(seen().size(), 1);
   EXPECT_EQ(seen()[0].element, &front);
   front.setVisible(false);
@@ -65,7 +48,7 @@ TEST_F(Seen, BehindARoundButtonOnlyItsCornersShow) {
   for (int style = 0; style < kButtonStyleCount; ++style) {
     const int radius = static_cast<int>(buttonStyle(style).radius);
     if (radius >= 150) continue;  // round all over
-    for (int i = 0; i < 2; ++i) put(form.lvButtons_H1[i], 100, 100, 300, 300);
+    for (int i = 0; i < 2; ++i) put(form.lvButtons_H1[i], {100, 100, 300, 300});
     form.lvButtons_H1[1].setButtonStyle(style);
     for (const SeenElement& element : seen()) {
       if (element.element != &form.lvButtons_H1[0]) continue;
@@ -75,22 +58,22 @@ TEST_F(Seen, BehindARoundButtonOnlyItsCornersShow) {
 }
 
 TEST_F(Seen, ASeeThroughElementHidesNothing) {
-  put(form.lvButtons_H1[0], 100, 100, 200, 200);
+  put(form.lvButtons_H1[0], {100, 100, 200, 200});
   Label& label = form.Label4[0];
-  put(label, 0, 0, 600, 400);
+  put(label, {0, 0, 600, 400});
   label.setOpaque(false);
   EXPECT_EQ(seen().size(), 2);
   label.setOpaque(true);
   EXPECT_EQ(seen().size(), 1);
   label.setVisible(false);
-  put(form.Image2[0], 0, 0, 600, 400);
+  put(form.Image2[0], {0, 0, 600, 400});
   EXPECT_EQ(seen().size(), 2) << "nobody knows what its picture covers";
 }
 
 TEST_F(Seen, AContainerHidesWhatLiesBehindItButNotWhatItHolds) {
-  put(form.lvButtons_H1[0], 100, 100, 200, 200);
-  put(form.Picture1[5], 50, 50, 400, 400);
-  put(form.lvButtons_H1[1], 100, 100, 200, 200);
+  put(form.lvButtons_H1[0], {100, 100, 200, 200});
+  put(form.Picture1[5], {50, 50, 400, 400});
+  put(form.lvButtons_H1[1], {100, 100, 200, 200});
   form.lvButtons_H1[1].setContainer(form.Picture1[5]);
   QSet<const Element*> found;
   for (const SeenElement& element : seen()) found.insert(element.element);
@@ -110,24 +93,21 @@ TEST_F(Seen, ThePictureIsTheSameAsWithEverythingPainted) {
     }
     for (int i = 0; i < 5; ++i) {
       form.Label4[i].setOpaque(i % 2 == 0);
-      form.Label4[i].setCaption(QStringLiteral("Label"));
+      form.Label4[i].setCaption("Label");
       scatter(form.Label4[i]);
       if (i > 0) scatter(form.Picture1[i]);
     }
     QImage culled(kCanvas.size(), QImage::Format_RGB32);
     QImage whole = culled;
-    CanvasPainter painter;
-    {
-      QPainter on(&culled);
-      painter.paint(on, form, kCanvas, 1.0 / 15, 1.0 / 15);
-    }
-    {
-      QPainter on(&whole);
-      on.fillRect(kCanvas, form.backColor().toQColor());
-      for (const Element* element : form.children())
-        if (element->isVisible())
-          painter.paintElement(on, *element, *pixelRect(*element, QPointF(), PixelScale()));
-    }
+    QPainter onCulled(&culled);
+    painter.paint(onCulled, form, kCanvas, 1.0 / 15, 1.0 / 15);
+    QPainter onWhole(&whole);
+    onWhole.fillRect(kCanvas, form.backColor().toQColor());
+    for (const Element* element : form.children())
+      if (element->isVisible())
+        painter.paintElement(onWhole, *element, *pixelRect(*element, QPointF(), PixelScale()));
+    onCulled.end();
+    onWhole.end();
     // Where a gradient is steep, a piece falls on another step of its colours.
     EXPECT_LE(test::largestDifference(culled, whole), 8) << round;
   }
