@@ -15,8 +15,8 @@ namespace {
 
 struct ButtonTest : testing::Test {
   ButtonTest() {
-    test::writePicture(folder.filePath(u"face.bmp"_qs), 4, 4, Qt::red);
-    test::writePicture(folder.filePath(u"face.ico"_qs), 16, 16, Qt::red);
+    test::writePicture(folder.filePath("face.bmp"), 4, 4, Qt::red);
+    test::writePicture(folder.filePath("face.ico"), 16, 16, Qt::red);
   }
   Picture picture(const char* name) { return pictures.load(folder.filePath(QString::fromLatin1(name))); }
 
@@ -32,8 +32,6 @@ TEST_F(ButtonTest, ACustomShapeNeedsAPictureThatIsNoIcon) {
   button.setButtonShape(3);
   button.setButtonShape(7);
   EXPECT_EQ(button.buttonShape(), 3) << "there is no picture";
-  EXPECT_EQ(button.refusal(Property::ButtonShape, 7),
-            u"The Picture Property must be assigned first and must be a bitmap or JPEG.");
   button.setPicture(picture("face.ico"));
   button.setButtonShape(8);
   EXPECT_EQ(button.buttonShape(), 3) << "an icon gives no outline";
@@ -61,17 +59,6 @@ TEST_F(ButtonTest, ACustomShapeFixesThePictureSize) {
   button.setButtonShape(7);
   button.setPictureSize(PictureSize::Stretched);
   EXPECT_EQ(button.pictureSize(), PictureSize::Side24);
-  EXPECT_EQ(button.refusal(Property::PictureSize, 3),
-            u"The picture size cannot be changed for Shaped buttons");
-}
-
-TEST_F(ButtonTest, AnIconMakesACustomShapeRectangular) {
-  button.setPicture(picture("face.bmp"));
-  button.setButtonShape(7);
-  EXPECT_TRUE(button.refusal(Property::Picture, picture("face.ico")).startsWith(u"Icons cannot be used"));
-  button.setPicture(picture("face.ico"));
-  EXPECT_EQ(button.buttonShape(), 0);
-  EXPECT_TRUE(button.picture().isIcon());
 }
 
 TEST_F(ButtonTest, RefusalsThatHangOnAnotherProperty) {

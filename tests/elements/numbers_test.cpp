@@ -100,6 +100,7 @@ TEST(Numbers, OutOfRangeIsNoNumber) {
   EXPECT_EQ(leadingSingle(u"3.402823E+38"), 3.402823E+38f);
   EXPECT_EQ(leadingWhole(u"2147483648"), 0);
   EXPECT_EQ(leadingWhole(u"-2147483648"), std::numeric_limits<std::int32_t>::min());
+  EXPECT_EQ(toWhole(2147483647.0), std::numeric_limits<std::int32_t>::max());
   EXPECT_EQ(toWhole(2147483647.5), std::nullopt);
   EXPECT_EQ(toWhole(std::nan("")), std::nullopt);
 }

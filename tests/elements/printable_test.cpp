@@ -28,12 +28,12 @@ TEST(Printable, LeavesNothingThatForgesALineOrSteersATerminal) {
 TEST(Printable, CutsAnExcerptBetweenCodePoints) {
   const QString notes = QStringLiteral("\U0001F3B5").repeated(70);
   EXPECT_EQ(excerpt(notes), notes.left(120));
-  EXPECT_EQ(excerpt(QStringLiteral("a\nbc"), 3).toStdString(), "a?b");
+  EXPECT_EQ(excerpt("a\nbc", 3).toStdString(), "a?b");
 }
 
 TEST(Printable, ShowsAThousandCharactersOfAnyText) {
-  const QString note = QStringLiteral("\U0001F3B5");
-  EXPECT_EQ(shownText(QStringLiteral("a\n") + note.repeated(998)), QStringLiteral("a?") + note.repeated(998));
+  const QString note = "\U0001F3B5";
+  EXPECT_EQ(shownText("a\n" + note.repeated(998)), "a?" + note.repeated(998));
   const QString cut = note.repeated(999) + QChar(0x2026);
   EXPECT_EQ(shownText(note.repeated(1001)), cut);
   EXPECT_EQ(shownText(note.repeated(1'000'000)), cut);

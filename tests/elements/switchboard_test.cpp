@@ -35,12 +35,12 @@ TEST_F(Board, HandlersComeBeforeViewsAndEachInTheOrderOfAttaching) {
                             window.onChange(label, Property::Caption, says("element")),
                             window.onChange(window.Label2, Property::Caption, says("family-again")),
                             window.onChange(label, Property::Left, says("other-property"))};
-  label.setCaption(QStringLiteral("a"));
+  label.setCaption("a");
   EXPECT_EQ(told(), "family element family-again view own-view");
-  window.Label2[0].setCaption(QStringLiteral("b"));
+  window.Label2[0].setCaption("b");
   EXPECT_EQ(told(), "family family-again view");
   const ViewsOnly quiet(window);
-  label.setCaption(QStringLiteral("c"));
+  label.setCaption("c");
   EXPECT_EQ(told(), "view own-view");
 }
 
@@ -71,7 +71,7 @@ TEST_F(Board, AClickReachesElementFamilyAndWindowInTheOrderOfAttaching) {
 TEST_F(Board, AListenerEndsWithItsAttachmentEvenInTheMiddleOfANotice) {
   Attachment second;
   Attachment first = window.onChange(*window.Label1, Property::Left, [&](Element&) {
-    heard.append(QStringLiteral("first"));
+    heard.append("first");
     first.reset();
     second.reset();
   });
@@ -82,7 +82,7 @@ TEST_F(Board, AListenerEndsWithItsAttachmentEvenInTheMiddleOfANotice) {
 }
 
 TEST_F(Board, TheRecorderHearsOfAllThatIsStored) {
-  window.Combo1->setRows({QStringLiteral("a"), QStringLiteral("b")});
+  window.Combo1->setRows({"a", "b"});
   Element& box = *window.Picture1;
   for (Element* button : window.Button1.members()) button->setContainer(box);
   const auto place = [](const Change& c) { return QString(propertyName(c.property)); };
@@ -94,7 +94,7 @@ TEST_F(Board, TheRecorderHearsOfAllThatIsStored) {
   });
   window.Combo1->select(1);
   EXPECT_EQ(told(), "ListIndex=-1 Text=") << "the text that a row brings is told nobody else";
-  window.Combo1->setText(QStringLiteral("a"));
+  window.Combo1->setText("a");
   EXPECT_EQ(told(), "Text=b ListIndex=1");
   window.Combo1->setRows({});
   EXPECT_EQ(told(), "ListIndex=0 Text=a List=");

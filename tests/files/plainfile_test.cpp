@@ -18,7 +18,7 @@ using Outcome = FileContent::Outcome;
 class PlainFile : public testing::Test {
 protected:
   PlainFile() {
-    QDir(root.path()).mkpath(QStringLiteral("Skin/images"));
+    QDir(root.path()).mkpath("Skin/images");
     test::writeBytes(at("Skin/a.ini"), "plain");
     test::writeBytes(at("secret"), "secret");
   }
@@ -50,7 +50,7 @@ TEST_F(PlainFile, IsReadWholeUpToItsBound) {
 TEST_F(PlainFile, EverythingElseUnderItsNameIsRefused) {
   ASSERT_EQ(::mkfifo(QFile::encodeName(at("Skin/pipe")).constData(), 0600), 0);
   QFile::link(at("Skin/pipe"), at("Skin/to-pipe"));
-  QFile::link(QStringLiteral("/dev/zero"), at("Skin/device"));
+  QFile::link("/dev/zero", at("Skin/device"));
   for (const char* name : {"Skin/pipe", "Skin/to-pipe", "Skin/device", "Skin/images"}) {
     EXPECT_EQ(reason(inside(name)), "there is something under this name that is no file") << name;
     EXPECT_TRUE(headOfFile(at(name), 8).isEmpty()) << name;
@@ -64,7 +64,7 @@ TEST_F(PlainFile, EverythingElseUnderItsNameIsRefused) {
 // Such a file is a plain one to the system, tells a size of 0 and goes on for gigabytes, eight bytes at a
 // time.
 TEST_F(PlainFile, AFileWithoutEndIsReadNoFurtherThanItsBound) {
-  const QString endless = QStringLiteral("/proc/self/pagemap");
+  const QString endless = "/proc/self/pagemap";
   if (headOfFile(endless, 8).isEmpty()) GTEST_SKIP() << "this system has none";
   EXPECT_EQ(reason(readPlainFile(endless, 99'999)), "the file is too large");
   EXPECT_EQ(headOfFile(endless, 64).size(), 64);
@@ -81,7 +81,7 @@ TEST_F(PlainFile, OnlyWhatLiesInTheFolderIsReadFromIt) {
   EXPECT_EQ(inside("Skin/up/Skin/a.ini").bytes, "plain");
   QFile::link(at("Skin"), at("Linked"));
   EXPECT_EQ(readFileInside(at("Linked"), at("Linked/a.ini"), 100).bytes, "plain");
-  QDir(root.path()).mkpath(QStringLiteral("Skin2"));
+  QDir(root.path()).mkpath("Skin2");
   test::writeBytes(at("Skin2/a.ini"), "other");
   EXPECT_EQ(inside("Skin2/a.ini").outcome, Outcome::Refused) << "a name alike is no folder inside";
 }

@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMap>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <functional>
@@ -17,26 +16,22 @@
 
 #include "files/plainfile.h"
 #include "support/failingdisk.h"
+#include "support/files.h"
 
 namespace veneerer {
 namespace {
 
+using test::Files;
+
 class Replace : public testing::Test {
 protected:
-  QString path(const char* name) const { return folder.path() + u'/' + QString::fromLatin1(name); }
-  void write(const char* name, const QByteArray& bytes) const {
-    QFile file(path(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
+  QString path(const QString& name) const { return folder.filePath(name); }
+  void writeOld() const {
+    write("a", "old a");
+    write("b", "old b");
   }
-  QMap<QString, QByteArray> contents() const {
-    QMap<QString, QByteArray> files;
-    for (const QString& name : QDir(folder.path()).entryList(QDir::Files | QDir::Hidden)) {
-      QFile file(folder.path() + u'/' + name);
-      if (file.open(QIODevice::ReadOnly)) files.insert(name, file.readAll());
-    }
-    return files;
-  }
+  void write(const char* name, const QByteArray& bytes) const { test::writeBytes(path(name), bytes); }
+  Files contents() const { return test::filesBelow(folder.path()); }
   /// Why a file of that name can't be written, empty when it can.
   QString refusal(const QString& name) {
     const FileReplacement replacement(disk, folder.path(), {{name, "new"}});
@@ -44,18 +39,15 @@ protected:
     EXPECT_EQ(replacement.refusal()->name, name);
     return replacement.refusal()->reason;
   }
-  QString refusal(const char* name) { return refusal(QString::fromLatin1(name)); }
   void replace() {
-    FileReplacement replacement(
-        disk, folder.path(),
-        {{QStringLiteral("a"), "new a"}, {QStringLiteral("b"), "new b"}, {QStringLiteral("c"), "new c"}});
+    FileReplacement replacement(disk, folder.path(), {{"a", "new a"}, {"b", "new b"}, {"c", "new c"}});
     ASSERT_FALSE(replacement.refusal());
     replacement.run();
   }
-  static bool isOldOrNew(const QMap<QString, QByteArray>& files) {
-    return (files[QStringLiteral("a")] == "old a" || files[QStringLiteral("a")] == "new a") &&
-           (files[QStringLiteral("b")] == "old b" || files[QStringLiteral("b")] == "new b") &&
-           (!files.contains(QStringLiteral("c")) || files[QStringLiteral("c")] == "new c");
+  static bool isOldOrNew(const Files& files) {
+    return (files["a"] == "old a" || files["a"] == "new a") &&
+           (files["b"] == "old b" || files["b"] == "new b") &&
+           (!files.contains("c") || files["c"] == "new c");
   }
 
   test::FailingDisk disk;
@@ -63,28 +55,25 @@ protected:
 };
 
 TEST_F(Replace, LeavesEachFileWholeWhateverFails) {
-  write("a", "old a");
-  write("b", "old b");
+  writeOld();
   replace();
   const int operations = disk.operations;
   ASSERT_EQ(operations, 6);
   for (int at = 1; at <= operations; ++at) {
     QFile::remove(path("c"));
-    write("a", "old a");
-    write("b", "old b");
+    writeOld();
     disk.failAt(at);
     EXPECT_THROW(replace(), ReplaceError) << at;
     const auto files = contents();
     EXPECT_TRUE(isOldOrNew(files)) << at;
     // Up to the third operation nothing is in place; nothing that stood beside is left.
-    EXPECT_EQ(files.value(QStringLiteral("a")), at <= 4 ? "old a" : "new a") << at;
+    EXPECT_EQ(files.value("a"), at <= 4 ? "old a" : "new a") << at;
     EXPECT_LE(files.size(), 3) << at;
   }
 }
 
 TEST_F(Replace, SurvivesBeingKilledAndClearsUpTheNextTime) {
-  write("a", "old a");
-  write("b", "old b");
+  writeOld();
   disk.killAt(5);
   EXPECT_THROW(replace(), ReplaceError);
   EXPECT_TRUE(isOldOrNew(contents()));
@@ -94,57 +83,59 @@ TEST_F(Replace, SurvivesBeingKilledAndClearsUpTheNextTime) {
   ASSERT_FALSE(left.isEmpty());
   // As if another process had left it, which is no more.
   QString foreign = left;
-  foreign.replace(QString::number(::getpid()) + u'-', QStringLiteral("999999999-"));
+  foreign.replace(QString::number(::getpid()) + u'-', "999999999-");
   ASSERT_TRUE(isLeftOver(foreign));
   QFile::rename(folder.path() + u'/' + left, folder.path() + u'/' + foreign);
   disk.failAt(0);
   replace();
   EXPECT_FALSE(contents().contains(foreign));
-  EXPECT_EQ(contents().value(QStringLiteral("c")), "new c");
+  EXPECT_EQ(contents().value("c"), "new c");
 }
 
 TEST_F(Replace, KeepsPermissionsAndReplacesHardLinks) {
-  write("a", "old a");
-  write("b", "old b");
+  writeOld();
   QFile::setPermissions(path("a"), QFile::ReadOwner | QFile::WriteOwner);
   ASSERT_EQ(::link(QFile::encodeName(path("b")).constData(), QFile::encodeName(path("twin")).constData()), 0);
   replace();
   EXPECT_EQ(QFile::permissions(path("a")) & 0x0077, QFile::Permissions());
-  EXPECT_EQ(contents().value(QStringLiteral("twin")), "old b");
-  EXPECT_EQ(contents().value(QStringLiteral("b")), "new b");
+  EXPECT_EQ(contents().value("twin"), "old b");
+  EXPECT_EQ(contents().value("b"), "new b");
 }
 
 TEST_F(Replace, FollowsLinksInsideTheFolderOnly) {
   QTemporaryDir elsewhere;
-  QFile outside(elsewhere.path() + QStringLiteral("/x"));
+  QFile outside(elsewhere.path() + "/x");
   ASSERT_TRUE(outside.open(QIODevice::WriteOnly));
   outside.close();
   write("a", "old a");
-  QFile::link(QStringLiteral("a"), path("inner"));
+  QFile::link("a", path("inner"));
   QFile::link(outside.fileName(), path("outer"));
-  QFile::link(QStringLiteral("nothing"), path("dangling"));
-  QDir(folder.path()).mkdir(QStringLiteral("sub"));
+  QFile::link("nothing", path("dangling"));
+  QDir(folder.path()).mkdir("sub");
   ASSERT_EQ(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
   EXPECT_EQ(refusal("inner"), QString());
-  for (const char* name : {"outer", "dangling", "sub", "pipe"}) EXPECT_NE(refusal(name), QString()) << name;
+  EXPECT_TRUE(refusal("outer").contains("outside the folder"));
+  EXPECT_EQ(refusal("dangling"), "the file is a link that leads nowhere");
+  for (const char* name : {"sub", "pipe"})
+    EXPECT_EQ(refusal(name), "there is something under this name that is no file");
 
-  FileReplacement(disk, folder.path(), {{QStringLiteral("inner"), "new"}}).run();
+  FileReplacement(disk, folder.path(), {{"inner", "new"}}).run();
   EXPECT_TRUE(QFileInfo(path("inner")).isSymLink());
-  EXPECT_EQ(contents().value(QStringLiteral("a")), "new");
+  EXPECT_EQ(contents().value("a"), "new");
 }
 
 TEST_F(Replace, WritesInPlaceWhereTheFolderTakesNoNewFiles) {
   write("a", "old a, which is longer");
   disk.isFolderOpen = false;
   EXPECT_EQ(refusal("c"), u"the folder takes no new files");
-  FileReplacement(disk, folder.path(), {{QStringLiteral("a"), "new a"}}).run();
-  EXPECT_EQ(contents(), (QMap<QString, QByteArray>{{QStringLiteral("a"), "new a"}}));
+  FileReplacement(disk, folder.path(), {{"a", "new a"}}).run();
+  EXPECT_EQ(contents(), (Files{{"a", "new a"}}));
   EXPECT_EQ(disk.operations, 1);
 }
 
 TEST_F(Replace, TellsAFolderThatIsGone) {
-  const QString gone = folder.path() + QStringLiteral("/gone");
-  const FileReplacement replacement(disk, gone, {{QStringLiteral("a"), {}}});
+  const QString gone = folder.path() + "/gone";
+  const FileReplacement replacement(disk, gone, {{"a", {}}});
   ASSERT_TRUE(replacement.refusal());
   EXPECT_TRUE(replacement.refusal()->reason.contains(gone));
   EXPECT_NE(refusal("gone/a"), QString());
@@ -154,22 +145,21 @@ TEST_F(Replace, TellsAFolderThatIsGone) {
 
 TEST_F(Replace, GoesBelowItsFolderAndNeverOutOfIt) {
   QTemporaryDir elsewhere;
-  QDir(folder.path()).mkdir(QStringLiteral("sub"));
+  QDir(folder.path()).mkdir("sub");
   QFile::link(elsewhere.path(), path("out"));
   QFile::link(path("sub"), path("in"));
   for (const char* name : {"out/new", "../new", "sub/../../new"})
-    EXPECT_TRUE(refusal(name).contains(QStringLiteral("outside"))) << name;
-  EXPECT_NE(refusal(elsewhere.filePath(QStringLiteral("new"))), QString());
-  FileReplacement(disk, folder.path(), {{QStringLiteral("in/x"), "x"}, {path("sub/y"), "y"}}).run();
-  EXPECT_EQ(QDir(path("sub")).entryList(QDir::Files | QDir::Hidden),
-            (QStringList{QStringLiteral("x"), QStringLiteral("y")}));
+    EXPECT_TRUE(refusal(name).contains("outside")) << name;
+  EXPECT_NE(refusal(elsewhere.filePath("new")), QString());
+  FileReplacement(disk, folder.path(), {{"in/x", "x"}, {path("sub/y"), "y"}}).run();
+  EXPECT_EQ(QDir(path("sub")).entryList(QDir::Files | QDir::Hidden), (QStringList{"x", "y"}));
 }
 
 TEST_F(Replace, TakesEveryNameThatAFileCanHave) {
   EXPECT_EQ(refusal(QString(256, u'x')), u"the name is too long for a file");
   EXPECT_NE(refusal(QString(128, u'\u00e9')), QString()) << "bytes count, not characters";
-  for (const QString& name : {QString(255, u'x'), QString(127, u'\u00e9'), QStringLiteral("%1 %2 %3.cov"),
-                              QStringLiteral("a\nb")}) {
+  for (const QString& name :
+       QStringList{QString(255, 'x'), QString(127, u'\u00e9'), "%1 %2 %3.cov", "a\nb"}) {
     FileReplacement(disk, folder.path(), {{name, "new"}}).run();
     EXPECT_EQ(contents().value(name), "new");
     disk.killAt(2);
@@ -194,7 +184,7 @@ TEST_F(Replace, WritesInPlaceWhatAStrangerMayWriteAndNotReplace) {
   if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can become another user";
   const auto mode = [&](const QString& of, mode_t bits) { ::chmod(QFile::encodeName(of).constData(), bits); };
   const auto writeA = [&](const char* bytes) {
-    FileReplacement replacement(disk, folder.path(), {{QStringLiteral("a"), bytes}});
+    FileReplacement replacement(disk, folder.path(), {{"a", bytes}});
     if (replacement.refusal()) return false;
     replacement.run();
     return true;
@@ -204,11 +194,11 @@ TEST_F(Replace, WritesInPlaceWhatAStrangerMayWriteAndNotReplace) {
     mode(folder.path(), closed);
     mode(path("a"), 0666);
     EXPECT_TRUE(asStranger([&] { return writeA("new"); })) << closed;
-    EXPECT_EQ(contents().value(QStringLiteral("a")), "new");
+    EXPECT_EQ(contents().value("a"), "new");
     write("a", "old a");
     mode(path("a"), 0644);
     EXPECT_FALSE(asStranger([&] { return writeA("never"); })) << closed;
-    EXPECT_EQ(contents().value(QStringLiteral("a")), "old a");
+    EXPECT_EQ(contents().value("a"), "old a");
   }
 }
 
@@ -216,10 +206,7 @@ TEST_F(Replace, WritesInPlaceWhatAStrangerMayWriteAndNotReplace) {
 void saveOften(const QString& folder, char letter, qsizetype size) {
   Disk disk;
   for (int i = 0; i < 150; ++i)
-    FileReplacement(
-        disk, folder,
-        {{QStringLiteral("a"), QByteArray(size, letter)}, {QStringLiteral("b"), QByteArray(size, letter)}})
-        .run();
+    FileReplacement(disk, folder, {{"a", QByteArray(size, letter)}, {"b", QByteArray(size, letter)}}).run();
 }
 
 TEST_F(Replace, TwoProcessesThatSaveAndOneThatReadsNeverMeetHalfAFile) {
@@ -244,7 +231,7 @@ TEST_F(Replace, TwoProcessesThatSaveAndOneThatReadsNeverMeetHalfAFile) {
     }
   saver.join();
   EXPECT_EQ(status, 0);
-  EXPECT_EQ(contents().keys(), (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
+  EXPECT_EQ(contents().keys(), (QStringList{"a", "b"}));
 }
 
 }  // namespace

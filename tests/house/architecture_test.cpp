@@ -2,11 +2,11 @@
 // the includes of the sources must tell the same.
 #include <gtest/gtest.h>
 
-#include <QDirIterator>
-#include <QFile>
 #include <QMap>
 #include <QRegularExpression>
 #include <QSet>
+
+#include "support/files.h"
 
 namespace veneerer::test {
 namespace {
@@ -16,16 +16,19 @@ using Links = QMap<QString, QSet<QString>>;
 const QString kRoot = QStringLiteral(VENEERER_SOURCE_DIR "/");
 
 QString text(const QString& name) {
-  QFile file(kRoot + name);
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-  return QString::fromUtf8(file.readAll());
+  return bytesOf(kRoot + name);
+}
+
+/// By their path below src.
+Files sources() {
+  return filesBelow(kRoot + "src", {"*.h", "*.cpp"});
 }
 
 Links linksOfTheBuild() {
   static const QRegularExpression library(QStringLiteral(R"(veneerer_library\(([a-z]+) ([^)]*)\))"));
-  static const QRegularExpression part(QStringLiteral("veneerer_([a-z]+)"));
+  static const QRegularExpression part("veneerer_([a-z]+)");
   Links links;
-  for (const auto& found : library.globalMatch(text(QStringLiteral("src/CMakeLists.txt"))))
+  for (const auto& found : library.globalMatch(text("src/CMakeLists.txt")))
     for (const auto& name : part.globalMatch(found.captured(2)))
       links[found.captured(1)].insert(name.captured(1));
   return links;
@@ -35,7 +38,7 @@ Links linksOfTheDrawing() {
   static const QRegularExpression arrow(QStringLiteral(R"(^ *([a-z]+) --> ([a-z]+)$)"),
                                         QRegularExpression::MultilineOption);
   Links links;
-  for (const auto& found : arrow.globalMatch(text(QStringLiteral("docs/architecture.md"))))
+  for (const auto& found : arrow.globalMatch(text("docs/architecture.md")))
     links[found.captured(1)].insert(found.captured(2));
   return links;
 }
@@ -57,18 +60,16 @@ TEST(Architecture, IsWhatTheIncludesFollow) {
   static const QRegularExpression include(QStringLiteral(R"(^#include "([a-z]+)/)"),
                                           QRegularExpression::MultilineOption);
   const Links links = linksOfTheBuild();
-  QDirIterator files(kRoot + QStringLiteral("src"), {QStringLiteral("*.h"), QStringLiteral("*.cpp")},
-                     QDir::Files, QDirIterator::Subdirectories);
   int includes = 0;
-  while (files.hasNext()) {
-    const QString name = files.next().mid(kRoot.size());
-    const QString folder = name.section(u'/', 1, 1);
+  const Files files = sources();
+  for (auto file = files.begin(); file != files.end(); ++file) {
+    const QString folder = file.key().section('/', 0, 0);
     if (!links.contains(folder) && folder != u"files") continue;
     QSet<QString> reachable;
     addReachable(links, folder, reachable);
-    for (const auto& found : include.globalMatch(text(name))) {
+    for (const auto& found : include.globalMatch(*file)) {
       EXPECT_TRUE(reachable.contains(found.captured(1)))
-          << name.toStdString() << " includes from " << found.captured(1).toStdString();
+          << file.key().toStdString() << " includes from " << found.captured(1).toStdString();
       ++includes;
     }
   }
@@ -80,25 +81,19 @@ TEST(Architecture, ChangesTheDiskInOnePlace) {
   static const QRegularExpression change(QStringLiteral(
       R"(QSaveFile|QTemporaryFile|QImageWriter|ofstream|fopen|mk(path|dir)|rm(path|dir)|removeRecursively)"
       R"(|QFile::(remove|rename|copy|link|set|moveTo)|WriteOnly|ReadWrite|std::(rename|filesystem))"));
-  QDirIterator files(kRoot + QStringLiteral("src"), {QStringLiteral("*.h"), QStringLiteral("*.cpp")},
-                     QDir::Files, QDirIterator::Subdirectories);
   QStringList found;
-  while (files.hasNext()) {
-    const QString name = files.next().mid(kRoot.size());
-    if (change.match(text(name)).hasMatch()) found << name;
-  }
-  found.sort();
+  const Files files = sources();
+  for (auto file = files.begin(); file != files.end(); ++file)
+    if (change.match(*file).hasMatch()) found << file.key();
   // The second one writes into memory.
-  EXPECT_EQ(found, (QStringList{QStringLiteral("src/files/disk.cpp"),
-                                QStringLiteral("src/images/pictureencoding.cpp")}));
+  EXPECT_EQ(found, (QStringList{"files/disk.cpp", "images/pictureencoding.cpp"}));
 }
 
 TEST(Architecture, LetsOnlyTheWindowsKnowWidgets) {
   static const QRegularExpression library(QStringLiteral(R"(veneerer_library\(([a-z]+) [^)]*Qt6::Widgets)"));
   QStringList found;
-  for (const auto& match : library.globalMatch(text(QStringLiteral("src/CMakeLists.txt"))))
-    found << match.captured(1);
-  EXPECT_EQ(found, QStringList{QStringLiteral("ui")});
+  for (const auto& match : library.globalMatch(text("src/CMakeLists.txt"))) found << match.captured(1);
+  EXPECT_EQ(found, QStringList{"ui"});
 }
 
 }  // namespace

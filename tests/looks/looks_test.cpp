@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
-#include <QDirIterator>
 #include <QImageReader>
 #include <QTemporaryDir>
 
@@ -11,20 +10,10 @@
 #include "looks/gifwriter.h"
 #include "looks/skinbuilder.h"
 #include "support/designchecks.h"
+#include "support/files.h"
 
 namespace veneerer::looks {
 namespace {
-
-QMap<QString, QByteArray> filesIn(const QString& folder, const QStringList& patterns) {
-  QMap<QString, QByteArray> files;
-  QDirIterator it(folder, patterns, QDir::Files, QDirIterator::Subdirectories);
-  while (it.hasNext()) {
-    QFile file(it.next());
-    if (file.open(QIODevice::ReadOnly))
-      files.insert(QDir(folder).relativeFilePath(file.fileName()), file.readAll());
-  }
-  return files;
-}
 
 // Enough colours and turns to fill the code table more than once.
 QImage noise(int seed) {
@@ -63,9 +52,9 @@ TEST(Skins, ComeOutTheSameTwice) {
   Disk disk;
   buildSkin(first.path(), blackAndBlueLook(), disk);
   buildSkin(second.path(), blackAndBlueLook(), disk);
-  const auto files = filesIn(first.path(), {});
+  const test::Files files = test::filesBelow(first.path());
   EXPECT_GT(files.size(), 60);
-  EXPECT_EQ(files, filesIn(second.path(), {}));
+  EXPECT_EQ(files, test::filesBelow(second.path()));
 }
 
 TEST(Skins, AreThoseThatComeWithTheProgram) {
@@ -74,9 +63,9 @@ TEST(Skins, AreThoseThatComeWithTheProgram) {
   for (const Look& look : {blackAndBlueLook(), copperLoungeLook(), daylightWideLook()})
     buildSkin(made.path(), look, disk);
   // Compressed pictures may differ with the library that writes them; the records may not.
-  const QStringList records{QStringLiteral("*.ini"), QStringLiteral("*.cov")};
-  const auto shipped = filesIn(QStringLiteral(VENEERER_SOURCE_DIR "/Skins"), records);
-  const auto fresh = filesIn(made.path() + QStringLiteral("/Skins"), records);
+  const QStringList records{"*.ini", "*.cov"};
+  const auto shipped = test::filesBelow(QStringLiteral(VENEERER_SOURCE_DIR "/Skins"), records);
+  const auto fresh = test::filesBelow(made.path() + "/Skins", records);
   EXPECT_TRUE(shipped.keys() == fresh.keys());
   for (const QString& name : fresh.keys())
     EXPECT_EQ(shipped.value(name), fresh.value(name)) << name.toStdString();
@@ -101,7 +90,7 @@ protected:
 TEST_P(EveryLook, KeepsEverythingInsideAndWhole) {
   EXPECT_EQ(test::failing(state.form1, test::keepsInside), "");
   EXPECT_EQ(test::failing(state.form1, test::showsWholeText), "");
-  EXPECT_EQ(test::overlaps(state.form1, {QStringLiteral("Label20+Label59")}), "");
+  EXPECT_EQ(test::overlaps(state.form1, {"Label20+Label59"}), "");
 }
 
 // The colours that a text may stand on, one after the other.

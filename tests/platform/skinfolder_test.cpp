@@ -19,7 +19,7 @@ struct SkinFolderTest : testing::Test {
       test::writeBytes(at(name), "x");
   }
   QString at(const char* relative) { return root.filePath(QString::fromLatin1(relative)); }
-  SkinFolder blue() { return SkinFolder(ProgramFolder{root.path()}, QStringLiteral("Blue")); }
+  SkinFolder blue() { return SkinFolder(ProgramFolder{root.path()}, "Blue"); }
   QString resolve(const char* reference) { return blue().resolve(QString::fromLatin1(reference)); }
 
   QTemporaryDir root;
@@ -48,7 +48,7 @@ TEST_F(SkinFolderTest, OnlyAPlainFileIsFound) {
 }
 
 TEST_F(SkinFolderTest, AnEndlessReferenceLeadsNowhere) {
-  const QString name = QStringLiteral("\\images\\Menu.bmp");
+  const QString name = "\\images\\Menu.bmp";
   for (const char* detour : {"\\.", "\\IMAGES\\.."}) {
     const QString way = QString::fromLatin1(detour);
     const qsizetype most = (kLongestReference - name.size()) / way.size();
@@ -100,8 +100,8 @@ TEST_F(SkinFolderTest, ContainsWhatLiesInsideWithLinksResolved) {
 TEST_F(SkinFolderTest, TheFolderOfSkinsUnderEitherName) {
   const ProgramFolder program{root.path()};
   QDir().mkpath(at("Skins/amber"));
-  EXPECT_EQ(SkinsRoot(program).skins(), (QStringList{u"amber"_qs, u"Blue"_qs}));
-  ASSERT_TRUE(QDir(root.path()).rename(u"Skins"_qs, u"skins"_qs));
+  EXPECT_EQ(SkinsRoot(program).skins(), (QStringList{"amber", "Blue"}));
+  ASSERT_TRUE(QDir(root.path()).rename("Skins", "skins"));
   EXPECT_EQ(SkinsRoot(program).path(), at("skins"));
   EXPECT_TRUE(blue().exists());
 }
@@ -109,13 +109,13 @@ TEST_F(SkinFolderTest, TheFolderOfSkinsUnderEitherName) {
 TEST_F(SkinFolderTest, CoverFilesByNameWithoutRegardToCase) {
   for (const char* name : {"Skins/Blue/b.cov", "Skins/Blue/A.COV", "Skins/Blue/c.cov.txt"})
     test::writeBytes(at(name), "x");
-  EXPECT_EQ(blue().coverFiles(), (QStringList{u"A.COV"_qs, u"b.cov"_qs}));
+  EXPECT_EQ(blue().coverFiles(), (QStringList{"A.COV", "b.cov"}));
 }
 
 TEST(BareFileName, EitherSlashSeparates) {
-  EXPECT_EQ(bareFileName(u"/skins/a\\b.bmp"_qs), u"b.bmp");
-  EXPECT_EQ(bareFileName(u"C:\\skins\\x/b.bmp"_qs), u"b.bmp");
-  EXPECT_EQ(bareFileName(u"b.bmp"_qs), u"b.bmp");
+  EXPECT_EQ(bareFileName("/skins/a\\b.bmp"), u"b.bmp");
+  EXPECT_EQ(bareFileName("C:\\skins\\x/b.bmp"), u"b.bmp");
+  EXPECT_EQ(bareFileName("b.bmp"), u"b.bmp");
 }
 
 TEST(PixelsToTwips, EachDirectionHasItsResolution) {

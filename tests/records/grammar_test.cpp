@@ -66,9 +66,9 @@ TEST(RecordWriter, KeepsTheSignColumnAndTheTrailingBlank) {
   out.writeSingle(0.5f);
   out.writeSingle(-0.25f);
   out.writeSingle(1.234567e-2f);
-  out.writeText(QStringLiteral("caf\u00e9 \u20ac \u4e2d"));
+  out.writeText("caf\u00e9 \u20ac \u4e2d");
   out.writeText(QString());
-  out.writeStored(StoredValue(QStringLiteral("\\images\\a.bmp")));
+  out.writeStored(StoredValue("\\images\\a.bmp"));
   out.writeStored(StoredValue(7.0));
   out.writeStored(StoredValue());
   EXPECT_EQ(out.bytes(),
