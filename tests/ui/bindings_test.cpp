@@ -10,12 +10,6 @@ namespace {
 
 class Bindings : public test::UiFixture {
 protected:
-  /// Counts the changes of one property of an element from here on.
-  void count(Element& element, Property property) {
-    watching = state().board.watch([this, &element, property](const Change& change) {
-      if (&change.element == &element && change.property == property) ++changes;
-    });
-  }
   /// The wheel over a control, as the screen tells its window; -1 is one step down.
   static void turnWheel(QWidget& over, int steps) {
     QWidget& window = *over.window();
@@ -29,9 +23,6 @@ protected:
     field.selectAll();
     QTest::keyClicks(&field, QString::fromLatin1(text));
   }
-
-  int changes = 0;
-  Attachment watching;
 };
 
 TEST_F(Bindings, TypingInAFieldActsOnTheElementInHand) {
@@ -46,17 +37,19 @@ TEST_F(Bindings, TypingInAFieldActsOnTheElementInHand) {
 
 TEST_F(Bindings, AFieldFollowsItsElementAndKeepsTheCursor) {
   auto& field = widget<QLineEdit>("Form4.Text2");
-  form4().Text2->setText(QStringLiteral("<b>one</b>.cov"));
+  form4().Text2->setText("<b>one</b>.cov");
   EXPECT_EQ(field.text().toStdString(), "<b>one</b>.cov");
   field.setCursorPosition(3);
-  QTest::keyClicks(&field, QStringLiteral("xy"));
+  QTest::keyClicks(&field, "xy");
   EXPECT_EQ(form4().Text2->text().toStdString(), "<b>xyone</b>.cov");
   EXPECT_EQ(field.cursorPosition(), 5);
 }
 
 TEST_F(Bindings, ChoosingAComboRowCountsEvenWhenItIsTheSame) {
   auto& combo = widget<QComboBox>("Form4.Combo10");
-  count(*form4().Combo10, Property::ListIndex);
+  int changes = 0;
+  const Attachment watching =
+      state().board.onChange(*form4().Combo10, Property::ListIndex, [&](Element&) { ++changes; });
   combo.setFocus();
   QTest::keyClick(&combo, Qt::Key_End);
   EXPECT_EQ(form4().Combo10->listIndex(), 3);
@@ -71,18 +64,17 @@ TEST_F(Bindings, ACombosRowsAndTextFollow) {
   auto& covers = widget<QComboBox>("Form4.Combo4");
   QTest::mouseClick(&widget<QCheckBox>("Form4.Check1"), Qt::LeftButton, {}, QPoint(8, 8));
   EXPECT_EQ(covers.count(), 50);
-  form4().Combo4->setText(QStringLiteral("12"));
+  form4().Combo4->setText("12");
   EXPECT_EQ(covers.currentText().toStdString(), "12") << "a text that is no row";
-  QTest::keyClicks(covers.lineEdit(), QStringLiteral("3"));
+  QTest::keyClicks(covers.lineEdit(), "3");
   EXPECT_EQ(form4().Combo4->text().toStdString(), "123");
-  form4().Combo1->setText(QStringLiteral("many"));
+  form4().Combo1->setText("many");
   EXPECT_EQ(widget<QComboBox>("Form4.Combo1").currentIndex(), -1);
 }
 
 TEST_F(Bindings, ListsAndTheirTipsShowAStrangersTextsAsTheyStand) {
   auto& combo = widget<QComboBox>("Form4.Combo10");
-  for (const QString& text : {QStringLiteral("R&B"), QStringLiteral("<b>bold</b>  R&B"),
-                              QStringLiteral("a &lt; b"), QStringLiteral("&lt;i&gt; <i>")}) {
+  for (const char* text : {"R&B", "<b>bold</b>  R&B", "a &lt; b", "&lt;i&gt; <i>"}) {
     form4().Combo10->setText(text);
     QHelpEvent question(QEvent::ToolTip, QPoint(1, 1), combo.mapToGlobal(QPoint(1, 1)));
     QApplication::sendEvent(&combo, &question);
@@ -91,21 +83,20 @@ TEST_F(Bindings, ListsAndTheirTipsShowAStrangersTextsAsTheyStand) {
       tip.setHtml(QToolTip::text());
     else
       tip.setPlainText(QToolTip::text());
-    EXPECT_EQ(tip.toPlainText().toStdString(), text.toStdString());
+    EXPECT_EQ(tip.toPlainText().toStdString(), text);
   }
-  form4().File1->setRows({QStringLiteral("<b>R&B</b>\n\u202e.cov"), QString(2000, u'x')});
+  form4().File1->setRows({"<b>R&B</b>\n\u202e.cov", QString(2000, u'x')});
   const QAbstractItemModel* rows = widget<QListView>("Form4.File1").model();
   EXPECT_EQ(rows->index(0, 0).data().toString().toStdString(), "<b>R&B</b>??.cov");
   EXPECT_EQ(rows->index(1, 0).data().toString().size(), 1000);
 }
 
 TEST_F(Bindings, TheWheelChoosesNothingEvenInTheBoxWithTheKeys) {
-  form4().Combo3->setRows({QStringLiteral("R"), QStringLiteral("S"), QStringLiteral("T")});
-  form4().Combo3->setText(QStringLiteral("S"));
+  form4().Combo3->setRows({"R", "S", "T"});
+  form4().Combo3->setText("S");
   int choices = 0;
-  watching = state().board.watch([&](const Change& change) {
-    const bool isList = change.property == Property::ListIndex || change.property == Property::Text;
-    if (isList) ++choices;
+  const Attachment watching = state().board.watch([&](const Change& change) {
+    choices += change.property == Property::ListIndex || change.property == Property::Text;
   });
   int boxes = 0;
   for (const char* window : {"Form4", "Form5", "Form6"})
@@ -169,7 +160,7 @@ TEST_F(Bindings, AListChoosesByAClickAndByTheKeys) {
 
 TEST_F(Bindings, ADoubleClickOnACoverFileSparesTheQuestion) {
   auto& files = widget<QListView>("Form4.File1");
-  form4().File1->setRows({QStringLiteral("a.cov"), QStringLiteral("b.cov")});
+  form4().File1->setRows({"a.cov", "b.cov"});
   const QPoint second = files.visualRect(files.model()->index(1, 0)).center();
   world.dialogs.messages.clear();
   QTest::mouseClick(files.viewport(), Qt::LeftButton, {}, second);

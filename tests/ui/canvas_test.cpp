@@ -41,56 +41,43 @@ TEST_F(Canvas, AReleaseOutsideIsNoClick) {
   QTest::mousePress(&canvas(), Qt::LeftButton, {}, label);
   QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, label + QPoint(0, 300));
   EXPECT_EQ(state().globals.SectionNumber, 0);
-  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, label);
-  EXPECT_EQ(state().globals.SectionNumber, 38);
 }
 
 TEST_F(Canvas, ARightPressGivesAButtonItsPicture) {
-  test::writePicture(path(QStringLiteral("images/red.bmp")), 20, 20, Qt::red);
-  world.dialogs.files.enqueue(path(QStringLiteral("images/red.bmp")));
+  test::writePicture(path("images/red.bmp"), 20, 20, Qt::red);
+  world.dialogs.files.enqueue(path("images/red.bmp"));
   Button& button = form1().lvButtons_H1[0];
-  const QPoint at = middle(button);
-  QTest::mousePress(&canvas(), Qt::RightButton, {}, at);
-  QTest::mouseMove(&canvas(), at + QPoint(9, 9));
-  QTest::mouseRelease(&canvas(), Qt::RightButton, {}, at);
+  drag(middle(button), QPoint(9, 9), Qt::RightButton);
   EXPECT_FALSE(button.picture().isNull());
   EXPECT_EQ(state().globals.SectionNumber, 0);
 }
 
-TEST_F(Canvas, ShowsChangesAndOutlinesTheElementInHand) {
+TEST_F(Canvas, ShowsChangesAndOutlinesTheElementThatIsHeldOrInHand) {
   Label& label = form1().Label4[0];
   label.setOpaque(true);
   label.setBackColor(0x0000FF);
-  const QPoint corner = (windowRect(label).bottomRight() / 15).toPoint() - QPoint(4, 4);
-  EXPECT_EQ(pixel(corner), QColor(255, 0, 0));
-  const QPoint edge(corner.x(), qRound(windowRect(label).bottom() / 15));
-  const QColor before = pixel(edge);
-  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, corner);
-  QTest::qWait(1);
-  const QColor line = pixel(edge);
-  EXPECT_NE(line, before);
-  EXPECT_TRUE(line == Qt::white || line == Qt::black);
-}
-
-TEST_F(Canvas, OutlinesTheElementThatIsHeldAsLongAsItIsHeld) {
-  const Label& label = form1().Label4[0];
+  EXPECT_EQ(pixel((windowRect(label).bottomRight() / 15).toPoint() - QPoint(4, 4)), QColor(255, 0, 0));
   const QPoint edge(middle(label).x(), qRound(windowRect(label).bottom() / 15));
   const QColor before = pixel(edge);
+  const auto isOutlined = [&] {
+    QTest::qWait(1);
+    const QColor line = pixel(edge);
+    return line != before && (line == Qt::white || line == Qt::black);
+  };
   QTest::mousePress(&canvas(), Qt::LeftButton, {}, middle(label));
-  QTest::qWait(1);
-  const QColor line = pixel(edge);
-  EXPECT_TRUE(line != before && (line == Qt::white || line == Qt::black));
+  EXPECT_TRUE(isOutlined());
   QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, QPoint(1, 1));
-  QTest::qWait(1);
-  EXPECT_EQ(pixel(edge), before) << "let go elsewhere it isn't in hand";
+  EXPECT_FALSE(isOutlined()) << "let go elsewhere it isn't in hand";
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(label));
+  EXPECT_TRUE(isOutlined());
 }
 
 TEST_F(Canvas, ANoteOutlastsThePointerAndEndsWithTheNextPress) {
   auto* line = widget<QMainWindow>("Form1").statusBar()->findChild<QLabel*>();
   ASSERT_TRUE(line);
   const auto shown = [&] { return line->text().toStdString(); };
-  state().notes.say(QStringLiteral("One <b>refused</b>."));
-  state().notes.say(QStringLiteral("Two left."));
+  state().notes.say("One <b>refused</b>.");
+  state().notes.say("Two left.");
   EXPECT_EQ(shown(), "One <b>refused</b>.   Two left.");
   EXPECT_EQ(line->textFormat(), Qt::PlainText);
   EXPECT_EQ(QAccessible::queryAccessibleInterface(line)->text(QAccessible::Name).toStdString(),
@@ -99,16 +86,16 @@ TEST_F(Canvas, ANoteOutlastsThePointerAndEndsWithTheNextPress) {
   QTest::qWait(1);
   EXPECT_EQ(shown(), "One <b>refused</b>.   Two left.");
   QTest::mousePress(&canvas(), Qt::LeftButton, {}, middle(form1().Label4[0]));
-  EXPECT_TRUE(line->text().startsWith(QStringLiteral("Label4(0)"))) << shown();
+  EXPECT_TRUE(line->text().startsWith("Label4(0)")) << shown();
   QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, middle(form1().Label4[0]));
-  state().notes.say(QStringLiteral("Three."));
+  state().notes.say("Three.");
   EXPECT_EQ(shown(), "Three.");
   QTest::qWait(1);
   QTest::keyClick(&canvas(), Qt::Key_A);
   EXPECT_NE(shown(), "Three.");
 }
 
-TEST_F(Canvas, AButtonUnderThePointerShowsItsHoverColours) {
+TEST_F(Canvas, AButtonUnderThePointerShowsItsHoverColoursAndLooksPressedWhileItIsHeld) {
   Button& button = form1().lvButtons_H1[2];
   button.set(Property::HoverColorLocks, 0);
   button.set(Property::HoverBackColor, Colour(0x00FF00));
@@ -118,22 +105,15 @@ TEST_F(Canvas, AButtonUnderThePointerShowsItsHoverColours) {
   QTest::mouseMove(&canvas(), middle(form1().Label4[0]));
   const QColor plain = pixel(at);
   QTest::mouseMove(&canvas(), at);
-  EXPECT_NE(pixel(at), plain);
+  const QColor hovered = pixel(at);
+  EXPECT_NE(hovered, plain);
+  QTest::mousePress(&canvas(), Qt::LeftButton, {}, at);
+  EXPECT_LT(pixel(at).lightness(), hovered.lightness());
+  QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, at);
+  EXPECT_EQ(pixel(at), hovered);
   QEvent leave(QEvent::Leave);
   QApplication::sendEvent(&canvas(), &leave);
   EXPECT_EQ(pixel(at), plain);
-}
-
-TEST_F(Canvas, AHeldButtonLooksPressedUntilItIsReleased) {
-  Button& button = form1().lvButtons_H1[2];
-  const QPoint at = middle(button) + QPoint(0, 24);
-  QTest::mouseMove(&canvas(), at);
-  const QColor hovered = pixel(at);
-  QTest::mousePress(&canvas(), Qt::LeftButton, {}, at);
-  const QColor held = pixel(at);
-  EXPECT_LT(held.lightness(), hovered.lightness());
-  QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, at);
-  EXPECT_EQ(pixel(at), hovered);
 }
 
 TEST_F(Canvas, APressGoesThroughAFrameToItsCover) {
@@ -147,10 +127,7 @@ TEST_F(Canvas, APressGoesThroughAFrameToItsCover) {
   AnimatedFrame& frame = form1().ucAniGIF1[0];
   frame.setPicture(Picture::drawn(ring));
   const float left = form1().Image2[0].left();
-  const QPoint at = middle(frame);
-  QTest::mousePress(&canvas(), Qt::LeftButton, {}, at);
-  QTest::mouseMove(&canvas(), at + QPoint(3, 0));
-  QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, at + QPoint(3, 0));
+  drag(middle(frame), QPoint(3, 0));
   EXPECT_EQ(form1().Image2[0].left(), left + 45);
   EXPECT_EQ(state().globals.SectionNumber, sectionOf(state(), form1().Image2));
   const QPoint corner = (windowRect(frame).topLeft() / 15).toPoint() + QPoint(2, 2);
@@ -160,23 +137,15 @@ TEST_F(Canvas, APressGoesThroughAFrameToItsCover) {
 
 TEST_F(Canvas, AMiddlePressStoresTheAnchorAndNoMore) {
   Label& label = form1().Label4[0];
-  const QPoint at = middle(label);
-  QTest::mousePress(&canvas(), Qt::MiddleButton, {}, at);
+  drag(middle(label), QPoint(9, 9), Qt::MiddleButton);
   EXPECT_NEAR(state().globals.DragAnchorX, label.width() / 2, 15);
-  QTest::mouseMove(&canvas(), at + QPoint(9, 9));
-  QTest::mouseRelease(&canvas(), Qt::MiddleButton, {}, at);
   EXPECT_EQ(state().globals.SectionNumber, 0);
 }
 
-TEST_F(Canvas, FollowsTheWindowsSizeWithinReason) {
+TEST_F(Canvas, FollowsTheWindowsSize) {
   form1().setWidth(9000);
   form1().setHeight(6000);
   EXPECT_EQ(canvas().size(), QSize(600, 400));
-  for (const float odd : {std::numeric_limits<float>::quiet_NaN(), -5.0f, 3e38f}) {
-    form1().setWidth(odd);
-    EXPECT_GE(canvas().width(), 1);
-    EXPECT_LE(canvas().width(), 16384);
-  }
 }
 
 TEST_F(Canvas, SurvivesAbsurdGeometry) {
@@ -199,9 +168,9 @@ TEST_F(Canvas, NamesWhatIsUnderThePointer) {
             "Label16(3)   Section 52   Search Results Screen   120, 900  2400 × 301.5 twips"
             "   8, 60  160 × 20 px");
   const QString button = describe(state(), form1().lvButtons_H1[2], screen);
-  EXPECT_TRUE(button.startsWith(QStringLiteral("lvButtons_H1(2)   Section 1   Frame, in Picture2(0)")))
+  EXPECT_TRUE(button.startsWith("lvButtons_H1(2)   Section 1   Frame, in Picture2(0)"))
       << button.toStdString();
-  EXPECT_TRUE(describe(state(), form1().Label29.operator*(), screen).contains(QStringLiteral("no Section")));
+  EXPECT_TRUE(describe(state(), form1().Label29.operator*(), screen).contains("no Section"));
 }
 
 class Dirt : public testing::Test {
@@ -234,7 +203,7 @@ TEST_F(Dirt, CoversTheOldPlaceAndTheNewOne) {
 TEST_F(Dirt, LeavesOutWhatCannotBeSeen) {
   label.setVisible(false);
   EXPECT_TRUE(dirty.take().contains(QRect(110, 110, 20, 10)));
-  label.setCaption(QStringLiteral("unseen"));
+  label.setCaption("unseen");
   label.setLeft(0);
   EXPECT_TRUE(dirty.isEmpty());
   box.setVisible(false);

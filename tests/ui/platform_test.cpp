@@ -16,12 +16,8 @@ namespace {
 TEST(Settings, AreReadFromTheUsersFileAndNeverWritten) {
   const QTemporaryDir folder;
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
-  const auto skin = [] {
-    return IniSettings()
-        .value(QStringLiteral("Settings"), QStringLiteral("Skin"), QStringLiteral("none"))
-        .toStdString();
-  };
-  const QString file = folder.filePath(QStringLiteral("V-Quill 8.ini"));
+  const auto skin = [] { return IniSettings().value("Settings", "Skin", "none").toStdString(); };
+  const QString file = folder.filePath("V-Quill 8.ini");
   EXPECT_EQ(skin(), "none");
   EXPECT_FALSE(QFile::exists(file));
   test::writeBytes(file, "[Settings]\nSkin=Black_and_Blue_gif_V8.0(800x600)\n");
@@ -58,7 +54,7 @@ public:
 TEST(Progress, IsPaintedAtEveryStepAndCannotBeClosed) {
   PaintedBars bars;
   QtProgress progress;
-  progress.step(0, 3, QStringLiteral("<b>one</b> \\a.bmp"));
+  progress.step(0, 3, "<b>one</b> \\a.bmp");
   ASSERT_TRUE(bars.last);
   QWidget* window = bars.last->window();
   const auto* what = window->findChild<QLabel*>();
@@ -67,34 +63,11 @@ TEST(Progress, IsPaintedAtEveryStepAndCannotBeClosed) {
   window->close();
   QTest::keyClick(window, Qt::Key_Escape);
   EXPECT_TRUE(window->isVisible());
-  progress.step(1, 3, QStringLiteral("two"));
-  progress.step(2, 3, QStringLiteral("three"));
+  progress.step(1, 3, "two");
+  progress.step(2, 3, "three");
   EXPECT_EQ(bars.steps, (QList<int>{0, 1, 2}));
   progress.step(3, 3, QString());
   EXPECT_TRUE(bars.last.isNull());
-}
-
-class Rescaling : public test::UiFixture {
-protected:
-  Rescaling() {
-    world.platform.progress = &progress;
-    designer = std::make_unique<Designer>(world.platform);
-    for (int i = 1; i < 4; ++i)
-      test::writePicture(path(QStringLiteral("images/%1.bmp").arg(i)), 640, 480, Qt::blue);
-  }
-  QtProgress progress;
-};
-
-TEST_F(Rescaling, ShowsItsProgressWhileTheOperatorWaits) {
-  for (int i = 1; i < 4; ++i) state().names.ImageName[i].setValue(QStringLiteral("\\images\\%1.bmp").arg(i));
-  form6().Check2->setValue(1);
-  form6().Text7->setText(QStringLiteral("1024"));
-  form6().Text8->setText(QStringLiteral("768"));
-  PaintedBars bars;
-  QTest::mouseClick(&widget<QWidget>("Form6.Command10"), Qt::LeftButton);
-  EXPECT_EQ(bars.steps, (QList<int>{0, 1, 2}));
-  EXPECT_EQ(state().notes.texts().last().toStdString(), "3 of 3 images were resized.");
-  EXPECT_EQ(world.dialogs.messages.last().text.toStdString(), "Images resized");
 }
 
 }  // namespace

@@ -26,7 +26,6 @@ protected:
   }
 
   Form5& form5() { return state().form5; }
-  Form6& form6() { return state().form6; }
 
   /// The widget that shows the element of that key; the test ends without it.
   template <class W>
@@ -38,6 +37,13 @@ protected:
     throw std::logic_error(key);
   }
   QWidget& canvas() { return widget<QWidget>("canvas"); }
+
+  /// A press, a move and a release on the canvas.
+  void drag(QPoint from, QPoint by, Qt::MouseButton button = Qt::LeftButton) {
+    QTest::mousePress(&canvas(), button, {}, from);
+    QTest::mouseMove(&canvas(), from + by);
+    QTest::mouseRelease(&canvas(), button, {}, from + by);
+  }
 
   /// The pixels of the canvas at the middle of an element.
   static QPoint middle(const Element& element) { return (windowRect(element).center() / 15).toPoint(); }
