@@ -50,6 +50,23 @@ TEST_F(CanvasInputTest, FieldsAreFilledWithTheNewSectionCurrent) {
   EXPECT_EQ(form6.Text3[0].text(), u"77");
 }
 
+TEST_F(CanvasInputTest, AClickPutsPlaceholders) {
+  form1.Label2[4].setCaption("own");
+  const std::pair<Label*, const char*> captions[] = {
+      {&form1.Label3[4], "Track  4"},     {&form1.Label2[3], "Genre : "},
+      {&form1.Label2[4], "own"},          {&form1.Label50[2], "Played () Times 2."},
+      {&form1.Label59[6], "() Album(s)"}, {&form1.Label64[9], "Album Title  9"},
+      {&form1.Label64[10], "Artist  1"},  {&form1.Label53[1], ""}};
+  for (const auto& [label, caption] : captions) {
+    state.board.click(*label);
+    EXPECT_EQ(label->caption(), caption) << label->key().toStdString();
+  }
+  EXPECT_EQ(form1.Label1[1].caption(), u"Track Listing  1") << "crossed: a requested track's text goes there";
+  state.board.click(form1.aicAlphaImage1[20]);
+  EXPECT_EQ(form1.aicAlphaImage1[20].toolTipText(), u"Star Rating 20");
+  EXPECT_EQ(form1.Label59[6].toolTipText(), u" 6 Albums Button");
+}
+
 TEST_F(CanvasInputTest, ALeftPressStoresTheAnchorAndTurnsSomeLabelsOpaque) {
   form1.Label41->setOpaque(false);
   input.press(*form1.Label41, 30, 40, MouseButton::Right);
@@ -58,6 +75,8 @@ TEST_F(CanvasInputTest, ALeftPressStoresTheAnchorAndTurnsSomeLabelsOpaque) {
   EXPECT_FALSE(form1.Label41->isOpaque());
   input.press(*form1.Label41, 30, 40, MouseButton::Left);
   EXPECT_TRUE(form1.Label41->isOpaque());
+  for (Element* label : {&form1.Label16[6], &form1.Label16[7]}) input.press(*label, 1, 1, MouseButton::Right);
+  EXPECT_EQ(form1.Label16[6].caption() + form1.Label16[7].caption(), u"TRACKALBUM");
   EXPECT_TRUE(world.dialogs.filters.isEmpty()) << "only a button and one panel take a picture";
   input.press(form1.lvButtons_H1[0], 0, 0, MouseButton::Right);
   EXPECT_EQ(world.dialogs.filters, QStringList("Image Files|*.bmp;*.jpg;*.gif"));

@@ -137,10 +137,10 @@ TEST_F(ButtonPainting, PicturesFollowTheirSize) {
   EXPECT_LT(covered[4], covered[3]);
 }
 
-TEST_F(ButtonPainting, APictureStandsWhereItsAlignmentSays) {
+TEST_F(ButtonPainting, PictureAndCaptionStandWhereTheirAlignmentSays) {
   button.setPicture(filled(Qt::blue));
   button.setButtonStyle(2);
-  button.set(Property::FontSize, 6.0f);
+  button.set(Property::FontSize, 7.0f);
   button.setCaption("I");
   const std::pair<PictureAlign, QRect> halves[] = {{PictureAlign::LeftEdge, {0, 0, 30, 30}},
                                                    {PictureAlign::RightEdge, {30, 0, 30, 30}},
@@ -149,6 +149,13 @@ TEST_F(ButtonPainting, APictureStandsWhereItsAlignmentSays) {
   for (const auto& [align, half] : halves) {
     button.set(Property::PictureAlign, static_cast<int>(align));
     EXPECT_GT(count(paint().copy(half), Qt::blue), 16 * 16 / 2) << static_cast<int>(align);
+  }
+  button.setPicture(Picture());
+  button.set(Property::PictureAlign, static_cast<int>(PictureAlign::LeftEdge));
+  button.set(Property::FontSize, 14.0f);
+  for (const auto& [align, left] : {std::pair(0, 0), {1, 40}, {2, 20}}) {
+    button.set(Property::CaptionAlign, align);
+    EXPECT_GT(count(paint().copy(left, 0, 20, 30), Qt::red), 0) << align;
   }
 }
 

@@ -174,14 +174,6 @@ TEST_F(Reading, TheStepOfALineThatFailedIsLeftOut) {
   EXPECT_EQ(steps, 1);
 }
 
-TEST_F(Reading, LinesThatNoOneReadsAreNoTailThatIsMissing) {
-  read(searchTabFile, composed(searchTabFile));
-  ASSERT_EQ(rowLines.size(), 52u);
-  EXPECT_EQ(rowLines[38], 39);
-  EXPECT_EQ(rowLines[39], 0);
-  EXPECT_EQ(rowLines[51], 0);
-}
-
 TEST_F(Reading, AFontSizeIsTheNumberThatItsWholeLineBeginsWith) {
   Label& label = *state.form1.Label52;
   read(intelliFile, withLine(withLine(composed(intelliFile), 8, "12.75 pt, bold"), 9, " 1 "));
