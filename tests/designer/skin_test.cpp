@@ -58,7 +58,7 @@ TEST_F(Skin, TheFileWithoutEffectIsNeitherReadNorWritten) {
 }
 
 TEST_F(Skin, StartsFromTheSettingsAndFallsBackToTheDefault) {
-  world.settings.values.clear();
+  world.settings.values.insert("Settings/Skin", "Gone");
   start();
   EXPECT_EQ(form4().Combo3->text().toStdString(), "Black_and_Blue_gif_V8.0(800x600)");
   EXPECT_EQ(world.dialogs.messages.first().title.toStdString(), "Load Current Skin");
