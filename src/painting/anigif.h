@@ -43,16 +43,16 @@ public:
 private:
   struct Playing;
 
+  std::shared_ptr<Playing> play(const Picture& picture);
+  qint64 playedPixels() const;
+  void tell(const Playing& playing) const;
+
   Window& window_;
   Repaint repaint_;
   Attachment watching_;
   QTimer pending_;
   std::vector<const AnimatedFrame*> elements_;
   QHash<quintptr, std::shared_ptr<Playing>> playing_;  // by the picture's id
-
-  std::shared_ptr<Playing> play(const Picture& picture);
-  qint64 playedPixels() const;
-  void tell(const Playing& playing) const;
 };
 
 }  // namespace veneerer

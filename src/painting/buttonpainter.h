@@ -36,16 +36,16 @@ private:
   struct Contents;
   struct PaintedFace;
 
-  TextLayouts& texts_;
-  ScaledImages& images_;
-  ButtonFaces faces_;
-
   PaintedFace paintFace(const Task& task);
   Contents layOut(const Task& task);
   const LaidOutText* layOutCaption(const Task& task, QSizeF room);
   void paintContents(QPainter& painter, const Task& task, const Contents& contents);
   void paintWithinOutline(const Task& task, const Contents& contents, const PaintedFace& face);
   void paintSmallPicture(QPainter& painter, const Task& task, const Contents& contents);
+
+  TextLayouts& texts_;
+  ScaledImages& images_;
+  ButtonFaces faces_;
 };
 
 }  // namespace veneerer

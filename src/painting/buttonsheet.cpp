@@ -83,15 +83,6 @@ public:
   }
 
 private:
-  QImage image_;
-  QPainter painter_;
-  CanvasPainter canvas_;
-  Switchboard board_;
-  Window window_{board_, "Sheet"};
-  Array<Button> buttons_{window_, "Button", 0};
-  Picture ticket_ = Picture::drawn(ticket());
-  Picture note_ = Picture::drawn(note());
-
   void write(QRectF where, const QString& text) {
     painter_.setPen(Qt::white);
     painter_.drawText(where, Qt::AlignLeft | Qt::AlignVCenter, text);
@@ -184,6 +175,15 @@ private:
            },
            {.focused = true});
   }
+
+  QImage image_;
+  QPainter painter_;
+  CanvasPainter canvas_;
+  Switchboard board_;
+  Window window_{board_, "Sheet"};
+  Array<Button> buttons_{window_, "Button", 0};
+  Picture ticket_ = Picture::drawn(ticket());
+  Picture note_ = Picture::drawn(note());
 };
 
 }  // namespace

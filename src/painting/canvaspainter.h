@@ -60,16 +60,6 @@ public:
                    double pixelsPerTwip = 1.0 / 15);
 
 private:
-  TextLayouts texts_;
-  ScaledImages images_;
-  CutOuts cutOuts_;
-  ButtonPainter buttons_{texts_, images_, cutOuts_};
-  FrameSource frames_;
-  const Element* hovered_ = nullptr;
-  const Element* pressed_ = nullptr;
-  PixelScale scale_;
-  QRectF bounds_;  ///< what is ever painted lies in there, whichever part of it is painted now; pixels
-
   void begin(QPainter& painter, double pixelsPerTwipX, double pixelsPerTwipY);
   void paintOne(QPainter& painter, const Element& element, const QRectF& rect, const QRectF& clip);
   void paintNatural(QPainter& painter, const Picture& picture, const QRectF& rect, const QRectF& clip);
@@ -80,6 +70,16 @@ private:
   void paintAlphaImage(QPainter& painter, const AlphaImage& image, const QRectF& rect, const QRectF& clip);
   void paintStretched(QPainter& painter, const Picture& picture, const QRectF& rect, const QRectF& clip);
   QSize devicePixels(const QRectF& rect) const;
+
+  TextLayouts texts_;
+  ScaledImages images_;
+  CutOuts cutOuts_;
+  ButtonPainter buttons_{texts_, images_, cutOuts_};
+  FrameSource frames_;
+  const Element* hovered_ = nullptr;
+  const Element* pressed_ = nullptr;
+  PixelScale scale_;
+  QRectF bounds_;  ///< what is ever painted lies in there, whichever part of it is painted now; pixels
 };
 
 }  // namespace veneerer

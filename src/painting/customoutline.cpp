@@ -59,13 +59,6 @@ public:
   }
 
 private:
-  int width_;
-  int height_;
-  QRgb* pixels_;  // 32 bits each, rows without gaps
-  QRgb background_;
-  int tolerance_ = kTolerance;
-  std::vector<int> cleared_;
-
   void spread(int at) {
     const int x = at % width_;
     const int y = at / width_;
@@ -82,6 +75,13 @@ private:
     pixel = 0;
     cleared_.push_back(y * width_ + x);
   }
+
+  int width_;
+  int height_;
+  QRgb* pixels_;  // 32 bits each, rows without gaps
+  QRgb background_;
+  int tolerance_ = kTolerance;
+  std::vector<int> cleared_;
 };
 
 }  // namespace

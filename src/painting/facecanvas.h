@@ -40,16 +40,16 @@ public:
   const QImage& face() const { return face_; }
 
 private:
+  void begin(QPainter& painter) const;
+  QImage narrowed(int inset) const;
+  void paintMasked(QImage band, const QColor& colour);
+
   QImage outline_;
   QImage face_;
   double scale_;
   QRect part_;
   QSize size_;
   bool hasEdges_;  ///< false within a face, far from its outline
-
-  void begin(QPainter& painter) const;
-  QImage narrowed(int inset) const;
-  void paintMasked(QImage band, const QColor& colour);
 };
 
 }  // namespace veneerer

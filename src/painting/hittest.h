@@ -33,11 +33,11 @@ public:
   Element* elementAt(const Form1& form, float x, float y) const;
 
 private:
-  CutOuts& cutOuts_;
-  PixelScale scale_;
-
   Element* childAt(const Element& container, double x, double y) const;
   bool meets(const Element& element, double x, double y) const;
+
+  CutOuts& cutOuts_;
+  PixelScale scale_;
 };
 
 }  // namespace veneerer

@@ -60,12 +60,12 @@ public:
 private:
   using Names = QHash<QString, QString>;  ///< by their folded case
 
-  QString path_;
-  mutable QHash<QString, Names> listings_;  ///< by the folder's path, links resolved
-
   const Names& listing(const QString& folder) const;
   QString above(const QString& folder) const;
   QString findIgnoringCase(const QStringList& parts) const;
+
+  QString path_;
+  mutable QHash<QString, Names> listings_;  ///< by the folder's path, links resolved
 };
 
 /// The bare name of a file whose path may use either kind of slash.

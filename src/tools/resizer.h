@@ -38,14 +38,14 @@ public:
   void scaleOnResize(Window& window);
 
 private:
+  void remember(const Window& window);
+
   float factorX_ = 1;
   float factorY_ = 1;
   bool windowMoves_ = false;
   bool isWalking_ = false;
   std::int32_t lastHeight_ = 0;  // twips
   std::int32_t lastWidth_ = 0;
-
-  void remember(const Window& window);
 };
 
 }  // namespace veneerer

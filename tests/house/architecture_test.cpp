@@ -80,7 +80,8 @@ TEST(Architecture, IsWhatTheIncludesFollow) {
 TEST(Architecture, ChangesTheDiskInOnePlace) {
   static const QRegularExpression change(QStringLiteral(
       R"(QSaveFile|QTemporaryFile|QImageWriter|ofstream|fopen|mk(path|dir)|rm(path|dir)|removeRecursively)"
-      R"(|QFile::(remove|rename|copy|link|set|moveTo)|WriteOnly|ReadWrite|std::(rename|filesystem))"));
+      R"(|QFile::(remove|rename|copy|link|set|moveTo)|WriteOnly|ReadWrite|std::(rename|filesystem))"
+      R"(|O_(WRONLY|RDWR|CREAT)|::(unlink|rename|truncate|symlink|link|chmod)\w*\()"));
   QStringList found;
   const Files files = sources();
   for (auto file = files.begin(); file != files.end(); ++file)
@@ -94,6 +95,65 @@ TEST(Architecture, LetsOnlyTheWindowsKnowWidgets) {
   QStringList found;
   for (const auto& match : library.globalMatch(text("src/CMakeLists.txt"))) found << match.captured(1);
   EXPECT_EQ(found, QStringList{"ui"});
+}
+
+/// What stands in a class at one level, each with the label that it stands under: a statement's first words.
+QList<std::pair<QString, QString>> membersOf(const QString& body) {
+  static const QRegularExpression label("^(public|protected|private)( slots)?:$|^Q_SIGNALS:$");
+  QList<std::pair<QString, QString>> members;
+  QString under;
+  QString statement;
+  qsizetype depth = 0;
+  for (QString line : body.split('\n')) {
+    line = line.section("//", 0, 0).trimmed();
+    if (depth == 0 && label.match(line).hasMatch()) {
+      under = line.section(QRegularExpression("[ :]"), 0, 0);
+      continue;
+    }
+    statement += line + ' ';
+    depth += line.count('{') - line.count('}');
+    if (depth > 0 || !(line.endsWith(';') || line.endsWith('}'))) continue;
+    members.append({under, statement.trimmed()});
+    statement.clear();
+  }
+  return members;
+}
+
+bool isData(const QString& member) {
+  static const QRegularExpression other(
+      R"(^(friend|using|enum|class|struct \w+ ?[:{;]|template|static const|Q_))");
+  const QString head = member.section('{', 0, 0).section('=', 0, 0);
+  static const QRegularExpression call(R"(\w\()");
+  return !other.match(member).hasMatch() &&
+         !call.match(QString(head).remove(QRegularExpression("<.*>"))).hasMatch();
+}
+
+// A reader finds what a class offers first and what it is made of last.
+TEST(House, OrdersMembersAlike) {
+  static const QRegularExpression type(
+      "^class (\\w+)[^;{]*\\{\n(.*?)^\\};",
+      QRegularExpression::MultilineOption | QRegularExpression::DotMatchesEverythingOption);
+  const QStringList labels{"", "public", "Q_SIGNALS", "protected", "private"};
+  int classes = 0;
+  const Files files = sources();
+  for (auto file = files.begin(); file != files.end(); ++file)
+    for (const auto& found : type.globalMatch(*file)) {
+      ++classes;
+      const std::string name = (file.key() + ": " + found.captured(1)).toStdString();
+      QString under;
+      bool hadData = false;
+      for (const auto& [label, member] : membersOf(found.captured(2))) {
+        const bool isOdd = label == "Q_SIGNALS" || under == "Q_SIGNALS";
+        EXPECT_TRUE(isOdd || labels.indexOf(label) >= labels.indexOf(under))
+            << name << " goes back to " << label.toStdString();
+        under = label;
+        if (label != "private") continue;
+        EXPECT_FALSE(hadData && !isData(member))
+            << name << ": data ahead of " << member.left(60).toStdString();
+        hadData = hadData || isData(member);
+      }
+    }
+  EXPECT_GT(classes, 150);
 }
 
 }  // namespace
