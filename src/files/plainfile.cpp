@@ -9,12 +9,16 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <optional>
 
 namespace veneerer {
 
 namespace {
 
 constexpr qint64 kChunk = 1024 * 1024;  // bytes
+
+// A saver replaces a file once; only somebody who wants to be in the way does it time after time.
+constexpr int kMostAttempts = 100;
 
 FileContent refused(const QString& reason) {
   return {FileContent::Outcome::Refused, {}, reason};
@@ -28,6 +32,10 @@ bool isLink(const QByteArray& path) {
   struct stat status {};
   return ::lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
 }
+
+/// Where an opened file lies. One that bears the name no longer, because a saver has put another one in its
+/// place meanwhile, can't be told.
+enum class Whereabouts { Inside, Outside, Replaced };
 
 /// A file that is open for reading, for as long as the object lives.
 class OpenFile {
@@ -57,13 +65,15 @@ public:
     return {};
   }
 
-  bool liesIn(const QString& folder) const {
+  Whereabouts whereabouts(const QString& folder) const {
     const QString root = QFileInfo(folder).canonicalFilePath();
     const QString real = QFileInfo(QFile::decodeName(path_)).canonicalFilePath();
     struct stat named {};
-    return !root.isEmpty() && real.startsWith(root + u'/') &&
-           ::stat(QFile::encodeName(real).constData(), &named) == 0 && named.st_dev == status_.st_dev &&
-           named.st_ino == status_.st_ino;
+    if (root.isEmpty() || real.isEmpty() || ::stat(QFile::encodeName(real).constData(), &named) != 0)
+      return Whereabouts::Replaced;
+    if (!real.startsWith(root + u'/')) return Whereabouts::Outside;
+    const bool isSame = named.st_dev == status_.st_dev && named.st_ino == status_.st_ino;
+    return isSame ? Whereabouts::Inside : Whereabouts::Replaced;
   }
 
   /// As many bytes as there are, up to that number. False when reading fails; errno tells why.
@@ -93,32 +103,52 @@ private:
   struct stat status_ {};
 };
 
+FileContent tooLarge() {
+  return refused(QStringLiteral("the file is too large"));
+}
+
 FileContent contentOf(const OpenFile& file, qint64 mostBytes) {
-  const auto tooLarge = [] { return refused(QStringLiteral("the file is too large")); };
   if (file.size() > mostBytes) return tooLarge();
   FileContent content{FileContent::Outcome::Read, {}, {}};
   if (!file.read(mostBytes + 1, content.bytes)) return refused(systemReason(errno));
   return content.bytes.size() > mostBytes ? tooLarge() : content;
 }
 
-// An empty folder stands for any.
-FileContent readChecked(const QString& folder, const QString& path, qint64 mostBytes) {
+using Take = FileContent (*)(const OpenFile& file, qint64 mostBytes);
+
+FileContent lookedAt(const OpenFile& file, qint64 mostBytes) {
+  return file.size() > mostBytes ? tooLarge() : FileContent{FileContent::Outcome::Read, {}, {}};
+}
+
+// What an opened file gives; nothing when it has to be opened anew. An empty folder stands for any.
+std::optional<FileContent> taken(const QString& folder, const QString& path, qint64 mostBytes, Take take) {
   const OpenFile file(path);
   if (!file.isOpen()) return file.failure();
   if (!file.isPlain()) return refused(QStringLiteral("there is something under this name that is no file"));
-  if (!folder.isEmpty() && !file.liesIn(folder))
+  const Whereabouts whereabouts = folder.isEmpty() ? Whereabouts::Inside : file.whereabouts(folder);
+  if (whereabouts == Whereabouts::Outside)
     return refused(QStringLiteral("the file lies outside the Skin's folder"));
-  return contentOf(file, mostBytes);
+  return whereabouts == Whereabouts::Inside ? std::optional(take(file, mostBytes)) : std::nullopt;
+}
+
+FileContent readChecked(const QString& folder, const QString& path, qint64 mostBytes, Take take) {
+  for (int attempt = 0; attempt < kMostAttempts; ++attempt)
+    if (const std::optional<FileContent> content = taken(folder, path, mostBytes, take)) return *content;
+  return refused(QStringLiteral("the file is replaced again and again while it is read"));
 }
 
 }  // namespace
 
 FileContent readPlainFile(const QString& path, qint64 mostBytes) {
-  return readChecked({}, path, mostBytes);
+  return readChecked({}, path, mostBytes, contentOf);
 }
 
 FileContent readFileInside(const QString& folder, const QString& path, qint64 mostBytes) {
-  return readChecked(folder, path, mostBytes);
+  return readChecked(folder, path, mostBytes, contentOf);
+}
+
+QString faultInside(const QString& folder, const QString& path, qint64 mostBytes) {
+  return readChecked(folder, path, mostBytes, lookedAt).reason;
 }
 
 QByteArray headOfFile(const QString& path, qint64 bytes) {

@@ -25,6 +25,9 @@ FileContent readPlainFile(const QString& path, qint64 mostBytes);
 /// The same, but refused unless the file, links resolved, lies in that folder or somewhere below it.
 FileContent readFileInside(const QString& folder, const QString& path, qint64 mostBytes);
 
+/// Why readFileInside would refuse the file; empty for one that it would read and for one that isn't there.
+QString faultInside(const QString& folder, const QString& path, qint64 mostBytes);
+
 /// The first bytes of the plain file of that path, fewer where it is shorter; none when it can't be read.
 QByteArray headOfFile(const QString& path, qint64 bytes);
 

@@ -219,13 +219,17 @@ TEST_F(Replace, TwoProcessesThatSaveAndOneThatReadsNeverMeetHalfAFile) {
   }
   std::thread saver([&] { EXPECT_NO_THROW(saveOften(folder.path(), 'x', kOne)); });
   int status = -1;
+  QString refused;
   while (::waitpid(child, &status, WNOHANG) == 0)
     for (const char* name : {"a", "b"}) {
-      const QByteArray bytes = readPlainFile(path(name), kOne).bytes;
+      const FileContent read = readFileInside(folder.path(), path(name), kOne);
+      const QByteArray bytes = read.bytes;
+      refused += read.reason;
       EXPECT_TRUE(bytes == QByteArray(kOne, 'x') || bytes == QByteArray(kOther, 'y')) << bytes.size();
     }
   saver.join();
   EXPECT_EQ(status, 0);
+  EXPECT_EQ(refused.toStdString(), "");
   EXPECT_EQ(contents().keys(), (QStringList{"a", "b"}));
 }
 
