@@ -17,11 +17,18 @@ constexpr int kDecodeLimitMiB = 192;
 constexpr qint64 kMostIconBytes = 4 * 1024 * 1024;
 
 /// Whether it is a PNG file with 16 bits in a colour's part, or one that comes in passes.
-bool isDeepPng(const QByteArray& bytes) {
+/// What walking one pixel costs, a byte of grey being 1. A PNG file's bytes are each predicted from their
+/// neighbours, and one that comes in passes is walked anew by each.
+double pixelWork(const QByteArray& bytes) {
   constexpr int kDepth = 24;  // places in the head
+  constexpr int kColours = 25;
   constexpr int kPasses = 28;
-  if (formatOf(bytes) != PictureFormat::Png || bytes.size() <= kPasses) return false;
-  return bytes[kDepth] == 16 || bytes[kPasses] != 0;
+  constexpr int kChannels[] = {1, 1, 3, 1, 2, 1, 4};
+  if (formatOf(bytes) != PictureFormat::Png || bytes.size() <= kPasses) return 1;
+  const auto colours = static_cast<unsigned char>(bytes[kColours]);
+  const int channels = colours < std::size(kChannels) ? kChannels[colours] : 4;
+  const int bytesOfPixel = channels * (bytes[kDepth] == 16 ? 2 : 1);
+  return std::max(1.0, bytesOfPixel / 2.0) * (bytes[kPasses] != 0 ? 2 : 1);
 }
 
 /// A picture file's bytes in the hands of the one decoder that its head tells.
@@ -37,7 +44,7 @@ public:
     open(format);
     isWithinBounds_ = scans <= kMostJpegScans && pixelsOf(size_) <= kMostPicturePixels;
     // A scan walks blocks, not pixels.
-    work_ += pixelsOf(size_) * (isDeepPng(bytes_) ? 2 : 1) + pixelsOf(size_) * scans / 16;
+    work_ += static_cast<qint64>(double(pixelsOf(size_)) * pixelWork(bytes_)) + pixelsOf(size_) * scans / 16;
   }
 
   PictureCost cost() const { return {isWithinBounds_, size_, work_}; }

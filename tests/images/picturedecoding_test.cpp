@@ -85,7 +85,7 @@ TEST_F(Decoding, TheCostCountsBytesPixelsAndScans) {
   EXPECT_EQ(work(test::flatPng({30, 20})), 600);
   const QString deep = folder.filePath(QStringLiteral("deep.png"));
   QImage(30, 20, QImage::Format_RGBA64).save(deep);
-  EXPECT_EQ(costOfPicture(deep).work - QFileInfo(deep).size(), 1200) << "16 bits for each part";
+  EXPECT_EQ(costOfPicture(deep).work - QFileInfo(deep).size(), 2400) << "8 bytes a pixel";
   EXPECT_EQ(work(test::scannedJpeg(48)), 64 + 3 * 64);
   EXPECT_EQ(work("no picture"), 0);
   EXPECT_FALSE(costOfPicture(write("no picture")).canBeDecoded);
