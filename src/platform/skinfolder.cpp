@@ -96,7 +96,13 @@ bool SkinFolder::contains(const QString& path) const {
 }
 
 QStringList SkinFolder::coverFiles() const {
-  return QDir(path_).entryList({QStringLiteral("*.cov")}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+  QStringList names;
+  const auto files =
+      QDir(path_).entryInfoList({QStringLiteral("*.cov")}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+  // A link to a device counts as a file to the listing.
+  for (const QFileInfo& file : files)
+    if (file.isFile()) names.append(file.fileName());
+  return names;
 }
 
 QString bareFileName(const QString& path) {
