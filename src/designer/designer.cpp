@@ -52,7 +52,6 @@ struct Designer::Parts {
     if (state->form3.List1->listIndex() < 0) return;
     const QString name = state->form3.List1->text();
     loadAs(name, [&] { chooseSkin(*state, name, loader); });
-    if (!std::exchange(isLoaded, true)) history.start();
   }
 
   void reload() {
@@ -60,11 +59,30 @@ struct Designer::Parts {
   }
 
   void loadAs(const QString& name, const std::function<void()>& load) {
-    const History::Action action(history, QStringLiteral("Skin ") + shownText(name));
-    load();
-    followFonts();
-    history.markClean();
+    const QString refusal = isLoaded() ? loader.refusal(SkinFolder(platform.folder, name)) : QString();
+    if (!refusal.isEmpty()) return stay(refusal);
+    const bool isFirst = !isLoaded();
+    {
+      const History::Action action(history, QStringLiteral("Skin ") + shownText(name));
+      load();
+      hasLoaded();
+      history.markClean();
+    }
+    if (isFirst) history.start();
   }
+
+  /// The Skin in hand isn't lost for one that can't be read.
+  void stay(const QString& refusal) {
+    state->form4.Combo3->setText(loadedSkin);
+    platform.dialogs.inform(QStringLiteral("Veneerer"), QStringLiteral("Nothing is loaded. ") + refusal);
+  }
+
+  void hasLoaded() {
+    loadedSkin = state->form4.Combo3->text();
+    followFonts();
+  }
+
+  bool isLoaded() const { return !loadedSkin.isEmpty(); }
 
   /// The list of fonts, once there is one, knows the families of the Skin that is loaded.
   void followFonts() {
@@ -77,7 +95,8 @@ struct Designer::Parts {
     const auto saveCovers = [&] { covers.offerSave(skin); };
     if (!writeOrTell(platform.dialogs, QStringLiteral("Save Skin"), saveAll)) return;
     history.markClean();
-    writeOrTell(platform.dialogs, QStringLiteral("Save Cover File"), saveCovers);
+    writeOrTell(platform.dialogs, QStringLiteral("Save Cover File"), saveCovers,
+                QStringLiteral("The record files are saved, the cover layout isn't. "));
   }
 
   /// The commands that do nothing but write files, and list them anew.
@@ -109,10 +128,13 @@ struct Designer::Parts {
   CanvasInput canvas{*state, platform};
   ToolsPalette tools{*state, platform, platform.progress};
   SkinLoader loader{*state, platform, covers};
-  History history{*state, [this] { canvas.refill(); }};
+  History history{*state, [this] {
+                    canvas.refill();
+                    loadedSkin = state->form4.Combo3->text();
+                  }};
   OverlaySelection overlay;
   const char gesture = 0;  ///< its address is what a press, its moves and its click join
-  bool isLoaded = false;   ///< a Skin is, so that the next one is a step
+  QString loadedSkin;      ///< its name; empty before the first load, which is no step
   std::vector<Attachment> attachments;
 };
 
@@ -133,10 +155,11 @@ SkinFolder Designer::skinFolder() const {
 }
 
 bool Designer::startUp() {
-  parts_->isLoaded = veneerer::startUp(*parts_->state, parts_->platform, parts_->loader);
-  parts_->followFonts();
-  if (parts_->isLoaded) parts_->history.start();
-  return parts_->isLoaded;
+  const bool isLoaded = veneerer::startUp(*parts_->state, parts_->platform, parts_->loader);
+  if (!isLoaded) return false;
+  parts_->hasLoaded();
+  parts_->history.start();
+  return true;
 }
 
 void Designer::openChooser() {

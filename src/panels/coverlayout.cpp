@@ -101,7 +101,8 @@ void CoverLayouts::saveNamed() {
   if (name.isEmpty()) return;
   const Layout frames = framesFile(state_);
   writeOrTell(platform_.dialogs, QString::fromLatin1(kSaveTitle), [&] {
-    writeFiles(platform_.disk, target.path(), {compose(name), {frames.fileName(), composeRecords(frames)}});
+    writeRecordFiles(platform_.disk, target.path(),
+                     {compose(name), {frames.fileName(), composeRecords(frames)}});
   });
   listFiles();
 }
@@ -118,7 +119,7 @@ void CoverLayouts::offerSave(const SkinFolder& target) {
                              QStringLiteral("Do you want to save the COVER Layout Too?")))
     return;
   const QString name = nameToWrite(target);
-  if (!name.isEmpty()) writeFiles(platform_.disk, target.path(), {compose(name)});
+  if (!name.isEmpty()) writeRecordFiles(platform_.disk, target.path(), {compose(name)});
   listFiles();
 }
 

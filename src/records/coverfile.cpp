@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "elements/numbers.h"
+#include "elements/printable.h"
 #include "records/recordreader.h"
 
 namespace veneerer {
@@ -149,9 +150,10 @@ Layout coverFile(State& state, const QString& name, int last) {
 QString coverFileName(const QString& typed) {
   const QString ending = QStringLiteral(".cov");
   const QString name = typed.contains(u'.') ? typed : typed + ending;
-  const auto separates = [](QChar c) { return c == u'/' || c == u'\\' || c.isNull(); };
-  const bool isPlain =
-      !name.startsWith(u'.') && !name.contains(QStringLiteral("..")) && std::ranges::none_of(name, separates);
+  const auto separates = [](QChar c) { return c == u'/' || c == u'\\'; };
+  // What can't be seen in a list had better not be made.
+  const bool isPlain = name == printable(name) && !name.startsWith(u'.') &&
+                       !name.contains(QStringLiteral("..")) && std::ranges::none_of(name, separates);
   return isPlain && name.endsWith(ending, Qt::CaseInsensitive) ? name : QString();
 }
 

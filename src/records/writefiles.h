@@ -21,7 +21,12 @@ public:
 /// RecordError when writing fails all the same: each file is wholly old or wholly new then.
 void writeFiles(Disk& disk, const QString& folder, std::vector<NewFile> files);
 
-/// Runs a command that writes. False when it was refused: a box of that title has told why.
-bool writeOrTell(Dialogs& dialogs, const QString& title, const std::function<void()>& command);
+/// The same for record and cover files, of which one above kMostRecordBytes isn't replaced.
+void writeRecordFiles(Disk& disk, const QString& folder, std::vector<NewFile> files);
+
+/// Runs a command that writes. False when it was refused: a box of that title has told why, behind that
+/// sentence.
+bool writeOrTell(Dialogs& dialogs, const QString& title, const std::function<void()>& command,
+                 const QString& lead = QStringLiteral("Nothing is written. "));
 
 }  // namespace veneerer

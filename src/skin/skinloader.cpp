@@ -1,7 +1,9 @@
 #include "skin/skinloader.h"
 
+#include "files/plainfile.h"
 #include "forms/currentskin.h"
 #include "records/layoutreader.h"
+#include "records/recorderror.h"
 
 namespace veneerer {
 
@@ -25,6 +27,16 @@ void SkinLoader::load() {
   showMenuPictures(skin);
   state_.form1.Picture1[0].setVisible(true);
   showWindows();
+}
+
+QString SkinLoader::refusal(const SkinFolder& skin) const {
+  for (const LoadEntry& entry : loadOrder()) {
+    const Layout layout = entry.layout(state_);
+    const QString name = layout.fileName();
+    const QString fault = faultInside(skin.path(), skin.file(name), kMostRecordBytes);
+    if (!layout.isEmpty() && !fault.isEmpty()) return RecordError(name, 0, {}, {}, fault).message();
+  }
+  return {};
 }
 
 void SkinLoader::reload() {

@@ -17,6 +17,10 @@ public:
   /// RecordError; what was read until then stays.
   void load();
 
+  /// Why no Skin can be loaded from that folder: a record file that is no plain file, too large, or a link
+  /// out of the folder; empty when nothing of the kind is there. What such a file holds isn't looked at.
+  QString refusal(const SkinFolder& folder) const;
+
   /// Reads the Skin named by Combo3 over the one that is loaded. No element is reset first: what the new
   /// Skin's files don't name keeps the old Skin's value. Throws RecordError.
   void reload();

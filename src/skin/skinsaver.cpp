@@ -12,13 +12,13 @@ void saveRecords(State& state, Disk& disk, const SkinFolder& folder) {
     const Layout layout = entry.layout(state);
     if (!layout.isEmpty()) files.push_back({savedName(entry, layout), composeRecords(layout)});
   }
-  writeFiles(disk, folder.path(), std::move(files));
+  writeRecordFiles(disk, folder.path(), std::move(files));
 }
 
 void saveLockedButtons(State& state, const Platform& platform, const SkinFolder& folder) {
   const Layout layout = lockedButtonFile(state);
   writeOrTell(platform.dialogs, state.form2.caption(), [&] {
-    writeFiles(platform.disk, folder.path(), {{layout.fileName(), composeRecords(layout)}});
+    writeRecordFiles(platform.disk, folder.path(), {{layout.fileName(), composeRecords(layout)}});
   });
 }
 

@@ -7,7 +7,9 @@
 #include "elements/printable.h"
 #include "painting/buttonsheet.h"
 #include "platform/scripteddialogs.h"
+#include "records/coverfile.h"
 #include "records/recorderror.h"
+#include "records/writefiles.h"
 #include "skintool/arguments.h"
 #include "skintool/batchskin.h"
 #include "skintool/checkcommand.h"
@@ -58,7 +60,14 @@ private:
     dialogs_.answers << savesCover << true;
     if (savesCover) designer_.state().form4.Text2->setText(arguments_.cover);
     makeTarget(arguments_.to, disk_);
+    if (savesCover) lookAhead(coverFileName(arguments_.cover));
     designer_.saveTo(SkinFolder(QFileInfo(arguments_.to).absoluteFilePath()));
+  }
+
+  // The cover file comes behind the record files, but none of them is to be written where it can't be.
+  void lookAhead(const QString& name) {
+    const FileReplacement replacement(disk_, arguments_.to, {{name, {}}});
+    if (replacement.refusal()) throw WriteRefused(*replacement.refusal());
   }
 
   const Arguments& arguments_;

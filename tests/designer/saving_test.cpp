@@ -6,6 +6,7 @@
 
 #include "designer/skinfixture.h"
 #include "files/replacefiles.h"
+#include "records/layoutreader.h"
 #include "records/recorderror.h"
 #include "support/pictures.h"
 
@@ -174,7 +175,33 @@ TEST_F(Saving, TheCoversAreRefusedOnTheirOwn) {
   designer->click(*form4().Command4);
   EXPECT_EQ(files().size(), 59);
   EXPECT_EQ(world.dialogs.messages.last().title, u"Save Cover File");
-  EXPECT_TRUE(world.dialogs.messages.last().text.startsWith("Nothing is written. a.cov: "));
+  EXPECT_TRUE(world.dialogs.messages.last().text.startsWith(
+      "The record files are saved, the cover layout isn't. a.cov: "));
+}
+
+TEST_F(Saving, AFileThatNoLoadWouldTakeIsNotReplaced) {
+  write("a.cov", QByteArray(kMostRecordBytes + 1, ' '));
+  write("menu_v2.ini", QByteArray(kMostRecordBytes + 1, ' '));
+  world.dialogs.answers << true << true;
+  designer->click(*form4().Command4);
+  EXPECT_TRUE(world.dialogs.messages.last().text.startsWith("Nothing is written. menu_v2.ini: "));
+  QFile::remove(path("menu_v2.ini"));
+  world.dialogs.answers << true << true;
+  designer->click(*form4().Command4);
+  EXPECT_TRUE(world.dialogs.messages.last().text.contains("the cover layout isn't. a.cov: "));
+  EXPECT_EQ(bytes("a.cov").size(), kMostRecordBytes + 1);
+}
+
+// The work in hand is kept; only what such a file holds may still end the program.
+TEST_F(Saving, ASkinThatCantBeReadIsNotTakenInHand) {
+  makeSkin("T");
+  QDir().mkpath(root.path() + "/Skins/T/queue.ini");
+  designer->type(form4().Text1[0], "900");
+  designer->reload("T");
+  EXPECT_TRUE(world.dialogs.messages.last().text.startsWith("Nothing is loaded. queue.ini: "));
+  EXPECT_EQ(form4().Combo3->text(), u"S");
+  EXPECT_EQ(form4().Text1[0].text(), u"900");
+  EXPECT_TRUE(designer->history().isModified());
 }
 
 TEST_F(Saving, WhatAKilledSaveLeftIsNeitherListedNorKept) {

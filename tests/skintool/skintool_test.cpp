@@ -63,6 +63,7 @@ TEST_F(Skintool, AnswersWrongUseAndBrokenSkinsByTheirStatus) {
                                    {"dump", skin(), "--cover", "x"},
                                    {"save", skin(), "--to", path("out"), "--cover", "x.txt"},
                                    {"save", skin(), "--to", path("out"), "--cover", "../x.cov"},
+                                   {"save", skin(), "--to", path("out"), "--cover", "a\nb.cov"},
                                    {"save", skin(), "--to", path("out"), "--cover", ""},
                                    {"jump", "--help"}})
     EXPECT_EQ(run(words), 2) << words.join(' ').toStdString();
