@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "elements/printable.h"
+#include "problems/check.h"
 #include "skintool/batchskin.h"
-#include "skintool/check.h"
 #include "skintool/output.h"
 
 namespace veneerer {

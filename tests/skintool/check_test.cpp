@@ -1,12 +1,12 @@
 // What the batch tool tells of a Skin.
-#include "skintool/check.h"
+#include "problems/check.h"
 
 #include <sys/stat.h>
 
 #include <QImage>
 
+#include "problems/textdamage.h"
 #include "skintool/batchrun.h"
-#include "skintool/textdamage.h"
 #include "support/hostilepictures.h"
 
 namespace veneerer {

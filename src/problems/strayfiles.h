@@ -4,7 +4,7 @@
 #include <QSet>
 
 #include "platform/skinfolder.h"
-#include "skintool/finding.h"
+#include "problems/finding.h"
 
 namespace veneerer {
 

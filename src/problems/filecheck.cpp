@@ -1,9 +1,9 @@
-#include "skintool/filecheck.h"
+#include "problems/filecheck.h"
 
+#include "problems/referencedamage.h"
+#include "problems/rowdamage.h"
 #include "records/layoutreader.h"
 #include "records/recorderror.h"
-#include "skintool/referencedamage.h"
-#include "skintool/rowdamage.h"
 
 namespace veneerer {
 

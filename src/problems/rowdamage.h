@@ -1,7 +1,7 @@
 // What is risky in one value of a record file, as it stands there.
 #pragma once
 
-#include "skintool/rawvalues.h"
+#include "problems/rawvalues.h"
 
 namespace veneerer {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "images/picturetrials.h"
+#include "problems/finding.h"
 #include "records/layout.h"
-#include "skintool/finding.h"
 
 namespace veneerer {
 

@@ -1,11 +1,11 @@
-#include "skintool/rowdamage.h"
+#include "problems/rowdamage.h"
 
 #include <cmath>
 #include <limits>
 
 #include "elements/numbers.h"
 #include "elements/printable.h"
-#include "skintool/textdamage.h"
+#include "problems/textdamage.h"
 
 namespace veneerer {
 

@@ -1,10 +1,10 @@
-#include "skintool/textdamage.h"
+#include "problems/textdamage.h"
 
 #include <algorithm>
 
 #include "elements/printable.h"
+#include "problems/rawvalues.h"
 #include "records/codepage.h"
-#include "skintool/rawvalues.h"
 
 namespace veneerer {
 

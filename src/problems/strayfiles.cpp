@@ -1,10 +1,10 @@
-#include "skintool/strayfiles.h"
+#include "problems/strayfiles.h"
 
 #include <QDir>
 #include <algorithm>
 
 #include "files/plainfile.h"
-#include "skintool/rawvalues.h"
+#include "problems/rawvalues.h"
 
 namespace veneerer {
 

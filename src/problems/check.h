@@ -3,7 +3,7 @@
 
 #include "images/picturetrials.h"
 #include "platform/skinfolder.h"
-#include "skintool/finding.h"
+#include "problems/finding.h"
 
 namespace veneerer {
 

@@ -1,4 +1,4 @@
-#include "skintool/rawvalues.h"
+#include "problems/rawvalues.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
-#include "skintool/referencedamage.h"
+#include "problems/referencedamage.h"
 
 #include <QFileInfo>
 
 #include "elements/printable.h"
-#include "skintool/textdamage.h"
+#include "problems/textdamage.h"
 
 namespace veneerer {
 

@@ -1,17 +1,17 @@
-#include "skintool/check.h"
+#include "problems/check.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 #include "design/design.h"
 #include "painting/canvassize.h"
+#include "problems/filecheck.h"
+#include "problems/strayfiles.h"
 #include "records/coverfile.h"
 #include "records/layoutreader.h"
 #include "records/recorderror.h"
 #include "skin/catalogue.h"
 #include "skin/lists.h"
-#include "skintool/filecheck.h"
-#include "skintool/strayfiles.h"
 
 namespace veneerer {
 
