@@ -37,20 +37,6 @@ QList<QRectF> fullParts(const Button& button, const QRectF& rect) {
           rect.adjusted(0, radius, 0, -radius)};
 }
 
-/// The parts of an element's place that show nothing of what lies behind.
-QList<QRectF> opaqueParts(const Element& element, const QRectF& rect) {
-  switch (element.kind()) {
-    case Kind::PictureBox:
-      return isSeeThrough(element) ? QList<QRectF>() : QList{rect};
-    case Kind::Label:
-      return cast<Label>(element).isOpaque() ? QList{rect} : QList<QRectF>();
-    case Kind::Button:
-      return fullParts(cast<Button>(element), rect);
-    default:
-      return {};
-  }
-}
-
 // The pixels that the rectangle covers, but for what rounding did to twips.
 QRect coveredPixels(const QRectF& rect, double device) {
   constexpr double kRounding = 1.0 / 64;
@@ -112,6 +98,19 @@ private:
 };
 
 }  // namespace
+
+QList<QRectF> opaqueParts(const Element& element, const QRectF& rect) {
+  switch (element.kind()) {
+    case Kind::PictureBox:
+      return isSeeThrough(element) ? QList<QRectF>() : QList{rect};
+    case Kind::Label:
+      return cast<Label>(element).isOpaque() ? QList{rect} : QList<QRectF>();
+    case Kind::Button:
+      return fullParts(cast<Button>(element), rect);
+    default:
+      return {};
+  }
+}
 
 std::vector<SeenElement> seenElements(const Element& container, const QRectF& exposed,
                                       const PixelScale& scale) {

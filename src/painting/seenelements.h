@@ -1,6 +1,7 @@
 // What of a window's elements can be seen at all.
 #pragma once
 
+#include <QList>
 #include <QRectF>
 #include <vector>
 
@@ -14,6 +15,9 @@ struct SeenElement {
   QRectF rect;  ///< the element's place, pixels
   QRectF clip;  ///< what is seen of it lies in there
 };
+
+/// The parts of an element's place, all in pixels, that show nothing of what lies behind it.
+QList<QRectF> opaqueParts(const Element& element, const QRectF& rect);
 
 /// The visible elements within a container, each within its own containers, that can be seen in a rectangle
 /// of pixels: from the back to the front. One that large opaque elements hide isn't among them; one that they

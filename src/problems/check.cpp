@@ -30,7 +30,7 @@ public:
     fillOtherLists(skin_.state);
   }
 
-  Findings run() {
+  CheckedFiles run() {
     for (const SaveEntry& entry : saveOrder()) checkEntry(entry);
     if (!hasRecords_) warn(QString(), QStringLiteral("no record file is here"));
     checkCovers();
@@ -39,7 +39,7 @@ public:
     // A routine without effect names it.
     names_ << QStringLiteral("back.ini");
     findings_ << strayFiles(skin_.folder, names_);
-    return findings_;
+    return {findings_, loadedPlaces()};
   }
 
 private:
@@ -110,6 +110,14 @@ private:
     warn(QStringLiteral("resolution.ini"), text.arg(size.pixels.width()).arg(size.pixels.height()));
   }
 
+  // In the order of a full load, so that of several places the one that decides comes last.
+  RecordPlaces loadedPlaces() {
+    RecordPlaces places = skin_.places.value(skin_.folder.coverFiles().value(0));
+    for (const LoadEntry& entry : loadOrder())
+      places.add(skin_.places.value(entry.layout(skin_.state).fileName()));
+    return places;
+  }
+
   void tellUntriedPictures() {
     if (const int untried = skin_.pictures.untried())
       warn(QString(),
@@ -124,7 +132,7 @@ private:
 
 }  // namespace
 
-Findings checkSkin(const SkinFolder& folder, const Screen& screen, qint64 decoding) {
+CheckedFiles checkSkin(const SkinFolder& folder, const Screen& screen, qint64 decoding) {
   return SkinCheck(folder, screen, decoding).run();
 }
 

@@ -4,11 +4,17 @@
 #include "images/picturetrials.h"
 #include "platform/skinfolder.h"
 #include "problems/finding.h"
+#include "skin/recordplaces.h"
 
 namespace veneerer {
 
+struct CheckedFiles {
+  Findings findings;
+  RecordPlaces places;  ///< of what a full load takes from these files
+};
+
 /// Everything found in that folder, file by file. Nothing is written. So much work goes into trying to decode
 /// its pictures, see PictureTrials; a finding tells how many are beyond it.
-Findings checkSkin(const SkinFolder& folder, const Screen& screen, qint64 decoding = kTrialAllowance);
+CheckedFiles checkSkin(const SkinFolder& folder, const Screen& screen, qint64 decoding = kTrialAllowance);
 
 }  // namespace veneerer

@@ -11,8 +11,28 @@ namespace {
 
 constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
 
-Finding failed(const QString& name, const RecordError& error, FindingKind kind) {
-  return {kind, name, error.line(), error.place() + error.found()};
+Finding failed(State& state, const QString& name, const RecordError& error, FindingKind kind) {
+  Finding finding{kind, name, error.line(), error.place() + error.found()};
+  // An image reference or a counter isn't known by a key.
+  if (state.find(error.element())) {
+    finding.element = error.element();
+    finding.property = propertyNamed(QLatin1String(error.field().toLatin1()));
+  }
+  return finding;
+}
+
+Finding risky(const QString& name, const RawValue& value, const QString& text) {
+  Finding finding{FindingKind::Warning, name, value.line, text};
+  if (const Field* field = value.row->field()) {
+    finding.element = field->into.element->key();
+    finding.property = field->into.property;
+  } else if (const Reference* reference = value.row->reference()) {
+    const Element& shows =
+        reference->button ? static_cast<const Element&>(*reference->button) : *reference->into;
+    finding.element = shows.key();
+    finding.property = reference->button ? Property::Picture : Property::Name;
+  }
+  return finding;
 }
 
 QString counted(const char* text, int count, const Layout& layout) {
@@ -25,12 +45,23 @@ QString damageOf(const RawValue& value, CheckedSkin& skin) {
   return referenceDamage(skin.folder, skin.pictures, valueText(value.value));
 }
 
+Findings valueFindings(CheckedSkin& skin, const QString& name, const std::vector<RawValue>& values) {
+  Findings findings;
+  for (const RawValue& value : values) {
+    const QString damage = damageOf(value, skin);
+    if (!damage.isEmpty()) findings.append(risky(name, value, damage));
+    // What follows a comma stands in the place of others.
+    if (!value.endsLine) break;
+  }
+  return findings;
+}
+
 }  // namespace
 
 Findings checkFile(CheckedSkin& skin, const QString& name, const Layout& layout, FindingKind failure) {
   Findings findings;
   const auto warn = [&](int line, const QString& text) {
-    if (!text.isEmpty()) findings.append({FindingKind::Warning, name, line, text});
+    findings.append({FindingKind::Warning, name, line, text});
   };
   Loading loading{skin.state, skin.folder, skin.screen};
   QByteArray bytes;
@@ -44,15 +75,11 @@ Findings checkFile(CheckedSkin& skin, const QString& name, const Layout& layout,
     if (loading.lines.size() < layout.size())
       warn(0, counted("stops before an optional block, at %1 of %2 lines", lines, layout));
   } catch (const RecordError& error) {
-    findings.append(failed(name, error, failure));
+    findings.append(failed(skin.state, name, error, failure));
   }
+  skin.places[name].add(layout, name, loading.lines, RecordPlaces::Side::Read);
   if (bytes.startsWith(kByteOrderMark)) warn(1, QStringLiteral("a byte order mark counts as text"));
-  for (const RawValue& value : rawValues(layout, loading.lines, bytes)) {
-    warn(value.line, damageOf(value, skin));
-    // What follows a comma stands in the place of others.
-    if (!value.endsLine) break;
-  }
-  return findings;
+  return findings << valueFindings(skin, name, rawValues(layout, loading.lines, bytes));
 }
 
 }  // namespace veneerer

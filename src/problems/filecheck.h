@@ -4,6 +4,7 @@
 #include "images/picturetrials.h"
 #include "problems/finding.h"
 #include "records/layout.h"
+#include "skin/recordplaces.h"
 
 namespace veneerer {
 
@@ -13,6 +14,7 @@ struct CheckedSkin {
   Screen screen;
   State state;  ///< what was read so far
   PictureTrials pictures;
+  QHash<QString, RecordPlaces> places = {};  ///< by the file that holds them
 };
 
 /// Everything found in the file of that name; nothing when it isn't there. Where a load of it fails, the

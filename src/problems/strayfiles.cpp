@@ -24,15 +24,14 @@ QString neverRead(const QString& name, const QSet<QString>& names) {
                               : QStringLiteral("is never read: the name is spelt %1").arg(*meant);
 }
 
-/// Two numbers and the heading of the covers, as every cover file begins.
+}  // namespace
+
 bool readsLikeCover(const QString& path) {
   RecordReader reader(headOfFile(path, kHeadBytes));
   for (int i = 0; i < 2; ++i)
     if (reader.atEnd() || !std::holds_alternative<double>(reader.readValue())) return false;
   return !reader.atEnd() && valueText(reader.readValue()) == u"Album Covers";
 }
-
-}  // namespace
 
 Findings strayFiles(const SkinFolder& folder, const QSet<QString>& names) {
   Findings findings;

@@ -12,4 +12,7 @@ namespace veneerer {
 /// which record files are read or written.
 Findings strayFiles(const SkinFolder& folder, const QSet<QString>& names);
 
+/// Whether a file begins as every cover file does: with two numbers and the heading of the covers.
+bool readsLikeCover(const QString& path);
+
 }  // namespace veneerer

@@ -6,6 +6,7 @@
 
 #include "canvas/screens.h"
 #include "platform/version.h"
+#include "problems/hints.h"
 #include "records/coverfile.h"
 
 namespace veneerer {
@@ -58,6 +59,13 @@ Screen parseScreen(const QCommandLineParser& parser) {
   return screen;
 }
 
+int parseTouch(const QCommandLineParser& parser) {
+  const QString name = QStringLiteral("touch");
+  if (!parser.isSet(name)) return kTouchPixels;
+  if (!parser.isSet(QStringLiteral("design"))) throw UsageError(QStringLiteral("--touch goes with --design"));
+  return positive(parser.value(name), name, 32767);
+}
+
 void checkSkins(const CommandEntry& command, const QStringList& skins) {
   if (skins.size() < command.fewestSkins || skins.size() > command.mostSkins) {
     const QString count = command.mostSkins == 0   ? QStringLiteral("no Skin")
@@ -97,6 +105,8 @@ Arguments readOptions(const QCommandLineParser& parser) {
   arguments.script = parser.value(QStringLiteral("script"));
   arguments.reload = parser.isSet(QStringLiteral("reload"));
   arguments.screen = parseScreen(parser);
+  arguments.design = parser.isSet(QStringLiteral("design"));
+  arguments.touch = parseTouch(parser);
   checkEntries(arguments.only);
   checkCover(parser, arguments.cover);
   if (parser.isSet(QStringLiteral("script")) && arguments.script.isEmpty())

@@ -25,6 +25,8 @@ struct Arguments {
   QStringList only;   ///< render: the entries to render, empty for all
   QString script;     ///< a script to play after the load, "-" for standard input, empty for none
   bool reload = false;
+  bool design = false;  ///< check: hints as well
+  int touch = 0;        ///< check: the least side of a button for a hint, pixels
   Screen screen;
 };
 

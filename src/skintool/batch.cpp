@@ -94,7 +94,7 @@ int run(const Arguments& arguments, std::FILE* out) {
     print(out, arguments.answer.toUtf8());
     return 0;
   }
-  if (arguments.command == Command::Check) return runCheck(arguments.skins, out);
+  if (arguments.command == Command::Check) return runCheck(arguments, out);
   if (arguments.command == Command::Sheet) return writeSheet(arguments.to);
   BatchRun(arguments).run(out);
   return 0;

@@ -2,8 +2,12 @@
 
 #include <algorithm>
 
+#include "designer/designer.h"
 #include "elements/printable.h"
+#include "platform/scripteddialogs.h"
 #include "problems/check.h"
+#include "problems/skinhints.h"
+#include "records/recorderror.h"
 #include "skintool/batchskin.h"
 #include "skintool/output.h"
 
@@ -17,23 +21,55 @@ QString placeOf(const Finding& finding) {
   return finding.file + line + QStringLiteral(": ");
 }
 
+const char* nameOf(FindingKind kind) {
+  switch (kind) {
+    case FindingKind::Error:
+      return "error";
+    case FindingKind::Warning:
+      return "warning";
+    case FindingKind::Hint:
+      break;
+  }
+  return "hint";
+}
+
 QString lineOf(const Finding& finding) {
-  const bool isError = finding.kind == FindingKind::Error;
-  return placeOf(finding) + (isError ? QStringLiteral("error: ") : QStringLiteral("warning: ")) +
-         finding.text;
+  return placeOf(finding) + QLatin1String(nameOf(finding.kind)) + QStringLiteral(": ") + finding.text;
+}
+
+/// Of the Skin as a load leaves it; none of one that can't be loaded, of which an error tells.
+Findings hintsOf(const QString& skin, const RecordPlaces& places, const Arguments& arguments) {
+  ScriptedDialogs dialogs(ScriptedDialogs::Unexpected::Cancel);
+  BatchSettings settings(skin);
+  Disk disk;
+  Platform platform{dialogs, settings, disk, arguments.screen, programFolder(skin)};
+  Designer designer(platform);
+  dialogs.answers.enqueue(true);
+  try {
+    designer.startUp();
+  } catch (const RecordError&) {
+    return {};
+  }
+  return skinHints(designer.state(), designer.skinFolder(), platform.screen, places, arguments.touch);
+}
+
+Findings findingsOf(const QString& skin, const Arguments& arguments) {
+  const CheckedFiles files = checkSkin(SkinFolder(skin), arguments.screen);
+  if (!arguments.design) return files.findings;
+  return files.findings + hintsOf(skin, files.places, arguments);
 }
 
 }  // namespace
 
-int runCheck(const QStringList& skins, std::FILE* out) {
+int runCheck(const Arguments& arguments, std::FILE* out) {
   struct Line {
     FindingKind kind;
     QString text;
   };
   QList<Line> lines;
-  for (const QString& skin : skins) {
-    const QString name = skins.size() > 1 ? skinName(skin) + u'/' : QString();
-    for (const Finding& finding : checkSkin(SkinFolder(skin), Screen()))
+  for (const QString& skin : arguments.skins) {
+    const QString name = arguments.skins.size() > 1 ? skinName(skin) + u'/' : QString();
+    for (const Finding& finding : findingsOf(skin, arguments))
       lines.append({finding.kind, printable(name + lineOf(finding))});
   }
   std::ranges::stable_sort(lines, {}, &Line::kind);

@@ -22,7 +22,7 @@ const CommandEntry kCommands[] = {
      "Loads the Skin and draws every screen of the list of screens into a PNG file of its own, from\n"
      "\"00 Main Screen.png\" to \"31 Pop Up Menu.png\".",
      1, 1, true},
-    {Command::Check, "check", "SKIN...",
+    {Command::Check, "check", "SKIN... [options]",
      "Tells what is wrong or risky in each Skin, one finding a line, errors first:\n"
      "FILE:LINE: error: ... or FILE: warning: ... The status is 1 when there is an error.",
      1, kAnyNumber, false},
@@ -53,6 +53,8 @@ const OptionEntry kOptions[] = {
      "N",
      "the screen's dots per logical inch; 96 without it",
      {Command::Dump, Command::Save, Command::Render}},
+    {"design", nullptr, "also tells, as hints, what a touch screen suffers from", {Command::Check}},
+    {"touch", "N", "with --design: the least side of a button in pixels; 32 without it", {Command::Check}},
     {"help", nullptr, "prints this help", {}},
     {"version", nullptr, "prints the program's version", {}},
 };

@@ -155,9 +155,9 @@ TEST_F(Check, TellsHowManyImagesItDidntTry) {
   change("filter.ini", 1, "\\images\\a");
   change("skin.ini", 4, "\\images\\b");
   change("skin.ini", 6, "\\images\\c");
-  Findings findings = checkSkin(SkinFolder(skin()), Screen(), 31'000);
+  Findings findings = checkSkin(SkinFolder(skin()), Screen(), 31'000).findings;
   EXPECT_EQ(findings.size(), 0);
-  findings = checkSkin(SkinFolder(skin()), Screen(), 25'000);
+  findings = checkSkin(SkinFolder(skin()), Screen(), 25'000).findings;
   ASSERT_EQ(findings.size(), 1);
   EXPECT_EQ(findings[0].text, "all images together take too long to decode: 1 not tried");
 }
@@ -219,6 +219,31 @@ TEST_F(Check, NamesTheSkinWhereThereAreSeveral) {
   EXPECT_EQ(run({"check", empty, skin()}), 1);
   EXPECT_TRUE(out.startsWith("S/font.ini:2: error: ")) << out.toStdString();
   EXPECT_TRUE(out.endsWith("\nEmpty/warning: no record file is here\n")) << out.toStdString();
+}
+
+TEST_F(Check, TellsHintsOfTheDesignOnlyWhenAsked) {
+  write(file("images/forgotten.bmp"), "BM");
+  write(file("read me.txt"), "hello");
+  change("search.ini", 12, " 450 ");
+  change("licence.ini", 3, "-15");
+  // Room for the widest screens of the built-in design.
+  change("resolution.ini", 4, " 830 ");
+  change("resolution.ini", 5, " 900 ");
+  EXPECT_EQ(check(), QList<QByteArray>{""});
+  EXPECT_EQ(run({QStringLiteral("check"), QStringLiteral("--design"), skin()}), 0);
+  EXPECT_EQ(out.toStdString(),
+            "search.ini:12: hint: Form1.lvButtons_H6(0): the button is 30 pixels wide, a finger needs 32\n"
+            "licence.ini:3: hint: Form1.Label27(3): it lies partly outside Form1.Picture1(26)\n"
+            "images/forgotten.bmp: hint: nothing in the Skin names this file\n"
+            "read me.txt: hint: nothing in the Skin names this file\n");
+  run({QStringLiteral("check"), QStringLiteral("--design"), QStringLiteral("--touch"), QStringLiteral("30"),
+       skin()});
+  EXPECT_FALSE(out.contains("search.ini")) << out.toStdString();
+  EXPECT_EQ(run({QStringLiteral("check"), QStringLiteral("--touch"), QStringLiteral("20"), skin()}), 2);
+
+  change("font.ini", 2, "red");
+  EXPECT_EQ(run({QStringLiteral("check"), QStringLiteral("--design"), skin()}), 1);
+  EXPECT_EQ(out.count('\n'), 1) << "a Skin that doesn't load has no design: " << out.toStdString();
 }
 
 TEST(TextDamage, TellsWhatASaveDoesToALiveText) {

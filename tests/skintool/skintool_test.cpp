@@ -82,7 +82,7 @@ TEST_F(Skintool, AnswersHelpAndVersionOnStandardOutput) {
   } cases[] = {
       {{"--help"}, "usage: skintool dump SKIN", "skintool check SKIN...", "options:"},
       {{"save", "--help"}, "usage: skintool save SKIN", "--cover NAME", "--only"},
-      {{"check", path("nowhere"), "--help"}, "usage: skintool check", "", "--to"},
+      {{"check", path("nowhere"), "--help"}, "usage: skintool check", "--design", "--to "},
       {{"--version"}, "skintool ", ".", "\n\n"},
   };
   for (const auto& c : cases) {

@@ -1,0 +1,20 @@
+// How well a text stands out from its ground.
+#pragma once
+
+#include <QImage>
+
+namespace veneerer {
+
+/// The relative luminance of a colour, 0 for black to 1 for white.
+double luminanceOf(QRgb colour);
+
+/// The mean luminance of all pixels; 0 for a null image.
+double meanLuminance(const QImage& image);
+
+/// The contrast of two luminances, 1 for none to 21 for black on white.
+double contrastOf(double one, double other);
+
+/// The least contrast that a text of that many points can be read with: large letters need less.
+double leastContrast(float points, bool isBold);
+
+}  // namespace veneerer
