@@ -1,0 +1,71 @@
+// The findings of a Skin that is being worked on, kept up to date.
+#pragma once
+
+#include <QSet>
+#include <deque>
+#include <optional>
+
+#include "images/picturetrials.h"
+#include "platform/skinfolder.h"
+#include "problems/elementjudge.h"
+#include "problems/finding.h"
+
+namespace veneerer {
+
+/// Judges the live elements of one loaded Skin. It attaches itself to nothing: who owns it tells of each
+/// change, and lets it work when there is time. Make a new one for another Skin.
+class Watch {
+public:
+  /// coverFileName is the cover file whose lines are told, empty for none. touch is the least side of a
+  /// button, pixels. The state must outlive the watch.
+  Watch(State& state, const SkinFolder& folder, const Screen& screen, const QString& coverFileName = {},
+        int touch = kTouchPixels);
+
+  /// Judges everything anew: at once what takes no painting and decodes no picture; the rest waits for
+  /// work().
+  void judgeAll();
+
+  /// Judges one element again after a change of it, as far as it can be done at once. Its ground, and all
+  /// that stands on the same screen, waits for work(). A change of the canvas window or of the number of
+  /// covers has everything wait. What was found stays until it is judged again.
+  void judge(const Element& element);
+
+  /// Judges wholly up to that many of the elements that wait, in the order in which they were told. True
+  /// while more wait.
+  bool work(int elements);
+
+  /// What is known now, the worst first.
+  Findings findings() const;
+  /// The same of one element.
+  Findings of(const Element& element) const;
+
+private:
+  struct Known {
+    Findings atOnce;
+    Findings later;
+  };
+
+  State& state_;
+  SkinFolder folder_;
+  Screen screen_;
+  QString coverFileName_;
+  int touch_;
+  PictureTrials trials_{kTrialAllowance};
+  std::optional<ElementJudge> judge_;
+  std::vector<const Element*> elements_;  ///< all that are judged
+  QHash<const Element*, Known> known_;
+  QHash<const Element*, const Element*> buttonOf_;  ///< by the image slot that it takes its picture from
+  Findings ofFolder_;
+  std::deque<const Element*> waiting_;
+  QSet<const Element*> isWaiting_;
+
+  void collect(Window& window);
+  void judgeAtOnce(const Element& element);
+  void judgeLater(const Element& element);
+  void await(const Element& element);
+  void awaitAll();
+  void awaitScreenOf(const Element& element);
+  Findings referenceFindings(const Element& element);
+};
+
+}  // namespace veneerer
