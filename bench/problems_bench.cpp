@@ -2,7 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include "designer/designer.h"
-#include "problems/watch.h"
+#include "problems/problemswatch.h"
 #include "support/scriptedplatform.h"
 
 namespace veneerer {
@@ -21,7 +21,7 @@ struct Loaded : test::ScriptedPlatform {
 void judgeSkin(benchmark::State& run) {
   Loaded skin;
   for (auto _ : run) {
-    Watch watch(skin.designer.state(), skin.designer.skinFolder(), skin.platform.screen);
+    ProblemsWatch watch(skin.designer.state(), skin.designer.skinFolder(), skin.platform.screen);
     while (watch.work(100)) {
     }
     benchmark::DoNotOptimize(watch.findings());
@@ -32,13 +32,14 @@ BENCHMARK(judgeSkin)->Unit(benchmark::kMillisecond);
 // The part of it that doesn't wait for idle time.
 void judgeSkinAtOnce(benchmark::State& run) {
   Loaded skin;
-  for (auto _ : run) Watch watch(skin.designer.state(), skin.designer.skinFolder(), skin.platform.screen);
+  for (auto _ : run)
+    ProblemsWatch watch(skin.designer.state(), skin.designer.skinFolder(), skin.platform.screen);
 }
 BENCHMARK(judgeSkinAtOnce)->Unit(benchmark::kMillisecond);
 
 void judgeElement(benchmark::State& run) {
   Loaded skin;
-  Watch watch(skin.designer.state(), skin.designer.skinFolder(), skin.platform.screen);
+  ProblemsWatch watch(skin.designer.state(), skin.designer.skinFolder(), skin.platform.screen);
   Button& key = skin.designer.state().form1.lvButtons_H6[3];
   float left = key.left();
   for (auto _ : run) {
@@ -53,7 +54,7 @@ BENCHMARK(judgeElement)->Unit(benchmark::kMillisecond);
 void judgeCoverCount(benchmark::State& run) {
   Loaded skin;
   State& state = skin.designer.state();
-  Watch watch(state, skin.designer.skinFolder(), skin.platform.screen);
+  ProblemsWatch watch(state, skin.designer.skinFolder(), skin.platform.screen);
   for (auto _ : run) watch.judge(*state.globals.LastCoverIndex);
 }
 BENCHMARK(judgeCoverCount)->Unit(benchmark::kMillisecond);
@@ -61,7 +62,7 @@ BENCHMARK(judgeCoverCount)->Unit(benchmark::kMillisecond);
 // One screen with its grounds, as it is judged again after a change, element by element.
 void judgeScreenLater(benchmark::State& run) {
   Loaded skin;
-  Watch watch(skin.designer.state(), skin.designer.skinFolder(), skin.platform.screen);
+  ProblemsWatch watch(skin.designer.state(), skin.designer.skinFolder(), skin.platform.screen);
   while (watch.work(100)) {
   }
   for (auto _ : run) {

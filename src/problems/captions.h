@@ -28,12 +28,12 @@ public:
   std::optional<CaptionLayout> of(const Element& element);
 
 private:
+  CaptionLayout ofLabel(const Label& label, const QRectF& face, int fontHeight);
+  CaptionLayout ofButton(const Button& button, const QRectF& face, int fontHeight);
+
   PictureSamples& pictures_;
   PixelScale scale_;
   TextLayouts texts_;
-
-  CaptionLayout ofLabel(const Label& label, const QRectF& face, int fontHeight);
-  CaptionLayout ofButton(const Button& button, const QRectF& face, int fontHeight);
 };
 
 }  // namespace veneerer

@@ -26,12 +26,12 @@ public:
   Finding found(FindingKind kind, const Element& element, Property property, const QString& text) const;
 
 private:
+  Findings found(const Element& element, const QList<Hint>& hints) const;
+  bool isOnCanvas(const Element& element) const;
+
   const State& state_;
   Hints hints_;
   RecordPlaces places_;
-
-  Findings found(const Element& element, const QList<Hint>& hints) const;
-  bool isOnCanvas(const Element& element) const;
 };
 
 }  // namespace veneerer

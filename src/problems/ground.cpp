@@ -79,15 +79,6 @@ public:
   }
 
 private:
-  QPainter& painter_;
-  const State& state_;
-  PictureSamples& pictures_;
-  ButtonFaces& faces_;
-  const PixelScale& scale_;
-  const Element& last_;
-  double work_ = 0;
-  bool isComplete_ = true;
-
   bool spend(double pixels) {
     work_ += pixels * painter_.transform().m11() * painter_.transform().m22();
     isComplete_ &= work_ <= kMostWork;
@@ -149,6 +140,15 @@ private:
     const FaceLook look = lookOf(button, size, reductionOf(rect.size()), sample);
     drawWithin(painter_, rect, faces_.face(look, sample.image), clip);
   }
+
+  QPainter& painter_;
+  const State& state_;
+  PictureSamples& pictures_;
+  ButtonFaces& faces_;
+  const PixelScale& scale_;
+  const Element& last_;
+  double work_ = 0;
+  bool isComplete_ = true;
 };
 
 QPointF originOf(const Element& element, const PixelScale& scale) {

@@ -40,14 +40,6 @@ public:
   QList<Hint> byGround(const Element& element);
 
 private:
-  const State& state_;
-  PixelScale scale_;
-  int touch_;
-  PictureSamples pictures_;
-  Captions captions_{pictures_, scale_};
-  Ground ground_{state_, pictures_, scale_};
-  FontsAtHand fonts_;
-
   QList<Hint> outside(const Element& element) const;
   QString hidden(const Element& element) const;
   QString small(const Element& element, double side, const char* way) const;
@@ -56,6 +48,14 @@ private:
   QString pictureFar(const Element& element);
   QString faint(const Element& element);
   bool isSmallPicture(const Element& element) const;
+
+  const State& state_;
+  PixelScale scale_;
+  int touch_;
+  PictureSamples pictures_;
+  Captions captions_{pictures_, scale_};
+  Ground ground_{state_, pictures_, scale_};
+  FontsAtHand fonts_;
 };
 
 }  // namespace veneerer

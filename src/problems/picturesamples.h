@@ -34,10 +34,11 @@ private:
     qint64 work = 0;
     bool isMade = false;
   };
-  QCache<quintptr, Kept> kept_;
-  qint64 left_;
 
   Kept& keptOf(const Picture& picture);
+
+  QCache<quintptr, Kept> kept_;
+  qint64 left_;
 };
 
 }  // namespace veneerer

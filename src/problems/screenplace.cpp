@@ -38,10 +38,6 @@ public:
   }
 
 private:
-  const State& state_;
-  QRectF part_;
-  const PixelScale& scale_;
-
   // The Main Screen is nothing but what it holds; other screens aren't shown at the same time.
   const Element* among(const Element& element) const {
     if (isSeeThrough(element)) return amongChildren(element);
@@ -61,6 +57,10 @@ private:
       return part.adjusted(-kRounding, -kRounding, kRounding, kRounding).contains(part_);
     });
   }
+
+  const State& state_;
+  QRectF part_;
+  const PixelScale& scale_;
 };
 
 }  // namespace

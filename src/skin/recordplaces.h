@@ -35,9 +35,9 @@ public:
   std::optional<RecordPlace> of(const Element& element, Property property) const;
 
 private:
-  QHash<QString, QList<RecordPlace>> byElement_;
-
   void addRow(const Row& row, RecordPlace place, Side side);
+
+  QHash<QString, QList<RecordPlace>> byElement_;
 };
 
 /// For each row of the layout the line on which a save of the elements as they are writes it, 0 for none.

@@ -7,6 +7,7 @@
 #include "ui/buttonsettingswindow.h"
 #include "ui/inspector.h"
 #include "ui/outlinepanel.h"
+#include "ui/problemspanel.h"
 #include "ui/settingswindow.h"
 #include "ui/texturewindow.h"
 #include "ui/toolswindow.h"
@@ -40,6 +41,7 @@ DesignerWindows::DesignerWindows(Designer& designer)
   addPanel(state.form2, new ButtonSettingsWindow(ui_), "&Button Settings", Qt::Key_F2);
   addPanel("inspector", new Inspector(ui_), "&Inspector", Qt::Key_F7);
   addPanel("outline", new OutlinePanel(ui_), "&Outline", Qt::Key_F3);
+  addPanel("problems", new ProblemsPanel(ui_), "&Problems", Qt::Key_F9);
   addHistory();
 }
 

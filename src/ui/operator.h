@@ -18,6 +18,7 @@ public:
 
   State& state() { return designer_.state(); }
   History& history() { return designer_.history(); }
+  SkinFolder skinFolder() const { return designer_.skinFolder(); }
   Dialogs& dialogs() { return designer_.platform().dialogs; }
   const Screen& screen() const { return designer_.platform().screen; }
 

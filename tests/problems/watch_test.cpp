@@ -1,11 +1,10 @@
-#include "problems/watch.h"
-
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QTemporaryDir>
 
 #include "design/design.h"
+#include "problems/problemswatch.h"
 #include "problems/skinhints.h"
 #include "support/pictures.h"
 
@@ -21,7 +20,7 @@ protected:
     state.form1.setHeight(14000);
     QDir(root.path()).mkpath(QStringLiteral("images"));
   }
-  void workAll(Watch& watch) {
+  void workAll(ProblemsWatch& watch) {
     while (watch.work(50)) {
     }
   }
@@ -43,7 +42,7 @@ TEST_F(WatchTest, FindsInTheEndWhatAJudgementOfTheWholeSkinFinds) {
   key.setWidth(15 * 20);
   key.setForeColor(key.backColor());
   state.form1.Label16[2].setLeft(-300);
-  Watch watch(state, folder, Screen());
+  ProblemsWatch watch(state, folder, Screen());
   EXPECT_TRUE(watch.work(1));
   workAll(watch);
   const Findings whole = skinHints(state, folder, Screen(), writtenPlaces(state));
@@ -53,7 +52,7 @@ TEST_F(WatchTest, FindsInTheEndWhatAJudgementOfTheWholeSkinFinds) {
 }
 
 TEST_F(WatchTest, JudgesOneElementAtOnceAndItsScreenLater) {
-  Watch watch(state, folder, Screen());
+  ProblemsWatch watch(state, folder, Screen());
   workAll(watch);
   ASSERT_EQ(texts(watch.findings()), "");
   key.setCaption(QStringLiteral("Rock, Pop"));
@@ -79,7 +78,7 @@ TEST_F(WatchTest, JudgesOneElementAtOnceAndItsScreenLater) {
 }
 
 TEST_F(WatchTest, FollowsTheLinesOfACoverFile) {
-  Watch watch(state, folder, Screen(), QStringLiteral("Ten.cov"));
+  ProblemsWatch watch(state, folder, Screen(), QStringLiteral("Ten.cov"));
   Label& title = state.form1.Label9[0];
   title.setFontName(QStringLiteral("Arial, bold"));
   watch.judge(title);
@@ -96,7 +95,7 @@ TEST_F(WatchTest, FollowsTheLinesOfACoverFile) {
 }
 
 TEST_F(WatchTest, TellsOfAReferenceWithoutAFileByItsButton) {
-  Watch watch(state, folder, Screen());
+  ProblemsWatch watch(state, folder, Screen());
   ImageSlot& name = *state.names.of(key);
   name.setValue(QStringLiteral("\\images\\gone.bmp"));
   watch.judge(name);

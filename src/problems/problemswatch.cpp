@@ -1,4 +1,4 @@
-#include "problems/watch.h"
+#include "problems/problemswatch.h"
 
 #include <algorithm>
 
@@ -8,8 +8,8 @@
 
 namespace veneerer {
 
-Watch::Watch(State& state, const SkinFolder& folder, const Screen& screen, const QString& coverFileName,
-             int touch)
+ProblemsWatch::ProblemsWatch(State& state, const SkinFolder& folder, const Screen& screen,
+                             const QString& coverFileName, int touch)
     : state_(state), folder_(folder), screen_(screen), coverFileName_(coverFileName), touch_(touch) {
   for (Window* window : std::initializer_list<Window*>{&state.form1, &state.form4, &state.names})
     collect(*window);
@@ -18,19 +18,19 @@ Watch::Watch(State& state, const SkinFolder& folder, const Screen& screen, const
   judgeAll();
 }
 
-void Watch::collect(Window& window) {
+void ProblemsWatch::collect(Window& window) {
   for (const Family* family : window.families())
     elements_.insert(elements_.end(), family->members().begin(), family->members().end());
 }
 
-void Watch::judgeAll() {
+void ProblemsWatch::judgeAll() {
   judge_.emplace(state_, screen_, writtenPlaces(state_, coverFileName_), touch_);
   ofFolder_ = unnamedFiles(state_, folder_);
   for (const Element* element : elements_) judgeAtOnce(*element);
   awaitAll();
 }
 
-void Watch::judge(const Element& element) {
+void ProblemsWatch::judge(const Element& element) {
   const bool movesLines = &element == &*state_.globals.LastCoverIndex;
   if (movesLines) judge_->setPlaces(writtenPlaces(state_, coverFileName_));
   if (movesLines || &element == &state_.form1) return awaitAll();
@@ -43,7 +43,7 @@ void Watch::judge(const Element& element) {
     await(element);
 }
 
-bool Watch::work(int elements) {
+bool ProblemsWatch::work(int elements) {
   for (; elements > 0 && !waiting_.empty(); --elements) {
     const Element& element = *waiting_.front();
     waiting_.pop_front();
@@ -54,7 +54,7 @@ bool Watch::work(int elements) {
   return !waiting_.empty();
 }
 
-Findings Watch::findings() const {
+Findings ProblemsWatch::findings() const {
   Findings all;
   for (const Element* element : elements_) all << of(*element);
   all << ofFolder_;
@@ -62,30 +62,30 @@ Findings Watch::findings() const {
   return all;
 }
 
-Findings Watch::of(const Element& element) const {
+Findings ProblemsWatch::of(const Element& element) const {
   const Known known = known_.value(&element);
   return known.atOnce + known.later;
 }
 
-void Watch::judgeAtOnce(const Element& element) {
+void ProblemsWatch::judgeAtOnce(const Element& element) {
   known_[&element].atOnce = judge_->damage(element) + judge_->hintsAtOnce(element);
 }
 
-void Watch::judgeLater(const Element& element) {
+void ProblemsWatch::judgeLater(const Element& element) {
   known_[&element].later = judge_->hintsByGround(element) + referenceFindings(element);
 }
 
-void Watch::await(const Element& element) {
+void ProblemsWatch::await(const Element& element) {
   if (isWaiting_.contains(&element)) return;
   isWaiting_.insert(&element);
   waiting_.push_back(&element);
 }
 
-void Watch::awaitAll() {
+void ProblemsWatch::awaitAll() {
   for (const Element* element : elements_) await(*element);
 }
 
-void Watch::awaitScreenOf(const Element& element) {
+void ProblemsWatch::awaitScreenOf(const Element& element) {
   const int entry = screenEntryOf(state_, element);
   await(element);
   for (const Family* family : state_.form1.families())
@@ -93,7 +93,7 @@ void Watch::awaitScreenOf(const Element& element) {
       if (screenEntryOf(state_, *other) == entry) await(*other);
 }
 
-Findings Watch::referenceFindings(const Element& element) {
+Findings ProblemsWatch::referenceFindings(const Element& element) {
   if (element.kind() != Kind::ImageSlot) return {};
   const auto& name = element.as<StoredValue>(Property::Name);
   const QString damage = referenceDamage(folder_, trials_, name.text());

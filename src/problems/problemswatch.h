@@ -14,12 +14,12 @@ namespace veneerer {
 
 /// Judges the live elements of one loaded Skin. It attaches itself to nothing: who owns it tells of each
 /// change, and lets it work when there is time. Make a new one for another Skin.
-class Watch {
+class ProblemsWatch {
 public:
   /// coverFileName is the cover file whose lines are told, empty for none. touch is the least side of a
   /// button, pixels. The state must outlive the watch.
-  Watch(State& state, const SkinFolder& folder, const Screen& screen, const QString& coverFileName = {},
-        int touch = kTouchPixels);
+  ProblemsWatch(State& state, const SkinFolder& folder, const Screen& screen,
+                const QString& coverFileName = {}, int touch = kTouchPixels);
 
   /// Judges everything anew: at once what takes no painting and decodes no picture; the rest waits for
   /// work().
@@ -45,6 +45,14 @@ private:
     Findings later;
   };
 
+  void collect(Window& window);
+  void judgeAtOnce(const Element& element);
+  void judgeLater(const Element& element);
+  void await(const Element& element);
+  void awaitAll();
+  void awaitScreenOf(const Element& element);
+  Findings referenceFindings(const Element& element);
+
   State& state_;
   SkinFolder folder_;
   Screen screen_;
@@ -58,14 +66,6 @@ private:
   Findings ofFolder_;
   std::deque<const Element*> waiting_;
   QSet<const Element*> isWaiting_;
-
-  void collect(Window& window);
-  void judgeAtOnce(const Element& element);
-  void judgeLater(const Element& element);
-  void await(const Element& element);
-  void awaitAll();
-  void awaitScreenOf(const Element& element);
-  Findings referenceFindings(const Element& element);
 };
 
 }  // namespace veneerer
