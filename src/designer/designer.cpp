@@ -1,9 +1,11 @@
 #include "designer/designer.h"
 
 #include "canvas/canvasinput.h"
+#include "canvas/sections.h"
 #include "design/design.h"
 #include "designer/refusalnotes.h"
 #include "editing/setting.h"
+#include "elements/numbers.h"
 #include "elements/printable.h"
 #include "elements/require.h"
 #include "forms/currentskin.h"
@@ -209,6 +211,26 @@ void Designer::move(Element& element, float x, float y, MouseButton button) {
   parts_->canvas.move(element, x, y, button);
 }
 
+void Designer::nudge(Element& element, int dxPixels, int dyPixels) {
+  if (&element.window() != &parts_->state->form1) return;
+  const Screen& screen = parts_->platform.screen;
+  const History::Action action(parts_->history, {}, &element);
+  parts_->canvas.press(element, 0, 0, MouseButton::Left);
+  parts_->canvas.move(element, static_cast<float>(dxPixels * screen.twipsPerPixelX()),
+                      static_cast<float>(dyPixels * screen.twipsPerPixelY()), MouseButton::Left);
+}
+
+void Designer::sizeInHand(std::optional<float> width, std::optional<float> height) {
+  Element* element = currentElement(*parts_->state, ToolField::Size);
+  if (!element) return;
+  Array<TextBox>& fields = parts_->state->form6.Text3;
+  const History::Action action(parts_->history, {}, &fields);
+  // A text that stands in its field already would be no change.
+  parts_->canvas.refill();
+  if (height) fields[0].setText(singleText(*height));
+  if (width) fields[1].setText(singleText(*width));
+}
+
 void Designer::type(Element& field, const QString& text) {
   const History::Action action(parts_->history, actionName(*parts_->state, field), &field);
   field.set(Property::Text, text);
@@ -237,7 +259,7 @@ void Designer::select(OptionButton& option) {
 }
 
 void Designer::resizeCanvas(float width, float height) {
-  const History::Action action(parts_->history);
+  const History::Action action(parts_->history, {}, &parts_->state->form1);
   parts_->state->form1.setWidth(width);
   parts_->state->form1.setHeight(height);
 }

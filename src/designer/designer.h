@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "canvas/mousebutton.h"
 #include "editing/arranging.h"
@@ -61,6 +62,13 @@ public:
   void press(Element& element, float x, float y, MouseButton button);
   /// The move event; the button is the one held down.
   void move(Element& element, float x, float y, MouseButton button);
+  /// An arrow key moves an element of the canvas by so many pixels: a left press at its corner and a move.
+  /// Nudges of one element one directly behind the other are one step.
+  void nudge(Element& element, int dxPixels, int dyPixels);
+  /// A handle gives the element in hand its size, each in twips: what Form6 has fields for is typed there,
+  /// the height ahead of the width. Does nothing where the fields don't serve its Section. Sizes one directly
+  /// behind the other are one step.
+  void sizeInHand(std::optional<float> width, std::optional<float> height);
   /// Types a text into a text or combo box, which may be one letter more than before.
   void type(Element& field, const QString& text);
   /// Picks a row. False when the list has no such row.
@@ -70,7 +78,8 @@ public:
   /// Sets a check box, to 0 or 1.
   void tick(CheckBox& box, int value);
   void select(OptionButton& option);
-  /// The operator sizes the canvas window; twips. The elements keep their places.
+  /// The operator sizes the canvas window; twips. The elements keep their places. Sizes one directly behind
+  /// the other are one step.
   void resizeCanvas(float width, float height);
 
   // The designer's own hands: no Section takes part, and none of the tools' exceptions and limits.

@@ -29,7 +29,8 @@ private:
   PictureSamples& pictures_;
   PixelScale scale_;
   CutOuts cutOuts_;
-  ButtonFaces faces_{cutOuts_};
+  ScaledImages images_;
+  ButtonFaces faces_{cutOuts_, images_};
 };
 
 }  // namespace veneerer

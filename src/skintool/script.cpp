@@ -87,6 +87,7 @@ const ScriptPlayer::Entry ScriptPlayer::kActions[] = {
     {QLatin1String("click"), 1, 1, &ScriptPlayer::click},
     {QLatin1String("press"), 3, 4, &ScriptPlayer::press},
     {QLatin1String("move"), 3, 4, &ScriptPlayer::move},
+    {QLatin1String("nudge"), 3, 3, &ScriptPlayer::nudge},
     {QLatin1String("choose"), 2, 2, &ScriptPlayer::choose},
     {QLatin1String("doubleclick"), 2, 2, &ScriptPlayer::doubleClick},
     {QLatin1String("set"), 2, 2, &ScriptPlayer::set},
@@ -179,6 +180,10 @@ void ScriptPlayer::move(const Words& words) {
     throw ScriptError(QStringLiteral("move knows only the word \"none\""));
   designer_.move(element(words[0]), number(words[1]), number(words[2]),
                  isFree ? MouseButton::None : MouseButton::Left);
+}
+
+void ScriptPlayer::nudge(const Words& words) {
+  designer_.nudge(element(words[0]), wholeNumber(words[1]), wholeNumber(words[2]));
 }
 
 void ScriptPlayer::choose(const Words& words) {

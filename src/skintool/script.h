@@ -39,6 +39,7 @@ private:
   void click(const Words& words);
   void press(const Words& words);
   void move(const Words& words);
+  void nudge(const Words& words);
   void choose(const Words& words);
   void doubleClick(const Words& words);
   void set(const Words& words);

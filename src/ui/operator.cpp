@@ -38,6 +38,21 @@ void Operator::move(Element& element, float x, float y, MouseButton button) {
   act([&] { designer_.move(element, x, y, button); });
 }
 
+void Operator::nudge(Element& element, int dxPixels, int dyPixels) {
+  designer_.nudge(element, dxPixels, dyPixels);
+  Q_EMIT acted();
+}
+
+void Operator::sizeInHand(std::optional<float> width, std::optional<float> height) {
+  designer_.sizeInHand(width, height);
+  Q_EMIT acted();
+}
+
+void Operator::resizeCanvas(float width, float height) {
+  designer_.resizeCanvas(width, height);
+  Q_EMIT acted();
+}
+
 void Operator::type(Element& field, const QString& text) {
   act([&] { designer_.type(field, text); });
   rest_.start();

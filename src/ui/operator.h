@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <optional>
 
 #include "designer/designer.h"
 
@@ -29,6 +30,12 @@ public:
   void move(Element& element, float x, float y, MouseButton button);
   /// The button was released: what comes next is another gesture.
   void release() { designer_.history().settle(); }
+  /// An arrow key moves the element by so many pixels.
+  void nudge(Element& element, int dxPixels, int dyPixels);
+  /// A handle gives the element in hand its size; twips.
+  void sizeInHand(std::optional<float> width, std::optional<float> height);
+  /// A handle gives the canvas window its size; twips.
+  void resizeCanvas(float width, float height);
   void type(Element& field, const QString& text);
   void choose(RowList& list, int row);
   /// The second event of the cover list, on that row.

@@ -170,6 +170,51 @@ TEST_F(Undo, WhatBelongsTogetherIsOneStep) {
   EXPECT_TRUE(isScreenShown(state(), 5));
 }
 
+TEST_F(Undo, ANudgeIsAPressAndAMoveInOneStep) {
+  History& history = designer->history();
+  Button& button = form1().lvButtons_H1[2];
+  const float left = button.left();
+  const float top = button.top();
+  designer->nudge(button, 1, -10);
+  designer->nudge(button, 1, 0);
+  EXPECT_EQ(button.left(), left + 30);
+  EXPECT_EQ(button.top(), top - 150);
+  EXPECT_EQ(state().globals.DragAnchorX, 0);
+  EXPECT_EQ(history.stack().count(), 1);
+  designer->nudge(form1().lvButtons_H1[3], 0, 1);
+  EXPECT_EQ(history.stack().count(), 2) << "another element is another step";
+  Button& fixed = *form1().lvButtons_H20;
+  const float place = fixed.left();
+  designer->nudge(fixed, 5, 5);
+  EXPECT_EQ(fixed.left(), place) << "what can't be dragged can't be nudged";
+}
+
+TEST_F(Undo, AHandlesDragTypesItsSizesInOneStep) {
+  History& history = designer->history();
+  designer->sizeInHand(300.0f, 300.0f);
+  EXPECT_EQ(history.stack().count(), 0) << "nothing is in hand";
+  Label& label = form1().Label4[0];
+  designer->click(label);
+  history.settle();
+  const float before = label.width();
+  const int count = history.stack().count();
+  state().form6.Text3[1].set(Property::Text, QStringLiteral("1500"));
+  label.setWidth(before);
+  designer->sizeInHand(1500.0f, {});
+  EXPECT_EQ(label.width(), 1500) << "what stands in the field doesn't count";
+  designer->sizeInHand(1800.0f, 450.0f);
+  designer->sizeInHand(2100.0f, 600.0f);
+  EXPECT_EQ(state().form6.Text3[0].text(), QStringLiteral("600"));
+  EXPECT_EQ(label.width(), 2100);
+  EXPECT_EQ(label.height(), 600);
+  designer->resizeCanvas(9000, 6000);
+  designer->resizeCanvas(9015, 6000);
+  EXPECT_EQ(history.stack().count(), count + 2);
+  history.undo();
+  history.undo();
+  EXPECT_EQ(label.width(), before);
+}
+
 TEST_F(Undo, TheFieldsShowWhatIsInHand) {
   Button& button = form1().lvButtons_H1[2];
   const QString height = QString::number(button.height());
