@@ -171,8 +171,9 @@ const LaidOutText* ButtonPainter::layOutCaption(const Task& task, QSizeF room) {
   const Button& button = task.button;
   const int height = fontPixels(button.as<float>(Property::FontSize), task.scale.y);
   if (button.caption().isEmpty() || height == 0) return nullptr;
+  const double width = room.width() + lostWidth(button, task.rect, task.scale);
   return &texts_.of({drawnCaption(button.caption()), button.as<QString>(Property::FontName), height,
-                     fontFlags(button), static_cast<int>(std::ceil(room.width())),
+                     fontFlags(button), static_cast<int>(std::ceil(width)),
                      static_cast<int>(std::ceil(room.height())), captionAlignment(button)});
 }
 

@@ -109,9 +109,10 @@ void CanvasPainter::paintLabel(QPainter& painter, const Label& label, const QRec
   if (label.isOpaque()) painter.fillRect(shown, label.backColor().toQColor());
   const int height = fontPixels(label.fontSize(), scale_.y);
   if (label.caption().isEmpty() || height == 0) return;
-  const LaidOutText& text = texts_.of({label.caption(), label.fontName(), height, fontFlags(label),
-                                       static_cast<int>(std::ceil(rect.width())),
-                                       static_cast<int>(std::ceil(rect.height())), label.alignment()});
+  const LaidOutText& text =
+      texts_.of({label.caption(), label.fontName(), height, fontFlags(label),
+                 static_cast<int>(std::ceil(rect.width() + lostWidth(label, rect, scale_))),
+                 static_cast<int>(std::ceil(rect.height())), label.alignment()});
   painter.setPen(label.foreColor().toQColor());
   drawTextWithin(painter, text, rect.topLeft(), shown);
 }

@@ -42,6 +42,12 @@ std::optional<QRectF> pixelRect(const Element& element, QPointF origin, const Pi
   return rect;
 }
 
+double lostWidth(const Element& element, const QRectF& rect, const PixelScale& scale) {
+  if (scale.device == 1) return 0;
+  const double lost = std::round(element.width() * scale.x) - rect.width();
+  return std::abs(lost) <= 1 + 1 / scale.device ? lost : 0;
+}
+
 int fontPixels(float points, double pixelsPerTwip) {
   const double pixels = points * kTwipsPerPoint * pixelsPerTwip;
   if (!(pixels > 0)) return 0;

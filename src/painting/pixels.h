@@ -27,6 +27,11 @@ double deviceScale(const QPainter& painter);
 /// area or with numbers that are none. Far places and sizes are drawn in to a million pixels.
 std::optional<QRectF> pixelRect(const Element& element, QPointF origin, const PixelScale& scale);
 
+/// By how much the snapping to a device's pixels narrowed the rectangle that pixelRect() made: where texts
+/// break doesn't depend on the device's scale. Below zero where it was widened; 0 at a scale of 1, and for a
+/// rectangle that isn't the element's own.
+double lostWidth(const Element& element, const QRectF& rect, const PixelScale& scale);
+
 /// The height in pixels of a font of that many points, 1 to 2000; 0 for a size that shows nothing.
 int fontPixels(float points, double pixelsPerTwip);
 
