@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QToolTip>
 #include <limits>
+#include <optional>
 
 #include "canvas/sections.h"
 #include "painting/canvassize.h"
@@ -25,8 +26,15 @@ constexpr int kPatience = 40;
 constexpr qint64 kScalingAllowance = 12LL * 1024 * 1024;
 constexpr int kMostRefinements = 12;
 
-// How far around its line the outline is repainted, pixels.
+// An outline may lie so far outside of what is shown, pixels.
 constexpr int kOutlineReach = 2;
+
+// How near a line must be to snap to it, pixels of the view.
+constexpr double kSnapReach = 6;
+
+// How far an arrow key moves, canvas pixels.
+constexpr int kNudge = 1;
+constexpr int kLongNudge = 10;
 
 MouseButton buttonOf(const QMouseEvent& event) {
   switch (event.button()) {
@@ -46,17 +54,32 @@ QRect reach(const QRect& outline) {
   return outline.isNull() ? outline : outline.adjusted(-r, -r, r, r);
 }
 
+std::optional<QPoint> directionOf(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+      return QPoint(-1, 0);
+    case Qt::Key_Right:
+      return QPoint(1, 0);
+    case Qt::Key_Up:
+      return QPoint(0, -1);
+    case Qt::Key_Down:
+      return QPoint(0, 1);
+    default:
+      return std::nullopt;
+  }
+}
+
 }  // namespace
 
 CanvasWidget::CanvasWidget(const Ui& ui)
     : hands_(ui.hands),
       state_(ui.hands.state()),
-      pixelsPerTwipX_(1 / ui.hands.screen().twipsPerPixelX()),
-      pixelsPerTwipY_(1 / ui.hands.screen().twipsPerPixelY()),
+      scale_(1 / ui.hands.screen().twipsPerPixelX(), 1 / ui.hands.screen().twipsPerPixelY()),
       watching_(state_.board.watch([this](const Change& change) { changed(change); })),
-      hits_(painter_.cutOuts(), {pixelsPerTwipX_, pixelsPerTwipY_}),
-      dirty_(pixelsPerTwipX_, pixelsPerTwipY_),
-      frames_(state_.form1, [this](const Element& frame) { repaintElement(frame); }) {
+      hits_(painter_.cutOuts(), {scale_.pixelsPerTwipX(), scale_.pixelsPerTwipY()}),
+      dirty_(scale_.pixelsPerTwipX(), scale_.pixelsPerTwipY()),
+      frames_(state_.form1, [this](const Element& frame) { repaintElement(frame); }),
+      sizing_(ui.hands) {
   painter_.setFrameSource([this](const Element& frame) { return frames_.frame(frame); });
   refining_.setSingleShot(true);
   refining_.setInterval(kPatience);
@@ -71,6 +94,28 @@ CanvasWidget::CanvasWidget(const Ui& ui)
 
 QSize CanvasWidget::sizeHint() const {
   return canvasSize(state_.form1, hands_.screen()).pixels;
+}
+
+void CanvasWidget::setZoom(const Zoom& zoom) {
+  const bool isAnother = zoom != scale_.zoom();
+  scale_.setZoom(zoom);
+  resize(zoom.shown(sizeHint()));
+  if (!isAnother) return;
+  dirty_ = DirtyArea(scale_.pixelsPerTwipX() * zoom.factor(), scale_.pixelsPerTwipY() * zoom.factor());
+  dirty_.addAll();
+  isZooming_ = true;
+  refinements_ = 0;
+  scheduleRepaint();
+}
+
+void CanvasWidget::setGrid(QSizeF step) {
+  grid_ = step;
+  update();
+}
+
+void CanvasWidget::setGuides(const Guides& guides) {
+  guides_ = guides;
+  update();
 }
 
 void CanvasWidget::changed(const Change& change) {
@@ -107,10 +152,10 @@ void CanvasWidget::scheduleRepaint() {
 void CanvasWidget::repaintDirty() {
   repaintScheduled_ = false;
   QRegion region = dirty_.take();
-  const QRect outline = outlineRect();
-  if (outline != outline_) region = region + reach(outline_) + reach(outline);
-  outline_ = outline;
+  const CanvasMarks before = std::exchange(marks_, marks());
+  if (before != marks_) region = region + before.region() + marks_.region();
   if (!region.isEmpty()) update(region);
+  if (before.outline != marks_.outline) Q_EMIT outlineMoved();
   if (pointed_) Q_EMIT pointed(isShown(*pointed_) ? pointed_ : nullptr);
 }
 
@@ -124,7 +169,7 @@ void CanvasWidget::paintEvent(QPaintEvent* event) {
     painter_.setScalingAllowance(std::numeric_limits<qint64>::max());
     for (const QRect& exposed : event->region()) paintPiece(painter, exposed);
   }
-  paintOutline(painter);
+  paintOverlay(painter, event->region().boundingRect());
 }
 
 bool CanvasWidget::isOnScreen(const QPainter& painter) const {
@@ -134,7 +179,7 @@ bool CanvasWidget::isOnScreen(const QPainter& painter) const {
 
 // Returns what there was no time for.
 QRegion CanvasWidget::paintPieces(QPainter& painter, const QRegion& region) {
-  painter_.setScalingAllowance(kScalingAllowance);
+  painter_.setScalingAllowance(isZooming_ ? 0 : kScalingAllowance);
   QRegion left = region;
   QElapsedTimer all;
   all.start();
@@ -152,12 +197,19 @@ QRegion CanvasWidget::paintPieces(QPainter& painter, const QRegion& region) {
   return left;
 }
 
+// The clip falls on the view's own pixels, so that pieces meet without a seam.
 void CanvasWidget::paintPiece(QPainter& painter, const QRect& piece) {
-  painter_.paint(painter, state_.form1, piece, pixelsPerTwipX_, pixelsPerTwipY_);
+  painter.save();
+  painter.setClipRect(piece, Qt::IntersectClip);
+  painter.scale(zoom().factor(), zoom().factor());
+  painter_.paint(painter, state_.form1, zoom().canvasPixels(piece), scale_.pixelsPerTwipX(),
+                 scale_.pixelsPerTwipY());
+  painter.restore();
 }
 
 void CanvasWidget::refine() {
   ++refinements_;
+  isZooming_ = false;
   update(std::exchange(coarse_, QRegion()));
 }
 
@@ -165,28 +217,46 @@ const Element* CanvasWidget::outlined() const {
   return grabbed_ ? grabbed_ : currentElement(state_);
 }
 
-QRect CanvasWidget::outlineRect() const {
-  const Element* element = outlined();
+QRect CanvasWidget::outlineOf(const Element* element) const {
   if (!element || &element->window() != &state_.form1 || !isShown(*element)) return QRect();
   // Only what can be in sight: a dashed line around an absurd size would take for ever.
   return dirty_.pixelsOf(windowRect(*element)) & reach(rect());
 }
 
-void CanvasWidget::paintOutline(QPainter& painter) const {
-  if (outline_.isNull()) return;
-  // Black and white side by side show on any Skin.
-  const QRect line = outline_.adjusted(0, 0, -1, -1);
-  painter.setPen(QPen(Qt::black, 1));
-  painter.drawRect(line);
-  QPen dashes(Qt::white, 1);
-  dashes.setDashPattern({4, 4});
-  painter.setPen(dashes);
-  painter.drawRect(line);
+CanvasMarks CanvasWidget::marks() const {
+  CanvasMarks made;
+  const Element* element = outlined();
+  made.outline = outlineOf(element);
+  if (pointed_ && pointed_ != element && !grabbed_) made.hover = outlineOf(pointed_);
+  if (!grabbed_ && sizable() && !made.outline.isNull())
+    for (const Handle handle : kHandles) made.handles.append(handleRect(handle, made.outline, rect()));
+  const bool isChanging = isDragged_ || sizing_.isOn();
+  if (isChanging && !made.outline.isNull())
+    addAlignment(made, *element, surroundingsOf(*element, guides_, scale_), scale_, rect());
+  return made;
+}
+
+void CanvasWidget::paintOverlay(QPainter& painter, const QRect& exposed) const {
+  paintGrid(painter, exposed, grid_, zoom());
+  paintGuides(painter, exposed, guides_, zoom());
+  marks_.paint(painter);
+}
+
+// The element in hand when its size can be set.
+Element* CanvasWidget::sizable() const {
+  Element* element = currentElement(state_, ToolField::Size);
+  return element && &element->window() == &state_.form1 && isShown(*element) ? element : nullptr;
+}
+
+Handle CanvasWidget::handleUnder(QPointF place) const {
+  return sizable() ? handleAt(place.toPoint(), outlineOf(sizable()), rect()) : Handle::None;
 }
 
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
-  Element* element = at(event->position());
   const MouseButton button = buttonOf(*event);
+  const Handle handle = button == MouseButton::Left ? handleUnder(event->position()) : Handle::None;
+  if (handle != Handle::None) return sizing_.begin(handle, *sizable(), scale_.twipsAt(event->position()));
+  Element* element = at(event->position());
   if (!element || button == MouseButton::None) return;
   const QPointF place = inside(*element, event->position());
   if (button == MouseButton::Left) hold(element);
@@ -194,18 +264,51 @@ void CanvasWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
-  if (!grabbed_ || !(event->buttons() & Qt::LeftButton)) return point(at(event->position()));
-  const QPointF place = inside(*grabbed_, event->position());
+  const bool isHeld = event->buttons() & Qt::LeftButton;
+  if (sizing_.isOn() && isHeld) return sizing_.move(scale_.twipsAt(event->position()));
+  if (!grabbed_ || !isHeld) return pointAt(event->position());
+  drag(inside(*grabbed_, event->position()), event->modifiers() & Qt::ControlModifier);
+}
+
+void CanvasWidget::drag(QPointF place, bool snaps) {
+  const QPointF anchor(state_.globals.DragAnchorX, state_.globals.DragAnchorY);
+  isDragged_ = isDragged_ || (place - anchor).manhattanLength() >= 1;
+  if (snaps)
+    place = snapped(*grabbed_, place, anchor, surroundingsOf(*grabbed_, guides_, scale_),
+                    scale_.twipsIn(kSnapReach));
   hands_.move(*grabbed_, static_cast<float>(place.x()), static_cast<float>(place.y()), MouseButton::Left);
 }
 
 void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || !grabbed_) return;
+  if (event->button() != Qt::LeftButton) return;
+  if (sizing_.isOn()) return endSizing();
+  if (!grabbed_) return;
   Element* element = grabbed_;
   hold(nullptr);
   scheduleRepaint();
-  if (windowRect(*element).contains(toTwips(event->position()))) hands_.click(*element);
+  if (windowRect(*element).contains(scale_.twipsAt(event->position()))) hands_.click(*element);
   hands_.release();
+}
+
+void CanvasWidget::endSizing() {
+  sizing_.end();
+  scheduleRepaint();
+}
+
+void CanvasWidget::keyPressEvent(QKeyEvent* event) {
+  const std::optional<QPoint> direction = directionOf(event->key());
+  const Qt::KeyboardModifiers held = event->modifiers() & ~Qt::KeypadModifier;
+  Element* element = currentElement(state_);
+  const bool isNudge = direction && (held == Qt::NoModifier || held == Qt::ShiftModifier);
+  if (!isNudge || !element || grabbed_ || outlineOf(element).isNull()) return QWidget::keyPressEvent(event);
+  const QPoint way = *direction * (held == Qt::ShiftModifier ? kLongNudge : kNudge);
+  hands_.nudge(*element, way.x(), way.y());
+}
+
+// A key that is held down is one gesture.
+void CanvasWidget::keyReleaseEvent(QKeyEvent* event) {
+  if (!directionOf(event->key())) return QWidget::keyReleaseEvent(event);
+  if (!event->isAutoRepeat() && !grabbed_) hands_.release();
 }
 
 void CanvasWidget::leaveEvent(QEvent*) {
@@ -228,9 +331,16 @@ void CanvasWidget::showToolTip(const QPoint& global, const QPoint& place) {
 
 void CanvasWidget::hold(Element* element) {
   const Element* before = std::exchange(grabbed_, element);
+  isDragged_ = false;
   painter_.setPressed(element);
   for (const Element* e : {before, static_cast<const Element*>(element)})
     if (e && e->kind() == Kind::Button) repaintElement(*e);
+}
+
+void CanvasWidget::pointAt(QPointF place) {
+  const Handle handle = handleUnder(place);
+  setCursor(cursorOf(handle));
+  point(handle == Handle::None ? at(place) : nullptr);
 }
 
 void CanvasWidget::point(Element* element) {
@@ -239,6 +349,7 @@ void CanvasWidget::point(Element* element) {
   painter_.setHovered(element);
   for (const Element* e : {before, element})
     if (e && e->kind() == Kind::Button) repaintElement(*e);
+  scheduleRepaint();
   Q_EMIT pointed(element);
 }
 
@@ -247,16 +358,12 @@ void CanvasWidget::repaintElement(const Element& element) {
   scheduleRepaint();
 }
 
-QPointF CanvasWidget::toTwips(QPointF pixels) const {
-  return QPointF(pixels.x() / pixelsPerTwipX_, pixels.y() / pixelsPerTwipY_);
+QPointF CanvasWidget::inside(const Element& element, QPointF place) const {
+  return scale_.twipsAt(place) - windowRect(element).topLeft();
 }
 
-QPointF CanvasWidget::inside(const Element& element, QPointF pixels) const {
-  return toTwips(pixels) - windowRect(element).topLeft();
-}
-
-Element* CanvasWidget::at(QPointF pixels) const {
-  const QPointF twips = toTwips(pixels);
+Element* CanvasWidget::at(QPointF place) const {
+  const QPointF twips = scale_.twipsAt(place);
   return hits_.elementAt(state_.form1, static_cast<float>(twips.x()), static_cast<float>(twips.y()));
 }
 

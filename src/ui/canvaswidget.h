@@ -9,13 +9,18 @@
 #include "painting/hittest.h"
 #include "ui/bindings.h"
 #include "ui/dirtyarea.h"
+#include "ui/elementdrag.h"
+#include "ui/overlay.h"
 #include "ui/paintpieces.h"
+#include "ui/zoom.h"
 
 namespace veneerer {
 
 /// Paints what has changed, and turns the mouse into clicks, presses and moves of the elements under it. An
-/// element that takes a left press keeps the mouse until the button is released. A thin outline that isn't
-/// part of the Skin marks the element that is held, else the one in hand.
+/// element that takes a left press keeps the mouse until the button is released. An outline that isn't part
+/// of the Skin marks the element that is held, else the one in hand; handles on it feed the fields of its
+/// height and width, and the arrow keys nudge it. A thin one marks what a press would take. While an element
+/// is dragged, lines show what it agrees with; with Ctrl held it snaps to them.
 class CanvasWidget : public QWidget {
   Q_OBJECT
 
@@ -25,11 +30,24 @@ public:
   /// canvasSize()
   QSize sizeHint() const override;
 
+  const Zoom& zoom() const { return scale_.zoom(); }
+  /// The widget becomes as large as the canvas is shown.
+  void setZoom(const Zoom& zoom);
+
+  /// The steps of the grid in canvas pixels; an empty size for no grid.
+  void setGrid(QSizeF step);
+  void setGuides(const Guides& guides);
+
+  /// The outline of the element in hand, pixels of this widget; null for none.
+  QRect outline() const { return marks_.outline; }
+
 Q_SIGNALS:
   /// The pointer stands on another element, null for none, or its element has changed.
   void pointed(const Element* element);
   /// The size of the canvas window has changed.
   void resized();
+  /// The outline is another one.
+  void outlineMoved();
 
 protected:
   bool event(QEvent* event) override;
@@ -37,6 +55,8 @@ protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
   void leaveEvent(QEvent* event) override;
 
 private:
@@ -51,19 +71,23 @@ private:
   void paintPiece(QPainter& painter, const QRect& piece);
   void refine();
   const Element* outlined() const;
-  QRect outlineRect() const;
-  void paintOutline(QPainter& painter) const;
+  QRect outlineOf(const Element* element) const;
+  CanvasMarks marks() const;
+  void paintOverlay(QPainter& painter, const QRect& exposed) const;
+  Element* sizable() const;
+  Handle handleUnder(QPointF place) const;
+  void drag(QPointF place, bool snaps);
+  void endSizing();
   void hold(Element* element);
+  void pointAt(QPointF place);
   void point(Element* element);
   void showToolTip(const QPoint& global, const QPoint& at);
-  QPointF toTwips(QPointF pixels) const;
-  QPointF inside(const Element& element, QPointF pixels) const;
-  Element* at(QPointF pixels) const;
+  QPointF inside(const Element& element, QPointF place) const;
+  Element* at(QPointF place) const;
 
   Operator& hands_;
   State& state_;
-  double pixelsPerTwipX_;
-  double pixelsPerTwipY_;
+  CanvasScale scale_;
   Attachment watching_;
   CanvasPainter painter_;
   HitTest hits_;
@@ -72,10 +96,15 @@ private:
   PaintPieces pieces_;
   QRegion coarse_;  ///< where pictures are yet to be scaled smoothly
   QTimer refining_;
-  int refinements_ = 0;  ///< since the last change
+  int refinements_ = 0;     ///< since the last change
+  bool isZooming_ = false;  ///< pictures wait until it has come to rest
   ucAniGIF frames_;
-  QRect outline_;
+  QSizeF grid_;
+  Guides guides_;
+  CanvasMarks marks_;
+  SizeDrag sizing_;
   Element* grabbed_ = nullptr;
+  bool isDragged_ = false;  ///< what is grabbed has been moved
   Element* pointed_ = nullptr;
 };
 
