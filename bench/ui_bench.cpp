@@ -3,8 +3,12 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMouseEvent>
+#include <QScrollBar>
+#include <QThread>
 #include <QWidget>
 #include <memory>
 
@@ -105,6 +109,51 @@ void copyColoursOverAll(benchmark::State& run) {
   }
 }
 BENCHMARK(copyColoursOverAll)->Unit(benchmark::kMillisecond);
+
+// The canvas alone, at about 1920 by 1080 pixels.
+struct LargeView {
+  LargeView() {
+    auto* window = qobject_cast<QMainWindow*>(program.canvas->window());
+    for (QDockWidget* dock : window->findChildren<QDockWidget*>()) dock->hide();
+    window->resize(1960, 1160);
+    view = window->findChild<CanvasView*>();
+    Program::settle();
+  }
+  Program program;
+  CanvasView* view;
+};
+
+void zoomStep(benchmark::State& run) {
+  LargeView large;
+  int percent = 0;
+  for (auto _ : run) {
+    percent = (percent + 7) % 130;
+    large.view->zoomTo(Zoom(120 + percent));
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(zoomStep)->Unit(benchmark::kMillisecond);
+
+void panStep(benchmark::State& run) {
+  LargeView large;
+  large.view->zoomTo(Zoom(static_cast<int>(run.range(0))));
+  Program::settle();
+  // Until the pictures have been scaled.
+  for (int i = 0; i < 20; ++i) {
+    QThread::msleep(25);
+    Program::settle();
+  }
+  QScrollBar& bar = *large.view->horizontalScrollBar();
+  bool back = false;
+  for (auto _ : run) {
+    if (bar.value() == bar.maximum() || bar.value() == 0) back = !back;
+    bar.setValue(bar.value() + (back ? -40 : 40));
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(panStep)->Arg(200)->Arg(400)->Arg(800)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace veneerer

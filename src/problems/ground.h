@@ -7,6 +7,7 @@
 #include "forms/state.h"
 #include "painting/buttonface.h"
 #include "painting/pixels.h"
+#include "painting/scaledimages.h"
 #include "problems/picturesamples.h"
 
 namespace veneerer {

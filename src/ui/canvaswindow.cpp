@@ -15,6 +15,7 @@
 #include "ui/inhandline.h"
 #include "ui/keys.h"
 #include "ui/plaintext.h"
+#include "ui/viewcommands.h"
 
 namespace veneerer {
 
@@ -46,19 +47,12 @@ void makeCommand(QAction& action, const QList<QKeySequence>& keys, const QString
 }  // namespace
 
 CanvasWindow::CanvasWindow(const Ui& ui)
-    : ui_(ui),
-      state_(ui.hands.state()),
-      view_(new QScrollArea),
-      canvas_(new CanvasWidget(ui)),
-      status_(new StatusLine) {
-  view_->setFrameShape(QFrame::NoFrame);
-  view_->setWidget(canvas_);
-  view_->setBackgroundRole(QPalette::Dark);
+    : ui_(ui), state_(ui.hands.state()), view_(new CanvasView(ui)), status_(new StatusLine) {
   setCentralWidget(view_);
   statusBar()->addWidget(status_, 1);
+  statusBar()->addPermanentWidget(makeZoomButton(*view_));
   state_.notes.setListener([this](const QString& note) { status_->tell(note); });
-  connect(canvas_, &CanvasWidget::resized, this, &CanvasWindow::fitCanvas);
-  connect(canvas_, &CanvasWidget::pointed, this, &CanvasWindow::pointed);
+  connect(&view_->canvas(), &CanvasWidget::pointed, this, &CanvasWindow::pointed);
   addInHandLine();
   setDockNestingEnabled(true);
   setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
@@ -67,7 +61,6 @@ CanvasWindow::CanvasWindow(const Ui& ui)
   addViewMenu();
   addWindowMenu();
   addHelpMenu();
-  fitCanvas();
 }
 
 CanvasWindow::~CanvasWindow() {
@@ -135,6 +128,8 @@ void CanvasWindow::addViewMenu() {
   QAction* previous = addCommand(menu, QStringLiteral("&Previous Screen"), {QKeySequence(u"Ctrl+PgUp"_qs)},
                                  QStringLiteral("Show the screen ahead of this one in the list"));
   connect(previous, &QAction::triggered, this, [this] { showScreen(-1); });
+  menu->addSeparator();
+  addViewCommands(*menu, *view_);
 }
 
 void CanvasWindow::addScreenMenu(QMenu* menu) {
@@ -184,7 +179,7 @@ void CanvasWindow::bringUp(const Panel& panel) {
 void CanvasWindow::arrange() {
   QList<QDockWidget*> docks;
   for (const Panel& panel : panels_) docks.append(panel.dock);
-  arrangePanels(*this, docks, canvas_->sizeHint());
+  arrangePanels(*this, docks, view_->wholeSize());
 }
 
 void CanvasWindow::addHelpMenu() {
@@ -203,10 +198,6 @@ void CanvasWindow::about() {
   box.exec();
 }
 
-void CanvasWindow::fitCanvas() {
-  canvas_->resize(canvas_->sizeHint());
-}
-
 void CanvasWindow::pointed(const Element* element) {
   status_->describe(element ? describe(state_, *element, ui_.hands.screen()) : QString());
 }
@@ -219,7 +210,7 @@ void CanvasWindow::showEvent(QShowEvent* event) {
 
 void CanvasWindow::takeFocus() {
   activateWindow();
-  canvas_->setFocus();
+  view_->canvas().setFocus();
 }
 
 }  // namespace veneerer

@@ -4,9 +4,8 @@
 
 #include <QDockWidget>
 #include <QMainWindow>
-#include <QScrollArea>
 
-#include "ui/canvaswidget.h"
+#include "ui/canvasview.h"
 #include "ui/statusline.h"
 
 namespace veneerer {
@@ -19,7 +18,7 @@ struct Panel {
   QKeySequence keys;
 };
 
-/// The canvas keeps Form1's size; sizing this window only opens or closes the view on it. When the window
+/// The canvas keeps Form1's size; sizing this window only changes the view on it. When the window
 /// comes up it is the active one, with the focus on the canvas.
 class CanvasWindow : public QMainWindow {
   Q_OBJECT
@@ -48,7 +47,6 @@ private:
   void addHelpMenu();
   QAction* addCommand(QMenu* menu, const QString& text, const QList<QKeySequence>& keys, const QString& tip);
   void showScreen(int step);
-  void fitCanvas();
   void bringUp(const Panel& panel);
   void takeFocus();
   void pointed(const Element* element);
@@ -56,8 +54,7 @@ private:
 
   Ui ui_;
   State& state_;
-  QScrollArea* view_;
-  CanvasWidget* canvas_;
+  CanvasView* view_;
   StatusLine* status_;
   QMenu* panelMenu_;
   QList<Panel> panels_;

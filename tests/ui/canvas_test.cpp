@@ -138,6 +138,15 @@ TEST_F(Canvas, APressGoesThroughAFrameToItsCover) {
   EXPECT_EQ(state().globals.SectionNumber, sectionOf(state(), form1().ucAniGIF1));
 }
 
+TEST_F(Canvas, AMiddlePressStoresTheAnchorAndNoMore) {
+  Label& label = form1().Label4[0];
+  const QPoint at = middle(label);
+  QTest::mouseClick(&canvas(), Qt::MiddleButton, {}, at);
+  EXPECT_NEAR(state().globals.DragAnchorX, label.width() / 2, 15);
+  QTest::mouseMove(&canvas(), at + QPoint(9, 9));
+  EXPECT_EQ(state().globals.SectionNumber, 0);
+}
+
 TEST_F(Canvas, FollowsTheWindowsSize) {
   form1().setWidth(9000);
   form1().setHeight(6000);
