@@ -128,7 +128,7 @@ void zoomStep(benchmark::State& run) {
   int percent = 0;
   for (auto _ : run) {
     percent = (percent + 7) % 130;
-    large.view->zoomTo(Zoom(120 + percent));
+    large.view->zoomTo(Zoom(240 + percent));
     QCoreApplication::processEvents();
     QCoreApplication::processEvents();
   }
@@ -144,7 +144,7 @@ void panStep(benchmark::State& run) {
     QThread::msleep(25);
     Program::settle();
   }
-  QScrollBar& bar = *large.view->horizontalScrollBar();
+  QScrollBar& bar = *large.view->verticalScrollBar();
   bool back = false;
   for (auto _ : run) {
     if (bar.value() == bar.maximum() || bar.value() == 0) back = !back;
@@ -153,7 +153,7 @@ void panStep(benchmark::State& run) {
     QCoreApplication::processEvents();
   }
 }
-BENCHMARK(panStep)->Arg(200)->Arg(400)->Arg(800)->Unit(benchmark::kMillisecond);
+BENCHMARK(panStep)->Arg(250)->Arg(400)->Arg(800)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace veneerer

@@ -12,6 +12,7 @@
 #include <optional>
 
 #include "canvas/sections.h"
+#include "elements/colour.h"
 #include "painting/canvassize.h"
 
 namespace veneerer {
@@ -20,6 +21,9 @@ namespace {
 
 // How long pieces are painted before the operator's next doing comes in between, milliseconds.
 constexpr int kPatience = 40;
+
+// How long the zoom must rest before the canvas is painted anew, milliseconds.
+constexpr int kRest = 80;
 
 // What may be spent on scaling pictures smoothly in one painting, pixels; a tenth of a second at most. The
 // others follow by and by, as long as it makes sense.
@@ -82,7 +86,6 @@ CanvasWidget::CanvasWidget(const Ui& ui)
       sizing_(ui.hands) {
   painter_.setFrameSource([this](const Element& frame) { return frames_.frame(frame); });
   refining_.setSingleShot(true);
-  refining_.setInterval(kPatience);
   refining_.callOnTimeout(this, &CanvasWidget::refine);
   setObjectName(QStringLiteral("canvas"));
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -97,14 +100,17 @@ QSize CanvasWidget::sizeHint() const {
 }
 
 void CanvasWidget::setZoom(const Zoom& zoom) {
-  const bool isAnother = zoom != scale_.zoom();
+  const Zoom before = scale_.zoom();
+  // What stands in already is better than its own scaled picture, and what has changed must be painted.
+  if (zoom != before && still_.isNull() && dirty_.isEmpty()) still_.take(*this, before);
   scale_.setZoom(zoom);
   resize(zoom.shown(sizeHint()));
-  if (!isAnother) return;
+  if (zoom == before) return;
   dirty_ = DirtyArea(scale_.pixelsPerTwipX() * zoom.factor(), scale_.pixelsPerTwipY() * zoom.factor());
   dirty_.addAll();
-  isZooming_ = true;
+  coarse_ = QRegion();
   refinements_ = 0;
+  if (!still_.isNull()) refining_.start(kRest);
   scheduleRepaint();
 }
 
@@ -120,6 +126,7 @@ void CanvasWidget::setGuides(const Guides& guides) {
 
 void CanvasWidget::changed(const Change& change) {
   if (&change.element.window() != &state_.form1) return;
+  endStill();
   refinements_ = 0;
   pieces_.begin();
   if (!change.element.family()) return windowChanged(change.property);
@@ -162,7 +169,9 @@ void CanvasWidget::repaintDirty() {
 // A picture of the window is painted whole, and what is on the screen in pieces.
 void CanvasWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  if (isOnScreen(painter)) {
+  if (isOnScreen(painter) && !still_.isNull()) {
+    still_.paint(painter, event->region().boundingRect(), zoom(), state_.form1.backColor().toQColor());
+  } else if (isOnScreen(painter)) {
     const QRegion left = paintPieces(painter, event->region());
     if (!left.isEmpty()) update(left);
   } else {
@@ -179,7 +188,7 @@ bool CanvasWidget::isOnScreen(const QPainter& painter) const {
 
 // Returns what there was no time for.
 QRegion CanvasWidget::paintPieces(QPainter& painter, const QRegion& region) {
-  painter_.setScalingAllowance(isZooming_ ? 0 : kScalingAllowance);
+  painter_.setScalingAllowance(kScalingAllowance);
   QRegion left = region;
   QElapsedTimer all;
   all.start();
@@ -192,7 +201,7 @@ QRegion CanvasWidget::paintPieces(QPainter& painter, const QRegion& region) {
   }
   if (painter_.isCoarse() && refinements_ < kMostRefinements) {
     coarse_ += region - left;
-    refining_.start();
+    refining_.start(kPatience);
   }
   return left;
 }
@@ -209,8 +218,14 @@ void CanvasWidget::paintPiece(QPainter& painter, const QRect& piece) {
 
 void CanvasWidget::refine() {
   ++refinements_;
-  isZooming_ = false;
+  endStill();
   update(std::exchange(coarse_, QRegion()));
+}
+
+void CanvasWidget::endStill() {
+  if (still_.isNull()) return;
+  still_.drop();
+  update();
 }
 
 const Element* CanvasWidget::outlined() const {

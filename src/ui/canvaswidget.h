@@ -12,6 +12,7 @@
 #include "ui/elementdrag.h"
 #include "ui/overlay.h"
 #include "ui/paintpieces.h"
+#include "ui/still.h"
 #include "ui/zoom.h"
 
 namespace veneerer {
@@ -70,6 +71,7 @@ private:
   QRegion paintPieces(QPainter& painter, const QRegion& region);
   void paintPiece(QPainter& painter, const QRect& piece);
   void refine();
+  void endStill();
   const Element* outlined() const;
   QRect outlineOf(const Element* element) const;
   CanvasMarks marks() const;
@@ -96,8 +98,8 @@ private:
   PaintPieces pieces_;
   QRegion coarse_;  ///< where pictures are yet to be scaled smoothly
   QTimer refining_;
-  int refinements_ = 0;     ///< since the last change
-  bool isZooming_ = false;  ///< pictures wait until it has come to rest
+  int refinements_ = 0;  ///< since the last change
+  Still still_;          ///< stands in while the operator zooms
   ucAniGIF frames_;
   QSizeF grid_;
   Guides guides_;
