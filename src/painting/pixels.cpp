@@ -44,7 +44,9 @@ std::optional<QRectF> pixelRect(const Element& element, QPointF origin, const Pi
 
 double lostWidth(const Element& element, const QRectF& rect, const PixelScale& scale) {
   if (scale.device == 1) return 0;
-  const double lost = std::round(element.width() * scale.x) - rect.width();
+  // Below the whole number that it is added up to, which is rounded up.
+  constexpr double kRounding = 1e-6;
+  const double lost = std::round(element.width() * scale.x) - rect.width() - kRounding;
   return std::abs(lost) <= 1 + 1 / scale.device ? lost : 0;
 }
 

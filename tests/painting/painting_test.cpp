@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QPainter>
+#include <cmath>
 #include <limits>
 
 #include "elements/colour.h"
@@ -256,6 +258,22 @@ TEST_F(Painting, UnderlinesStandUnderTheirText) {
     EXPECT_NEAR(centred.center().x(), 45, 2);
     EXPECT_EQ(centred.width(), left[0].width());
     label.set(flag, false);
+  }
+}
+
+// Where texts break follows from the width in whole pixels.
+TEST_F(Painting, TheWidthOfATextIsTheSameAtEachScale) {
+  Label& label = form.Label1[0];
+  const auto widthAt = [&](double device) {
+    const PixelScale scale{1.0 / 15, 1.0 / 15, device};
+    const QRectF rect = *pixelRect(label, QPointF(), scale);
+    return std::ceil(rect.width() + lostWidth(label, rect, scale));
+  };
+  for (float twips = 200; twips < 6000; twips += 37.5f) {
+    label.place(0, 0, twips, 300);
+    const double width = widthAt(1);
+    for (const double device : {0.1, 0.33, 0.5, 0.67, 0.93, 1.25, 1.5, 2.0, 8.0})
+      ASSERT_EQ(widthAt(device), width) << twips << " twips at " << device;
   }
 }
 
