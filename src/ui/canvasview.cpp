@@ -1,5 +1,6 @@
 #include "ui/canvasview.h"
 
+#include <QCoreApplication>
 #include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
@@ -226,8 +227,10 @@ void CanvasView::wheelEvent(QWheelEvent* event) {
     if (next != zoom()) zoomAt(next, event->position());
     return event->accept();
   }
-  const bool isAcross = event->modifiers() & Qt::ShiftModifier;
-  QCoreApplication::sendEvent(isAcross ? horizontalScrollBar() : verticalScrollBar(), event);
+  if (event->modifiers() & Qt::ShiftModifier)
+    QCoreApplication::sendEvent(horizontalScrollBar(), event);
+  else
+    QAbstractScrollArea::wheelEvent(event);
 }
 
 }  // namespace veneerer

@@ -1,34 +1,18 @@
 #include "ui/canvaswidget.h"
 
-#include <QBackingStore>
-#include <QElapsedTimer>
 #include <QHelpEvent>
 #include <QMouseEvent>
-#include <QPaintEngine>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QToolTip>
-#include <limits>
 #include <optional>
 
 #include "canvas/sections.h"
-#include "elements/colour.h"
 #include "painting/canvassize.h"
 
 namespace veneerer {
 
 namespace {
-
-// How long pieces are painted before the operator's next doing comes in between, milliseconds.
-constexpr int kPatience = 40;
-
-// How long the zoom must rest before the canvas is painted anew, milliseconds.
-constexpr int kRest = 80;
-
-// What may be spent on scaling pictures smoothly in one painting, pixels; a tenth of a second at most. The
-// others follow by and by, as long as it makes sense.
-constexpr qint64 kScalingAllowance = 12LL * 1024 * 1024;
-constexpr int kMostRefinements = 12;
 
 // An outline may lie so far outside of what is shown, pixels.
 constexpr int kOutlineReach = 2;
@@ -79,14 +63,13 @@ CanvasWidget::CanvasWidget(const Ui& ui)
     : hands_(ui.hands),
       state_(ui.hands.state()),
       scale_(1 / ui.hands.screen().twipsPerPixelX(), 1 / ui.hands.screen().twipsPerPixelY()),
+      surface_(*this, state_.form1, scale_),
       watching_(state_.board.watch([this](const Change& change) { changed(change); })),
-      hits_(painter_.cutOuts(), {scale_.pixelsPerTwipX(), scale_.pixelsPerTwipY()}),
+      hits_(surface_.painter().cutOuts(), {scale_.pixelsPerTwipX(), scale_.pixelsPerTwipY()}),
       dirty_(scale_.pixelsPerTwipX(), scale_.pixelsPerTwipY()),
       frames_(state_.form1, [this](const Element& frame) { repaintElement(frame); }),
       sizing_(ui.hands) {
-  painter_.setFrameSource([this](const Element& frame) { return frames_.frame(frame); });
-  refining_.setSingleShot(true);
-  refining_.callOnTimeout(this, &CanvasWidget::refine);
+  surface_.painter().setFrameSource([this](const Element& frame) { return frames_.frame(frame); });
   setObjectName(QStringLiteral("canvas"));
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
@@ -101,16 +84,13 @@ QSize CanvasWidget::sizeHint() const {
 
 void CanvasWidget::setZoom(const Zoom& zoom) {
   const Zoom before = scale_.zoom();
-  // What stands in already is better than its own scaled picture, and what has changed must be painted.
-  if (zoom != before && still_.isNull() && dirty_.isEmpty()) still_.take(*this, before);
+  if (zoom != before && dirty_.isEmpty()) surface_.keepStill();
   scale_.setZoom(zoom);
   resize(zoom.shown(sizeHint()));
   if (zoom == before) return;
   dirty_ = DirtyArea(scale_.pixelsPerTwipX() * zoom.factor(), scale_.pixelsPerTwipY() * zoom.factor());
   dirty_.addAll();
-  coarse_ = QRegion();
-  refinements_ = 0;
-  if (!still_.isNull()) refining_.start(kRest);
+  surface_.zoomed();
   scheduleRepaint();
 }
 
@@ -126,9 +106,7 @@ void CanvasWidget::setGuides(const Guides& guides) {
 
 void CanvasWidget::changed(const Change& change) {
   if (&change.element.window() != &state_.form1) return;
-  endStill();
-  refinements_ = 0;
-  pieces_.begin();
+  surface_.changed();
   if (!change.element.family()) return windowChanged(change.property);
   dirty_.add(change);
   scheduleRepaint();
@@ -166,66 +144,10 @@ void CanvasWidget::repaintDirty() {
   if (pointed_) Q_EMIT pointed(isShown(*pointed_) ? pointed_ : nullptr);
 }
 
-// A picture of the window is painted whole, and what is on the screen in pieces.
 void CanvasWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  if (isOnScreen(painter) && !still_.isNull()) {
-    still_.paint(painter, event->region().boundingRect(), zoom(), state_.form1.backColor().toQColor());
-  } else if (isOnScreen(painter)) {
-    const QRegion left = paintPieces(painter, event->region());
-    if (!left.isEmpty()) update(left);
-  } else {
-    painter_.setScalingAllowance(std::numeric_limits<qint64>::max());
-    for (const QRect& exposed : event->region()) paintPiece(painter, exposed);
-  }
+  surface_.paint(painter, event->region());
   paintOverlay(painter, event->region().boundingRect());
-}
-
-bool CanvasWidget::isOnScreen(const QPainter& painter) const {
-  const QBackingStore* screen = backingStore();
-  return screen && painter.paintEngine()->paintDevice() == const_cast<QBackingStore*>(screen)->paintDevice();
-}
-
-// Returns what there was no time for.
-QRegion CanvasWidget::paintPieces(QPainter& painter, const QRegion& region) {
-  painter_.setScalingAllowance(kScalingAllowance);
-  QRegion left = region;
-  QElapsedTimer all;
-  all.start();
-  while (!left.isEmpty() && !all.hasExpired(kPatience)) {
-    const QRect piece = pieces_.take(left);
-    QElapsedTimer one;
-    one.start();
-    paintPiece(painter, piece);
-    pieces_.took(piece.size(), double(one.nsecsElapsed()) / 1e6);
-  }
-  if (painter_.isCoarse() && refinements_ < kMostRefinements) {
-    coarse_ += region - left;
-    refining_.start(kPatience);
-  }
-  return left;
-}
-
-// The clip falls on the view's own pixels, so that pieces meet without a seam.
-void CanvasWidget::paintPiece(QPainter& painter, const QRect& piece) {
-  painter.save();
-  painter.setClipRect(piece, Qt::IntersectClip);
-  painter.scale(zoom().factor(), zoom().factor());
-  painter_.paint(painter, state_.form1, zoom().canvasPixels(piece), scale_.pixelsPerTwipX(),
-                 scale_.pixelsPerTwipY());
-  painter.restore();
-}
-
-void CanvasWidget::refine() {
-  ++refinements_;
-  endStill();
-  update(std::exchange(coarse_, QRegion()));
-}
-
-void CanvasWidget::endStill() {
-  if (still_.isNull()) return;
-  still_.drop();
-  update();
 }
 
 const Element* CanvasWidget::outlined() const {
@@ -347,7 +269,7 @@ void CanvasWidget::showToolTip(const QPoint& global, const QPoint& place) {
 void CanvasWidget::hold(Element* element) {
   const Element* before = std::exchange(grabbed_, element);
   isDragged_ = false;
-  painter_.setPressed(element);
+  surface_.painter().setPressed(element);
   for (const Element* e : {before, static_cast<const Element*>(element)})
     if (e && e->kind() == Kind::Button) repaintElement(*e);
 }
@@ -361,7 +283,7 @@ void CanvasWidget::pointAt(QPointF place) {
 void CanvasWidget::point(Element* element) {
   Element* before = std::exchange(pointed_, element);
   if (before == element) return;
-  painter_.setHovered(element);
+  surface_.painter().setHovered(element);
   for (const Element* e : {before, element})
     if (e && e->kind() == Kind::Button) repaintElement(*e);
   scheduleRepaint();

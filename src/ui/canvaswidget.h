@@ -1,18 +1,15 @@
 // The design canvas: one painted widget for all elements of Form1.
 #pragma once
 
-#include <QTimer>
 #include <QWidget>
 
 #include "painting/anigif.h"
-#include "painting/canvaspainter.h"
 #include "painting/hittest.h"
 #include "ui/bindings.h"
+#include "ui/canvassurface.h"
 #include "ui/dirtyarea.h"
 #include "ui/elementdrag.h"
 #include "ui/overlay.h"
-#include "ui/paintpieces.h"
-#include "ui/still.h"
 #include "ui/zoom.h"
 
 namespace veneerer {
@@ -67,11 +64,6 @@ private:
   void pictureFetched(const Picture& picture);
   void scheduleRepaint();
   void repaintDirty();
-  bool isOnScreen(const QPainter& painter) const;
-  QRegion paintPieces(QPainter& painter, const QRegion& region);
-  void paintPiece(QPainter& painter, const QRect& piece);
-  void refine();
-  void endStill();
   const Element* outlined() const;
   QRect outlineOf(const Element* element) const;
   CanvasMarks marks() const;
@@ -90,16 +82,11 @@ private:
   Operator& hands_;
   State& state_;
   CanvasScale scale_;
+  CanvasSurface surface_;
   Attachment watching_;
-  CanvasPainter painter_;
   HitTest hits_;
   DirtyArea dirty_;
   bool repaintScheduled_ = false;
-  PaintPieces pieces_;
-  QRegion coarse_;  ///< where pictures are yet to be scaled smoothly
-  QTimer refining_;
-  int refinements_ = 0;  ///< since the last change
-  Still still_;          ///< stands in while the operator zooms
   ucAniGIF frames_;
   QSizeF grid_;
   Guides guides_;

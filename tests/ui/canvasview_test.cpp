@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QToolButton>
 
+#include "painting/canvaspainter.h"
 #include "ui/edgehandle.h"
 #include "ui/rulers.h"
 #include "ui/uifixture.h"
@@ -74,6 +75,22 @@ TEST_F(View, AClickAndADragDoTheSameAtEachZoom) {
     designer->history().undoAll();
     state().globals.SectionNumber = 0;
   }
+}
+
+TEST_F(View, AtItsOwnSizeTheCanvasIsPaintedAsEver) {
+  form6().Combo6->select(5);
+  const auto painted = [&] {
+    QImage image(canvas().size(), QImage::Format_RGB32);
+    QPainter painter(&image);
+    CanvasPainter().paint(painter, form1(), image.rect(), 1.0 / 15, 1.0 / 15);
+    return image;
+  };
+  const auto shown = [&] { return canvas().grab().toImage().convertToFormat(QImage::Format_RGB32); };
+  EXPECT_TRUE(shown() == painted());
+  view().zoomTo(Zoom(300));
+  EXPECT_EQ(canvas().width(), form1().width() / 15 * 3);
+  view().zoomTo(Zoom(100));
+  EXPECT_TRUE(shown() == painted());
 }
 
 TEST_F(View, TheWheelZoomsAtThePointerAndTheKeysStepThroughAList) {
@@ -164,7 +181,7 @@ TEST_F(View, TheArrowKeysNudgeWhatIsInHand) {
 TEST_F(View, HandlesTypeTheSizeOfWhatIsInHand) {
   Label& label = form1().Label4[0];
   QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(label));
-  QTest::qWait(1);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !view().canvas().outline().isNull(); }));
   const QSizeF size(label.width(), label.height());
   const int before = steps();
   const QRect outline = view().canvas().outline();
