@@ -278,7 +278,7 @@ void Designer::copyLook(const Element& from, const std::vector<Element*>& to) {
     if (element != &from) veneerer::copyLook(from, *element);
 }
 
-void Designer::align(Line line) {
+void Designer::align(AlignTo line) {
   const History::Action action(parts_->history, QStringLiteral("Align"));
   alignElements(parts_->overlay.elements(), line);
 }

@@ -89,7 +89,7 @@ public:
   /// Gives these elements what they have in common of the look of that one.
   void copyLook(const Element& from, const std::vector<Element*>& to);
   /// Puts what is selected on the overlay in line with its first element.
-  void align(Line line);
+  void align(AlignTo line);
   void distribute(Along along);
   void makeSameSize(Sides sides);
   /// What is selected on the overlay.

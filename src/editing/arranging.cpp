@@ -15,9 +15,9 @@ struct Word {
   E meaning;
 };
 
-constexpr Word<Line> kLines[] = {{u"left", Line::Left},     {u"right", Line::Right},
-                                 {u"top", Line::Top},       {u"bottom", Line::Bottom},
-                                 {u"centre", Line::Centre}, {u"middle", Line::Middle}};
+constexpr Word<AlignTo> kLines[] = {{u"left", AlignTo::Left},     {u"right", AlignTo::Right},
+                                    {u"top", AlignTo::Top},       {u"bottom", AlignTo::Bottom},
+                                    {u"centre", AlignTo::Centre}, {u"middle", AlignTo::Middle}};
 constexpr Word<Along> kAlongs[] = {{u"across", Along::Across}, {u"down", Along::Down}};
 constexpr Word<Sides> kSides[] = {
     {u"width", Sides::Width}, {u"height", Sides::Height}, {u"both", Sides::Both}};
@@ -29,23 +29,23 @@ std::optional<E> meaningOf(QStringView word, const Word<E> (&words)[N]) {
   return std::nullopt;
 }
 
-bool isAcross(Line line) {
-  return line == Line::Left || line == Line::Right || line == Line::Centre;
+bool isAcross(AlignTo line) {
+  return line == AlignTo::Left || line == AlignTo::Right || line == AlignTo::Centre;
 }
 
-double placeOf(const QRectF& rect, Line line) {
+double placeOf(const QRectF& rect, AlignTo line) {
   switch (line) {
-    case Line::Left:
+    case AlignTo::Left:
       return rect.left();
-    case Line::Right:
+    case AlignTo::Right:
       return rect.right();
-    case Line::Top:
+    case AlignTo::Top:
       return rect.top();
-    case Line::Bottom:
+    case AlignTo::Bottom:
       return rect.bottom();
-    case Line::Centre:
+    case AlignTo::Centre:
       return rect.center().x();
-    case Line::Middle:
+    case AlignTo::Middle:
       return rect.center().y();
   }
   return 0;
@@ -58,7 +58,7 @@ void moveBy(Element& element, bool across, double twips) {
 
 }  // namespace
 
-std::optional<Line> lineNamed(QStringView word) {
+std::optional<AlignTo> alignToNamed(QStringView word) {
   return meaningOf(word, kLines);
 }
 
@@ -70,7 +70,7 @@ std::optional<Sides> sidesNamed(QStringView word) {
   return meaningOf(word, kSides);
 }
 
-void alignElements(const std::vector<Element*>& elements, Line line) {
+void alignElements(const std::vector<Element*>& elements, AlignTo line) {
   if (elements.empty()) return;
   const double place = placeOf(windowRect(*elements.front()), line);
   for (Element* element : elements)

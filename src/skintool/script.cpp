@@ -289,7 +289,7 @@ void ScriptPlayer::select(const Words& words) {
 }
 
 void ScriptPlayer::align(const Words& words) {
-  const std::optional<Line> line = lineNamed(words[0].text);
+  const std::optional<AlignTo> line = alignToNamed(words[0].text);
   if (!line) throw ScriptError(QStringLiteral("align knows no \"%1\"").arg(excerpt(words[0].text)));
   designer_.align(*line);
 }

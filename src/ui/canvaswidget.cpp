@@ -7,8 +7,10 @@
 #include <QToolTip>
 #include <optional>
 
+#include "canvas/screens.h"
 #include "canvas/sections.h"
 #include "painting/canvassize.h"
+#include "ui/overlayhand.h"
 
 namespace veneerer {
 
@@ -75,6 +77,8 @@ CanvasWidget::CanvasWidget(const Ui& ui)
   setMouseTracking(true);
   setFocusPolicy(Qt::ClickFocus);
   connect(&hands_, &Operator::acted, this, &CanvasWidget::scheduleRepaint);
+  connect(&hands_, &Operator::selected, this, &CanvasWidget::scheduleRepaint);
+  new OverlayHand(hands_, *this);
   connect(&ui.pictures, &PictureFetcher::fetched, this, &CanvasWidget::pictureFetched);
 }
 
@@ -102,6 +106,15 @@ void CanvasWidget::setGrid(QSizeF step) {
 void CanvasWidget::setGuides(const Guides& guides) {
   guides_ = guides;
   update();
+}
+
+void CanvasWidget::setBand(const QRect& band) {
+  band_ = band;
+  scheduleRepaint();
+}
+
+QRect CanvasWidget::placeOf(const Element& element) const {
+  return dirty_.pixelsOf(windowRect(element)).adjusted(1, 1, -1, -1);
 }
 
 void CanvasWidget::changed(const Change& change) {
@@ -160,8 +173,22 @@ QRect CanvasWidget::outlineOf(const Element* element) const {
   return dirty_.pixelsOf(windowRect(*element)) & reach(rect());
 }
 
+// A hidden element is outlined as long as its screen is shown.
+QList<QRect> CanvasWidget::selectedOutlines() const {
+  QList<QRect> outlines;
+  for (const Element* element : hands_.overlay().elements()) {
+    const Element* screen = element;
+    while (screen && !isScreen(state_, *screen)) screen = screen->container();
+    if (!screen || screen->isVisible())
+      outlines.append(dirty_.pixelsOf(windowRect(*element)) & reach(rect()));
+  }
+  return outlines;
+}
+
 CanvasMarks CanvasWidget::marks() const {
   CanvasMarks made;
+  made.selected = selectedOutlines();
+  made.band = band_;
   const Element* element = outlined();
   made.outline = outlineOf(element);
   if (pointed_ && pointed_ != element && !grabbed_) made.hover = outlineOf(pointed_);
@@ -193,7 +220,8 @@ void CanvasWidget::mousePressEvent(QMouseEvent* event) {
   const MouseButton button = buttonOf(*event);
   const Handle handle = button == MouseButton::Left ? handleUnder(event->position()) : Handle::None;
   if (handle != Handle::None) return sizing_.begin(handle, *sizable(), scale_.twipsAt(event->position()));
-  Element* element = at(event->position());
+  Element* element = elementAt(event->position());
+  if (element && button == MouseButton::Left && hands_.overlay().isLocked(*element)) return;
   if (!element || button == MouseButton::None) return;
   const QPointF place = inside(*element, event->position());
   if (button == MouseButton::Left) hold(element);
@@ -260,7 +288,7 @@ bool CanvasWidget::event(QEvent* event) {
 }
 
 void CanvasWidget::showToolTip(const QPoint& global, const QPoint& place) {
-  const Element* element = at(place);
+  const Element* element = elementAt(place);
   if (!element || element->toolTipText().isEmpty()) return QToolTip::hideText();
   QToolTip::showText(global, plainToolTip(element->toolTipText()), this,
                      dirty_.pixelsOf(windowRect(*element)) & rect());
@@ -277,7 +305,7 @@ void CanvasWidget::hold(Element* element) {
 void CanvasWidget::pointAt(QPointF place) {
   const Handle handle = handleUnder(place);
   setCursor(cursorOf(handle));
-  point(handle == Handle::None ? at(place) : nullptr);
+  point(handle == Handle::None ? elementAt(place) : nullptr);
 }
 
 void CanvasWidget::point(Element* element) {
@@ -299,7 +327,7 @@ QPointF CanvasWidget::inside(const Element& element, QPointF place) const {
   return scale_.twipsAt(place) - windowRect(element).topLeft();
 }
 
-Element* CanvasWidget::at(QPointF place) const {
+Element* CanvasWidget::elementAt(QPointF place) const {
   const QPointF twips = scale_.twipsAt(place);
   return hits_.elementAt(state_.form1, static_cast<float>(twips.x()), static_cast<float>(twips.y()));
 }

@@ -36,6 +36,16 @@ public:
   void setGrid(QSizeF step);
   void setGuides(const Guides& guides);
 
+  /// The rubber band, pixels of this widget; null for none.
+  void setBand(const QRect& band);
+
+  /// What a press at that place of the widget would take; null for nothing.
+  Element* elementAt(QPointF place) const;
+  /// That place of the widget in twips of the canvas window.
+  QPointF twipsAt(QPointF place) const { return scale_.twipsAt(place); }
+  /// Where an element is shown, pixels of this widget.
+  QRect placeOf(const Element& element) const;
+
   /// The outline of the element in hand, pixels of this widget; null for none.
   QRect outline() const { return marks_.outline; }
 
@@ -66,6 +76,7 @@ private:
   void repaintDirty();
   const Element* outlined() const;
   QRect outlineOf(const Element* element) const;
+  QList<QRect> selectedOutlines() const;
   CanvasMarks marks() const;
   void paintOverlay(QPainter& painter, const QRect& exposed) const;
   Element* sizable() const;
@@ -77,7 +88,6 @@ private:
   void point(Element* element);
   void showToolTip(const QPoint& global, const QPoint& at);
   QPointF inside(const Element& element, QPointF place) const;
-  Element* at(QPointF place) const;
 
   Operator& hands_;
   State& state_;
@@ -90,6 +100,7 @@ private:
   ucAniGIF frames_;
   QSizeF grid_;
   Guides guides_;
+  QRect band_;
   CanvasMarks marks_;
   SizeDrag sizing_;
   Element* grabbed_ = nullptr;

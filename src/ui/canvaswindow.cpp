@@ -12,6 +12,7 @@
 #include "canvas/description.h"
 #include "canvas/screens.h"
 #include "ui/arrangement.h"
+#include "ui/editcommands.h"
 #include "ui/inhandline.h"
 #include "ui/keys.h"
 #include "ui/plaintext.h"
@@ -115,6 +116,7 @@ void CanvasWindow::addEditMenu() {
   QAction* redo = add(QStringLiteral("&Redo"), kRedoKeys, QStringLiteral("Do that step again"),
                       steps.canRedo(), &QUndoStack::redoTextChanged, &QUndoStack::canRedoChanged);
   connect(redo, &QAction::triggered, this, [&history] { history.redo(); });
+  addEditCommands(*menu, ui_.hands);
   connect(&steps, &QUndoStack::cleanChanged, this, [this](bool isClean) { setWindowModified(!isClean); });
 }
 

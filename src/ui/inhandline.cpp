@@ -1,6 +1,8 @@
 #include "ui/inhandline.h"
 
 #include <QHBoxLayout>
+#include <QMap>
+#include <algorithm>
 
 #include "canvas/description.h"
 #include "canvas/screens.h"
@@ -16,10 +18,28 @@ namespace {
 constexpr int kChip = 16;  // device-independent pixels
 constexpr Property kColours[] = {Property::ForeColor, Property::BackColor, Property::GradientColor};
 
-QString textOf(State& state, const Element& element, const veneerer::Screen& screen) {
-  QStringList parts{elementTitle(state, element), describe(state, element, screen)};
+// "menu.ini 12 to 20": the lines of each file from the first to the last.
+QStringList placesOf(const RecordPlaces& places, const Element& element) {
+  QMap<QString, std::pair<int, int>> files;
+  for (const RecordPlace& place : places.of(element)) {
+    auto& [first, last] = files[place.file];
+    first = first == 0 ? place.line : std::min(first, place.line);
+    last = std::max(last, place.line);
+  }
+  QStringList texts;
+  for (auto it = files.begin(); it != files.end(); ++it)
+    texts.append(it->first == it->second
+                     ? QStringLiteral("%1 %2").arg(it.key()).arg(it->first)
+                     : QStringLiteral("%1 %2 to %3").arg(it.key()).arg(it->first).arg(it->second));
+  return texts;
+}
+
+QString textOf(Operator& hands, const Element& element) {
+  State& state = hands.state();
+  QStringList parts{describe(state, element, hands.screen())};
+  if (const QString title = elementTitle(state, element); title != shortName(element)) parts.prepend(title);
   if (const QString font = fontText(element); !font.isEmpty()) parts.append(font);
-  return parts.join(QStringLiteral("   "));
+  return (parts + placesOf(hands.places(), element)).join(QStringLiteral("   "));
 }
 
 // The entry whose screen holds the element, -1 for the frame.
@@ -66,8 +86,7 @@ void InHandLine::tell() {
   State& state = hands_.state();
   const Element* element = currentElement(state);
   const bool isOnCanvas = element && &element->window() == &state.form1;
-  text_ = element ? textOf(state, *element, hands_.screen())
-                  : QStringLiteral("Click an element to take it in hand");
+  text_ = element ? textOf(hands_, *element) : QStringLiteral("Click an element to take it in hand");
   showText();
   showColours(element);
   const int entry = isOnCanvas ? screenHolding(state, *element) : -1;

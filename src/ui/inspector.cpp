@@ -72,7 +72,9 @@ void Inspector::inspect() {
   const std::vector<Element*> elements = inspected();
   const bool isOther = elements != model_.elements();
   model_.inspect(elements);
-  if (isOther) table_->resizeColumnToContents(InspectorModel::Name);
+  if (isOther)
+    for (const int column : {InspectorModel::Name, InspectorModel::Pixels, InspectorModel::Place})
+      table_->resizeColumnToContents(column);
   QString title = QStringLiteral("Click an element to see its properties");
   if (!elements.empty()) title = elementTitle(hands_.state(), *elements.front());
   if (elements.size() > 1) title += QStringLiteral(" and %1 more").arg(elements.size() - 1);

@@ -24,7 +24,7 @@ void InspectorModel::inspect(const std::vector<Element*>& elements) {
 }
 
 void InspectorModel::refresh() {
-  if (!properties_.empty()) Q_EMIT dataChanged(index(0, Text), index(rowCount() - 1, Pixels));
+  if (!properties_.empty()) Q_EMIT dataChanged(index(0, Text), index(rowCount() - 1, Place));
 }
 
 void InspectorModel::set(Property property, const Value& value) {
@@ -37,7 +37,7 @@ int InspectorModel::rowCount(const QModelIndex& parent) const {
 
 QVariant InspectorModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (role != Qt::DisplayRole || orientation != Qt::Horizontal) return {};
-  const char* const titles[] = {"Property", "Value", "Pixels"};
+  const char* const titles[] = {"Property", "Value", "Pixels", "Line"};
   return QString::fromLatin1(titles[section]);
 }
 
@@ -50,8 +50,12 @@ bool InspectorModel::isMixed(Property property) const {
 QString InspectorModel::textAt(const QModelIndex& index) const {
   const Property property = propertyAt(index.row());
   if (index.column() == Name) return propertyTitle(property);
-  if (isMixed(property)) return QStringLiteral("(several)");
   const Element& element = *elements_.front();
+  if (index.column() == Place) {
+    const std::optional<RecordPlace> place = hands_.places().of(element, property);
+    return place ? QStringLiteral("%1:%2").arg(place->file).arg(place->line) : QString();
+  }
+  if (isMixed(property)) return QStringLiteral("(several)");
   return index.column() == Text ? valueText(element.get(property))
                                 : pixelText(element, property, hands_.screen());
 }

@@ -12,7 +12,7 @@ namespace veneerer {
 /// what is typed goes to all that have the property.
 class InspectorModel : public QAbstractTableModel {
 public:
-  enum Column { Name, Text, Pixels, kColumns };
+  enum Column { Name, Text, Pixels, Place, kColumns };
 
   explicit InspectorModel(Operator& hands) : hands_(hands) {}
 

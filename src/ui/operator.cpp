@@ -3,14 +3,23 @@
 #include <QScopedValueRollback>
 #include <chrono>
 
+#include "records/coverfile.h"
+
 namespace veneerer {
 
 Operator::Operator(Designer& designer) : designer_(designer) {
   rest_.setSingleShot(true);
   rest_.setInterval(std::chrono::seconds(2));
   connect(&rest_, &QTimer::timeout, this, &Operator::release);
+  coversWatching_ =
+      state().board.watch(*state().globals.LastCoverIndex, [this](const Change&) { places_.reset(); });
   designer.overlay().setListener([this] { Q_EMIT selected(); });
   connect(&designer.history().stack(), &QUndoStack::indexChanged, this, &Operator::acted);
+}
+
+const RecordPlaces& Operator::places() {
+  if (!places_) places_ = writtenPlaces(state(), coverFileName(state().form4.Text2->text()));
+  return *places_;
 }
 
 Operator::~Operator() {
@@ -78,7 +87,7 @@ void Operator::copyLook(const Element& from, const std::vector<Element*>& to) {
   act([&] { designer_.copyLook(from, to); });
 }
 
-void Operator::align(Line line) {
+void Operator::align(AlignTo line) {
   act([&] { designer_.align(line); });
 }
 

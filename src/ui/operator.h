@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "designer/designer.h"
+#include "skin/recordplaces.h"
 
 namespace veneerer {
 
@@ -19,6 +20,8 @@ public:
 
   State& state() { return designer_.state(); }
   History& history() { return designer_.history(); }
+  /// Where a save writes the properties of the elements as they are.
+  const RecordPlaces& places();
   SkinFolder skinFolder() const { return designer_.skinFolder(); }
   Dialogs& dialogs() { return designer_.platform().dialogs; }
   const Screen& screen() const { return designer_.platform().screen; }
@@ -44,7 +47,7 @@ public:
   /// Sets a property of all these elements.
   void set(const std::vector<Element*>& elements, Property property, const Value& value);
   void copyLook(const Element& from, const std::vector<Element*>& to);
-  void align(Line line);
+  void align(AlignTo line);
   void distribute(Along along);
   void makeSameSize(Sides sides);
   OverlaySelection& overlay() { return designer_.overlay(); }
@@ -70,6 +73,9 @@ private:
   void act(Action action);
 
   Designer& designer_;
+  std::optional<RecordPlaces>
+      places_;  ///< nothing until it is asked for; they move with the number of covers
+  Attachment coversWatching_;
   QTimer rest_;  ///< ends a burst of typing
   bool isActing_ = false;
 };

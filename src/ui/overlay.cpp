@@ -17,6 +17,7 @@ constexpr int kReach = 2;
 constexpr double kClosestGrid = 6;
 
 const QColor kHoverColour(0x2f, 0x9b, 0xff);
+const QColor kSelectedColour(0xff, 0x9f, 0x1a);
 const QColor kLineColour(0xff, 0x2d, 0x9b);
 const QColor kGuideColour(0x00, 0xb8, 0xd4);
 const QColor kGridColour(128, 128, 128, 110);
@@ -93,6 +94,8 @@ QRegion CanvasMarks::region() const {
     return QRegion(reach(rect)) - rect.adjusted(r, r, -r, -r);
   };
   QRegion region = frame(outline) + frame(hover);
+  for (const QRect& each : selected) region += frame(each);
+  region += reach(band);
   for (const QRect& handle : handles) region += reach(handle);
   for (const QLine& line : lines) region += reach(boundsOf(line));
   for (const Way& way : ways) region += QRegion(reach(boundsOf(way.line))) + reach(labelRect(way));
@@ -104,6 +107,13 @@ void CanvasMarks::paint(QPainter& painter) const {
   if (!hover.isNull()) {
     painter.setPen(QPen(kHoverColour, 1));
     painter.drawRect(hover.adjusted(0, 0, -1, -1));
+  }
+  painter.setPen(QPen(kSelectedColour, 2));
+  for (const QRect& each : selected) painter.drawRect(each.adjusted(1, 1, -1, -1));
+  if (!band.isNull()) {
+    painter.fillRect(band, QColor(kHoverColour.red(), kHoverColour.green(), kHoverColour.blue(), 40));
+    painter.setPen(QPen(kHoverColour, 1));
+    painter.drawRect(band.adjusted(0, 0, -1, -1));
   }
   if (!outline.isNull()) paintOutline(painter, outline);
   for (const QRect& handle : handles) paintHandle(painter, handle);

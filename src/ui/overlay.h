@@ -24,11 +24,13 @@ struct CanvasMarks {
     bool operator==(const Way&) const = default;
   };
 
-  QRect outline;         ///< around the element in hand, or held
-  QRect hover;           ///< around what a press would take
-  QList<QRect> handles;  ///< of the outline
-  QList<QLine> lines;    ///< on which edges and centres agree
-  QList<Way> ways;       ///< to the next neighbours
+  QRect outline;          ///< around the element in hand, or held
+  QRect hover;            ///< around what a press would take
+  QList<QRect> selected;  ///< around what is selected
+  QRect band;             ///< that is being drawn to select
+  QList<QRect> handles;   ///< of the outline
+  QList<QLine> lines;     ///< on which edges and centres agree
+  QList<Way> ways;        ///< to the next neighbours
 
   bool operator==(const CanvasMarks&) const = default;
 

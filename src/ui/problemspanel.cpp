@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "canvas/screens.h"
+#include "elements/printable.h"
 #include "ui/layouts.h"
 
 namespace veneerer {

@@ -38,17 +38,17 @@ protected:
 
 TEST_F(Editing, AlignsOnTheScreenAcrossContainers) {
   struct Case {
-    Line line;
+    AlignTo line;
     Property property;
     float a;
     float c;
   };
-  for (const Case& each : {Case{Line::Left, Property::Left, 1500, 500},
-                           {Line::Right, Property::Left, 1700, 300},
-                           {Line::Centre, Property::Left, 1600, 400},
-                           {Line::Top, Property::Top, 2010, 10},
-                           {Line::Bottom, Property::Top, 2210, 210},
-                           {Line::Middle, Property::Top, 2110, 110}}) {
+  for (const Case& each : {Case{AlignTo::Left, Property::Left, 1500, 500},
+                           {AlignTo::Right, Property::Left, 1700, 300},
+                           {AlignTo::Centre, Property::Left, 1600, 400},
+                           {AlignTo::Top, Property::Top, 2010, 10},
+                           {AlignTo::Bottom, Property::Top, 2210, 210},
+                           {AlignTo::Middle, Property::Top, 2110, 110}}) {
     alignElements(all(), each.line);
     EXPECT_EQ(a.as<float>(each.property), each.a) << int(each.line);
     EXPECT_EQ(c.as<float>(each.property), each.c) << int(each.line);

@@ -222,8 +222,8 @@ TEST_F(Check, NamesTheSkinWhereThereAreSeveral) {
 }
 
 TEST_F(Check, TellsHintsOfTheDesignOnlyWhenAsked) {
-  write(file("images/forgotten.bmp"), "BM");
-  write(file("read me.txt"), "hello");
+  write("images/forgotten.bmp", "BM");
+  write("read me.txt", "hello");
   change("search.ini", 12, " 450 ");
   change("licence.ini", 3, "-15");
   // Room for the widest screens of the built-in design.

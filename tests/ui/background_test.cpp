@@ -17,7 +17,7 @@ protected:
 };
 
 TEST_F(BackgroundWork, LeavesTheWindowsAliveAndHoldsBackTheirClosing) {
-  QWidget& window = *widget<QWidget>("Form4.Command4").window();
+  auto& window = widget<QWidget>("Form6");
   ASSERT_TRUE(window.isVisible());
   std::atomic<bool> isAnswered = false;
   bool isStillOpen = false;

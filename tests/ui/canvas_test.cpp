@@ -47,7 +47,7 @@ TEST_F(Canvas, OnlyTheRightPressGivesAButtonItsPictureAndNeitherItNorTheMiddleOn
   test::writePicture(path("images/red.bmp"), 20, 20, Qt::red);
   world.dialogs.files.enqueue(path("images/red.bmp"));
   Button& button = form1().lvButtons_H1[0];
-  drag(middle(button), QPoint(9, 9), Qt::MiddleButton);
+  QTest::mouseClick(&canvas(), Qt::MiddleButton, {}, middle(button));
   EXPECT_NEAR(state().globals.DragAnchorX, button.width() / 2, 15);
   EXPECT_TRUE(button.picture().isNull());
   drag(middle(button), QPoint(9, 9), Qt::RightButton);
@@ -136,15 +136,6 @@ TEST_F(Canvas, APressGoesThroughAFrameToItsCover) {
   const QPoint corner = (windowRect(frame).topLeft() / 15).toPoint() + QPoint(2, 2);
   QTest::mouseClick(&canvas(), Qt::LeftButton, {}, corner);
   EXPECT_EQ(state().globals.SectionNumber, sectionOf(state(), form1().ucAniGIF1));
-}
-
-TEST_F(Canvas, AMiddlePressStoresTheAnchorAndNoMore) {
-  Label& label = form1().Label4[0];
-  const QPoint at = middle(label);
-  QTest::mouseClick(&canvas(), Qt::MiddleButton, {}, at);
-  EXPECT_NEAR(state().globals.DragAnchorX, label.width() / 2, 15);
-  QTest::mouseMove(&canvas(), at + QPoint(9, 9));
-  EXPECT_EQ(state().globals.SectionNumber, 0);
 }
 
 TEST_F(Canvas, FollowsTheWindowsSize) {

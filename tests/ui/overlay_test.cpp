@@ -1,0 +1,74 @@
+// Selecting on the overlay, with the real mouse.
+#include <QMenu>
+
+#include "ui/uifixture.h"
+
+namespace veneerer {
+namespace {
+
+class Overlay : public test::UiFixture {
+protected:
+  void SetUp() override {
+    UiFixture::SetUp();
+    // The canvas stands still at its own size.
+    QTest::keyClick(&widget<QWidget>("Form1"), Qt::Key_0, Qt::ControlModifier);
+    QTest::qWait(1);
+  }
+  std::vector<Element*> selected() { return designer->overlay().elements(); }
+  QMenu* menu() {
+    auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    return popup;
+  }
+};
+
+TEST_F(Overlay, ShiftSelectsAndPressesNothing) {
+  Button& first = form1().lvButtons_H1[2];
+  Button& second = form1().lvButtons_H1[3];
+  QTest::mouseClick(&canvas(), Qt::LeftButton, Qt::ShiftModifier, middle(first));
+  QTest::mouseClick(&canvas(), Qt::LeftButton, Qt::ShiftModifier, middle(second));
+  EXPECT_EQ(selected(), (std::vector<Element*>{&first, &second}));
+  QTest::mouseClick(&canvas(), Qt::LeftButton, Qt::ShiftModifier, middle(first));
+  EXPECT_EQ(selected(), std::vector<Element*>{&second});
+  QTest::keyClick(&canvas(), Qt::Key_Escape);
+  EXPECT_TRUE(selected().empty());
+  EXPECT_EQ(state().globals.SectionNumber, 0);
+  EXPECT_FALSE(designer->history().isModified());
+}
+
+TEST_F(Overlay, ABandSelectsWhatLiesInIt) {
+  const Button& button = form1().lvButtons_H1[2];
+  const QRect place = windowRect(button).toAlignedRect();
+  const QPoint from = place.topLeft() / 15 - QPoint(2, 2);
+  const QPoint to = place.bottomRight() / 15 + QPoint(2, 2);
+  QTest::mousePress(&canvas(), Qt::LeftButton, Qt::ShiftModifier, from);
+  QTest::mouseMove(&canvas(), to);
+  QTest::mouseRelease(&canvas(), Qt::LeftButton, Qt::ShiftModifier, to);
+  EXPECT_EQ(selected(), std::vector<Element*>{&form1().lvButtons_H1[2]});
+}
+
+TEST_F(Overlay, CtrlListsWhatLiesBeneathAndMovesOnlyWhenDragged) {
+  Button& button = form1().lvButtons_H1[2];
+  const float left = button.left();
+  QTest::mouseClick(&canvas(), Qt::LeftButton, Qt::ControlModifier, middle(button));
+  ASSERT_TRUE(menu());
+  EXPECT_EQ(state().globals.SectionNumber, 0) << "nothing was pressed";
+  ASSERT_GT(menu()->actions().size(), 1);
+  menu()->actions().at(0)->trigger();
+  EXPECT_EQ(state().globals.ElementIndex, 2) << "the topmost stands first";
+  menu()->close();
+  QTest::mousePress(&canvas(), Qt::LeftButton, Qt::ControlModifier, middle(button));
+  QTest::mouseMove(&canvas(), middle(button) + QPoint(40, 0));
+  QTest::mouseMove(&canvas(), middle(button) + QPoint(60, 0));
+  QTest::mouseRelease(&canvas(), Qt::LeftButton, Qt::ControlModifier, middle(button) + QPoint(60, 0));
+  EXPECT_NE(button.left(), left);
+}
+
+TEST_F(Overlay, WhatIsLockedIsntGrabbed) {
+  Button& button = form1().lvButtons_H1[2];
+  designer->overlay().lock(button, true);
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(button));
+  EXPECT_EQ(state().globals.SectionNumber, 0);
+}
+
+}  // namespace
+}  // namespace veneerer
