@@ -19,6 +19,8 @@ constexpr QSize kFrame(4, 30);
 
 // A canvas that is narrower than this isn't worth having two columns beside it. Pixels.
 constexpr int kNarrowestCanvas = 640;
+// Nor is one that is shown smaller than this.
+constexpr double kWorthwhile = 0.85;
 
 // The row of tabs above the panels and a panel's own title, about. Pixels.
 constexpr int kTabs = 56;
@@ -118,8 +120,8 @@ QList<int> columnsOf(const QList<int>& widths, int room) {
 void arrangePanels(QMainWindow& window, const QList<QDockWidget*>& panels, QSize canvas) {
   const QSize available = window.screen()->availableGeometry().size() - kFrame;
   const QList<int> widths = widthsOf(window, panels, available.height());
-  const QList<int> columns =
-      columnsOf(widths, available.width() - std::max(canvas.width(), kNarrowestCanvas));
+  const int least = std::max(static_cast<int>(canvas.width() * kWorthwhile), kNarrowestCanvas);
+  const QList<int> columns = columnsOf(widths, available.width() - least);
   QList<bool> isOpen;
   for (const QDockWidget* panel : panels) isOpen.append(!panel->isHidden());
   dock(window, panels, columns);

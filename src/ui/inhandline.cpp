@@ -69,6 +69,8 @@ InHandLine::InHandLine(const Ui& ui)
   }
   row->addWidget(elsewhere_);
   row->addWidget(goThere_);
+  // What comes and goes in the line doesn't move the canvas.
+  setFixedHeight(goThere_->sizeHint().height() + 4);
   goThere_->setToolTip(QStringLiteral("Show the screen of the element in hand"));
   telling_.setSingleShot(true);
   telling_.setInterval(0);

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 
+#include "tools/service.h"
 #include "ui/layouts.h"
 #include "ui/swatch.h"
 
@@ -190,6 +191,25 @@ ToolsWindow::ToolsWindow(const Ui& ui) : hands_(ui.hands) {
   columns->addLayout(right, 1);
   setContent(*this, columns);
   assignMnemonics(*this);
+  connect(&hands_, &Operator::acted, this, &ToolsWindow::greyOut);
+  greyOut();
+}
+
+void ToolsWindow::greyOut() {
+  QPalette grey = palette();
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    grey.setColor(role, grey.color(QPalette::Disabled, role));
+  State& state = hands_.state();
+  const QList<QLabel*> labels = findChildren<QLabel*>();
+  for (const Family* family : state.form6.families())
+    for (const Element* control : family->members()) {
+      auto* widget = findChild<QWidget*>(control->key());
+      if (!widget) continue;
+      const bool serves = servesWhatIsInHand(state, *control);
+      if (widget->testAttribute(Qt::WA_SetPalette) == serves) widget->setPalette(serves ? QPalette() : grey);
+      for (QLabel* label : labels)
+        if (label->buddy() == widget) label->setPalette(widget->palette());
+    }
 }
 
 // The list takes long to get, so the first paint doesn't wait for it.

@@ -7,6 +7,8 @@
 
 namespace veneerer {
 
+/// Fields that don't reach the element in hand are grey; they can be typed into all the same, since the
+/// global commands take what stands there.
 class ToolsWindow : public QWidget {
 public:
   explicit ToolsWindow(const Ui& ui);
@@ -15,6 +17,8 @@ protected:
   void paintEvent(QPaintEvent* event) override;
 
 private:
+  void greyOut();
+
   Operator& hands_;
   bool fontsAsked_ = false;
 };

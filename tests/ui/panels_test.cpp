@@ -29,6 +29,20 @@ protected:
   }
 };
 
+TEST_F(Panels, FieldsThatDontReachWhatIsInHandAreGrey) {
+  const auto isGrey = [&](const char* key) {
+    const QWidget& field = widget<QWidget>(key);
+    return field.palette().color(QPalette::Active, QPalette::Text) ==
+           widget<QWidget>("Form6").palette().color(QPalette::Disabled, QPalette::Text);
+  };
+  EXPECT_TRUE(isGrey("Form6.Text1")) << "nothing is in hand";
+  EXPECT_FALSE(isGrey("Form6.Text5(0)")) << "a number for a command is always of use";
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(form1().lvButtons_H1[2]));
+  EXPECT_FALSE(isGrey("Form6.Text1"));
+  EXPECT_FALSE(isGrey("Form6.Text3(0)"));
+  EXPECT_TRUE(isGrey("Form6.Text9(0)")) << "a place is for screens";
+}
+
 TEST_F(Panels, TheInspectorReadsAndSetsWhatIsInHand) {
   Button& button = form1().lvButtons_H1[2];
   QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(button));
