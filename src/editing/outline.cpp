@@ -63,7 +63,8 @@ std::vector<Element*> elementsAt(State& state, float x, float y) {
   std::vector<Element*> found;
   gather(state, state.form1, x, y, found);
   // Nobody sees it, wherever it stands in the stacking order.
-  std::ranges::stable_partition(found, [](const Element* element) { return !isSeeThrough(*element); });
+  std::stable_partition(found.begin(), found.end(),
+                        [](const Element* element) { return !isSeeThrough(*element); });
   return found;
 }
 

@@ -32,7 +32,7 @@ void SkinLoader::load() {
 QString SkinLoader::refusal(const SkinFolder& skin) const {
   for (const LoadEntry& entry : loadOrder()) {
     const Layout layout = entry.layout(state_);
-    const QString name = layout.fileName();
+    const QString& name = layout.fileName();
     const QString fault = faultInside(skin.path(), skin.file(name), kMostRecordBytes);
     if (!layout.isEmpty() && !fault.isEmpty()) return RecordError(name, 0, {}, {}, fault).message();
   }

@@ -12,7 +12,8 @@ namespace veneerer {
 /// what is typed goes to all that have the property.
 class InspectorModel : public QAbstractTableModel {
 public:
-  enum Column { Name, Text, Pixels, Place, kColumns };
+  enum Column { Name, Text, Pixels, Place };
+  static constexpr int kColumns = Place + 1;
 
   explicit InspectorModel(Operator& hands) : hands_(hands) {}
 

@@ -10,7 +10,7 @@ namespace {
 
 // A row of a screen has no parent; that of an element bears the screen's row, counted from 1.
 quintptr idOf(int screen) {
-  return static_cast<quintptr>(screen + 1);
+  return static_cast<quintptr>(screen) + 1;
 }
 
 }  // namespace

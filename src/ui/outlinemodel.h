@@ -10,7 +10,8 @@ namespace veneerer {
 
 class OutlineModel : public QAbstractItemModel {
 public:
-  enum Column { Title, Key, Section, kColumns };
+  enum Column { Title, Key, Section };
+  static constexpr int kColumns = Section + 1;
 
   explicit OutlineModel(State& state);
 

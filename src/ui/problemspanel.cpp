@@ -13,7 +13,8 @@ namespace veneerer {
 
 namespace {
 
-enum Column { Text, Where, kColumns };
+enum Column { Text, Where };
+constexpr int kColumns = Where + 1;
 
 constexpr int kPatience = 8;           // milliseconds of judging in one go
 constexpr int kAtOnce = 4;             // elements that are judged wholly between two looks at the clock

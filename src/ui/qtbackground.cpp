@@ -1,6 +1,7 @@
 #include "ui/qtbackground.h"
 
 #include <QCloseEvent>
+#include <QCursor>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QPointer>
