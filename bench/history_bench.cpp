@@ -1,33 +1,23 @@
 // The waits of undo and redo, and of finding an element.
 #include <benchmark/benchmark.h>
 
-#include "designer/designer.h"
 #include "editing/outline.h"
-#include "support/scriptedplatform.h"
+#include "loadeddesigner.h"
 
 namespace veneerer {
 namespace {
 
-struct Loaded : test::ScriptedPlatform {
-  Loaded() : ScriptedPlatform(ScriptedDialogs::Unexpected::Agree) {
-    platform.folder = ProgramFolder{QStringLiteral(VENEERER_SOURCE_DIR)};
-    designer.startUp();
-  }
-
-  std::vector<Element*> coloured() {
-    std::vector<Element*> elements;
-    for (const Family* family : designer.state().form1.families())
-      for (Element* element : family->members())
-        if (element->has(Property::ForeColor)) elements.push_back(element);
-    return elements;
-  }
-
-  Designer designer{platform};
-};
+std::vector<Element*> colouredIn(State& state) {
+  std::vector<Element*> elements;
+  for (const Family* family : state.form1.families())
+    for (Element* element : family->members())
+      if (element->has(Property::ForeColor)) elements.push_back(element);
+  return elements;
+}
 
 // One step of one value, the value itself included.
 void recordAStep(benchmark::State& run) {
-  Loaded skin;
+  LoadedDesigner skin;
   Button& button = skin.designer.state().form1.lvButtons_H1[2];
   std::int32_t colour = 0;
   for (auto _ : run) skin.designer.setProperty({&button}, Property::ForeColor, Colour(++colour & 0xFFFFFF));
@@ -35,8 +25,8 @@ void recordAStep(benchmark::State& run) {
 BENCHMARK(recordAStep)->Unit(benchmark::kMicrosecond);
 
 void undoAndRedoAWholeSkinsColours(benchmark::State& run) {
-  Loaded skin;
-  skin.designer.setProperty(skin.coloured(), Property::ForeColor, Colour(0x123456));
+  LoadedDesigner skin;
+  skin.designer.setProperty(colouredIn(skin.designer.state()), Property::ForeColor, Colour(0x123456));
   for (auto _ : run) {
     skin.designer.history().undo();
     skin.designer.history().redo();
@@ -45,7 +35,7 @@ void undoAndRedoAWholeSkinsColours(benchmark::State& run) {
 BENCHMARK(undoAndRedoAWholeSkinsColours)->Unit(benchmark::kMillisecond);
 
 void findElements(benchmark::State& run) {
-  Loaded skin;
+  LoadedDesigner skin;
   const std::vector<OutlineEntry> entries = outlineOf(skin.designer.state());
   for (auto _ : run) {
     const QStringList words = queryWords(QStringLiteral("screen play 3"));
@@ -57,7 +47,7 @@ void findElements(benchmark::State& run) {
 BENCHMARK(findElements)->Unit(benchmark::kMillisecond);
 
 void readTheOutlineAnew(benchmark::State& run) {
-  Loaded skin;
+  LoadedDesigner skin;
   for (auto _ : run) benchmark::DoNotOptimize(outlineOf(skin.designer.state()));
 }
 BENCHMARK(readTheOutlineAnew)->Unit(benchmark::kMillisecond);

@@ -1,25 +1,15 @@
 // The waits of judging the default Skin while it is worked on.
 #include <benchmark/benchmark.h>
 
-#include "designer/designer.h"
+#include "loadeddesigner.h"
 #include "problems/problemswatch.h"
-#include "support/scriptedplatform.h"
 
 namespace veneerer {
 namespace {
 
-struct Loaded : test::ScriptedPlatform {
-  Loaded() : ScriptedPlatform(ScriptedDialogs::Unexpected::Agree) {
-    platform.folder = ProgramFolder{QStringLiteral(VENEERER_SOURCE_DIR)};
-    designer.startUp();
-  }
-
-  Designer designer{platform};
-};
-
 // All that a new Skin costs, decoding its pictures included.
 void judgeSkin(benchmark::State& run) {
-  Loaded skin;
+  LoadedDesigner skin;
   for (auto _ : run) {
     ProblemsWatch watch(skin.designer.state(), skin.designer.skinFolder(), skin.platform.screen);
     while (watch.work(100)) {
@@ -31,14 +21,14 @@ BENCHMARK(judgeSkin)->Unit(benchmark::kMillisecond);
 
 // The part of it that doesn't wait for idle time.
 void judgeSkinAtOnce(benchmark::State& run) {
-  Loaded skin;
+  LoadedDesigner skin;
   for (auto _ : run)
     ProblemsWatch watch(skin.designer.state(), skin.designer.skinFolder(), skin.platform.screen);
 }
 BENCHMARK(judgeSkinAtOnce)->Unit(benchmark::kMillisecond);
 
 void judgeElement(benchmark::State& run) {
-  Loaded skin;
+  LoadedDesigner skin;
   ProblemsWatch watch(skin.designer.state(), skin.designer.skinFolder(), skin.platform.screen);
   Button& key = skin.designer.state().form1.lvButtons_H6[3];
   float left = key.left();
@@ -52,7 +42,7 @@ BENCHMARK(judgeElement)->Unit(benchmark::kMillisecond);
 
 // The dearest single change: it moves lines of the cover file.
 void judgeCoverCount(benchmark::State& run) {
-  Loaded skin;
+  LoadedDesigner skin;
   State& state = skin.designer.state();
   ProblemsWatch watch(state, skin.designer.skinFolder(), skin.platform.screen);
   for (auto _ : run) watch.judge(*state.globals.LastCoverIndex);
@@ -61,7 +51,7 @@ BENCHMARK(judgeCoverCount)->Unit(benchmark::kMillisecond);
 
 // One screen with its grounds, as it is judged again after a change, element by element.
 void judgeScreenLater(benchmark::State& run) {
-  Loaded skin;
+  LoadedDesigner skin;
   ProblemsWatch watch(skin.designer.state(), skin.designer.skinFolder(), skin.platform.screen);
   while (watch.work(100)) {
   }

@@ -164,7 +164,9 @@ bool Designer::startUp() {
   return true;
 }
 
+// The lists of Skins follow the disk.
 void Designer::openChooser() {
+  const History::Pause pause(parts_->history);
   veneerer::openChooser(*parts_->state, parts_->platform);
 }
 

@@ -238,6 +238,9 @@ TEST_F(Undo, ALoadAndASaveAreTheCleanPlace) {
   EXPECT_EQ(history.stack().count(), 1) << "a save is no step";
   history.undo();
   EXPECT_TRUE(history.isModified()) << "the disk holds what was undone";
+  makeSkin(QStringLiteral("U"));
+  designer->openChooser();
+  EXPECT_EQ(history.stack().count(), 1) << "nor is a new Skin in the list";
   designer->reload(QStringLiteral("T"));
   EXPECT_FALSE(history.isModified());
   EXPECT_EQ(history.stack().undoText(), QStringLiteral("Skin T"));
