@@ -25,6 +25,7 @@ void SkinLoader::load() {
   }
   tell("Loading...(MENU IMAGES)");
   showMenuPictures(skin);
+  tellWhatNoSaveCanWrite(skin);
   state_.form1.Picture1[0].setVisible(true);
   showWindows();
 }
@@ -43,6 +44,7 @@ void SkinLoader::reload() {
   const SkinFolder skin = folder();
   for (const MakeLayout layout : reloadOrder()) read(layout, skin);
   showMenuPictures(skin);
+  tellWhatNoSaveCanWrite(skin);
   covers_.listFiles();
 }
 
@@ -51,6 +53,16 @@ void SkinLoader::read(MakeLayout makeLayout, const SkinFolder& skin) {
   const Layout layout = makeLayout(state_);
   const QString failure = readRecordFile(layout, skin.file(layout.fileName()), loading);
   if (!failure.isEmpty()) platform_.dialogs.inform(QStringLiteral("Veneerer"), failure);
+}
+
+// What stands in the way of the files that a load reads ends the load. The others are only ever written.
+void SkinLoader::tellWhatNoSaveCanWrite(const SkinFolder& skin) {
+  for (const SaveEntry& entry : saveOrder()) {
+    if (isLoaded(entry)) continue;
+    const QString name = savedName(entry, entry.layout(state_));
+    const QString fault = faultInside(skin.path(), skin.file(name), kMostRecordBytes);
+    if (!fault.isEmpty()) state_.notes.say(QStringLiteral("No save can write %1: %2.").arg(name, fault));
+  }
 }
 
 // A Skin without a star of its own takes the one beside the program.

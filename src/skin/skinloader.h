@@ -30,6 +30,7 @@ private:
   void loadStars(const SkinFolder& folder);
   void showMenuPictures(const SkinFolder& folder);
   void showWindows();
+  void tellWhatNoSaveCanWrite(const SkinFolder& folder);
   void tell(const char* progress);
   SkinFolder folder() const;
 

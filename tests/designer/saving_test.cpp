@@ -192,6 +192,14 @@ TEST_F(Saving, AFileThatNoLoadWouldTakeIsNotReplaced) {
   EXPECT_EQ(bytes("a.cov").size(), kMostRecordBytes + 1);
 }
 
+TEST_F(Saving, ALoadTellsWhatOnlyASaveWouldMeet) {
+  makeSkin("T");
+  QDir().mkpath(root.path() + "/Skins/T/menu_v2.ini");
+  designer->reload("T");
+  ASSERT_EQ(state().notes.texts().size(), 1);
+  EXPECT_TRUE(state().notes.texts().first().startsWith("No save can write menu_v2.ini: "));
+}
+
 // The work in hand is kept; only what such a file holds may still end the program.
 TEST_F(Saving, ASkinThatCantBeReadIsNotTakenInHand) {
   makeSkin("T");
