@@ -11,7 +11,7 @@ enum class PictureTrial { Fine, Broken, Untried };
 
 /// The work that all trials together may do, in pixels walked and bytes read: more than the pictures of a
 /// Skin for the largest screens need, and some seconds for the slowest that a stranger can make.
-inline constexpr qint64 kTrialAllowance = 512LL * 1024 * 1024;
+inline constexpr qint64 kTrialAllowance = 400LL * 1024 * 1024;
 
 /// Decodes each file once and keeps nothing of its pixels.
 class PictureTrials {
