@@ -79,10 +79,15 @@ QString fontText(const Element& element) {
   return words.join(u' ');
 }
 
-QString screenName(State& state, const Element& element) {
+int entryHolding(State& state, const Element& element) {
   for (const Element* e = &element; e; e = e->container())
-    if (const int entry = entryOf(state, *e); entry >= 0) return entryText(entry);
-  return QStringLiteral("Frame");
+    if (const int entry = entryOf(state, *e); entry >= 0) return entry;
+  return -1;
+}
+
+QString screenName(State& state, const Element& element) {
+  const int entry = entryHolding(state, element);
+  return entry >= 0 ? entryText(entry) : QStringLiteral("Frame");
 }
 
 QString describe(State& state, const Element& element, const Screen& screen) {

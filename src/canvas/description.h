@@ -19,6 +19,9 @@ QString propertyTitle(Property property);
 /// "Arial 9 bold"; empty for an element without a font.
 QString fontText(const Element& element);
 
+/// The entry of the Edit Section list whose screen holds the element, or is it; -1 for the frame.
+int entryHolding(State& state, const Element& element);
+
 /// Where the element stands: the entry of its screen in the Edit Section list, or "Frame".
 QString screenName(State& state, const Element& element);
 

@@ -11,12 +11,6 @@ namespace veneerer {
 
 namespace {
 
-int orderOf(State& state, const Element& element) {
-  for (const Element* e = &element; e; e = e->container())
-    if (const int entry = entryOf(state, *e); entry >= 0) return entry;
-  return -1;
-}
-
 void gather(State& state, const Element& container, double x, double y, std::vector<Element*>& found) {
   const std::vector<Element*>& children = container.children();
   for (auto at = children.rbegin(); at != children.rend(); ++at) {
@@ -36,7 +30,7 @@ std::vector<OutlineEntry> outlineOf(State& state) {
   std::vector<std::pair<int, OutlineEntry>> ordered;
   for (const Family* family : state.form1.families())
     for (Element* element : family->members())
-      ordered.push_back({orderOf(state, *element),
+      ordered.push_back({entryHolding(state, *element),
                          {element, screenName(state, *element), elementTitle(state, *element),
                           shortName(*element), sectionOf(state, *family)}});
   std::ranges::stable_sort(ordered, {}, [](const auto& entry) { return entry.first; });

@@ -42,13 +42,6 @@ QString textOf(Operator& hands, const Element& element) {
   return (parts + placesOf(hands.places(), element)).join(QStringLiteral("   "));
 }
 
-// The entry whose screen holds the element, -1 for the frame.
-int screenHolding(State& state, const Element& element) {
-  for (const Element* e = &element; e; e = e->container())
-    if (const int entry = entryOf(state, *e); entry >= 0) return entry;
-  return -1;
-}
-
 }  // namespace
 
 InHandLine::InHandLine(const Ui& ui)
@@ -78,7 +71,7 @@ InHandLine::InHandLine(const Ui& ui)
   connect(&hands_, &Operator::acted, &telling_, qOverload<>(&QTimer::start));
   connect(goThere_, &QPushButton::clicked, this, [this] {
     const Element* element = currentElement(hands_.state());
-    const int entry = element ? screenHolding(hands_.state(), *element) : -1;
+    const int entry = element ? entryHolding(hands_.state(), *element) : -1;
     if (entry >= 0) hands_.choose(*hands_.state().form6.Combo6, entry);
   });
   tell();
@@ -91,7 +84,7 @@ void InHandLine::tell() {
   text_ = element ? textOf(hands_, *element) : QStringLiteral("Click an element to take it in hand");
   showText();
   showColours(element);
-  const int entry = isOnCanvas ? screenHolding(state, *element) : -1;
+  const int entry = isOnCanvas ? entryHolding(state, *element) : -1;
   const bool isElsewhere = entry >= 0 && !isShown(screenOf(state, entry));
   elsewhere_->setVisible(isElsewhere);
   goThere_->setVisible(isElsewhere);

@@ -5,7 +5,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include "canvas/screens.h"
+#include "canvas/description.h"
 #include "elements/printable.h"
 #include "ui/layouts.h"
 
@@ -140,8 +140,8 @@ void ProblemsPanel::goTo(const QTreeWidgetItem* row) {
   Element* element = elementOf(row);
   if (!element) return;
   State& state = hands_.state();
-  for (const Element* e = element; e; e = e->container())
-    if (const int entry = entryOf(state, *e); entry >= 0) hands_.choose(*state.form6.Combo6, entry);
+  const int entry = entryHolding(state, *element);
+  if (entry >= 0) hands_.choose(*state.form6.Combo6, entry);
   select(row);
 }
 
