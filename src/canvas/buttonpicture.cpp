@@ -13,7 +13,7 @@ void give(State& state, Element& element, const Picture& picture, const QString&
 
 }  // namespace
 
-bool takesChosenPicture(State& state, const Element& element) {
+bool takesChosenPicture(const State& state, const Element& element) {
   return (&element.window() == &state.form1 && element.kind() == Kind::Button) ||
          element.family() == &state.form1.Picture17;
 }

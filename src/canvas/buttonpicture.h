@@ -7,7 +7,7 @@
 namespace veneerer {
 
 /// Whether a right press gives the element a picture: the buttons of the canvas and Picture17.
-bool takesChosenPicture(State& state, const Element& element);
+bool takesChosenPicture(const State& state, const Element& element);
 
 /// Asks for an image file. The chosen one is shown and its bare name, behind a backslash, kept as the
 /// element's image reference; cancel clears both. A file that can't be decoded is told of and changes

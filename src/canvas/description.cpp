@@ -34,7 +34,7 @@ QString entryText(int entry) {
   return QStringView(kScreenEntries[static_cast<std::size_t>(entry)]).toString();
 }
 
-QString sectionText(State& state, const Element& element) {
+QString sectionText(const State& state, const Element& element) {
   const int number = element.family() ? sectionOf(state, *element.family()) : 0;
   return number == 0 ? QStringLiteral("no Section") : QStringLiteral("Section %1").arg(number);
 }
@@ -45,7 +45,7 @@ QString shortName(const Element& element) {
   return element.key().section(u'.', -1);
 }
 
-QString elementTitle(State& state, const Element& element) {
+QString elementTitle(const State& state, const Element& element) {
   if (!element.family()) return QStringLiteral("the canvas");
   if (const int entry = entryOf(state, element); entry >= 0) return entryText(entry);
   if (!element.has(Property::Caption)) return shortName(element);
@@ -79,18 +79,18 @@ QString fontText(const Element& element) {
   return words.join(u' ');
 }
 
-int entryHolding(State& state, const Element& element) {
+int entryHolding(const State& state, const Element& element) {
   for (const Element* e = &element; e; e = e->container())
     if (const int entry = entryOf(state, *e); entry >= 0) return entry;
   return -1;
 }
 
-QString screenName(State& state, const Element& element) {
+QString screenName(const State& state, const Element& element) {
   const int entry = entryHolding(state, element);
   return entry >= 0 ? entryText(entry) : QStringLiteral("Frame");
 }
 
-QString describe(State& state, const Element& element, const Screen& screen) {
+QString describe(const State& state, const Element& element, const Screen& screen) {
   QString where = screenName(state, element);
   const Element* holder = element.container();
   if (holder && holder->family() && entryOf(state, *holder) < 0)

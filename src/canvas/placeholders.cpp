@@ -128,7 +128,7 @@ void putPressPlaceholder(State& state, Element& element) {
   put(state, element, kOnPress);
 }
 
-bool turnsOpaqueOnPress(State& state, const Family& family) {
+bool turnsOpaqueOnPress(const State& state, const Family& family) {
   return std::ranges::any_of(kOpaqueOnPress, [&](FamilyRef ref) { return &ref(state) == &family; });
 }
 

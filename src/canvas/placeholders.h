@@ -10,6 +10,6 @@ void putClickPlaceholder(State& state, Element& element);
 void putPressPlaceholder(State& state, Element& element);
 
 /// Whether the family's labels turn opaque under a left press, so that a transparent one can be seen.
-bool turnsOpaqueOnPress(State& state, const Family& family);
+bool turnsOpaqueOnPress(const State& state, const Family& family);
 
 }  // namespace veneerer

@@ -1,5 +1,7 @@
 #include "canvas/screens.h"
 
+#include <utility>
+
 #include "elements/require.h"
 
 namespace veneerer {
@@ -21,14 +23,18 @@ bool staysShown(const State& state, int entry) {
 
 }  // namespace
 
-Element& screenOf(State& state, int entry) {
+const Element& screenOf(const State& state, int entry) {
   require(entry >= 0 && entry < kEntries, "there is no such screen");
   if (entry < kMemberScreens) return state.form1.Picture1[entry];
   if (entry == kGenreSelectionBar) return state.form1.Picture12[0];
   return *state.form1.Picture23;
 }
 
-int entryOf(State& state, const Element& element) {
+Element& screenOf(State& state, int entry) {
+  return const_cast<Element&>(screenOf(std::as_const(state), entry));
+}
+
+int entryOf(const State& state, const Element& element) {
   for (int entry = 0; entry < kEntries; ++entry)
     if (&element == &screenOf(state, entry)) return entry;
   return -1;
@@ -50,7 +56,7 @@ void showScreen(State& state, int entry) {
   for (int overlay : {kGenreSelectionBar, kPopUpMenu}) screenOf(state, overlay).bringToFront();
 }
 
-bool isScreenShown(State& state, int entry) {
+bool isScreenShown(const State& state, int entry) {
   for (int other = 0; other < kEntries; ++other)
     if (screenOf(state, other).isVisible() != (other == entry || staysShown(state, other))) return false;
   return true;

@@ -46,10 +46,11 @@ inline constexpr std::array<std::u16string_view, 32> kScreenEntries = {
 };
 
 /// The panel of an entry, 0 to 31.
+const Element& screenOf(const State& state, int entry);
 Element& screenOf(State& state, int entry);
 
 /// The entry whose panel the element is, -1 for none.
-int entryOf(State& state, const Element& element);
+int entryOf(const State& state, const Element& element);
 
 /// Whether the element is the panel of an entry.
 bool isScreen(const State& state, const Element& element);
@@ -59,6 +60,6 @@ bool isScreen(const State& state, const Element& element);
 void showScreen(State& state, int entry);
 
 /// Whether those screens are shown, and only those, that showScreen() shows for that entry.
-bool isScreenShown(State& state, int entry);
+bool isScreenShown(const State& state, int entry);
 
 }  // namespace veneerer

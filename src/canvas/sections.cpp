@@ -204,7 +204,7 @@ const Section* findSection(int number) {
   return found != std::end(kSections) && found->number == number ? found : nullptr;
 }
 
-int sectionOf(State& state, const Family& family) {
+int sectionOf(const State& state, const Family& family) {
   const auto found =
       std::ranges::find_if(kSections, [&](const Section& s) { return &s.family(state) == &family; });
   return found == std::end(kSections) ? 0 : found->number;
@@ -215,8 +215,9 @@ Family* familyOfSection(State& state, int number) {
   return section ? &section->family(state) : nullptr;
 }
 
-bool isInHand(State& state, FamilyRef family) {
-  return &family(state) == familyOfSection(state, state.globals.SectionNumber);
+bool isInHand(const State& state, FamilyRef family) {
+  const Section* section = findSection(state.globals.SectionNumber);
+  return section && &section->family(state) == &family(state);
 }
 
 Element* currentElement(State& state) {

@@ -25,13 +25,13 @@ std::span<const Section> sections();
 const Section* findSection(int number);
 
 /// The number of the Section that a click on the family makes current, 0 for a family without click handling.
-int sectionOf(State& state, const Family& family);
+int sectionOf(const State& state, const Family& family);
 
 /// The family of that Section, null when the number names nothing.
 Family* familyOfSection(State& state, int number);
 
 /// Whether that family's Section is the current one.
-bool isInHand(State& state, FamilyRef family);
+bool isInHand(const State& state, FamilyRef family);
 
 /// Whether that field serves the current Section.
 bool isServed(const State& state, ToolField field);

@@ -3,6 +3,7 @@
 #include <span>
 
 #include "design/theme.h"
+#include "platform/program.h"
 
 namespace veneerer::design {
 
@@ -146,7 +147,7 @@ void composeSplash(Splash& f) {
   f.Label1->setCaption(QStringLiteral("Powered By Merlane Jukebox"));
   f.Label2->setCaption(QStringLiteral("Warning: This program is used at your own risk."));
   f.Label3->setCaption(QStringLiteral("Loading..."));
-  f.lblProductName->setCaption(QStringLiteral("Veneerer"));
+  f.lblProductName->setCaption(programTitle());
   f.lblPlatform->setCaption(QStringLiteral("V-Quill Skin Designer"));
   f.lblVersion->setCaption(QStringLiteral("Version 3.0"));
 }
@@ -154,7 +155,7 @@ void composeSplash(Splash& f) {
 }  // namespace
 
 void composeToolWindows(State& state) {
-  state.form1.setCaption(QStringLiteral("Veneerer"));
+  state.form1.setCaption(programTitle());
   for (Window* window : state.windows())
     if (window != &state.form1) contain(*window);
   composeForm2(state.form2);

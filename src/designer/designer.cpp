@@ -13,6 +13,7 @@
 #include "panels/coverlayout.h"
 #include "panels/skinproperties.h"
 #include "panels/textureviewer.h"
+#include "platform/program.h"
 #include "records/writefiles.h"
 #include "skin/skinloader.h"
 #include "skin/skinsaver.h"
@@ -76,7 +77,7 @@ struct Designer::Parts {
   /// The Skin in hand isn't lost for one that can't be read.
   void stay(const QString& refusal) {
     state->form4.Combo3->setText(loadedSkin);
-    platform.dialogs.inform(QStringLiteral("Veneerer"), QStringLiteral("Nothing is loaded. ") + refusal);
+    platform.dialogs.inform(programTitle(), QStringLiteral("Nothing is loaded. ") + refusal);
   }
 
   void hasLoaded() {

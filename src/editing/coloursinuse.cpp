@@ -20,7 +20,7 @@ void count(const Family& family, QHash<std::int32_t, int>& counts) {
 
 }  // namespace
 
-std::vector<ColourUse> coloursInUse(State& state) {
+std::vector<ColourUse> coloursInUse(const State& state) {
   QHash<std::int32_t, int> counts;
   for (const Family* family : state.form1.families()) count(*family, counts);
   for (const Family* family : std::initializer_list<const Family*>{

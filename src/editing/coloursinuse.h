@@ -14,6 +14,6 @@ struct ColourUse {
 
 /// The colours of all elements of the canvas and of the samples in "Tools", the most frequent first; system
 /// colours left out.
-std::vector<ColourUse> coloursInUse(State& state);
+std::vector<ColourUse> coloursInUse(const State& state);
 
 }  // namespace veneerer

@@ -48,7 +48,7 @@ bool isTelling(const Element& element, const Window& canvas) {
 
 }  // namespace
 
-QString stepName(State& state, const Changes& changes) {
+QString stepName(const State& state, const Changes& changes) {
   std::vector<Element*> elements;
   std::vector<Property> properties;
   const auto gather = [&](bool onCanvas) {

@@ -2,6 +2,7 @@
 
 #include "design/design.h"
 #include "design/screens.h"
+#include "forms/counts.h"
 #include "looks/artist.h"
 #include "looks/pictures.h"
 #include "records/coverfile.h"
@@ -140,7 +141,7 @@ private:
     f.Text1[0].setText(QString::number(look_.plan.width));
     f.Text1[1].setText(QString::number(look_.plan.height));
     f.Combo1->setText(QStringLiteral("20"));
-    f.Combo7->setText(QStringLiteral("28"));
+    f.Combo7->setText(QString::number(kGenres));
     f.Combo2->select(look_.choices.jumpToLetter);
     f.Combo5->select(look_.choices.genre);
     f.Combo6->select(look_.choices.navigation);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "canvas/description.h"
 #include "canvas/screens.h"
 #include "painting/hittest.h"
 #include "painting/seenelements.h"
@@ -10,18 +11,8 @@ namespace veneerer {
 
 namespace {
 
-constexpr int kGenreBar = 30;
-constexpr int kPopUpMenu = 31;
-
 bool hasArea(const Element& element) {
   return element.width() > 0 && element.height() > 0;
-}
-
-/// The screen that the element stands on or is; null on the frame.
-const Element* screenHolding(const State& state, const Element& element) {
-  for (const Element* e = &element; e; e = e->container())
-    if (isScreen(state, *e)) return e;
-  return nullptr;
 }
 
 /// Looks for what hides a part of the window.
@@ -66,10 +57,7 @@ private:
 }  // namespace
 
 int screenEntryOf(const State& state, const Element& element) {
-  const Element* screen = screenHolding(state, element);
-  if (!screen) return 0;
-  if (screen->family() == &state.form1.Picture1) return screen->index();
-  return screen->family() == &state.form1.Picture12 ? kGenreBar : kPopUpMenu;
+  return std::max(0, entryHolding(state, element));
 }
 
 bool isShownOnScreen(const State& state, const Element& element) {

@@ -2,6 +2,7 @@
 
 #include "files/plainfile.h"
 #include "forms/currentskin.h"
+#include "platform/program.h"
 #include "records/layoutreader.h"
 #include "records/recorderror.h"
 
@@ -52,7 +53,7 @@ void SkinLoader::read(MakeLayout makeLayout, const SkinFolder& skin) {
   Loading loading{state_, skin, platform_.screen};
   const Layout layout = makeLayout(state_);
   const QString failure = readRecordFile(layout, skin.file(layout.fileName()), loading);
-  if (!failure.isEmpty()) platform_.dialogs.inform(QStringLiteral("Veneerer"), failure);
+  if (!failure.isEmpty()) platform_.dialogs.inform(programTitle(), failure);
 }
 
 // What stands in the way of the files that a load reads ends the load. The others are only ever written.

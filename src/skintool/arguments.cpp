@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "canvas/screens.h"
-#include "platform/version.h"
+#include "platform/program.h"
 #include "problems/hints.h"
 #include "records/coverfile.h"
 

@@ -24,7 +24,7 @@ constexpr Service kServices[] = {
 
 }  // namespace
 
-bool servesWhatIsInHand(State& state, const Element& control) {
+bool servesWhatIsInHand(const State& state, const Element& control) {
   const auto found = std::ranges::find_if(
       kServices, [&](const Service& service) { return &service.control(state) == control.family(); });
   return found == std::end(kServices) || isServed(state, found->field);

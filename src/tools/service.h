@@ -7,6 +7,6 @@ namespace veneerer {
 
 /// Whether typing into that field, or choosing there, reaches the element in hand. Any other control always
 /// does what it does.
-bool servesWhatIsInHand(State& state, const Element& control);
+bool servesWhatIsInHand(const State& state, const Element& control);
 
 }  // namespace veneerer

@@ -4,7 +4,7 @@
 #include <QTextStream>
 
 #include "elements/printable.h"
-#include "platform/version.h"
+#include "platform/program.h"
 #include "records/recorderror.h"
 
 namespace veneerer {
@@ -31,8 +31,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 void Application::fail(const QString& message) {
   if (std::exchange(failed_, true)) return;
   QTextStream(stderr) << printable(message) << Qt::endl;
-  QMessageBox box(QMessageBox::Critical, QStringLiteral("Veneerer"), QString(), QMessageBox::Ok,
-                  activeWindow());
+  QMessageBox box(QMessageBox::Critical, programTitle(), QString(), QMessageBox::Ok, activeWindow());
   box.setTextFormat(Qt::PlainText);
   box.setText(shownText(message));
   box.setInformativeText(

@@ -46,7 +46,7 @@ ColourMenu::ColourMenu(Operator& hands, Colour initial, std::function<void(Colou
       Qt::QueuedConnection);
 }
 
-void ColourMenu::addPalette(State& state) {
+void ColourMenu::addPalette(const State& state) {
   auto* chips = new QWidget;
   auto* grid = new QGridLayout(chips);
   grid->setSpacing(2);

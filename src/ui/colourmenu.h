@@ -18,7 +18,7 @@ public:
   ColourMenu(Operator& hands, Colour initial, std::function<void(Colour)> chosen, QWidget* parent);
 
 private:
-  void addPalette(State& state);
+  void addPalette(const State& state);
 
   std::function<void(Colour)> chosen_;
 };

@@ -4,6 +4,7 @@
 // set on the way. The alignments at its end aren't the last word: label_align.ini is read later and names
 // the same labels.
 #include "elements/numbers.h"
+#include "forms/counts.h"
 #include "records/recordfiles.h"
 
 namespace veneerer {
@@ -58,7 +59,7 @@ Layout genreFile(State& state) {
   });
   file.checkValue(*state.form4.Check12);
   file.atEnd([numberBlock](Loading& loading) {
-    if (loading.lines.size() <= numberBlock) loading.state.form4.Combo7->setText(QStringLiteral("28"));
+    if (loading.lines.size() <= numberBlock) loading.state.form4.Combo7->setText(QString::number(kGenres));
   });
   file.atEnd(showGenres);
   file.atEnd([](Loading& loading) {

@@ -1,6 +1,10 @@
-#include "platform/version.h"
+#include "platform/program.h"
 
 namespace veneerer {
+
+QString programTitle() {
+  return QStringLiteral("Veneerer");
+}
 
 QString programVersion() {
   return QStringLiteral(VENEERER_VERSION);
