@@ -97,7 +97,7 @@ class FileListBinding : public ListBinding {
 public:
   FileListBinding(const Ui& ui, FileList& list, RowListView& widget) : ListBinding(ui, list, widget) {
     wait_.setSingleShot(true);
-    connect(&wait_, &QTimer::timeout, this, [this] { hands_.isActing() ? wait_.start() : choose(row_); });
+    connect(&wait_, &QTimer::timeout, this, &FileListBinding::chooseAtLast);
     connect(&widget, &RowListView::choseTwice, this, &FileListBinding::choseTwice);
   }
 
@@ -105,6 +105,13 @@ private:
   void chosen(int row) override {
     row_ = row;
     wait_.start(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+  }
+  // The list may have been filled anew meanwhile.
+  void chooseAtLast() {
+    if (hands_.isActing())
+      wait_.start();
+    else if (list_.hasRow(row_))
+      choose(row_);
   }
   void choseTwice(int row) {
     wait_.stop();

@@ -35,6 +35,13 @@ Slide slideFor(int wanted, int shown, int room) {
   return {std::min(low, wanted), std::max(kMargin, wanted)};
 }
 
+/// The place that is asked for, but never one that takes the canvas out of sight.
+int keptInSight(int wanted, int shown, int room) {
+  constexpr int kKept = 48;
+  const int low = kKept - shown;
+  return std::clamp(wanted, low, std::max(low, room - kKept));
+}
+
 }  // namespace
 
 CanvasView::CanvasView(const Ui& ui) : skin_(*ui.hands.state().form4.Combo3), canvas_(new CanvasWidget(ui)) {
@@ -145,6 +152,9 @@ void CanvasView::layOut(QPoint wanted) {
   const QSize room = isSeen ? most : viewport()->size();
   if (!isSized_ && whole.width() <= room.width()) wanted.setX((room.width() - shown.width()) / 2);
   if (!isSized_ && whole.height() <= room.height()) wanted.setY((room.height() - shown.height()) / 2);
+  if (!isSized_)
+    wanted = QPoint(keptInSight(wanted.x(), shown.width(), room.width()),
+                    keptInSight(wanted.y(), shown.height(), room.height()));
   const Slide across = slideFor(wanted.x(), shown.width(), room.width());
   const Slide down = slideFor(wanted.y(), shown.height(), room.height());
   const bool wasLayingOut = std::exchange(isLayingOut_, true);

@@ -5,9 +5,8 @@
 #include <random>
 
 #include "canvas/screens.h"
+#include "designer/restoredstate.h"
 #include "designer/skinfixture.h"
-#include "elements/kinds.h"
-#include "history/restored.h"
 #include "panels/textureslots.h"
 
 namespace veneerer {
@@ -19,42 +18,10 @@ constexpr int kActions = 25;
 class Undo : public test::SkinFixture {
 protected:
   void SetUp() override {
-    copySkin(QStringLiteral("Black_and_Blue_gif_V8.0(800x600)"), QStringLiteral("S"));
-    copySkin(QStringLiteral("Copper_Lounge(1024x768)"), QStringLiteral("T"));
+    test::copyShippedSkin(QStringLiteral("Black_and_Blue_gif_V8.0(800x600)"), root.path(),
+                          QStringLiteral("S"));
+    test::copyShippedSkin(QStringLiteral("Copper_Lounge(1024x768)"), root.path(), QStringLiteral("T"));
     start();
-  }
-
-  void copySkin(const QString& from, const QString& to) {
-    const QString source = QStringLiteral(VENEERER_SOURCE_DIR "/Skins/") + from;
-    for (const QString& folder : {QString(), QStringLiteral("/images")}) {
-      const QString target = root.path() + QStringLiteral("/Skins/") + to + folder;
-      QDir().mkpath(target);
-      for (const QString& file : QDir(source + folder).entryList(QDir::Files))
-        QFile::copy(source + folder + u'/' + file, target + u'/' + file);
-    }
-  }
-
-  /// All that an undo brings back: the values in the order of slots_, and the orders of siblings.
-  struct Restored {
-    std::vector<Value> values;
-    std::vector<std::vector<Element*>> orders;
-  };
-
-  Restored restored() {
-    if (slots_.empty()) findSlots();
-    Restored all;
-    all.values.reserve(slots_.size());
-    for (const auto& [element, property] : slots_) all.values.push_back(element->get(property));
-    for (const Element* container : containers_) all.orders.push_back(orderOf(state(), *container));
-    return all;
-  }
-
-  std::string difference(const Restored& a, const Restored& b) {
-    std::string told = a.orders == b.orders ? "" : "stacking\n";
-    for (std::size_t i = 0; i < slots_.size() && told.size() < 500; ++i)
-      if (!isSameValue(a.values[i], b.values[i]))
-        told += (slots_[i].first->key() + ' ' + propertyName(slots_[i].second) + '\n').toStdString();
-    return told;
   }
 
   Element& anyOf(const Window& window) {
@@ -98,44 +65,24 @@ protected:
   }
 
   std::mt19937 random{12};
-
-private:
-  void findSlots() {
-    std::vector<Window*> windows = state().windows();
-    windows.insert(windows.end(), {&state().names, &state().globals});
-    for (const Window* window : windows) {
-      add(*window);
-      for (const Family* family : window->families())
-        for (const Element* element : family->members()) add(*element);
-    }
-  }
-
-  void add(const Element& element) {
-    for (const PropertyDefault& each : propertiesOf(element.kind()))
-      if (isRestored(state(), element, each.property)) slots_.push_back({&element, each.property});
-    if (!element.children().empty()) containers_.push_back(&element);
-  }
-
-  std::vector<std::pair<const Element*, Property>> slots_;
-  std::vector<const Element*> containers_;
 };
 
 TEST_F(Undo, UndoesAndRedoesAnythingExactly) {
   for (int script = 0; script < kScripts; ++script) {
     History& history = designer->history();
     history.start();
-    const auto first = restored();
+    const test::RestoredState first(state());
     for (int action = 0; action < kActions; ++action) {
       doAnything();
       if (random() % 6 == 0) history.undo();
       if (random() % 12 == 0) history.redo();
     }
     history.redoAll();
-    const auto last = restored();
+    const test::RestoredState last(state());
     history.undoAll();
-    ASSERT_EQ(difference(first, restored()), "") << "undone, script " << script;
+    ASSERT_EQ(first.difference(test::RestoredState(state())), "") << "undone, script " << script;
     history.redoAll();
-    ASSERT_EQ(difference(last, restored()), "") << "redone, script " << script;
+    ASSERT_EQ(last.difference(test::RestoredState(state())), "") << "redone, script " << script;
   }
 }
 

@@ -1,0 +1,65 @@
+// All that an undo brings back, to be compared.
+#pragma once
+
+#include <QDir>
+#include <string>
+#include <vector>
+
+#include "canvas/screens.h"
+#include "elements/kinds.h"
+#include "history/changes.h"
+#include "history/restored.h"
+
+namespace veneerer::test {
+
+class RestoredState {
+public:
+  /// Without that element, when one is given.
+  explicit RestoredState(State& state, const Element* without = nullptr) : without_(without) {
+    std::vector<Window*> windows = state.windows();
+    windows.insert(windows.end(), {&state.names, &state.globals});
+    for (const Window* window : windows) {
+      add(state, *window);
+      for (const Family* family : window->families())
+        for (const Element* element : family->members()) add(state, *element);
+    }
+    for (const auto& [element, property] : slots_) values_.push_back(element->get(property));
+    for (const Element* container : containers_) orders_.push_back(orderOf(state, *container));
+  }
+
+  /// What differs in the other one, a line for each property; empty when nothing does.
+  std::string difference(const RestoredState& other) const {
+    std::string told = orders_ == other.orders_ ? "" : "stacking\n";
+    for (std::size_t i = 0; i < slots_.size() && told.size() < 500; ++i)
+      if (!isSameValue(values_[i], other.values_[i]))
+        told += (slots_[i].first->key() + ' ' + propertyName(slots_[i].second) + '\n').toStdString();
+    return told;
+  }
+
+private:
+  void add(const State& state, const Element& element) {
+    if (&element == without_) return;
+    for (const PropertyDefault& each : propertiesOf(element.kind()))
+      if (isRestored(state, element, each.property)) slots_.push_back({&element, each.property});
+    if (!element.children().empty()) containers_.push_back(&element);
+  }
+
+  const Element* without_;
+  std::vector<std::pair<const Element*, Property>> slots_;
+  std::vector<const Element*> containers_;
+  std::vector<Value> values_;
+  std::vector<std::vector<Element*>> orders_;
+};
+
+/// A copy of one of the program's own Skins, with its pictures, as a Skin of that root.
+inline void copyShippedSkin(const QString& shipped, const QString& root, const QString& name) {
+  const QString source = QStringLiteral(VENEERER_SOURCE_DIR "/Skins/") + shipped;
+  for (const QString& folder : {QString(), QStringLiteral("/images")}) {
+    const QString target = root + QStringLiteral("/Skins/") + name + folder;
+    QDir().mkpath(target);
+    for (const QString& file : QDir(source + folder).entryList(QDir::Files))
+      QFile::copy(source + folder + u'/' + file, target + u'/' + file);
+  }
+}
+
+}  // namespace veneerer::test
