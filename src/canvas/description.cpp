@@ -30,10 +30,6 @@ QString inPixels(const Element& e, const Screen& screen) {
                    QStringLiteral("px"));
 }
 
-QString entryText(int entry) {
-  return QStringView(kScreenEntries[static_cast<std::size_t>(entry)]).toString();
-}
-
 QString sectionText(const State& state, const Element& element) {
   const int number = element.family() ? sectionOf(state, *element.family()) : 0;
   return number == 0 ? QStringLiteral("no Section") : QStringLiteral("Section %1").arg(number);
@@ -47,7 +43,7 @@ QString shortName(const Element& element) {
 
 QString elementTitle(const State& state, const Element& element) {
   if (!element.family()) return QStringLiteral("the canvas");
-  if (const int entry = entryOf(state, element); entry >= 0) return entryText(entry);
+  if (const int entry = entryOf(state, element); entry >= 0) return screenTitle(entry);
   if (!element.has(Property::Caption)) return shortName(element);
   // The mark of a new line is for the canvas alone.
   const QString caption =
@@ -87,7 +83,7 @@ int entryHolding(const State& state, const Element& element) {
 
 QString screenName(const State& state, const Element& element) {
   const int entry = entryHolding(state, element);
-  return entry >= 0 ? entryText(entry) : QStringLiteral("Frame");
+  return entry >= 0 ? screenTitle(entry) : QStringLiteral("Frame");
 }
 
 QString describe(const State& state, const Element& element, const Screen& screen) {

@@ -1,5 +1,6 @@
 #include "canvas/screens.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "elements/require.h"
@@ -21,7 +22,21 @@ bool staysShown(const State& state, int entry) {
   return entry == kGenreScreen && state.form4.Check12->isTicked();
 }
 
+// What showScreen() leaves visible.
+bool isShownWith(const State& state, int shown, int entry) {
+  return entry == shown || staysShown(state, entry);
+}
+
+void raise(Stage& stage, const Element& element) {
+  const auto found = std::ranges::find(stage, &element);
+  if (found != stage.end()) std::rotate(found, found + 1, stage.end());
+}
+
 }  // namespace
+
+QString screenTitle(int entry) {
+  return QStringView(kScreenEntries.at(static_cast<std::size_t>(entry))).toString();
+}
 
 const Element& screenOf(const State& state, int entry) {
   require(entry >= 0 && entry < kEntries, "there is no such screen");
@@ -50,15 +65,27 @@ void showScreen(State& state, int entry) {
   if (entry < 0) return;
   Element& screen = screenOf(state, entry);
   for (int other = 0; other < kEntries; ++other)
-    screenOf(state, other).setVisible(other == entry || staysShown(state, other));
+    screenOf(state, other).setVisible(isShownWith(state, entry, other));
   if (entry < kMemberScreens) screen.bringToFront();
   // Whatever stays shown behind a screen, these two stand in front of it.
   for (int overlay : {kGenreSelectionBar, kPopUpMenu}) screenOf(state, overlay).bringToFront();
 }
 
+Stage stageOf(const State& state, int entry) {
+  const Element& screen = screenOf(state, entry);
+  Stage stage;
+  for (Element* element : state.form1.children()) {
+    const int other = entryOf(state, *element);
+    if (other < 0 ? element->isVisible() : isShownWith(state, entry, other)) stage.push_back(element);
+  }
+  if (entry < kMemberScreens) raise(stage, screen);
+  for (int overlay : {kGenreSelectionBar, kPopUpMenu}) raise(stage, screenOf(state, overlay));
+  return stage;
+}
+
 bool isScreenShown(const State& state, int entry) {
   for (int other = 0; other < kEntries; ++other)
-    if (screenOf(state, other).isVisible() != (other == entry || staysShown(state, other))) return false;
+    if (screenOf(state, other).isVisible() != isShownWith(state, entry, other)) return false;
   return true;
 }
 

@@ -1,9 +1,11 @@
 // The screens of the jukebox, one of which the canvas shows at a time.
 #pragma once
 
+#include <QString>
 #include <array>
 #include <string_view>
 
+#include "elements/stage.h"
 #include "forms/state.h"
 
 namespace veneerer {
@@ -45,6 +47,9 @@ inline constexpr std::array<std::u16string_view, 32> kScreenEntries = {
     u"Pop Up Menu",
 };
 
+/// The entry of that row, 0 to 31, in its own words.
+QString screenTitle(int entry);
+
 /// The panel of an entry, 0 to 31.
 const Element& screenOf(const State& state, int entry);
 Element& screenOf(State& state, int entry);
@@ -58,6 +63,10 @@ bool isScreen(const State& state, const Element& element);
 /// Shows the screen of an entry in front, alone but for the two that the Skin's properties keep shown. No row
 /// (-1) shows nothing new. The current Section stays.
 void showScreen(State& state, int entry);
+
+/// What stands on the canvas window when the screen of that entry, 0 to 31, is shown. Nothing is changed by
+/// asking.
+Stage stageOf(const State& state, int entry);
 
 /// Whether those screens are shown, and only those, that showScreen() shows for that entry.
 bool isScreenShown(const State& state, int entry);

@@ -68,6 +68,15 @@ ucAniGIF::ucAniGIF(Window& window, Repaint repaint) : window_(window), repaint_(
 
 ucAniGIF::~ucAniGIF() = default;
 
+void ucAniGIF::setStage(std::optional<Stage> stage) {
+  stage_ = std::move(stage);
+  update();
+}
+
+bool ucAniGIF::isSeen(const Element& element) const {
+  return stage_ ? isShownOn(*stage_, element) : isShown(element);
+}
+
 QImage ucAniGIF::frame(const Element& element) const {
   if (element.kind() != Kind::AnimatedFrame) return {};
   const auto playing = playing_.value(element.as<Picture>(Property::Picture).id());
@@ -78,7 +87,7 @@ void ucAniGIF::update() {
   QHash<quintptr, std::vector<const AnimatedFrame*>> shown;
   std::vector<const Picture*> order;
   for (const AnimatedFrame* element : elements_) {
-    if (element->picture().path().isEmpty() || !isShown(*element)) continue;
+    if (element->picture().path().isEmpty() || !isSeen(*element)) continue;
     auto& elements = shown[element->picture().id()];
     if (elements.empty()) order.push_back(&element->picture());
     elements.push_back(element);

@@ -7,9 +7,11 @@
 #include <QTimer>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "elements/controls.h"
+#include "elements/stage.h"
 #include "elements/window.h"
 
 class QMovie;
@@ -33,6 +35,9 @@ public:
   ucAniGIF(const ucAniGIF&) = delete;
   ucAniGIF& operator=(const ucAniGIF&) = delete;
 
+  /// What is shown on the window from now on in the place of its visible children; nothing for those.
+  void setStage(std::optional<Stage> stage);
+
   /// The frame to show now; a null image for an element that isn't playing, whose picture shows its first.
   QImage frame(const Element& element) const;
 
@@ -43,12 +48,14 @@ public:
 private:
   struct Playing;
 
+  bool isSeen(const Element& element) const;
   std::shared_ptr<Playing> play(const Picture& picture);
   qint64 playedPixels() const;
   void tell(const Playing& playing) const;
 
   Window& window_;
   Repaint repaint_;
+  std::optional<Stage> stage_;
   Attachment watching_;
   QTimer pending_;
   std::vector<const AnimatedFrame*> elements_;

@@ -56,7 +56,8 @@ void CanvasPainter::paint(QPainter& painter, const Form1& form, const QRect& exp
   bounds_ = canvasBounds(form, exposed, scale_);
   painter.fillRect(exposed, form.backColor().toQColor());
   paintNatural(painter, form.picture(), QRectF(QPointF(), bounds_.bottomRight()), exposed);
-  for (const SeenElement& seen : seenElements(form, exposed, scale_))
+  for (const SeenElement& seen :
+       stage_ ? seenElements(*stage_, exposed, scale_) : seenElements(form, exposed, scale_))
     paintOne(painter, *seen.element, seen.rect, seen.clip);
   painter.restore();
 }

@@ -7,9 +7,11 @@
 #include <QPainter>
 #include <QRect>
 #include <functional>
+#include <optional>
 
 #include "elements/controls.h"
 #include "elements/label.h"
+#include "elements/stage.h"
 #include "forms/form1.h"
 #include "painting/buttonpainter.h"
 #include "painting/pixels.h"
@@ -34,6 +36,10 @@ public:
   void setHovered(const Element* element) { hovered_ = element; }
   /// The element that the mouse holds down: a button is painted so. Null for none.
   void setPressed(const Element* element) { pressed_ = element; }
+
+  /// What is painted on the canvas window from now on in the place of its visible children; nothing for
+  /// those.
+  void setStage(std::optional<Stage> stage) { stage_ = std::move(stage); }
 
   /// The outlines of custom shapes, for a hit test of what is painted here.
   CutOuts& cutOuts() { return cutOuts_; }
@@ -76,6 +82,7 @@ private:
   CutOuts cutOuts_;
   ButtonPainter buttons_{texts_, images_, cutOuts_};
   FrameSource frames_;
+  std::optional<Stage> stage_;
   const Element* hovered_ = nullptr;
   const Element* pressed_ = nullptr;
   PixelScale scale_;

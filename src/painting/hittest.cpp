@@ -41,18 +41,29 @@ Element* HitTest::elementAt(const Form1& form, float x, float y) const {
   return childAt(form, x, y);
 }
 
+Element* HitTest::elementAt(const Stage& stage, float x, float y) const {
+  for (auto at = stage.rbegin(); at != stage.rend(); ++at)
+    if (Element* found = within(**at, x, y)) return found;
+  return nullptr;
+}
+
 // The topmost hit among the children, the point being in the container's coordinates.
 Element* HitTest::childAt(const Element& container, double x, double y) const {
   const std::vector<Element*>& children = container.children();
   for (auto at = children.rbegin(); at != children.rend(); ++at) {
-    Element& child = **at;
-    if (!child.isVisible() || !holds(child, x, y)) continue;
-    const double innerX = x - child.left();
-    const double innerY = y - child.top();
-    if (Element* inner = childAt(child, innerX, innerY)) return inner;
-    if (!isSeeThrough(child) && meets(child, innerX, innerY)) return &child;
+    Element* found = (*at)->isVisible() ? within(**at, x, y) : nullptr;
+    if (found) return found;
   }
   return nullptr;
+}
+
+// The element or what it holds, the point being in the coordinates of the element's container.
+Element* HitTest::within(Element& element, double x, double y) const {
+  if (!holds(element, x, y)) return nullptr;
+  const double innerX = x - element.left();
+  const double innerY = y - element.top();
+  if (Element* inner = childAt(element, innerX, innerY)) return inner;
+  return !isSeeThrough(element) && meets(element, innerX, innerY) ? &element : nullptr;
 }
 
 // The point is in the element's own coordinates and within its rectangle.

@@ -4,6 +4,7 @@
 #include <QRectF>
 
 #include "elements/element.h"
+#include "elements/stage.h"
 #include "forms/form1.h"
 #include "painting/customoutline.h"
 #include "painting/pixels.h"
@@ -31,9 +32,12 @@ public:
   /// The topmost visible element at a point of the canvas window, in twips; null where only the window's own
   /// surface is. Elements count only within their containers.
   Element* elementAt(const Form1& form, float x, float y) const;
+  /// The same where that stands on the canvas window.
+  Element* elementAt(const Stage& stage, float x, float y) const;
 
 private:
   Element* childAt(const Element& container, double x, double y) const;
+  Element* within(Element& element, double x, double y) const;
   bool meets(const Element& element, double x, double y) const;
 
   CutOuts& cutOuts_;

@@ -53,19 +53,14 @@ class Look {
 public:
   Look(const QRectF& exposed, const PixelScale& scale) : open_(exposed.toAlignedRect()), scale_(scale) {}
 
-  void at(const Element& container, QPointF origin, const QRectF& clip) {
+  void within(const Element& container, QPointF origin, const QRectF& clip) {
     const std::vector<Element*>& children = container.children();
-    for (auto child = children.rbegin(); child != children.rend(); ++child) {
-      if (!(*child)->isVisible()) continue;
-      const std::optional<QRectF> rect = pixelRect(**child, origin, scale_);
-      if (!rect || !rect->intersects(clip)) continue;
-      const QRectF inner = *rect & clip;
-      if (isAnythingHidden_ && !open_.intersects(inner.toAlignedRect())) continue;
-      if (!(*child)->children().empty()) at(**child, rect->topLeft(), inner);
-      if (isSeeThrough(**child)) continue;
-      see({*child, *rect, clip}, inner);
-      hideBehind(**child, *rect, clip);
-    }
+    for (auto child = children.rbegin(); child != children.rend(); ++child)
+      if ((*child)->isVisible()) at(**child, origin, clip);
+  }
+
+  void on(const Stage& stage, const QRectF& clip) {
+    for (auto element = stage.rbegin(); element != stage.rend(); ++element) at(**element, QPointF(), clip);
   }
 
   std::vector<SeenElement> backToFront() && {
@@ -74,6 +69,17 @@ public:
   }
 
 private:
+  void at(const Element& element, QPointF origin, const QRectF& clip) {
+    const std::optional<QRectF> rect = pixelRect(element, origin, scale_);
+    if (!rect || !rect->intersects(clip)) return;
+    const QRectF inner = *rect & clip;
+    if (isAnythingHidden_ && !open_.intersects(inner.toAlignedRect())) return;
+    if (!element.children().empty()) within(element, rect->topLeft(), inner);
+    if (isSeeThrough(element)) return;
+    see({&element, *rect, clip}, inner);
+    hideBehind(element, *rect, clip);
+  }
+
   void see(const SeenElement& whole, const QRectF& inner) {
     if (!isAnythingHidden_ || !isLarge(whole.rect)) return seen_.push_back(whole);
     QRegion left = open_ & inner.toAlignedRect();
@@ -115,7 +121,13 @@ QList<QRectF> opaqueParts(const Element& element, const QRectF& rect) {
 std::vector<SeenElement> seenElements(const Element& container, const QRectF& exposed,
                                       const PixelScale& scale) {
   Look look(exposed, scale);
-  look.at(container, QPointF(), exposed);
+  look.within(container, QPointF(), exposed);
+  return std::move(look).backToFront();
+}
+
+std::vector<SeenElement> seenElements(const Stage& stage, const QRectF& exposed, const PixelScale& scale) {
+  Look look(exposed, scale);
+  look.on(stage, exposed);
   return std::move(look).backToFront();
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "elements/element.h"
+#include "elements/stage.h"
 #include "painting/pixels.h"
 
 namespace veneerer {
@@ -24,5 +25,7 @@ QList<QRectF> opaqueParts(const Element& element, const QRectF& rect);
 /// leave pieces of comes once for each.
 std::vector<SeenElement> seenElements(const Element& container, const QRectF& exposed,
                                       const PixelScale& scale);
+/// The same for what stands on a window.
+std::vector<SeenElement> seenElements(const Stage& stage, const QRectF& exposed, const PixelScale& scale);
 
 }  // namespace veneerer
