@@ -14,6 +14,7 @@
 #include "skintool/batchskin.h"
 #include "skintool/checkcommand.h"
 #include "skintool/output.h"
+#include "skintool/pages.h"
 #include "skintool/render.h"
 #include "skintool/script.h"
 #include "skintool/statejson.h"
@@ -30,7 +31,7 @@ QString readScript(const QString& name) {
   return QString::fromUtf8(file.readAll());
 }
 
-/// One run of dump, save or render on one Skin.
+/// One run on one Skin, which is loaded.
 class BatchRun {
 public:
   explicit BatchRun(const Arguments& arguments)
@@ -45,15 +46,25 @@ public:
     designer_.startUp();
     if (arguments_.reload) designer_.reload(designer_.state().form4.Combo3->text());
     ScriptPlayer(designer_, dialogs_).play(arguments_.script, script);
-    if (arguments_.command == Command::Dump)
-      printState(out, designer_, dialogs_.messages);
-    else if (arguments_.command == Command::Render)
-      renderScreens(designer_, arguments_.to, arguments_.only);
-    else
-      save();
+    finish(out);
   }
 
 private:
+  void finish(std::FILE* out) {
+    switch (arguments_.command) {
+      case Command::Dump:
+        return printState(out, designer_, dialogs_.messages);
+      case Command::Render:
+        return renderScreens(designer_, arguments_.to, arguments_.only);
+      case Command::Sheet:
+        return writeScreenSheet(designer_, arguments_.to);
+      case Command::Preview:
+        return writeWebPage(designer_, arguments_.to);
+      default:
+        return save();
+    }
+  }
+
   void save() {
     const bool savesCover = !arguments_.cover.isEmpty();
     dialogs_.answers.clear();
@@ -78,7 +89,7 @@ private:
   Designer designer_;
 };
 
-int writeSheet(const QString& path) {
+int writeButtons(const QString& path) {
   Disk disk;
   const QFileInfo file(path);
   writePng(disk, file.path(), file.fileName(), buttonSheet());
@@ -95,7 +106,7 @@ int run(const Arguments& arguments, std::FILE* out) {
     return 0;
   }
   if (arguments.command == Command::Check) return runCheck(arguments, out);
-  if (arguments.command == Command::Sheet) return writeSheet(arguments.to);
+  if (arguments.command == Command::Buttons) return writeButtons(arguments.to);
   BatchRun(arguments).run(out);
   return 0;
 }

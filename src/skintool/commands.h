@@ -8,7 +8,7 @@
 
 namespace veneerer {
 
-enum class Command : std::uint8_t { Dump, Save, Render, Check, Sheet };
+enum class Command : std::uint8_t { Dump, Save, Render, Check, Sheet, Preview, Buttons };
 
 struct CommandEntry {
   Command command;

@@ -1,12 +1,10 @@
 #include "skintool/render.h"
 
-#include <QPainter>
 #include <future>
 
-#include "canvas/screens.h"
 #include "images/pictureencoding.h"
 #include "painting/canvaspainter.h"
-#include "painting/canvassize.h"
+#include "preview/screenpicture.h"
 #include "records/recorderror.h"
 #include "records/writefiles.h"
 
@@ -19,11 +17,6 @@ constexpr int kFastPng = 80;
 
 QString fileName(int entry, const QString& name) {
   return QStringLiteral("%1 %2.png").arg(entry, 2, 10, QLatin1Char('0')).arg(name);
-}
-
-void requireWritable(Disk& disk, const QString& folder, std::vector<NewFile> files) {
-  const FileReplacement replacement(disk, folder, std::move(files));
-  if (replacement.refusal()) throw WriteRefused(*replacement.refusal());
 }
 
 /// Encodes and writes pictures while the next one is painted.
@@ -51,13 +44,8 @@ private:
 
 QImage renderScreen(Designer& designer, CanvasPainter& painter, int entry) {
   State& state = designer.state();
-  const Screen& screen = designer.platform().screen;
   state.form6.Combo6->select(entry);
-  QImage image(canvasSize(state.form1, screen).pixels, QImage::Format_RGB32);
-  image.fill(Qt::black);
-  QPainter canvas(&image);
-  painter.paint(canvas, state.form1, image.rect(), 1 / screen.twipsPerPixelX(), 1 / screen.twipsPerPixelY());
-  return image;
+  return canvasPicture(state.form1, designer.platform().screen, painter);
 }
 
 void renderScreens(Designer& designer, const QString& folder, const QStringList& only) {
@@ -77,6 +65,11 @@ void renderScreens(Designer& designer, const QString& folder, const QStringList&
   for (const int entry : chosen)
     writer.start(fileName(entry, entries[entry]), renderScreen(designer, painter, entry));
   writer.finish();
+}
+
+void requireWritable(Disk& disk, const QString& folder, std::vector<NewFile> files) {
+  const FileReplacement replacement(disk, folder, std::move(files));
+  if (replacement.refusal()) throw WriteRefused(*replacement.refusal());
 }
 
 void writePng(Disk& disk, const QString& folder, const QString& name, const QImage& image, int quality) {

@@ -3,8 +3,10 @@
 
 #include <QString>
 #include <QStringList>
+#include <vector>
 
 #include "designer/designer.h"
+#include "files/replacefiles.h"
 
 namespace veneerer {
 
@@ -16,6 +18,9 @@ QImage renderScreen(Designer& designer, class CanvasPainter& painter, int entry)
 /// with only, just the entries of these names. Each file is replaced by a whole new one. Throws WriteRefused,
 /// before the first is written, when one of them can't be, and RecordError when writing fails all the same.
 void renderScreens(Designer& designer, const QString& folder, const QStringList& only);
+
+/// Throws WriteRefused when one of these files of the folder can't be written. Nothing is changed.
+void requireWritable(Disk& disk, const QString& folder, std::vector<NewFile> files);
 
 /// Replaces that file of the folder by a PNG file; quality as for encodePicture. Throws WriteRefused and
 /// RecordError.
