@@ -16,6 +16,7 @@
 #include "ui/inhandline.h"
 #include "ui/keys.h"
 #include "ui/plaintext.h"
+#include "ui/tryit.h"
 #include "ui/viewcommands.h"
 
 namespace veneerer {
@@ -130,6 +131,10 @@ void CanvasWindow::addViewMenu() {
   QAction* previous = addCommand(menu, QStringLiteral("&Previous Screen"), {QKeySequence(u"Ctrl+PgUp"_qs)},
                                  QStringLiteral("Show the screen ahead of this one in the list"));
   connect(previous, &QAction::triggered, this, [this] { showScreen(-1); });
+  menu->addSeparator();
+  QAction* tryIt = addCommand(menu, QStringLiteral("Tr&y It"), {QKeySequence(kTryItKey)},
+                              QStringLiteral("See the Skin in full screen and press its menus' buttons"));
+  connect(tryIt, &QAction::triggered, this, [this] { tryOut(ui_, this); });
   menu->addSeparator();
   addViewCommands(*menu, *view_);
 }

@@ -11,4 +11,7 @@ inline const QList<QKeySequence> kUndoKeys{QKeySequence(Qt::CTRL | Qt::Key_Z)};
 inline const QList<QKeySequence> kRedoKeys{QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
                                            QKeySequence(Qt::CTRL | Qt::Key_Y)};
 
+// Opens the window in which a Skin is tried, and closes it.
+inline constexpr Qt::Key kTryItKey = Qt::Key_F11;
+
 }  // namespace veneerer
