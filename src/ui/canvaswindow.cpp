@@ -13,6 +13,7 @@
 #include "canvas/screens.h"
 #include "ui/arrangement.h"
 #include "ui/editcommands.h"
+#include "ui/exportcommands.h"
 #include "ui/inhandline.h"
 #include "ui/keys.h"
 #include "ui/plaintext.h"
@@ -93,6 +94,8 @@ void CanvasWindow::addFileMenu() {
                              QStringLiteral("Write the record files of the Skin"));
   connect(save, &QAction::triggered, this, [this] { ui_.hands.click(*state_.form4.Command4); });
   menu->addSeparator();
+  addExportCommands(*menu, ui_);
+  menu->addSeparator();
   QAction* quit = addCommand(menu, QStringLiteral("&Quit"), {QKeySequence::Quit},
                              QStringLiteral("End the program; nothing is saved"));
   connect(quit, &QAction::triggered, this, &QWidget::close);
@@ -118,6 +121,8 @@ void CanvasWindow::addEditMenu() {
                       steps.canRedo(), &QUndoStack::redoTextChanged, &QUndoStack::canRedoChanged);
   connect(redo, &QAction::triggered, this, [&history] { history.redo(); });
   addEditCommands(*menu, ui_.hands);
+  menu->addSeparator();
+  addCopyScreen(*menu, ui_);
   connect(&steps, &QUndoStack::cleanChanged, this, [this](bool isClean) { setWindowModified(!isClean); });
 }
 

@@ -35,6 +35,10 @@ void Operator::act(Action action) {
   Q_EMIT acted();
 }
 
+void Operator::run(const std::function<void()>& command) {
+  act(command);
+}
+
 void Operator::click(Element& element) {
   act([&] { designer_.click(element); });
 }

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <functional>
 #include <optional>
 
 #include "designer/designer.h"
@@ -24,7 +25,11 @@ public:
   const RecordPlaces& places();
   SkinFolder skinFolder() const { return designer_.skinFolder(); }
   Dialogs& dialogs() { return designer_.platform().dialogs; }
+  const Platform& platform() const { return designer_.platform(); }
   const Screen& screen() const { return designer_.platform().screen; }
+
+  /// Runs what changes nothing of the Skin but may take long: no action begins meanwhile.
+  void run(const std::function<void()>& command);
 
   void click(Element& element);
   /// x and y in twips in the element's own coordinates.

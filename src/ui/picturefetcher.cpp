@@ -18,11 +18,15 @@ enum Priority { Behind = 0, Ahead = 1 };
 
 PictureFetcher::PictureFetcher(Operator& hands) : state_(hands.state()) {
   pool_.setMaxThreadCount(1);
+  begin();
+  watching_ = state_.board.watch([this](const Change&) { seen_.clear(); });
+  connect(&hands, &Operator::acted, this, [this] { seen_.clear(); });
+}
+
+void PictureFetcher::begin() {
   state_.pictures.fetchWith([this](const Picture& picture, const PictureNeed& need) {
     fetch({picture, need});
   });
-  watching_ = state_.board.watch([this](const Change&) { seen_.clear(); });
-  connect(&hands, &Operator::acted, this, [this] { seen_.clear(); });
 }
 
 PictureFetcher::~PictureFetcher() {

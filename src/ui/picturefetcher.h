@@ -22,6 +22,18 @@ public:
   explicit PictureFetcher(Operator& hands);
   ~PictureFetcher() override;
 
+  /// While it lives, what is painted is decoded on the spot: nothing is missing in a picture that is taken.
+  class Rest {
+  public:
+    explicit Rest(PictureFetcher& fetcher) : fetcher_(fetcher) { fetcher.state_.pictures.fetchWith({}); }
+    ~Rest() { fetcher_.begin(); }
+    Rest(const Rest&) = delete;
+    Rest& operator=(const Rest&) = delete;
+
+  private:
+    PictureFetcher& fetcher_;
+  };
+
   /// Picture::thumbnail on the other thread, behind all that is to be shown at full size.
   QFuture<QImage> thumbnail(const Picture& picture, QSize within);
 
@@ -35,6 +47,7 @@ private:
     PictureNeed need;
     bool operator==(const Task&) const = default;
   };
+  void begin();
   void fetch(const Task& task);
   int patience();
   void arrived(const Task& task);

@@ -1,0 +1,78 @@
+#include "ui/exportcommands.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include "preview/screenpicture.h"
+#include "preview/webpage.h"
+#include "records/writefiles.h"
+
+namespace veneerer {
+
+namespace {
+
+constexpr char kExport[] = "Export as Web Page";
+
+/// Empty when it was cancelled.
+QString chooseTarget(const QString& skinName) {
+  QFileDialog dialog(QApplication::activeWindow(), QString::fromLatin1(kExport), QDir::homePath(),
+                     QStringLiteral("Web Pages (*.html)"));
+  // The dialog chooses a name; it makes, renames and deletes nothing.
+  dialog.setOption(QFileDialog::ReadOnly);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("html"));
+  dialog.selectFile(skinName + QStringLiteral(".html"));
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+void writePage(const Ui& ui, const QFileInfo& file, const QString& skinName) {
+  State& state = ui.hands.state();
+  const Platform& platform = ui.hands.platform();
+  // All pictures are to be seen, however long that takes.
+  const PictureFetcher::Rest onTheSpot(ui.pictures);
+  const QByteArray page = webPage(state, platform.screen, skinName, platform.progress);
+  writeFiles(platform.disk, file.path(), {{file.fileName(), page}});
+}
+
+void exportPage(const Ui& ui) {
+  const QString skinName = ui.hands.state().form4.Combo3->text();
+  const QString path = chooseTarget(skinName);
+  if (path.isEmpty()) return;
+  const QFileInfo file(path);
+  // No file of the Skin is at stake: a failure ends the export, not the program.
+  try {
+    ui.hands.run([&] { writePage(ui, file, skinName); });
+    ui.hands.state().notes.say(QStringLiteral("The web page %1 is written.").arg(file.fileName()));
+  } catch (const RecordError& error) {
+    ui.hands.dialogs().inform(QString::fromLatin1(kExport),
+                              QStringLiteral("Nothing is written. ") + error.message());
+  }
+}
+
+void copyScreen(const Ui& ui) {
+  const PictureFetcher::Rest onTheSpot(ui.pictures);
+  CanvasPainter painter;
+  QApplication::clipboard()->setImage(canvasPicture(ui.hands.state().form1, ui.hands.screen(), painter));
+  ui.hands.state().notes.say(QStringLiteral("The screen is on the clipboard."));
+}
+
+}  // namespace
+
+void addExportCommands(QMenu& file, const Ui& ui) {
+  QAction* action = file.addAction(QStringLiteral("Export as &Web Page..."));
+  action->setStatusTip(QStringLiteral("Write one page with all screens, to be looked at in a browser"));
+  QObject::connect(action, &QAction::triggered, action, [ui] { exportPage(ui); });
+}
+
+void addCopyScreen(QMenu& edit, const Ui& ui) {
+  QAction* action = edit.addAction(QStringLiteral("&Copy This Screen"));
+  action->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C")));
+  action->setShortcutContext(Qt::ApplicationShortcut);
+  action->setStatusTip(QStringLiteral("Put a picture of the canvas on the clipboard"));
+  QObject::connect(action, &QAction::triggered, action, [ui] { copyScreen(ui); });
+}
+
+}  // namespace veneerer
