@@ -8,6 +8,7 @@
 #include "ui/inspector.h"
 #include "ui/outlinepanel.h"
 #include "ui/problemspanel.h"
+#include "ui/screenspanel.h"
 #include "ui/settingswindow.h"
 #include "ui/texturewindow.h"
 #include "ui/toolswindow.h"
@@ -43,6 +44,7 @@ DesignerWindows::DesignerWindows(Designer& designer)
   addPanel("outline", new OutlinePanel(ui_), "&Outline", Qt::Key_F3);
   addPanel("problems", new ProblemsPanel(ui_), "&Problems", Qt::Key_F9);
   addHistory();
+  addPanel("screens", new ScreensPanel(ui_), "&Screens", Qt::Key_F12);
 }
 
 void DesignerWindows::bindCanvas(State& state) {
