@@ -1,6 +1,7 @@
 #include "canvas/sections.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace veneerer {
 
@@ -220,10 +221,15 @@ bool isInHand(const State& state, FamilyRef family) {
   return section && &section->family(state) == &family(state);
 }
 
+const Element* currentElement(const State& state) {
+  const Section* section = findSection(state.globals.SectionNumber);
+  if (!section) return nullptr;
+  const Family& family = section->family(state);
+  return family.find(family.isArray() ? state.globals.ElementIndex : 0);
+}
+
 Element* currentElement(State& state) {
-  const Family* family = familyOfSection(state, state.globals.SectionNumber);
-  if (!family) return nullptr;
-  return family->find(family->isArray() ? state.globals.ElementIndex : 0);
+  return const_cast<Element*>(currentElement(std::as_const(state)));
 }
 
 bool isServed(const State& state, ToolField field) {

@@ -38,6 +38,7 @@ bool isServed(const State& state, ToolField field);
 
 /// The element in hand: the current Section's member at ElementIndex, or its single control. Null when there
 /// is none.
+const Element* currentElement(const State& state);
 Element* currentElement(State& state);
 
 /// The element in hand when that field serves the current Section, else null.

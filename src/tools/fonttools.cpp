@@ -68,6 +68,11 @@ void copyFontName(State& state, Reach reach) {
     copy(state, reach, ToolField::CopiedFontName, Property::FontName, state.form6.List1->text());
 }
 
+bool copiesAlignment(const State& state, const Family& family) {
+  return std::ranges::any_of(kAlignedLabels,
+                             [&](const AlignedLabels& labels) { return &labels.family(state) == &family; });
+}
+
 void copyAlignment(State& state) {
   const int row = state.form6.Combo5->listIndex();
   const auto labels = std::ranges::find_if(

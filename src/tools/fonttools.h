@@ -24,6 +24,9 @@ void copyFontSize(State& state, Reach reach);
 /// Command4: the same with the name chosen in List1; nothing happens when none is.
 void copyFontName(State& state, Reach reach);
 
+/// Whether "Copy Alignment to All Labels" works on that family.
+bool copiesAlignment(const State& state, const Family& family);
+
 /// "Copy Alignment to All Labels", by the row of Combo5.
 void copyAlignment(State& state);
 

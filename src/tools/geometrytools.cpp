@@ -87,6 +87,16 @@ void setRow(Element& button, Property property, const ComboBox& list) {
 
 }  // namespace
 
+bool hasRange(const State& state, GeometryTool tool, const Family& family) {
+  const auto isCrossed = [&](const CrossedRange& row) {
+    return row.tool == tool && &row.inHand(state) == &family;
+  };
+  const auto row =
+      std::ranges::find_if(kFamilyRanges, [&](const FamilyRanges& r) { return &r.family(state) == &family; });
+  return std::ranges::any_of(kCrossedRanges, isCrossed) ||
+         (row != std::end(kFamilyRanges) && !row->of(tool).isEmpty());
+}
+
 void makeSameSize(State& state) {
   const float height = numberIn(state.form6.Text3[0]);
   const float width = numberIn(state.form6.Text3[1]);

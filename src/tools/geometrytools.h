@@ -7,6 +7,11 @@
 
 namespace veneerer {
 
+enum class GeometryTool;
+
+/// Whether the command has a range for that family, or for another one in its place.
+bool hasRange(const State& state, GeometryTool tool, const Family& family);
+
 /// "Make Buttons Same Size": Height and Width from Text3.
 void makeSameSize(State& state);
 

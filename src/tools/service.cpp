@@ -2,32 +2,142 @@
 
 #include <algorithm>
 
-#include "canvas/sections.h"
+#include "canvas/description.h"
+#include "canvas/familyref.h"
+#include "forms/controltips.h"
+#include "tools/fonttools.h"
+#include "tools/geometrytables.h"
+#include "tools/geometrytools.h"
 
 namespace veneerer {
 
 namespace {
 
-struct Service {
-  FamilyRef control;
-  ToolField field;
+using Test = bool (*)(const State& state, const Section& section);
+
+template <ToolField Field>
+constexpr Test kField = [](const State&, const Section& section) { return section.fields.has(Field); };
+
+template <GeometryTool Tool>
+constexpr Test kRange =
+    [](const State& state, const Section& section) { return hasRange(state, Tool, section.family(state)); };
+
+constexpr Test kScreens = [](const State& state, const Section& section) {
+  return &section.family(state) == &state.form1.Picture1;
 };
 
-constexpr Service kServices[] = {
-    {kTools<&Form6::Text1>, ToolField::Caption},        {kTools<&Form6::Text2>, ToolField::TypedColour},
-    {kTools<&Form6::Text3>, ToolField::Size},           {kTools<&Form6::Text4>, ToolField::FontSize},
-    {kTools<&Form6::Text9>, ToolField::Place},          {kTools<&Form6::Combo1>, ToolField::Shape},
-    {kTools<&Form6::Combo2>, ToolField::Style},         {kTools<&Form6::Combo4>, ToolField::Gradient},
-    {kTools<&Form6::Combo5>, ToolField::Alignment},     {kTools<&Form6::List1>, ToolField::FontName},
-    {kTools<&Form6::Command14>, ToolField::FontDialog},
+constexpr Test kAlignedLabels = [](const State& state, const Section& section) {
+  return copiesAlignment(state, section.family(state));
 };
+
+constexpr int kEach = -1;
+
+struct Service {
+  FamilyRef control;
+  int index;  ///< kEach for all of the family
+  Test test;
+  bool isCommand = true;  ///< one that is never grey
+};
+
+constexpr bool kGreyed = false;
+
+constexpr Service kServices[] = {
+    {kTools<&Form6::Text1>, kEach, kField<ToolField::Caption>, kGreyed},
+    {kTools<&Form6::Text2>, kEach, kField<ToolField::TypedColour>, kGreyed},
+    {kTools<&Form6::Text3>, kEach, kField<ToolField::Size>, kGreyed},
+    {kTools<&Form6::Text4>, kEach, kField<ToolField::FontSize>, kGreyed},
+    {kTools<&Form6::Text9>, kEach, kScreens, kGreyed},
+    {kTools<&Form6::Combo1>, kEach, kField<ToolField::Shape>, kGreyed},
+    {kTools<&Form6::Combo2>, kEach, kField<ToolField::Style>, kGreyed},
+    {kTools<&Form6::Combo4>, kEach, kField<ToolField::Gradient>, kGreyed},
+    {kTools<&Form6::Combo5>, kEach, kField<ToolField::Alignment>, kGreyed},
+    {kTools<&Form6::List1>, kEach, kField<ToolField::FontName>, kGreyed},
+    {kTools<&Form6::Command14>, kEach, kField<ToolField::FontDialog>, kGreyed},
+    {kTools<&Form6::Picture2>, kEach, kField<ToolField::Colour>},
+    {kTools<&Form6::Command1>, 0, kField<ToolField::CopiedFontSize>},
+    {kTools<&Form6::Command2>, 0, kField<ToolField::CopiedColours>},
+    {kTools<&Form6::Command3>, kEach, kRange<GeometryTool::Styles>},
+    {kTools<&Form6::Command4>, 0, kField<ToolField::CopiedFontName>},
+    {kTools<&Form6::Command5>, kEach, kRange<GeometryTool::Size>},
+    {kTools<&Form6::Command6>, kEach, kRange<GeometryTool::Shift>},
+    {kTools<&Form6::Command7>, kEach, kRange<GeometryTool::Clear>},
+    {kTools<&Form6::Command8>, kEach, kRange<GeometryTool::Align>},
+    {kTools<&Form6::Command9>, kEach, kRange<GeometryTool::Space>},
+    {kTools<&Form6::Command11>, kEach, kAlignedLabels},
+    {kTools<&Form6::Command12>, kEach, kScreens},
+    {kTools<&Form6::Command13>, kEach, kRange<GeometryTool::Grid>},
+};
+
+const Service* serviceOf(const State& state, const Element& control) {
+  const auto found = std::ranges::find_if(kServices, [&](const Service& service) {
+    return &service.control(state) == control.family() &&
+           (service.index == kEach || service.index == control.index());
+  });
+  return found == std::end(kServices) ? nullptr : found;
+}
+
+// What the operator calls the members of a family.
+QString kindWord(const State& state, const Family& family) {
+  if (&family == &state.form1.Picture1) return QStringLiteral("screen");
+  switch (family.members().front()->kind()) {
+    case Kind::Button:
+      return QStringLiteral("button");
+    case Kind::Label:
+      return QStringLiteral("label");
+    default:
+      return QStringLiteral("picture");
+  }
+}
+
+QStringList servedKinds(const State& state, const Element& control) {
+  QStringList kinds;
+  for (const Section& section : sections())
+    if (servesSection(state, control, section)) kinds.append(kindWord(state, section.family(state)) + u's');
+  kinds.sort();
+  kinds.removeDuplicates();
+  return kinds;
+}
+
+QString listed(QStringList words) {
+  const QString last = words.takeLast();
+  return words.isEmpty() ? last : words.join(QStringLiteral(", ")) + QStringLiteral(" and ") + last;
+}
+
+QString about(const QString& tip, const QString& one, const QString& many) {
+  return QString(tip).replace(QStringLiteral("%1"), one).replace(QStringLiteral("%2"), many);
+}
 
 }  // namespace
 
+bool needsSection(const State& state, const Element& control) {
+  return serviceOf(state, control) != nullptr;
+}
+
+bool servesSection(const State& state, const Element& control, const Section& section) {
+  const Service* service = serviceOf(state, control);
+  return !service || service->test(state, section);
+}
+
 bool servesWhatIsInHand(const State& state, const Element& control) {
-  const auto found = std::ranges::find_if(
-      kServices, [&](const Service& service) { return &service.control(state) == control.family(); });
-  return found == std::end(kServices) || isServed(state, found->field);
+  const Service* service = serviceOf(state, control);
+  if (!service || service->isCommand) return true;
+  const Section* section = findSection(state.globals.SectionNumber);
+  return section && service->test(state, *section);
+}
+
+QString toolTipOf(const State& state, const Element& control) {
+  const QString tip = controlTip(control);
+  if (!needsSection(state, control)) return tip;
+  const Section* section = findSection(state.globals.SectionNumber);
+  const Element* inHand = currentElement(state);
+  if (section && inHand && servesSection(state, control, *section)) {
+    const QString word = kindWord(state, section->family(state));
+    return about(tip, QStringLiteral("the ") + word, word + u's');
+  }
+  const QString kinds = listed(servedKinds(state, control));
+  const QString general = about(tip, QStringLiteral("the element in hand"), kinds);
+  if (!inHand) return QStringLiteral("%1. It serves %2; click one").arg(general, kinds);
+  return QStringLiteral("%1. It serves %2, but not %3").arg(general, kinds, elementTitle(state, *inHand));
 }
 
 }  // namespace veneerer

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "support/files.h"
+#include "tools/service.h"
 #include "toolsfixture.h"
 
 namespace veneerer {
@@ -10,9 +11,11 @@ namespace veneerer {
 class AcceptanceTest : public ToolsTest {
 protected:
   void expectAccepted(const Element& control, const std::function<void()>& action) {
+    EXPECT_EQ(accepted(action), toldOf(control.key()).toStdString()) << control.key().toStdString();
+  }
+  static QString toldOf(const QString& key) {
     const QString told = test::bytesOf(VENEERER_SOURCE_DIR "/tests/tools/accepted.txt");
-    const QString line = told.section('\n' + control.key() + ": ", 1).section('\n', 0, 0);
-    EXPECT_EQ(accepted(action), line.toStdString()) << control.key().toStdString();
+    return told.section('\n' + key + ": ", 1).section('\n', 0, 0);
   }
   void expectAccepted(std::initializer_list<Element*> commands) {
     for (Element* command : commands) expectAccepted(*command, [=, this] { click(*command); });
@@ -88,6 +91,32 @@ TEST_F(AcceptanceTest, StylesColoursAndFonts) {
     world.dialogs.fonts.enqueue(FontChoice{"Times", 40});
     click(*form6.Command14);
   });
+}
+
+TEST_F(AcceptanceTest, WhatIsToldToServeASectionDoes) {
+  for (const Family* family : form6.families())
+    for (const Element* control : family->members()) {
+      if (!needsSection(state, *control)) continue;
+      QStringList told;
+      for (const Section& section : sections())
+        if (servesSection(state, *control, section)) told.append(QString::number(section.number));
+      // Both fields of a place are for the same Sections; one of them is written down.
+      const QString key = control->key().replace(QStringLiteral("Text9(1)"), QStringLiteral("Text9(0)"));
+      EXPECT_EQ(told.join(' ').toStdString(), toldOf(key).toStdString()) << control->key().toStdString();
+    }
+}
+
+TEST_F(AcceptanceTest, AToolTipTellsOfWhatIsInHand) {
+  const auto tip = [&](const Element& control) { return toolTipOf(state, control).toStdString(); };
+  EXPECT_EQ(tip(*form6.Text9.find(0)),
+            "Top of the element in hand, in twips: 1440 to the inch. It serves screens; click one");
+  form1.lvButtons_H1[2].setCaption("Queue");
+  current(1, 2);
+  EXPECT_EQ(tip(form6.Text3[0]), "Height of the button, in twips: 1440 to the inch");
+  EXPECT_EQ(tip(*form6.Command7), "Take their pictures from all buttons of the family of what is in hand");
+  EXPECT_EQ(tip(*form6.Text4),
+            "Font size of the element in hand, in points. It serves labels, but not Queue (2)");
+  EXPECT_EQ(tip(form6.Text5[0]), "By how much Shift X moves, in twips") << "for any Section";
 }
 
 }  // namespace veneerer
