@@ -5,6 +5,7 @@
 #include <QStyleHints>
 
 #include "elements/printable.h"
+#include "tools/service.h"
 #include "ui/keys.h"
 
 namespace veneerer {
@@ -212,15 +213,19 @@ private:
   QAbstractButton& widget_;
 };
 
-// A control that has a tool tip of its own in the state shows it.
 template <class B, class W, class E>
 W* bound(const Ui& ui, E& element, W* widget) {
   new B(ui, element, *widget);
-  if (!element.toolTipText().isEmpty()) widget->setToolTip(plainToolTip(element.toolTipText()));
+  showTip(ui.hands.state(), element, *widget);
   return widget;
 }
 
 }  // namespace
+
+void showTip(State& state, const Element& element, QWidget& widget) {
+  const QString& own = element.toolTipText();
+  widget.setToolTip(plainToolTip(own.isEmpty() ? toolTipOf(state, element) : own));
+}
 
 QLineEdit* makeField(const Ui& ui, TextBox& element) {
   return bound<FieldBinding>(ui, element, new QLineEdit);
@@ -267,6 +272,7 @@ void bindPainted(const Ui& ui, Element& element, QAbstractButton& widget) {
   widget.setFocusPolicy(Qt::TabFocus);
   widget.setCursor(Qt::PointingHandCursor);
   new PaintedBinding(ui, element, widget);
+  showTip(ui.hands.state(), element, widget);
   if (!element.has(Property::Picture)) return;
   QObject::connect(&ui.pictures, &PictureFetcher::fetched, &widget, [&](const Picture& picture) {
     if (element.as<Picture>(Property::Picture) == picture) widget.update();

@@ -41,6 +41,9 @@ QRadioButton* makeOption(const Ui& ui, OptionButton& element);
 QPushButton* makeCommand(const Ui& ui, CommandButton& element);
 QLabel* makeCaption(const Ui& ui, Label& element);
 
+/// Gives the widget the tool tip that its element has in the state, else what it does for what is in hand.
+void showTip(State& state, const Element& element, QWidget& widget);
+
 /// For a control that paints its element itself: it is painted anew after each change and when its picture
 /// has been fetched, takes the focus by the tabulator, and a click on it is the click event of the element.
 void bindPainted(const Ui& ui, Element& element, QAbstractButton& widget);

@@ -12,7 +12,6 @@ ChooserWindow::ChooserWindow(const Ui& ui) {
   resize(420, 460);
   auto* column = new QVBoxLayout(this);
   RowListView* skins = makeList(ui, *form.List1);
-  skins->setToolTip(QStringLiteral("Click a Skin to load it"));
   column->addWidget(makeLabel(QStringLiteral("Skins:"), skins));
   column->addWidget(skins, 3);
   RowListView* folders = makeList(ui, *form.Dir1);

@@ -39,21 +39,30 @@ void TextCombo::showPopup() {
   QComboBox::showPopup();
 }
 
+int TextCombo::room() const {
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  return style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).width();
+}
+
+bool TextCombo::isCut() const {
+  return fontMetrics().horizontalAdvance(text_) > room();
+}
+
 void TextCombo::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
   QStyleOptionComboBox option;
   initStyleOption(&option);
-  const QRect field =
-      style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-  option.currentText = fontMetrics().elidedText(text_, Qt::ElideRight, field.width());
+  option.currentText = fontMetrics().elidedText(text_, Qt::ElideRight, room());
   painter.drawComplexControl(QStyle::CC_ComboBox, option);
   if (!isEditable()) painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 bool TextCombo::event(QEvent* event) {
-  const bool says = event->type() == QEvent::ToolTip && toolTip().isEmpty() && !text_.isEmpty();
+  const bool says = event->type() == QEvent::ToolTip && isCut();
   if (!says) return QComboBox::event(event);
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), plainToolTip(text_), this);
+  const QString tip = QStringList{text_, toolTip()}.join(toolTip().isEmpty() ? u"" : u": ");
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), plainToolTip(tip), this);
   return true;
 }
 

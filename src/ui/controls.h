@@ -21,12 +21,15 @@ public:
   void showPopup() override;
 
 protected:
-  /// Without a tool tip of its own it tells its text, which may be too long for it.
+  /// A text that is too long for it stands ahead of its tool tip.
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
 private:
+  int room() const;
+  bool isCut() const;
+
   QStringList rows_;
   QString text_;  ///< as it is shown
 };

@@ -84,6 +84,7 @@ void DesignerWindows::addHistory() {
   steps->setWindowTitle(QStringLiteral("History"));
   steps->setEmptyLabel(QStringLiteral("As it was loaded"));
   steps->setAccessibleName(steps->windowTitle());
+  steps->setToolTip(QStringLiteral("Click a step to go back or forward to it"));
   addPanel("history", steps, "&History", Qt::Key_F8);
 }
 

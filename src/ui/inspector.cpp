@@ -27,6 +27,7 @@ Inspector::Inspector(const Ui& ui)
   title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   table_->setModel(&model_);
   table_->setAccessibleName(QStringLiteral("Properties"));
+  table_->setToolTip(QStringLiteral("Type a value to set it; click a colour's name to choose a colour"));
   table_->setSelectionMode(QAbstractItemView::SingleSelection);
   table_->setEditTriggers(QAbstractItemView::AllEditTriggers);
   table_->setAlternatingRowColors(true);

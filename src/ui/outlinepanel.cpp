@@ -32,8 +32,10 @@ OutlinePanel::OutlinePanel(const Ui& ui)
   query_->setPlaceholderText(QStringLiteral("Caption, name, Section or screen"));
   query_->setClearButtonEnabled(true);
   query_->setAccessibleName(QStringLiteral("Search"));
+  query_->setToolTip(QStringLiteral("Show only elements that all these words are found in"));
   tree_->setModel(&model_);
   tree_->setAccessibleName(QStringLiteral("Elements"));
+  tree_->setToolTip(QStringLiteral("Click an element to select it; Enter takes it in hand"));
   tree_->setUniformRowHeights(true);
   tree_->setHeaderHidden(false);
   tree_->header()->setStretchLastSection(false);

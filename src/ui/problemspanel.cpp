@@ -58,6 +58,7 @@ ProblemsPanel::ProblemsPanel(const Ui& ui)
   rows_->setRootIsDecorated(false);
   rows_->setUniformRowHeights(true);
   rows_->setAccessibleName(windowTitle());
+  rows_->setToolTip(QStringLiteral("Click a problem to select its element; Enter goes to its screen"));
   rows_->header()->setStretchLastSection(false);
   rows_->header()->setSectionResizeMode(Text, QHeaderView::Stretch);
   auto* column = compact(new QVBoxLayout(this));

@@ -18,7 +18,6 @@ QLabel* makeFieldLabel(const Element& element, QWidget* control) {
 QGroupBox* fileFrame(const Ui& ui, Form4& form) {
   auto* row = compact(new QHBoxLayout);
   TextCombo* skin = makeCombo(ui, *form.Combo3);
-  skin->setToolTip(QStringLiteral("The Skin that is loaded; choosing another one loads it"));
   row->addWidget(makeFieldLabel(*form.Combo3, skin));
   row->addWidget(skin, 1);
   row->addWidget(makeCommand(ui, *form.Command4));
@@ -68,10 +67,8 @@ QGroupBox* skinFrame(const Ui& ui, Form4& form) {
 
 QGroupBox* resolutionFrame(const Ui& ui, Form4& form) {
   auto* grid = compact(new QGridLayout);
-  const QString tip = QStringLiteral("Pixels; sizes the canvas window and moves no element");
   for (int i = 0; i < 2; ++i) {
     QLineEdit* field = makeField(ui, form.Text1[i]);
-    field->setToolTip(tip);
     addField(grid, 0, 2 * i, i == 0 ? QStringLiteral("X:") : QStringLiteral("Y:"), field);
   }
   return makeFrame(fieldLabel(form.Text1), grid);
@@ -80,8 +77,6 @@ QGroupBox* resolutionFrame(const Ui& ui, Form4& form) {
 QLayout* coverFileLayout(const Ui& ui, Form4& form) {
   auto* column = new QVBoxLayout;
   RowListView* files = makeFileList(ui, *form.File1);
-  files->setToolTip(
-      QStringLiteral("Click to load a cover layout; double-click to load it without a question"));
   column->addWidget(makeFieldLabel(*form.File1, files));
   column->addWidget(files, 1);
   auto* name = new QHBoxLayout;

@@ -23,7 +23,6 @@ public:
   FramePreview(const Ui& ui, Form5& form)
       : frame_(*form.ucAniGIF1), player_(form, [this](const Element&) { QWidget::update(); }) {
     setFixedSize(kPreview);
-    setToolTip(QStringLiteral("Choose the picture of this album frame"));
     painter_.setFrameSource([this](const Element& frame) { return player_.frame(frame); });
     bindPainted(ui, frame_, *this);
   }

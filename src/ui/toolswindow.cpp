@@ -2,6 +2,8 @@
 
 #include <QHBoxLayout>
 
+#include "canvas/description.h"
+#include "canvas/sections.h"
 #include "tools/service.h"
 #include "ui/layouts.h"
 #include "ui/swatch.h"
@@ -20,11 +22,10 @@ QLineEdit* makeNumberField(const Ui& ui, TextBox& element) {
 
 // Two number fields with their labels in one row of four columns.
 void addPair(QGridLayout* grid, int row, const Ui& ui, const char* first, TextBox& firstBox,
-             const char* second, TextBox& secondBox, const QString& tip) {
+             const char* second, TextBox& secondBox) {
   int column = 0;
   for (const auto& [label, box] : {std::pair(first, &firstBox), std::pair(second, &secondBox)}) {
     QLineEdit* field = makeNumberField(ui, *box);
-    field->setToolTip(tip);
     addField(grid, row, column, QString::fromLatin1(label), field);
     column += 2;
   }
@@ -41,7 +42,6 @@ QLayout* screenLayout(const Ui& ui, Form6& form) {
   auto* row = new QHBoxLayout;
   TextCombo* screens = makeCombo(ui, *form.Combo6);
   screens->setMaxVisibleItems(32);
-  screens->setToolTip(QStringLiteral("The screen that the canvas shows"));
   row->addWidget(makeLabel(QStringLiteral("Edit Section:"), screens));
   row->addWidget(screens, 1);
   return row;
@@ -61,14 +61,13 @@ QGroupBox* elementFrame(const Ui& ui, Form6& form) {
   grid->addLayout(captionLayout(ui, form), 0, 0, 1, -1);
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(3, 1);
-  const QString twips = QStringLiteral("Twips: 1440 to the inch");
-  addPair(grid, 1, ui, "Height:", form.Text3[0], "Width:", form.Text3[1], twips);
+  addPair(grid, 1, ui, "Height:", form.Text3[0], "Width:", form.Text3[1]);
   addCommands(grid, 2, ui, {&*form.Command5});
-  addPair(grid, 3, ui, "Top:", form.Text9[0], "Left:", form.Text9[1], twips);
+  addPair(grid, 3, ui, "Top:", form.Text9[0], "Left:", form.Text9[1]);
   addCommands(grid, 4, ui, {&*form.Command12});
-  addPair(grid, 5, ui, "X Shift:", form.Text5[0], "Y Shift:", form.Text5[1], twips);
-  addPair(grid, 6, ui, "X Space:", form.Text6[0], "Y Space:", form.Text6[1], twips);
-  addPair(grid, 7, ui, "X Grid:", form.Text10[0], "Y Grid:", form.Text10[1], twips);
+  addPair(grid, 5, ui, "X Shift:", form.Text5[0], "Y Shift:", form.Text5[1]);
+  addPair(grid, 6, ui, "X Space:", form.Text6[0], "Y Space:", form.Text6[1]);
+  addPair(grid, 7, ui, "X Grid:", form.Text10[0], "Y Grid:", form.Text10[1]);
   for (int axis = 0; axis < 2; ++axis)
     addCommands(grid, 8 + axis, ui, {&form.Command6[axis], &form.Command9[axis], &form.Command8[axis]});
   addCommands(grid, 10, ui, {&*form.Command13});
@@ -94,28 +93,19 @@ QGroupBox* samplesFrame(const Ui& ui, Form6& form) {
 
 QGroupBox* rescaleFrame(const Ui& ui, Form6& form) {
   auto* grid = compact(new QGridLayout);
-  addPair(grid, 0, ui, "Width:", *form.Text7, "Height:", *form.Text8, QStringLiteral("Pixels"));
+  addPair(grid, 0, ui, "Width:", *form.Text7, "Height:", *form.Text8);
   grid->addWidget(makeCheck(ui, *form.Check2), 1, 0, 1, -1);
   addCommands(grid, 2, ui, {&*form.Command10});
   return makeFrame(QStringLiteral("Re-Scale Skin"), grid);
 }
 
-Swatch* makeSwatch(const Ui& ui, PictureBox& box) {
-  auto* swatch = new Swatch(ui, box);
-  swatch->setToolTip(QStringLiteral("Click to choose a colour"));
-  return swatch;
-}
-
 QLayout* colourInHandLayout(const Ui& ui, Form6& form) {
   auto* grid = new QGridLayout;
   grid->setSpacing(4);
-  Swatch* swatch = makeSwatch(ui, *form.Picture2);
+  auto* swatch = new Swatch(ui, *form.Picture2);
   grid->addWidget(makeLabel(QStringLiteral("Selected Colour:"), swatch), 0, 0, 1, 2);
   grid->addWidget(swatch, 1, 0);
   QLineEdit* text = makeField(ui, *form.Text2);
-  text->setToolTip(
-      QStringLiteral("A number, &H and hexadecimal digits, or # and six of them, whose pairs are read in the "
-                     "order first, third, second: #112233 is blue 11, green 33, red 22"));
   text->setAccessibleName(QStringLiteral("Colour"));
   text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   grid->addWidget(text, 1, 1);
@@ -127,7 +117,7 @@ QGroupBox* colourFrame(const Ui& ui, Form6& form) {
   for (int i = 0; i < 3; ++i) grid->addWidget(makeOption(ui, form.Option1[i]), i, 0);
   grid->addLayout(colourInHandLayout(ui, form), 0, 1, 3, 1, Qt::AlignVCenter);
   addField(grid, 3, 0, QStringLiteral("Gradient Style:"), makeCombo(ui, *form.Combo4));
-  addField(grid, 4, 0, QStringLiteral("Key Highlight Colour:"), makeSwatch(ui, *form.Picture1));
+  addField(grid, 4, 0, QStringLiteral("Key Highlight Colour:"), new Swatch(ui, *form.Picture1));
   addCommands(grid, 5, ui, {&form.Command2[0], &form.Command2[1]});
   grid->setColumnStretch(1, 1);
   return makeFrame(QStringLiteral("Colour Settings"), grid);
@@ -191,25 +181,43 @@ ToolsWindow::ToolsWindow(const Ui& ui) : hands_(ui.hands) {
   columns->addLayout(right, 1);
   setContent(*this, columns);
   assignMnemonics(*this);
-  connect(&hands_, &Operator::acted, this, &ToolsWindow::greyOut);
+  connect(&hands_, &Operator::acted, this, &ToolsWindow::followHand);
+  followHand();
+}
+
+QList<std::pair<const Element*, QWidget*>> ToolsWindow::controls() const {
+  QList<std::pair<const Element*, QWidget*>> all;
+  for (const Family* family : hands_.state().form6.families())
+    for (const Element* control : family->members())
+      if (auto* widget = findChild<QWidget*>(control->key())) all.append({control, widget});
+  return all;
+}
+
+void ToolsWindow::followHand() {
   greyOut();
+  showTips();
 }
 
 void ToolsWindow::greyOut() {
   QPalette grey = palette();
   for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     grey.setColor(role, grey.color(QPalette::Disabled, role));
-  State& state = hands_.state();
   const QList<QLabel*> labels = findChildren<QLabel*>();
-  for (const Family* family : state.form6.families())
-    for (const Element* control : family->members()) {
-      auto* widget = findChild<QWidget*>(control->key());
-      if (!widget) continue;
-      const bool serves = servesWhatIsInHand(state, *control);
-      if (widget->testAttribute(Qt::WA_SetPalette) == serves) widget->setPalette(serves ? QPalette() : grey);
-      for (QLabel* label : labels)
-        if (label->buddy() == widget) label->setPalette(widget->palette());
-    }
+  for (const auto& [control, widget] : controls()) {
+    const bool serves = servesWhatIsInHand(hands_.state(), *control);
+    if (widget->testAttribute(Qt::WA_SetPalette) == serves) widget->setPalette(serves ? QPalette() : grey);
+    for (QLabel* label : labels)
+      if (label->buddy() == widget) label->setPalette(widget->palette());
+  }
+}
+
+// Every move of a drag comes by here.
+void ToolsWindow::showTips() {
+  State& state = hands_.state();
+  const Element* inHand = currentElement(state);
+  const QString now = inHand ? inHand->key() + elementTitle(state, *inHand) : QString();
+  if (std::exchange(told_, now) == now) return;
+  for (const auto& [control, widget] : controls()) showTip(state, *control, *widget);
 }
 
 // The list takes long to get, so the first paint doesn't wait for it.

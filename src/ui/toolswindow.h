@@ -2,13 +2,15 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 #include "ui/bindings.h"
 
 namespace veneerer {
 
 /// Fields that don't reach the element in hand are grey; they can be typed into all the same, since the
-/// global commands take what stands there.
+/// global commands take what stands there. Tool tips tell what a control does for the element in hand, or why
+/// it does nothing.
 class ToolsWindow : public QWidget {
 public:
   explicit ToolsWindow(const Ui& ui);
@@ -17,9 +19,13 @@ protected:
   void paintEvent(QPaintEvent* event) override;
 
 private:
+  void followHand();
   void greyOut();
+  void showTips();
+  QList<std::pair<const Element*, QWidget*>> controls() const;
 
   Operator& hands_;
+  std::optional<QString> told_;  ///< the element that the tool tips are about
   bool fontsAsked_ = false;
 };
 

@@ -74,6 +74,7 @@ TEST_F(Bindings, ACombosRowsAndTextFollow) {
 
 TEST_F(Bindings, ListsAndTheirTipsShowAStrangersTextsAsTheyStand) {
   auto& combo = widget<QComboBox>("Form4.Combo10");
+  combo.setFixedWidth(20);
   for (const char* text : {"R&B", "<b>bold</b>  R&B", "a &lt; b", "&lt;i&gt; <i>"}) {
     form4().Combo10->setText(text);
     QHelpEvent question(QEvent::ToolTip, QPoint(1, 1), combo.mapToGlobal(QPoint(1, 1)));
@@ -83,7 +84,7 @@ TEST_F(Bindings, ListsAndTheirTipsShowAStrangersTextsAsTheyStand) {
       tip.setHtml(QToolTip::text());
     else
       tip.setPlainText(QToolTip::text());
-    EXPECT_EQ(tip.toPlainText().toStdString(), text);
+    EXPECT_EQ(tip.toPlainText().section(u": "_qs, 0, 0).toStdString(), text);
   }
   form4().File1->setRows({"<b>R&B</b>\n\u202e.cov", QString(2000, u'x')});
   const QAbstractItemModel* rows = widget<QListView>("Form4.File1").model();

@@ -1,0 +1,66 @@
+// What holds for every control of every panel.
+#include <QAbstractItemView>
+#include <QDockWidget>
+#include <QHeaderView>
+#include <QScrollBar>
+
+#include "ui/uifixture.h"
+
+namespace veneerer {
+namespace {
+
+class Controls : public test::UiFixture {
+protected:
+  /// A scroll bar, a header, the list or the field of a combo box, the clear button of a field.
+  static bool isPartOfAnother(const QWidget& widget) {
+    const QWidget* holder = widget.parentWidget();
+    return qobject_cast<const QScrollBar*>(&widget) || qobject_cast<const QHeaderView*>(&widget) ||
+           qobject_cast<const QComboBox*>(holder) || qobject_cast<const QLineEdit*>(holder) ||
+           qobject_cast<const QAbstractScrollArea*>(holder);
+  }
+  /// What the operator can use of a panel.
+  static QList<QWidget*> controlsOf(const QDockWidget& panel) {
+    QList<QWidget*> controls;
+    const QList<QWidget*> all = panel.widget()->findChildren<QWidget*>() + QList{panel.widget()};
+    for (QWidget* widget : all)
+      if (widget->focusPolicy() != Qt::NoFocus && widget->window() == panel.window() &&
+          !isPartOfAnother(*widget))
+        controls.append(widget);
+    return controls;
+  }
+  QList<QDockWidget*> panels() { return widget<QMainWindow>("Form1").findChildren<QDockWidget*>(); }
+  static std::string nameOf(const QWidget& widget) {
+    return (QString(widget.metaObject()->className()) + u' ' + widget.objectName()).toStdString();
+  }
+};
+
+TEST_F(Controls, HaveToolTips) {
+  ASSERT_EQ(panels().size(), 8);
+  int found = 0;
+  for (const QDockWidget* panel : panels())
+    for (const QWidget* control : controlsOf(*panel)) {
+      ++found;
+      EXPECT_FALSE(control->toolTip().isEmpty())
+          << panel->windowTitle().toStdString() << ": " << nameOf(*control);
+      EXPECT_FALSE(control->toolTip().contains(u'%')) << nameOf(*control);
+    }
+  EXPECT_GT(found, 150);
+}
+
+TEST_F(Controls, ToolTipsOfTheToolsFollowWhatIsInHand) {
+  const auto& caption = widget<QLineEdit>("Form6.Text1");
+  const auto& size = widget<QLineEdit>("Form6.Text4");
+  EXPECT_TRUE(caption.toolTip().endsWith("click one")) << caption.toolTip().toStdString();
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(form1().lvButtons_H1[2]));
+  EXPECT_EQ(caption.toolTip().toStdString(), "Caption of the button");
+  EXPECT_TRUE(size.toolTip().contains("serves labels, but not " + form1().lvButtons_H1[2].caption()))
+      << size.toolTip().toStdString() << ": a grey field says why";
+  form1().lvButtons_H1[2].setCaption("Go");
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(form1().lvButtons_H1[2]));
+  EXPECT_TRUE(size.toolTip().endsWith("but not Go (2)"));
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(form1().Label4[0]));
+  EXPECT_EQ(size.toolTip().toStdString(), "Font size of the label, in points");
+}
+
+}  // namespace
+}  // namespace veneerer
