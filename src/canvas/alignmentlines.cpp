@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
+#include <span>
 
 namespace veneerer {
 
@@ -73,16 +73,21 @@ std::optional<AlignmentLine> lineAt(Stop stop, const QRectF& element, const Surr
   return agrees ? std::optional(line) : std::nullopt;
 }
 
-double snapOffset(const QRectF& element, const Surroundings& around, Axis axis, double reach) {
+std::optional<double> nearest(std::span<const Stop> stops, const QRectF& element, const Surroundings& around,
+                              Axis axis, double reach) {
   std::optional<double> best;
-  for (const Stop stop : kStops) {
+  for (const Stop stop : stops) {
     const double place = placeOf(stop, spanOf(element, axis));
     for (const Candidate& candidate : candidatesFor(stop, around, axis)) {
       const double offset = candidate.at - place;
       if (std::abs(offset) <= (best ? std::abs(*best) : reach)) best = offset;
     }
   }
-  return best.value_or(0);
+  return best;
+}
+
+double snapOffset(const QRectF& element, const Surroundings& around, Axis axis, double reach) {
+  return nearest(kStops, element, around, axis, reach).value_or(0);
 }
 
 /// The way from the element's lower or higher edge outward.
@@ -133,6 +138,12 @@ std::vector<AlignmentLine> alignmentLines(const QRectF& element, const Surroundi
 
 QPointF snapOffset(const QRectF& element, const Surroundings& around, double reach) {
   return QPointF(snapOffset(element, around, Axis::X, reach), snapOffset(element, around, Axis::Y, reach));
+}
+
+std::optional<double> snapFarEdge(const QRectF& element, const Surroundings& around, Axis axis,
+                                  double reach) {
+  constexpr Stop kFarEdge[] = {Stop::High};
+  return nearest(kFarEdge, element, around, axis, reach);
 }
 
 std::vector<Distance> distances(const QRectF& element, const Surroundings& around) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QRectF>
+#include <optional>
 #include <vector>
 
 #include "elements/axis.h"
@@ -39,6 +40,10 @@ std::vector<AlignmentLine> alignmentLines(const QRectF& element, const Surroundi
 /// By how much to move the element so that something agrees: the nearest on each axis; 0 where nothing is
 /// within reach.
 QPointF snapOffset(const QRectF& element, const Surroundings& around, double reach);
+
+/// By how much to move the right edge (Axis::X) or the bottom one (Axis::Y), while the other edges stay, so
+/// that it agrees with the nearest edge or guide; nothing where none is within reach.
+std::optional<double> snapFarEdge(const QRectF& element, const Surroundings& around, Axis axis, double reach);
 
 /// A way to the next neighbour, or to the container's edge, along that axis.
 struct Distance {

@@ -230,9 +230,17 @@ void CanvasWidget::mousePressEvent(QMouseEvent* event) {
 
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
   const bool isHeld = event->buttons() & Qt::LeftButton;
-  if (sizing_.isOn() && isHeld) return sizing_.move(scale_.twipsAt(event->position()));
+  const bool snaps = event->modifiers() & Qt::ControlModifier;
+  if (sizing_.isOn() && isHeld) return sizeTo(event->position(), snaps);
   if (!grabbed_ || !isHeld) return pointAt(event->position());
-  drag(inside(*grabbed_, event->position()), event->modifiers() & Qt::ControlModifier);
+  drag(inside(*grabbed_, event->position()), snaps);
+}
+
+void CanvasWidget::sizeTo(QPointF place, bool snaps) {
+  std::optional<SizeSnap> snap;
+  if (const Element* element = sizable(); element && snaps)
+    snap = SizeSnap{surroundingsOf(*element, guides_, scale_), scale_.twipsIn(kSnapReach)};
+  sizing_.move(scale_.twipsAt(place), snap);
 }
 
 void CanvasWidget::drag(QPointF place, bool snaps) {

@@ -18,7 +18,7 @@ namespace veneerer {
 /// element that takes a left press keeps the mouse until the button is released. An outline that isn't part
 /// of the Skin marks the element that is held, else the one in hand; handles on it feed the fields of its
 /// height and width, and the arrow keys nudge it. A thin one marks what a press would take. While an element
-/// is dragged, lines show what it agrees with; with Ctrl held it snaps to them.
+/// is dragged or sized, lines show what it agrees with; with Ctrl held it snaps to them.
 class CanvasWidget : public QWidget {
   Q_OBJECT
 
@@ -82,6 +82,7 @@ private:
   Element* sizable() const;
   Handle handleUnder(QPointF place) const;
   void drag(QPointF place, bool snaps);
+  void sizeTo(QPointF place, bool snaps);
   void endSizing();
   void hold(Element* element);
   void pointAt(QPointF place);

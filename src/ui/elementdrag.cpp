@@ -36,19 +36,28 @@ QPointF snapped(const Element& element, QPointF place, QPointF anchor, const Sur
 void SizeDrag::begin(Handle handle, const Element& element, QPointF at) {
   hands_.release();
   handle_ = handle;
+  corner_ = QPointF(element.left(), element.top());
   size_ = QSizeF(element.width(), element.height());
   from_ = at;
 }
 
-void SizeDrag::move(QPointF at) {
+float SizeDrag::sized(Axis axis, double twips, const std::optional<SizeSnap>& snap) const {
+  const Screen& screen = hands_.screen();
+  const QRectF wanted(corner_,
+                      axis == Axis::X ? QSizeF(twips, size_.height()) : QSizeF(size_.width(), twips));
+  const auto offset = snap ? snapFarEdge(wanted, snap->around, axis, snap->reach) : std::nullopt;
+  if (offset && twips + *offset > 0) return static_cast<float>(twips + *offset);
+  return wholePixels(twips, axis == Axis::X ? screen.twipsPerPixelX() : screen.twipsPerPixelY());
+}
+
+void SizeDrag::move(QPointF at, const std::optional<SizeSnap>& snap) {
   const QPointF way = at - from_;
   if (way.isNull() && !hasMoved_) return;
   hasMoved_ = true;
-  const Screen& screen = hands_.screen();
   std::optional<float> width;
   std::optional<float> height;
-  if (changesWidth(handle_)) width = wholePixels(size_.width() + way.x(), screen.twipsPerPixelX());
-  if (changesHeight(handle_)) height = wholePixels(size_.height() + way.y(), screen.twipsPerPixelY());
+  if (changesWidth(handle_)) width = sized(Axis::X, size_.width() + way.x(), snap);
+  if (changesHeight(handle_)) height = sized(Axis::Y, size_.height() + way.y(), snap);
   hands_.sizeInHand(width, height);
 }
 

@@ -35,6 +35,14 @@ TEST(AlignmentLines, SnapToTheNearestWithinReach) {
   EXPECT_EQ(snapOffset(QRectF(611, 330, 37, 71), guided, 5), QPointF(0, 3));
 }
 
+TEST(AlignmentLines, OnlyTheFarEdgeSnapsWhenAnElementIsSized) {
+  // Its left edge and its middle are nearer to a line than its right edge is.
+  const QRectF sized(301, 203, 95, 71);
+  EXPECT_EQ(snapFarEdge(sized, kRoom, Axis::X, 5), 4);
+  EXPECT_EQ(snapFarEdge(sized, kRoom, Axis::X, 3), std::nullopt);
+  EXPECT_EQ(snapFarEdge(QRectF(301, 203, 95, 297), kRoom, Axis::Y, 5), 0) << "it agrees already";
+}
+
 TEST(AlignmentLines, MeasureTheWaysToTheNextOnes) {
   const auto ways = distances(QRectF(420, 110, 60, 20), kRoom);
   const std::vector<Distance> expected{

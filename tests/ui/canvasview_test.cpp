@@ -238,6 +238,35 @@ TEST_F(View, ADragSnapsOnlyWhileControlIsHeld) {
   release(canvas(), from + QPoint(98, 50));
 }
 
+TEST_F(View, ASizeSnapsOnlyWhileControlIsHeldAndShowsItsLine) {
+  form6().Combo6->select(13);
+  Label& label = form1().Label16[1];
+  Label& other = form1().Label4[1];
+  for (Label* each : {&label, &other}) {
+    each->setContainer(form1());
+    each->setVisible(true);
+    each->bringToFront();
+  }
+  label.place(3000, 3000, 900, 300);
+  // No whole pixel, so that rounding can't lead there.
+  other.place(4507, 4500, 600, 450);
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(label));
+  QTest::qWait(1);
+  const QRect outline = static_cast<CanvasWidget&>(canvas()).outline();
+  const QPointF from = handleRect(Handle::Right, outline, canvas().rect()).center();
+  press(canvas(), from);
+  move(canvas(), from + QPointF(37, 0));
+  EXPECT_EQ(label.width(), 900 + 37 * 15);
+  move(canvas(), from + QPointF(37, 0), Qt::LeftButton, Qt::ControlModifier);
+  EXPECT_EQ(label.left() + label.width(), 4507) << "the neighbour's left";
+  EXPECT_EQ(label.height(), 300);
+  const QImage shown = canvas().grab().toImage();
+  EXPECT_EQ(shown.pixelColor(4507 / 15, 4000 / 15), QColor(0xff, 0x2d, 0x9b))
+      << "the line on which they agree";
+  release(canvas(), from + QPointF(37, 0));
+  EXPECT_EQ(label.left() + label.width(), 4507);
+}
+
 TEST_F(View, AGuideComesFromARulerAndGoesOffTheView) {
   EXPECT_EQ(Ruler::stepAt(Zoom(100)), 50);
   EXPECT_EQ(Ruler::stepAt(Zoom(10)), 500);
