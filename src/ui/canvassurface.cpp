@@ -30,16 +30,19 @@ CanvasSurface::CanvasSurface(QWidget& widget, const Form1& form, const CanvasSca
   refining_.callOnTimeout([this] { refine(); });
 }
 
-void CanvasSurface::paint(QPainter& painter, const QRegion& region) {
+QRegion CanvasSurface::paint(QPainter& painter, const QRegion& region) {
   if (!isOnScreen(painter)) {
     painter_.setScalingAllowance(std::numeric_limits<qint64>::max());
     for (const QRect& exposed : region) paintPiece(painter, exposed);
-  } else if (!still_.isNull()) {
-    still_.paint(painter, region.boundingRect(), scale_.zoom(), form_.backColor().toQColor());
-  } else {
-    const QRegion left = paintPieces(painter, region);
-    if (!left.isEmpty()) widget_.update(left);
+    return {};
   }
+  if (!still_.isNull()) {
+    still_.paint(painter, region.boundingRect(), scale_.zoom(), form_.backColor().toQColor());
+    return {};
+  }
+  const QRegion left = paintPieces(painter, region);
+  if (!left.isEmpty()) widget_.update(left);
+  return left;
 }
 
 bool CanvasSurface::isOnScreen(const QPainter& painter) const {

@@ -19,9 +19,9 @@ public:
 
   CanvasPainter& painter() { return painter_; }
 
-  /// Paints that part of the widget. A picture of the window is painted whole; what there is no time for on
-  /// the screen is left for the next painting.
-  void paint(QPainter& painter, const QRegion& region);
+  /// Paints that part of the widget and returns what is left of it: a picture of the window is painted whole;
+  /// what there is no time for on the screen waits for the next painting.
+  QRegion paint(QPainter& painter, const QRegion& region);
 
   /// The canvas shows something else now.
   void changed();

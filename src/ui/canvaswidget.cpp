@@ -88,7 +88,8 @@ QSize CanvasWidget::sizeHint() const {
 
 void CanvasWidget::setZoom(const Zoom& zoom) {
   const Zoom before = scale_.zoom();
-  if (zoom != before && dirty_.isEmpty()) surface_.keepStill();
+  // A still would show the mock-up twice.
+  if (zoom != before && dirty_.isEmpty() && mockUp_.picture.isNull()) surface_.keepStill();
   scale_.setZoom(zoom);
   resize(zoom.shown(sizeHint()));
   if (zoom == before) return;
@@ -105,6 +106,11 @@ void CanvasWidget::setGrid(QSizeF step) {
 
 void CanvasWidget::setGuides(const Guides& guides) {
   guides_ = guides;
+  update();
+}
+
+void CanvasWidget::setMockUp(const MockUp& mockUp) {
+  mockUp_ = mockUp;
   update();
 }
 
@@ -159,7 +165,9 @@ void CanvasWidget::repaintDirty() {
 
 void CanvasWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  surface_.paint(painter, event->region());
+  const QRegion left = surface_.paint(painter, event->region());
+  // What wasn't painted anew shows it already.
+  if (!mockUp_.picture.isNull()) mockUp_.paint(painter, event->region() - left, zoom());
   paintOverlay(painter, event->region().boundingRect());
 }
 

@@ -9,6 +9,7 @@
 #include "ui/canvassurface.h"
 #include "ui/dirtyarea.h"
 #include "ui/elementdrag.h"
+#include "ui/mockup.h"
 #include "ui/overlay.h"
 #include "ui/zoom.h"
 
@@ -18,7 +19,8 @@ namespace veneerer {
 /// element that takes a left press keeps the mouse until the button is released. An outline that isn't part
 /// of the Skin marks the element that is held, else the one in hand; handles on it feed the fields of its
 /// height and width, and the arrow keys nudge it. A thin one marks what a press would take. While an element
-/// is dragged or sized, lines show what it agrees with; with Ctrl held it snaps to them.
+/// is dragged or sized, lines show what it agrees with; with Ctrl held it snaps to them. A mock-up may lie
+/// over it all.
 class CanvasWidget : public QWidget {
   Q_OBJECT
 
@@ -35,6 +37,9 @@ public:
   /// The steps of the grid in canvas pixels; an empty size for no grid.
   void setGrid(QSizeF step);
   void setGuides(const Guides& guides);
+
+  const MockUp& mockUp() const { return mockUp_; }
+  void setMockUp(const MockUp& mockUp);
 
   /// The rubber band, pixels of this widget; null for none.
   void setBand(const QRect& band);
@@ -101,6 +106,7 @@ private:
   ucAniGIF frames_;
   QSizeF grid_;
   Guides guides_;
+  MockUp mockUp_;
   QRect band_;
   CanvasMarks marks_;
   SizeDrag sizing_;

@@ -16,6 +16,7 @@
 #include "ui/exportcommands.h"
 #include "ui/inhandline.h"
 #include "ui/keys.h"
+#include "ui/mockupcommands.h"
 #include "ui/plaintext.h"
 #include "ui/tryit.h"
 #include "ui/viewcommands.h"
@@ -142,6 +143,7 @@ void CanvasWindow::addViewMenu() {
   connect(tryIt, &QAction::triggered, this, [this] { tryOut(ui_, this); });
   menu->addSeparator();
   addViewCommands(*menu, *view_);
+  addMockUpCommands(*menu->addMenu(QStringLiteral("&Mock-up")), view_->canvas(), ui_.hands);
 }
 
 void CanvasWindow::addScreenMenu(QMenu* menu) {

@@ -107,6 +107,12 @@ void Operator::chooseSkin() {
   act([&] { designer_.openChooser(); });
 }
 
+QImage Operator::decoded(const QString& path) {
+  QImage image;
+  act([&] { image = decodeAside(designer_.platform(), state().pictures.load(path)); });
+  return image;
+}
+
 void Operator::fillFonts() {
   designer_.fillFonts();
 }

@@ -63,6 +63,8 @@ public:
   bool isActing() const { return isActing_; }
   /// Shows the chooser, which lists the Skins, in the canvas's place.
   void chooseSkin();
+  /// The picture of a file, a null image where it can't be decoded; the windows stay alive meanwhile.
+  QImage decoded(const QString& path);
   /// Fills the list of fonts; slow.
   void fillFonts();
 
