@@ -207,8 +207,26 @@ void CanvasView::moveRulers() {
   for (Ruler* ruler : rulers_) ruler->update();
 }
 
+// Whoever came by the keys is told where they go; with the mouse that is plain.
+void CanvasView::showFocus(const QFocusEvent& event) {
+  isReachedByKeys_ =
+      event.gotFocus() && (event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason ||
+                           event.reason() == Qt::ShortcutFocusReason);
+  viewport()->update();
+}
+
+void CanvasView::paintEvent(QPaintEvent*) {
+  if (!isReachedByKeys_) return;
+  constexpr int kWidth = 2;
+  QPainter painter(viewport());
+  painter.setPen(QPen(palette().color(QPalette::Highlight), kWidth));
+  painter.drawRect(canvas_->geometry().adjusted(-2 * kWidth, -2 * kWidth, 2 * kWidth, 2 * kWidth));
+}
+
 bool CanvasView::eventFilter(QObject* watched, QEvent* event) {
   if (watched != canvas_) return QAbstractScrollArea::eventFilter(watched, event);
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+    showFocus(*static_cast<QFocusEvent*>(event));
   if (event->type() == QEvent::MouseMove)
     for (Ruler* ruler : rulers_) ruler->setPointer(static_cast<QMouseEvent*>(event)->position());
   if (event->type() == QEvent::Leave)

@@ -42,6 +42,7 @@ Q_SIGNALS:
 
 protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   void wheelEvent(QWheelEvent* event) override;
@@ -53,6 +54,7 @@ private:
   void addHandle(EdgeHandle* handle);
   void pan(QPoint way);
   void refit();
+  void showFocus(const QFocusEvent& event);
   void layOut(QPoint wanted);
   void moveCanvas();
   void moveAlong();
@@ -67,6 +69,7 @@ private:
   QPoint highest_;  ///< the place of the canvas's corner when both bars stand at their start
   Guides guides_;
   bool fits_ = true;
+  bool isReachedByKeys_ = false;  ///< the focus came to the canvas by the tabulator
   bool areRulersShown_ = true;
   bool isSized_ = false;  ///< one of the handles is held
   bool isLayingOut_ = false;

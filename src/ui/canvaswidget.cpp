@@ -75,7 +75,7 @@ CanvasWidget::CanvasWidget(const Ui& ui)
   setObjectName(QStringLiteral("canvas"));
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
-  setFocusPolicy(Qt::ClickFocus);
+  setFocusPolicy(Qt::StrongFocus);
   connect(&hands_, &Operator::acted, this, &CanvasWidget::scheduleRepaint);
   connect(&hands_, &Operator::selected, this, &CanvasWidget::scheduleRepaint);
   new OverlayHand(hands_, *this);

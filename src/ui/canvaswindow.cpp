@@ -151,6 +151,7 @@ void CanvasWindow::addScreenMenu(QMenu* menu) {
   for (int i = 0; i < static_cast<int>(kScreenEntries.size()); ++i) {
     const QStringView text = kScreenEntries[static_cast<std::size_t>(i)];
     QAction* entry = menu->addAction(plainMenuText(text.toString()));
+    entry->setStatusTip(QStringLiteral("Show this screen"));
     entry->setCheckable(true);
     oneOfThem->addAction(entry);
     connect(entry, &QAction::triggered, this, [this, i] { ui_.hands.choose(*state_.form6.Combo6, i); });
@@ -167,6 +168,12 @@ void CanvasWindow::showScreen(int step) {
 void CanvasWindow::addWindowMenu() {
   panelMenu_ = menuBar()->addMenu(QStringLiteral("&Window"));
   panelMenu_->addSeparator();
+  QAction* canvas = addCommand(panelMenu_, QStringLiteral("&Canvas"), {QKeySequence(Qt::Key_F12)},
+                               QStringLiteral("Give the keys to the canvas"));
+  connect(canvas, &QAction::triggered, this, [this] {
+    activateWindow();
+    view_->canvas().setFocus(Qt::ShortcutFocusReason);
+  });
   QAction* first = addCommand(panelMenu_, QStringLiteral("&Arrange"), {},
                               QStringLiteral("Put all panels back beside the canvas"));
   connect(first, &QAction::triggered, this, &CanvasWindow::arrange);

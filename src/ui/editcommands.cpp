@@ -1,5 +1,8 @@
 #include "ui/editcommands.h"
 
+#include "canvas/sections.h"
+#include "editing/walking.h"
+
 namespace veneerer {
 
 namespace {
@@ -31,6 +34,31 @@ void addAligning(QMenu& menu, Operator& hands) {
         [&hands, edge = entry.edge] { hands.align(edge); });
 }
 
+// From what is selected on the overlay, else from what is in hand.
+void selectNeighbour(Operator& hands, int step) {
+  const std::vector<Element*>& selected = hands.overlay().elements();
+  const Element* from = selected.empty() ? currentElement(hands.state()) : selected.back();
+  if (Element* next = neighbourOf(hands.state(), from, step)) hands.overlay().select({next});
+}
+
+void addWalking(QMenu& menu, Operator& hands) {
+  struct Entry {
+    const char* text;
+    const char* tip;
+    QKeySequence keys;
+    int step;
+  };
+  for (const Entry& entry :
+       {Entry{"Select Ne&xt", "Select the next element of the screen; Enter on the canvas clicks it",
+              QKeySequence(Qt::ALT | Qt::Key_Right), 1},
+        {"Select Pre&vious", "Select the element of the screen ahead; Enter on the canvas clicks it",
+         QKeySequence(Qt::ALT | Qt::Key_Left), -1}}) {
+    add(menu, entry.text, entry.tip, hands, 0, [&hands, step = entry.step] { selectNeighbour(hands, step); });
+    menu.actions().last()->setShortcut(entry.keys);
+    menu.actions().last()->setShortcutContext(Qt::ApplicationShortcut);
+  }
+}
+
 }  // namespace
 
 void addEditCommands(QMenu& menu, Operator& hands) {
@@ -51,6 +79,7 @@ void addEditCommands(QMenu& menu, Operator& hands) {
   add(menu, "&Lock", "Keep what is selected from being grabbed by the mouse", hands, 1,
       [lock] { lock(true); });
   add(menu, "Unloc&k", "Let what is selected be grabbed again", hands, 1, [lock] { lock(false); });
+  addWalking(menu, hands);
   add(menu, "Select &Nothing", "Empty the selection on the overlay", hands, 1,
       [&hands] { hands.overlay().clear(); });
 }

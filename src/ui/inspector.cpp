@@ -29,6 +29,8 @@ Inspector::Inspector(const Ui& ui)
   table_->setAccessibleName(QStringLiteral("Properties"));
   table_->setToolTip(QStringLiteral("Type a value to set it; click a colour's name to choose a colour"));
   table_->setSelectionMode(QAbstractItemView::SingleSelection);
+  // The tabulator leads out of the table; within a value it goes to the next one.
+  table_->setTabKeyNavigation(false);
   table_->setEditTriggers(QAbstractItemView::AllEditTriggers);
   table_->setAlternatingRowColors(true);
   table_->setShowGrid(false);
@@ -36,9 +38,9 @@ Inspector::Inspector(const Ui& ui)
   table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
   table_->horizontalHeader()->setSectionResizeMode(InspectorModel::Text, QHeaderView::Stretch);
   table_->setContextMenuPolicy(Qt::CustomContextMenu);
-  copy_->setText(QStringLiteral("Copy Style"));
+  copy_->setText(QStringLiteral("Cop&y Style"));
   copy_->setToolTip(QStringLiteral("Remember the colours, the font and the style of this element"));
-  paste_->setText(QStringLiteral("Paste Style"));
+  paste_->setText(QStringLiteral("&Paste Style"));
   paste_->setToolTip(QStringLiteral("Give what is selected the style that was copied"));
   auto* row = new QHBoxLayout;
   row->addWidget(title_, 1);

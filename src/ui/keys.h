@@ -14,4 +14,7 @@ inline const QList<QKeySequence> kRedoKeys{QKeySequence(Qt::CTRL | Qt::SHIFT | Q
 // Opens the window in which a Skin is tried, and closes it.
 inline constexpr Qt::Key kTryItKey = Qt::Key_F11;
 
+// The letters of the menus in the menu bar; a panel's mnemonics keep clear of them.
+inline constexpr char16_t kMenuLetters[] = u"FEVWH";
+
 }  // namespace veneerer

@@ -4,6 +4,8 @@
 #include <QScrollArea>
 #include <QSet>
 
+#include "ui/keys.h"
+
 namespace veneerer {
 
 namespace {
@@ -94,6 +96,7 @@ void assignMnemonics(QWidget& window) {
   QList<QLabel*> labels = window.findChildren<QLabel*>();
   labels.removeIf([](const QLabel* label) { return !label->buddy(); });
   QSet<QChar> taken;
+  for (const QChar letter : QStringView(kMenuLetters)) taken.insert(letter);
   collect(labels, taken);
   collect(buttons, taken);
   assignTo(labels, taken);

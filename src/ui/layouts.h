@@ -28,7 +28,7 @@ L* compact(L* layout) {
 void setContent(QWidget& window, QLayout* content);
 
 /// Gives each label, box and button of a window without a mnemonic one of its own, as far as the letters go.
-/// The first letters of words go first.
+/// The first letters of words go first; those of the menus in the menu bar are left out.
 void assignMnemonics(QWidget& window);
 
 }  // namespace veneerer

@@ -8,6 +8,7 @@
 #include <QScopedValueRollback>
 
 #include "canvas/description.h"
+#include "canvas/sections.h"
 #include "editing/outline.h"
 
 namespace veneerer {
@@ -54,7 +55,7 @@ bool OverlayHand::eventFilter(QObject*, QEvent* event) {
     case QEvent::ContextMenu: {
       const auto& menu = *static_cast<QContextMenuEvent*>(event);
       if (menu.reason() != QContextMenuEvent::Keyboard) return false;
-      listBeneath(canvas_.mapFromGlobal(QCursor::pos()));
+      listBeneath(placeForKeys());
       return true;
     }
     default:
@@ -110,11 +111,31 @@ bool OverlayHand::release(const QMouseEvent& event) {
 }
 
 bool OverlayHand::key(const QKeyEvent& event) {
+  if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) return clickSelected();
   if (event.key() != Qt::Key_Escape) return false;
   const bool wasPicking = picked_ != nullptr;
   endPicking();
   if (!wasPicking) hands_.overlay().clear();
   return true;
+}
+
+Element* OverlayHand::selected() const {
+  const std::vector<Element*>& elements = hands_.overlay().elements();
+  Element* element = elements.empty() ? currentElement(hands_.state()) : elements.back();
+  return element && &element->window() == &hands_.state().form1 && isShown(*element) ? element : nullptr;
+}
+
+bool OverlayHand::clickSelected() {
+  Element* element = selected();
+  if (element && !hands_.isActing()) hands_.click(*element);
+  return element != nullptr;
+}
+
+// Where there is no pointer, the keys have led somewhere.
+QPoint OverlayHand::placeForKeys() const {
+  const QPoint pointer = canvas_.mapFromGlobal(QCursor::pos());
+  const Element* element = selected();
+  return canvas_.rect().contains(pointer) || !element ? pointer : canvas_.placeOf(*element).center();
 }
 
 // What lies wholly in the band; a container doesn't come along with what it holds.

@@ -11,8 +11,8 @@ namespace veneerer {
 
 /// Shift and a click takes an element into the selection or out of it, Shift and a drag selects what a rubber
 /// band touches. Ctrl and a click, or the menu key, lists all that lies under the pointer, hidden elements
-/// too; a Ctrl press is held back until it moves, and is a press from then on. Escape selects nothing. While
-/// a colour is to be picked, the next press picks it.
+/// too; a Ctrl press is held back until it moves, and is a press from then on. Enter clicks what is selected,
+/// else what is in hand. Escape selects nothing. While a colour is to be picked, the next press picks it.
 class OverlayHand : public QObject {
 public:
   OverlayHand(Operator& hands, CanvasWidget& canvas);
@@ -28,6 +28,9 @@ private:
   bool move(const QMouseEvent& event);
   bool release(const QMouseEvent& event);
   bool key(const QKeyEvent& event);
+  Element* selected() const;
+  bool clickSelected();
+  QPoint placeForKeys() const;
   void pressAfterAll();
   void selectIn(const QRect& band);
   void listBeneath(QPoint place);

@@ -1,9 +1,11 @@
 // What holds for every control of every panel.
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QDockWidget>
 #include <QHeaderView>
 #include <QScrollBar>
 
+#include "canvas/sections.h"
 #include "ui/uifixture.h"
 
 namespace veneerer {
@@ -60,6 +62,42 @@ TEST_F(Controls, ToolTipsOfTheToolsFollowWhatIsInHand) {
   EXPECT_TRUE(size.toolTip().endsWith("but not Go (2)"));
   QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(form1().Label4[0]));
   EXPECT_EQ(size.toolTip().toStdString(), "Font size of the label, in points");
+}
+
+TEST_F(Controls, AreAllReachedByTheTabulatorFromTheTopDown) {
+  auto& window = widget<QWidget>("Form1");
+  window.activateWindow();
+  for (QDockWidget* panel : panels()) {
+    panel->show();
+    panel->raise();
+    QTest::qWait(1);
+    QList<QWidget*> left = controlsOf(*panel);
+    // Of options that shut each other out the chosen one is reached, and from it the others by the arrows.
+    left.removeIf([](const QWidget* control) {
+      const auto* option = qobject_cast<const QRadioButton*>(control);
+      return (option && !option->isChecked()) || !control->isEnabled() || !control->isVisible() ||
+             !(control->focusPolicy() & Qt::TabFocus);
+    });
+    ASSERT_FALSE(left.isEmpty()) << panel->windowTitle().toStdString();
+    std::ranges::sort(left, {}, [](const QWidget* control) {
+      const QPoint place = control->mapTo(control->window(), QPoint());
+      return std::pair(place.y(), place.x());
+    });
+    QWidget* at = left.first();
+    at->setFocus();
+    QPoint before = at->mapTo(panel, QPoint());
+    for (int steps = 0; steps < 300 && panel->isAncestorOf(at); ++steps) {
+      left.removeOne(at);
+      const QPoint place = at->mapTo(panel, QPoint());
+      EXPECT_TRUE(place.y() > before.y() - 12 || place.x() > before.x()) << nameOf(*at) << " leads back";
+      before = place;
+      QTest::keyClick(at, Qt::Key_Tab);
+      at = QApplication::focusWidget();
+      ASSERT_TRUE(at);
+    }
+    for (const QWidget* control : left)
+      ADD_FAILURE() << panel->windowTitle().toStdString() << ": nothing leads to " << nameOf(*control);
+  }
 }
 
 }  // namespace

@@ -225,7 +225,7 @@ TEST(Mnemonics, AreDifferentAndLeaveAmpersandsAlone) {
   assignMnemonics(window);
   QStringList result;
   for (const QPushButton* button : window.findChildren<QPushButton*>()) result += button->text();
-  EXPECT_EQ(result.join(u'|').toStdString(), "&Save|Sa&ve All|&Time && Date|&Apply|s");
+  EXPECT_EQ(result.join(u'|').toStdString(), "&Save|Save A&ll|&Time && Date|&Apply|s");
 }
 
 // Last: a program that has failed once says nothing more.
