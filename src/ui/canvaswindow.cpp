@@ -16,6 +16,7 @@
 #include "ui/exportcommands.h"
 #include "ui/inhandline.h"
 #include "ui/keys.h"
+#include "ui/keysheet.h"
 #include "ui/mockupcommands.h"
 #include "ui/plaintext.h"
 #include "ui/tryit.h"
@@ -205,6 +206,9 @@ void CanvasWindow::arrange() {
 
 void CanvasWindow::addHelpMenu() {
   QMenu* menu = menuBar()->addMenu(QStringLiteral("&Help"));
+  QAction* keys = addCommand(menu, QStringLiteral("&Keyboard and Mouse"), {QKeySequence(Qt::Key_F1)},
+                             QStringLiteral("List all keys and gestures"));
+  connect(keys, &QAction::triggered, this, [this] { showKeySheet(*this); });
   connect(menu->addAction(QStringLiteral("&About")), &QAction::triggered, this, &CanvasWindow::about);
 }
 
