@@ -7,6 +7,7 @@
 #include "elements/printable.h"
 #include "tools/service.h"
 #include "ui/keys.h"
+#include "ui/paintedaccess.h"
 
 namespace veneerer {
 
@@ -201,11 +202,15 @@ class PaintedBinding : public Binding {
 public:
   PaintedBinding(const Ui& ui, Element& element, QAbstractButton& widget)
       : Binding(element, widget), widget_(widget) {
+    exposePaintedControls();
+    show(Property::Caption);
     connect(&widget, &QAbstractButton::clicked, this,
             [&element, &hands = ui.hands] { hands.click(element); });
   }
   void show(Property changed) override {
     if (changed == Property::Width || changed == Property::Height) widget_.updateGeometry();
+    if (changed == Property::Caption && element().has(Property::Caption))
+      widget_.setAccessibleName(shownText(element().as<QString>(Property::Caption)));
     widget_.update();
   }
 

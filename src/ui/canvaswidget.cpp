@@ -10,6 +10,7 @@
 #include "canvas/screens.h"
 #include "canvas/sections.h"
 #include "painting/canvassize.h"
+#include "ui/canvasaccess.h"
 #include "ui/overlayhand.h"
 
 namespace veneerer {
@@ -73,11 +74,15 @@ CanvasWidget::CanvasWidget(const Ui& ui)
       sizing_(ui.hands) {
   surface_.painter().setFrameSource([this](const Element& frame) { return frames_.frame(frame); });
   setObjectName(QStringLiteral("canvas"));
+  // Ahead of the name, which assistive tools hear of at once.
+  exposeCanvases();
+  setAccessibleName(QStringLiteral("Canvas"));
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   connect(&hands_, &Operator::acted, this, &CanvasWidget::scheduleRepaint);
   connect(&hands_, &Operator::selected, this, &CanvasWidget::scheduleRepaint);
+  connect(&hands_, &Operator::selected, this, [this] { tellSelected(*this); });
   new OverlayHand(hands_, *this);
   connect(&ui.pictures, &PictureFetcher::fetched, this, &CanvasWidget::pictureFetched);
 }

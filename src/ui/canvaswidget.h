@@ -27,6 +27,8 @@ class CanvasWidget : public QWidget {
 public:
   explicit CanvasWidget(const Ui& ui);
 
+  Operator& hands() const { return hands_; }
+
   /// canvasSize()
   QSize sizeHint() const override;
 

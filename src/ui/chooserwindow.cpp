@@ -12,10 +12,12 @@ ChooserWindow::ChooserWindow(const Ui& ui) {
   resize(420, 460);
   auto* column = new QVBoxLayout(this);
   RowListView* skins = makeList(ui, *form.List1);
+  skins->setAccessibleName(QStringLiteral("Skins"));
   column->addWidget(makeLabel(QStringLiteral("Skins:"), skins));
   column->addWidget(skins, 3);
   RowListView* folders = makeList(ui, *form.Dir1);
   folders->setTextElideMode(Qt::ElideMiddle);
+  folders->setAccessibleName(QStringLiteral("Folders"));
   column->addWidget(makeLabel(QStringLiteral("Folders:"), folders));
   column->addWidget(folders, 1);
   auto* row = new QHBoxLayout;

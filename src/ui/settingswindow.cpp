@@ -77,6 +77,7 @@ QGroupBox* resolutionFrame(const Ui& ui, Form4& form) {
 QLayout* coverFileLayout(const Ui& ui, Form4& form) {
   auto* column = new QVBoxLayout;
   RowListView* files = makeFileList(ui, *form.File1);
+  files->setAccessibleName(fieldLabel(form.File1));
   column->addWidget(makeFieldLabel(*form.File1, files));
   column->addWidget(files, 1);
   auto* name = new QHBoxLayout;

@@ -25,6 +25,7 @@ public:
     setFixedSize(kPreview);
     painter_.setFrameSource([this](const Element& frame) { return player_.frame(frame); });
     bindPainted(ui, frame_, *this);
+    setAccessibleName(QStringLiteral("Album frame"));
   }
 
 protected:

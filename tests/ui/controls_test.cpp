@@ -64,6 +64,28 @@ TEST_F(Controls, ToolTipsOfTheToolsFollowWhatIsInHand) {
   EXPECT_EQ(size.toolTip().toStdString(), "Font size of the label, in points");
 }
 
+TEST_F(Controls, AreNamedToAssistiveTools) {
+  for (const QDockWidget* panel : panels())
+    for (QWidget* control : controlsOf(*panel)) {
+      QAccessibleInterface* access = QAccessible::queryAccessibleInterface(control);
+      ASSERT_TRUE(access) << nameOf(*control);
+      EXPECT_FALSE(access->text(QAccessible::Name).isEmpty()) << nameOf(*control);
+      EXPECT_NE(access->role(), QAccessible::Client) << nameOf(*control);
+      EXPECT_NE(access->role(), QAccessible::NoRole) << nameOf(*control);
+    }
+}
+
+TEST_F(Controls, OnePaintedCanBePressedByAssistiveTools) {
+  auto& sample = widget<QAbstractButton>("Form6.Label6(1)");
+  QAccessibleInterface* access = QAccessible::queryAccessibleInterface(&sample);
+  EXPECT_EQ(access->text(QAccessible::Name).toStdString(), "Album Name");
+  form6().Label6[1].setCaption("Other");
+  EXPECT_EQ(access->text(QAccessible::Name).toStdString(), "Other");
+  ASSERT_TRUE(access->actionInterface());
+  access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(currentElement(state()), &form6().Label6[1]);
+}
+
 TEST_F(Controls, AreAllReachedByTheTabulatorFromTheTopDown) {
   auto& window = widget<QWidget>("Form1");
   window.activateWindow();
