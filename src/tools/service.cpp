@@ -136,8 +136,8 @@ QString toolTipOf(const State& state, const Element& control) {
   }
   const QString kinds = listed(servedKinds(state, control));
   const QString general = about(tip, QStringLiteral("the element in hand"), kinds);
-  if (!inHand) return QStringLiteral("%1. It serves %2; click one").arg(general, kinds);
-  return QStringLiteral("%1. It serves %2, but not %3").arg(general, kinds, elementTitle(state, *inHand));
+  if (!inHand) return QStringLiteral("%1\nIt serves %2; click one").arg(general, kinds);
+  return QStringLiteral("%1\nIt serves %2, but not %3").arg(general, kinds, elementTitle(state, *inHand));
 }
 
 }  // namespace veneerer

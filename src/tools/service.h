@@ -18,7 +18,7 @@ bool servesSection(const State& state, const Element& control, const Section& se
 bool servesWhatIsInHand(const State& state, const Element& control);
 
 /// What the control of a tool window does, for the element in hand if it does something for it, else why it
-/// doesn't. Plain text, empty for an element that is no such control.
+/// doesn't, on a line of its own. Plain text, empty for an element that is no such control.
 QString toolTipOf(const State& state, const Element& control);
 
 }  // namespace veneerer

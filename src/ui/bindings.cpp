@@ -229,7 +229,10 @@ W* bound(const Ui& ui, E& element, W* widget) {
 
 void showTip(State& state, const Element& element, QWidget& widget) {
   const QString& own = element.toolTipText();
-  widget.setToolTip(plainToolTip(own.isEmpty() ? toolTipOf(state, element) : own));
+  QStringList lines;
+  for (const QString& line : own.isEmpty() ? toolTipOf(state, element).split(u'\n') : QStringList{own})
+    lines.append(plainToolTip(line));
+  widget.setToolTip(lines.join(u'\n'));
 }
 
 QLineEdit* makeField(const Ui& ui, TextBox& element) {

@@ -61,8 +61,9 @@ void TextCombo::paintEvent(QPaintEvent*) {
 bool TextCombo::event(QEvent* event) {
   const bool says = event->type() == QEvent::ToolTip && isCut();
   if (!says) return QComboBox::event(event);
-  const QString tip = QStringList{text_, toolTip()}.join(toolTip().isEmpty() ? u"" : u": ");
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), plainToolTip(tip), this);
+  QStringList lines{plainToolTip(text_)};
+  if (!toolTip().isEmpty()) lines.append(toolTip());
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), lines.join(u'\n'), this);
   return true;
 }
 

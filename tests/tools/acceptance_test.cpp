@@ -109,13 +109,13 @@ TEST_F(AcceptanceTest, WhatIsToldToServeASectionDoes) {
 TEST_F(AcceptanceTest, AToolTipTellsOfWhatIsInHand) {
   const auto tip = [&](const Element& control) { return toolTipOf(state, control).toStdString(); };
   EXPECT_EQ(tip(*form6.Text9.find(0)),
-            "Top of the element in hand, in twips: 1440 to the inch. It serves screens; click one");
+            "Top of the element in hand, in twips: 1440 to the inch\nIt serves screens; click one");
   form1.lvButtons_H1[2].setCaption("Queue");
   current(1, 2);
   EXPECT_EQ(tip(form6.Text3[0]), "Height of the button, in twips: 1440 to the inch");
   EXPECT_EQ(tip(*form6.Command7), "Take their pictures from all buttons of the family of what is in hand");
   EXPECT_EQ(tip(*form6.Text4),
-            "Font size of the element in hand, in points. It serves labels, but not Queue (2)");
+            "Font size of the element in hand, in points\nIt serves labels, but not Queue (2)");
   EXPECT_EQ(tip(form6.Text5[0]), "By how much Shift X moves, in twips") << "for any Section";
 }
 

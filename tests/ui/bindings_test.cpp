@@ -84,7 +84,7 @@ TEST_F(Bindings, ListsAndTheirTipsShowAStrangersTextsAsTheyStand) {
       tip.setHtml(QToolTip::text());
     else
       tip.setPlainText(QToolTip::text());
-    EXPECT_EQ(tip.toPlainText().section(u": "_qs, 0, 0).toStdString(), text);
+    EXPECT_EQ(tip.toPlainText().first(qstrlen(text)).toStdString(), text) << "ahead of what the list is for";
   }
   form4().File1->setRows({"<b>R&B</b>\n\u202e.cov", QString(2000, u'x')});
   const QAbstractItemModel* rows = widget<QListView>("Form4.File1").model();
