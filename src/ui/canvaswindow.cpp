@@ -169,7 +169,7 @@ void CanvasWindow::showScreen(int step) {
 void CanvasWindow::addWindowMenu() {
   panelMenu_ = menuBar()->addMenu(QStringLiteral("&Window"));
   panelMenu_->addSeparator();
-  QAction* canvas = addCommand(panelMenu_, QStringLiteral("&Canvas"), {QKeySequence(Qt::Key_F12)},
+  QAction* canvas = addCommand(panelMenu_, QStringLiteral("&Canvas"), {QKeySequence(Qt::CTRL | Qt::Key_E)},
                                QStringLiteral("Give the keys to the canvas"));
   connect(canvas, &QAction::triggered, this, [this] {
     activateWindow();
@@ -206,7 +206,7 @@ void CanvasWindow::arrange() {
 
 void CanvasWindow::addHelpMenu() {
   QMenu* menu = menuBar()->addMenu(QStringLiteral("&Help"));
-  QAction* keys = addCommand(menu, QStringLiteral("&Keyboard and Mouse"), {QKeySequence(Qt::Key_F1)},
+  QAction* keys = addCommand(menu, QStringLiteral("&Keyboard and Mouse"), {QKeySequence(Qt::SHIFT | Qt::Key_F1)},
                              QStringLiteral("List all keys and gestures"));
   connect(keys, &QAction::triggered, this, [this] { showKeySheet(*this); });
   connect(menu->addAction(QStringLiteral("&About")), &QAction::triggered, this, &CanvasWindow::about);
