@@ -22,8 +22,8 @@ QString systemReason() {
 /// A descriptor that is closed in any case.
 class Descriptor {
 public:
-  Descriptor(const QString& path, int flags)
-      : number_(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC | O_NOCTTY, 0666)) {}
+  Descriptor(const QString& path, int flags, mode_t mode = 0666)
+      : number_(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC | O_NOCTTY, mode)) {}
   ~Descriptor() {
     if (number_ >= 0) ::close(number_);
   }
@@ -43,6 +43,18 @@ public:
     return true;
   }
 
+  /// Fewer bytes than asked for only at the end. False when reading fails.
+  bool read(QByteArray& bytes) const {
+    qsizetype had = 0;
+    for (ssize_t got = 1; got != 0 && had < bytes.size();) {
+      got = ::read(number_, bytes.data() + had, static_cast<std::size_t>(bytes.size() - had));
+      if (got < 0 && errno != EINTR) return false;
+      if (got > 0) had += got;
+    }
+    bytes.truncate(had);
+    return true;
+  }
+
   /// Some disks tell only here that they are full.
   bool close() {
     const int result = ::close(number_);
@@ -53,6 +65,24 @@ public:
 private:
   int number_;
 };
+
+constexpr qsizetype kChunk = 1024 * 1024;  // bytes
+
+QString noFile() {
+  return QStringLiteral("there is something under this name that is no file");
+}
+
+/// Why not all bytes could be copied, empty when they were.
+QString pour(const Descriptor& from, const Descriptor& to, qint64 mostBytes) {
+  for (qint64 total = 0;;) {
+    QByteArray bytes(kChunk, Qt::Uninitialized);
+    if (!from.read(bytes)) return systemReason();
+    total += bytes.size();
+    if (total > mostBytes) return QStringLiteral("the file is too large");
+    if (!to.writeAll(bytes)) return systemReason();
+    if (bytes.size() < kChunk) return {};
+  }
+}
 
 // An owner that may not be given away stays ours; the owner comes first, because a change of it takes away
 // some permissions.
@@ -88,11 +118,33 @@ QString Disk::create(const QString& path, const QByteArray& bytes, const QString
   return reason;
 }
 
+QString Disk::append(const QString& path, const QByteArray& bytes) {
+  Descriptor file(path, O_WRONLY | O_APPEND | O_NOFOLLOW | O_NONBLOCK);
+  struct stat status {};
+  if (!file.isOpen() || ::fstat(file.number(), &status) != 0) return systemReason();
+  if (!S_ISREG(status.st_mode)) return noFile();
+  return file.writeAll(bytes) && file.close() ? QString() : systemReason();
+}
+
+QString Disk::copy(const QString& from, const QString& to, qint64 mostBytes) {
+  const Descriptor source(from, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+  struct stat status {};
+  if (!source.isOpen() || ::fstat(source.number(), &status) != 0) return systemReason();
+  if (!S_ISREG(status.st_mode)) return noFile();
+  const mode_t mode = (status.st_mode & 0777) | S_IRUSR | S_IWUSR;
+  Descriptor target(to, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
+  if (!target.isOpen()) return systemReason();
+  QString reason = pour(source, target, mostBytes);
+  if (!target.close() && reason.isEmpty()) reason = systemReason();
+  if (!reason.isEmpty()) ::unlink(QFile::encodeName(to).constData());
+  return reason;
+}
+
 QString Disk::overwrite(const QString& path, const QByteArray& bytes) {
   Descriptor file(path, O_WRONLY | O_NOFOLLOW | O_NONBLOCK);
   struct stat status {};
   if (!file.isOpen() || ::fstat(file.number(), &status) != 0) return systemReason();
-  if (!S_ISREG(status.st_mode)) return QStringLiteral("there is something under this name that is no file");
+  if (!S_ISREG(status.st_mode)) return noFile();
   const bool isDone = ::ftruncate(file.number(), 0) == 0 && file.writeAll(bytes) && file.close();
   return isDone ? QString() : systemReason();
 }
@@ -100,6 +152,19 @@ QString Disk::overwrite(const QString& path, const QByteArray& bytes) {
 QString Disk::rename(const QString& from, const QString& to) {
   const int result = std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData());
   return result == 0 ? QString() : systemReason();
+}
+
+QString Disk::renameToNew(const QString& from, const QString& to) {
+  const QByteArray source = QFile::encodeName(from);
+  const QByteArray target = QFile::encodeName(to);
+  if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
+    return {};
+  // Not every file system can do both in one.
+  if (errno != EINVAL && errno != ENOSYS) return systemReason();
+  struct stat status {};
+  if (::lstat(target.constData(), &status) == 0) errno = EEXIST;
+  const bool isFree = errno == ENOENT;
+  return isFree && std::rename(source.constData(), target.constData()) == 0 ? QString() : systemReason();
 }
 
 QString Disk::remove(const QString& path) {
@@ -110,6 +175,14 @@ QString Disk::makeFolder(const QString& path) {
   errno = 0;
   if (QDir().mkpath(path)) return {};
   return errno != 0 ? systemReason() : QStringLiteral("the folder can't be made");
+}
+
+QString Disk::makeNewFolder(const QString& path) {
+  return ::mkdir(QFile::encodeName(path).constData(), 0777) == 0 ? QString() : systemReason();
+}
+
+QString Disk::removeFolder(const QString& path) {
+  return ::rmdir(QFile::encodeName(path).constData()) == 0 ? QString() : systemReason();
 }
 
 }  // namespace veneerer

@@ -25,17 +25,34 @@ public:
   [[nodiscard]] virtual QString create(const QString& path, const QByteArray& bytes,
                                        const QString& like = {});
 
+  /// Writes the bytes behind the end of a plain file that is there. Never writes through a link.
+  [[nodiscard]] virtual QString append(const QString& path, const QByteArray& bytes);
+
+  /// Makes a new file of the bytes of a plain one, of which there may be so many. Its permissions are those
+  /// of the other one, but nobody's identity goes along, and its owner may always read and write it. Follows
+  /// no link at either end.
+  [[nodiscard]] virtual QString copy(const QString& from, const QString& to, qint64 mostBytes);
+
   /// Writes the bytes into a plain file that is there, in place.
   [[nodiscard]] virtual QString overwrite(const QString& path, const QByteArray& bytes);
 
   /// Gives a file another name on the same disk, at once for everybody who looks; what bore the name is gone.
   [[nodiscard]] virtual QString rename(const QString& from, const QString& to);
 
+  /// Gives a file or folder a name on the same disk that nothing bears yet.
+  [[nodiscard]] virtual QString renameToNew(const QString& from, const QString& to);
+
   /// Removes a file, or the link itself.
   [[nodiscard]] virtual QString remove(const QString& path);
 
   /// Makes a folder with all those above it; one that is there already is fine.
   [[nodiscard]] virtual QString makeFolder(const QString& path);
+
+  /// Makes one folder where nothing is yet.
+  [[nodiscard]] virtual QString makeNewFolder(const QString& path);
+
+  /// Removes a folder that nothing is in.
+  [[nodiscard]] virtual QString removeFolder(const QString& path);
 };
 
 }  // namespace veneerer

@@ -157,4 +157,36 @@ QByteArray headOfFile(const QString& path, qint64 bytes) {
   return file.isPlain() && file.read(bytes, head) ? head : QByteArray();
 }
 
+struct PlainFileReader::Opened {
+  explicit Opened(const QString& path) : file(path) {}
+  OpenFile file;
+};
+
+PlainFileReader::PlainFileReader(const QString& path) : opened_(std::make_unique<Opened>(path)) {
+  const OpenFile& file = opened_->file;
+  if (!file.isOpen()) fault_ = file.failure().reason;
+  if (!file.isOpen() && fault_.isEmpty()) fault_ = QStringLiteral("the file isn't there");
+  if (file.isOpen() && !file.isPlain())
+    fault_ = QStringLiteral("there is something under this name that is no file");
+}
+
+PlainFileReader::~PlainFileReader() = default;
+
+QByteArray PlainFileReader::next() {
+  QByteArray bytes;
+  if (!fault_.isEmpty()) return {};
+  if (!opened_->file.read(kChunk, bytes)) fault_ = systemReason(errno);
+  return fault_.isEmpty() ? bytes : QByteArray();
+}
+
+bool haveSameBytes(const QString& path, const QString& other) {
+  PlainFileReader first(path);
+  PlainFileReader second(other);
+  for (;;) {
+    const QByteArray bytes = first.next();
+    if (bytes != second.next() || !first.fault().isEmpty() || !second.fault().isEmpty()) return false;
+    if (bytes.isEmpty()) return true;
+  }
+}
+
 }  // namespace veneerer

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <memory>
 
 namespace veneerer {
 
@@ -30,5 +31,25 @@ QString faultInside(const QString& folder, const QString& path, qint64 mostBytes
 
 /// The first bytes of the plain file of that path, fewer where it is shorter; none when it can't be read.
 QByteArray headOfFile(const QString& path, qint64 bytes);
+
+/// A plain file that is read piece by piece, however large it is.
+class PlainFileReader {
+public:
+  explicit PlainFileReader(const QString& path);
+  ~PlainFileReader();
+
+  /// The next piece; empty at the end and on a failure.
+  QByteArray next();
+  /// Why the file can't be read, or not to its end; empty so long as nothing is wrong.
+  const QString& fault() const { return fault_; }
+
+private:
+  struct Opened;
+  std::unique_ptr<Opened> opened_;
+  QString fault_;
+};
+
+/// Whether both are plain files that can be read and hold the same.
+bool haveSameBytes(const QString& path, const QString& other);
 
 }  // namespace veneerer

@@ -1,46 +1,20 @@
 #include "files/replacefiles.h"
 
-#include <signal.h>
-#include <unistd.h>
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
-#include <QRegularExpression>
 #include <QSet>
-#include <cerrno>
 
 namespace veneerer {
 
 namespace {
 
-constexpr qsizetype kNameCharacters = 40;  // of a temporary name; with the rest it stays below kMostNameBytes
 constexpr qsizetype kMostNameBytes = 255;
-
-// ".queue.ini.4711-0123456789abcdef.saving": hidden, told by its process, and not to be foreseen.
-QString temporaryName(const QString& name) {
-  const QString random = QString::number(QRandomGenerator::system()->generate64(), 16);
-  return QStringLiteral(".%1.%2-%3.saving")
-      .arg(name.left(kNameCharacters), QString::number(::getpid()), random.rightJustified(16, u'0'));
-}
-
-QRegularExpressionMatch leftOverParts(const QString& name) {
-  static const QRegularExpression form(QStringLiteral("^\\..+\\.([0-9]{1,9})-[0-9a-f]{16}\\.saving$"),
-                                       QRegularExpression::DotMatchesEverythingOption);
-  return form.match(name);
-}
-
-// Another program may be saving into the same folder right now.
-bool isAtWork(const QString& processNumber) {
-  return ::kill(static_cast<pid_t>(processNumber.toLong()), 0) == 0 || errno != ESRCH;
-}
 
 void removeLeftOversIn(const QString& folder, Disk& disk) {
   const auto files = QDir(folder).entryInfoList({QStringLiteral("*.saving")}, QDir::Files | QDir::Hidden);
   for (const QFileInfo& file : files) {
-    const auto parts = leftOverParts(file.fileName());
-    if (parts.hasMatch() && !file.isSymLink() && !isAtWork(parts.captured(1))) [[maybe_unused]]
+    if (isAbandoned(file.fileName()) && !file.isSymLink()) [[maybe_unused]]
       const QString stays = disk.remove(file.filePath());
   }
 }
@@ -50,10 +24,6 @@ QString folderIsGone(const QString& folder) {
 }
 
 }  // namespace
-
-bool isLeftOver(const QString& name) {
-  return leftOverParts(name).hasMatch();
-}
 
 FileReplacement::FileReplacement(Disk& disk, const QString& folder, std::vector<NewFile> files)
     : disk_(disk), folder_(QFileInfo(folder).canonicalFilePath()) {

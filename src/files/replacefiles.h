@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "files/disk.h"
+#include "files/leftovers.h"
 
 namespace veneerer {
 
@@ -71,9 +72,5 @@ private:
   std::optional<WriteFault> refusal_;
   std::vector<Target> targets_;
 };
-
-/// True for the name of a file that a killed replacement may have left over. Whoever lists a Skin's folder
-/// passes it over; the next replacement in the folder removes it.
-bool isLeftOver(const QString& name);
 
 }  // namespace veneerer

@@ -29,14 +29,27 @@ public:
   QString create(const QString& path, const QByteArray& bytes, const QString& like) override {
     return fails() ? reason() : Disk::create(path, bytes, like);
   }
+  QString append(const QString& path, const QByteArray& bytes) override {
+    return fails() ? reason() : Disk::append(path, bytes);
+  }
+  QString copy(const QString& from, const QString& to, qint64 mostBytes) override {
+    return fails() ? reason() : Disk::copy(from, to, mostBytes);
+  }
   QString overwrite(const QString& path, const QByteArray& bytes) override {
     return fails() ? reason() : Disk::overwrite(path, bytes);
   }
   QString rename(const QString& from, const QString& to) override {
     return fails() ? reason() : Disk::rename(from, to);
   }
+  QString renameToNew(const QString& from, const QString& to) override {
+    return fails() ? reason() : Disk::renameToNew(from, to);
+  }
   QString remove(const QString& path) override { return fails() ? reason() : Disk::remove(path); }
   QString makeFolder(const QString& path) override { return fails() ? reason() : Disk::makeFolder(path); }
+  QString makeNewFolder(const QString& path) override {
+    return fails() ? reason() : Disk::makeNewFolder(path);
+  }
+  QString removeFolder(const QString& path) override { return fails() ? reason() : Disk::removeFolder(path); }
 
 private:
   static QString reason() { return "made to fail"; }
