@@ -28,10 +28,17 @@ void write(RecordWriter& out, const Counter& counter) {
 }  // namespace
 
 QByteArray composeRecords(const Layout& layout) {
+  std::vector<WrittenRow> rows;
+  return composeRecords(layout, rows);
+}
+
+QByteArray composeRecords(const Layout& layout, std::vector<WrittenRow>& rows) {
   RecordWriter out;
   LineWalk walk(layout.rows());
-  while (const Row* row = walk.next())
+  while (const Row* row = walk.next()) {
+    rows.push_back({row, out.bytes().size()});
     std::visit([&](const auto& content) { write(out, content); }, row->content);
+  }
   return out.bytes();
 }
 

@@ -2,11 +2,21 @@
 #pragma once
 
 #include <QByteArray>
+#include <vector>
 
 #include "records/layout.h"
 
 namespace veneerer {
 
 QByteArray composeRecords(const Layout& layout);
+
+/// A row as it stands in a composed file.
+struct WrittenRow {
+  const Row* row;
+  qsizetype start;  ///< the byte at which it begins
+};
+
+/// The same; rows gets those that are written, in file order. They belong to the layout.
+QByteArray composeRecords(const Layout& layout, std::vector<WrittenRow>& rows);
 
 }  // namespace veneerer

@@ -6,13 +6,17 @@
 
 namespace veneerer {
 
-void saveRecords(State& state, Disk& disk, const SkinFolder& folder) {
+std::vector<NewFile> composedRecords(State& state) {
   std::vector<NewFile> files;
   for (const SaveEntry& entry : saveOrder()) {
     const Layout layout = entry.layout(state);
     if (!layout.isEmpty()) files.push_back({savedName(entry, layout), composeRecords(layout)});
   }
-  writeRecordFiles(disk, folder.path(), std::move(files));
+  return files;
+}
+
+void saveRecords(State& state, Disk& disk, const SkinFolder& folder) {
+  writeRecordFiles(disk, folder.path(), composedRecords(state));
 }
 
 void saveLockedButtons(State& state, const Platform& platform, const SkinFolder& folder) {

@@ -1,11 +1,17 @@
 // Writes a whole Skin: every record file, in one step.
 #pragma once
 
+#include <vector>
+
+#include "files/replacefiles.h"
 #include "forms/state.h"
 #include "platform/platform.h"
 #include "platform/skinfolder.h"
 
 namespace veneerer {
+
+/// Every record file as a save writes it.
+std::vector<NewFile> composedRecords(State& state);
 
 /// Composes every record file, from menu.ini to the twins and locked_button.ini, and replaces all of them in
 /// that folder. No question is asked and no copy is kept. Throws WriteRefused when one of them can't be
