@@ -3,7 +3,7 @@
 
 readonly BUILD_PACKAGES=(
   g++ cmake ninja-build ccache
-  qt6-base-dev libjpeg62-turbo-dev libgif-dev
+  qt6-base-dev libjpeg62-turbo-dev libgif-dev libquazip1-qt6-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   fontconfig fonts-liberation fonts-dejavu-core
 )
