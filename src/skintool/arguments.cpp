@@ -70,11 +70,32 @@ void checkSkins(const CommandEntry& command, const QStringList& skins) {
   if (skins.size() < command.fewestSkins || skins.size() > command.mostSkins) {
     const QString count = command.mostSkins == 0   ? QStringLiteral("no Skin")
                           : command.mostSkins == 1 ? QStringLiteral("one Skin")
+                          : command.mostSkins == 2 ? QStringLiteral("one or two Skins")
                                                    : QStringLiteral("at least one Skin");
     throw UsageError(QStringLiteral("%1 takes %2").arg(QString::fromLatin1(command.name), count));
   }
   for (const QString& skin : skins)
     if (!QFileInfo(skin).isDir()) throw UsageError(QStringLiteral("\"%1\" is no folder").arg(skin));
+}
+
+QString checkedArchive(const QStringList& operands) {
+  if (operands.size() != 1) throw UsageError(QStringLiteral("unpack takes one archive"));
+  if (!QFileInfo(operands.first()).isFile())
+    throw UsageError(QStringLiteral("\"%1\" is no file").arg(operands.first()));
+  return operands.first();
+}
+
+void checkTarget(const CommandEntry& command, const QString& to) {
+  if (command.needsTarget && to.isEmpty()) throw UsageError(QStringLiteral("--to is missing"));
+  if (command.command == Command::Copy && (QFileInfo::exists(to) || QFileInfo(to).isSymLink()))
+    throw UsageError(QStringLiteral("\"%1\" is there already").arg(to));
+}
+
+// Two Skins are compared as they lie on the disk.
+void refuseLoadOfTwo(const Arguments& arguments) {
+  if (arguments.command != Command::Diff || arguments.skins.size() < 2) return;
+  if (!arguments.script.isEmpty() || arguments.reload)
+    throw UsageError(QStringLiteral("--script and --reload don't go with two Skins"));
 }
 
 void checkCover(const QCommandLineParser& parser, const QString& name) {
@@ -127,12 +148,16 @@ Arguments parseArguments(const QStringList& words) {
   if (operands.isEmpty()) throw UsageError(QStringLiteral("a command is missing"));
   const CommandEntry& command = commandNamed(operands.takeFirst());
   refuseForeignOptions(parser, command);
-  checkSkins(command, operands);
+  if (!command.takesArchive) checkSkins(command, operands);
 
   arguments = readOptions(parser);
   arguments.command = command.command;
-  arguments.skins = operands;
-  if (command.needsTarget && arguments.to.isEmpty()) throw UsageError(QStringLiteral("--to is missing"));
+  if (command.takesArchive)
+    arguments.archive = checkedArchive(operands);
+  else
+    arguments.skins = operands;
+  checkTarget(command, arguments.to);
+  refuseLoadOfTwo(arguments);
   return arguments;
 }
 

@@ -19,8 +19,9 @@ public:
 struct Arguments {
   QString answer;  ///< what --help or --version asks for; when it isn't empty nothing else is to be done
   Command command = Command::Dump;
-  QStringList skins;  ///< paths of Skin folders; one but for check, none for buttons
-  QString to;         ///< save, render and what draws: the target
+  QStringList skins;  ///< paths of Skin folders; one but for check and diff, none for buttons and unpack
+  QString archive;    ///< unpack: its path
+  QString to;         ///< save, render, copy, pack, unpack and what draws: the target
   QString cover;      ///< save: the cover file's name, empty to leave the covers out
   QStringList only;   ///< render: the entries to render, empty for all
   QString script;     ///< a script to play after the load, "-" for standard input, empty for none

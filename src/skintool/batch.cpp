@@ -13,6 +13,8 @@
 #include "skintool/arguments.h"
 #include "skintool/batchskin.h"
 #include "skintool/checkcommand.h"
+#include "skintool/diffcommand.h"
+#include "skintool/exchangecommands.h"
 #include "skintool/output.h"
 #include "skintool/pages.h"
 #include "skintool/render.h"
@@ -31,7 +33,7 @@ QString readScript(const QString& name) {
   return QString::fromUtf8(file.readAll());
 }
 
-/// One run on one Skin, which is loaded.
+/// One run on one Skin that is loaded.
 class BatchRun {
 public:
   explicit BatchRun(const Arguments& arguments)
@@ -40,29 +42,40 @@ public:
         platform_{dialogs_, settings_, disk_, arguments.screen, programFolder(arguments.skins.first())},
         designer_(platform_) {}
 
-  void run(std::FILE* out) {
+  /// The exit status.
+  int run(std::FILE* out, std::FILE* err) {
     const QString script = arguments_.script.isEmpty() ? QString() : readScript(arguments_.script);
     dialogs_.answers.enqueue(true);
     designer_.startUp();
     if (arguments_.reload) designer_.reload(designer_.state().form4.Combo3->text());
     ScriptPlayer(designer_, dialogs_).play(arguments_.script, script);
-    finish(out);
+    return finish(out, err);
   }
 
 private:
-  void finish(std::FILE* out) {
+  int finish(std::FILE* out, std::FILE* err) {
     switch (arguments_.command) {
+      case Command::Diff:
+        return printUnsaved(designer_, out);
       case Command::Dump:
-        return printState(out, designer_, dialogs_.messages);
+        printState(out, designer_, dialogs_.messages);
+        break;
       case Command::Render:
-        return renderScreens(designer_, arguments_.to, arguments_.only);
+        renderScreens(designer_, arguments_.to, arguments_.only);
+        break;
       case Command::Sheet:
-        return writeScreenSheet(designer_, arguments_.to);
+        writeScreenSheet(designer_, arguments_.to);
+        break;
       case Command::Preview:
-        return writeWebPage(designer_, arguments_.to);
+        writeWebPage(designer_, arguments_.to);
+        break;
+      case Command::Copy:
+        copyTo(designer_, arguments_.to, err);
+        break;
       default:
-        return save();
+        save();
     }
+    return 0;
   }
 
   void save() {
@@ -100,30 +113,45 @@ void tell(std::FILE* err, const QString& text) {
   std::fprintf(err, "%s\n", printable(text).toUtf8().constData());
 }
 
-int run(const Arguments& arguments, std::FILE* out) {
+bool isOfTwo(const Arguments& arguments) {
+  return arguments.command == Command::Diff && arguments.skins.size() > 1;
+}
+
+int run(const Arguments& arguments, std::FILE* out, std::FILE* err) {
   if (!arguments.answer.isEmpty()) {
     print(out, arguments.answer.toUtf8());
     return 0;
   }
   if (arguments.command == Command::Check) return runCheck(arguments, out);
   if (arguments.command == Command::Buttons) return writeButtons(arguments.to);
-  BatchRun(arguments).run(out);
-  return 0;
+  if (isOfTwo(arguments)) return runDiff(arguments, out);
+  if (arguments.command == Command::Pack) return runPack(arguments, err);
+  if (arguments.command == Command::Unpack) return runUnpack(arguments);
+  return BatchRun(arguments).run(out, err);
+}
+
+// RecordError, ScriptError, ScaleFault, ExchangeError: what ends the designer ends the run. To diff 1 says
+// something else.
+int runOrTell(const Arguments& arguments, std::FILE* out, std::FILE* err) {
+  try {
+    return run(arguments, out, err);
+  } catch (const UsageError&) {
+    throw;
+  } catch (const std::exception& error) {
+    tell(err, QString::fromUtf8(error.what()));
+    return arguments.command == Command::Diff ? 2 : 1;
+  }
 }
 
 }  // namespace
 
 int runBatch(const QStringList& words, std::FILE* out, std::FILE* err) {
   try {
-    return run(parseArguments(words), out);
+    return runOrTell(parseArguments(words), out, err);
   } catch (const UsageError& error) {
     tell(err, QStringLiteral("skintool: ") + QString::fromUtf8(error.what()));
     std::fprintf(err, "%s", usageText().toUtf8().constData());
     return 2;
-  } catch (const std::exception& error) {
-    // RecordError, ScriptError, ScaleFault: what ends the designer ends the run.
-    tell(err, QString::fromUtf8(error.what()));
-    return 1;
   }
 }
 

@@ -7,7 +7,8 @@
 namespace veneerer {
 
 /// Runs one command line (the program's name first). Returns the exit status: 0 done; 1 the Skin or the
-/// script failed, or a check found an error; 2 wrong use. Output goes to the two files.
+/// script failed, a check found an error or a comparison a difference; 2 wrong use. Output goes to the two
+/// files.
 int runBatch(const QStringList& arguments, std::FILE* out, std::FILE* err);
 
 }  // namespace veneerer

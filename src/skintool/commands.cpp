@@ -32,19 +32,41 @@ const CommandEntry kCommands[] = {
      "Loads the Skin and writes one web page of all of its screens that needs no other file and no\n"
      "network: the buttons of the menus lead to their screens, and arrow keys leaf through.",
      1, 1, true},
+    {Command::Diff, "diff", "SKIN [OTHER] [options]",
+     "Tells what a save of the Skin as loaded would change in its own folder; with OTHER, what differs\n"
+     "between the two Skins. One difference a line: FILE:LINE: ELEMENT.PROPERTY: OLD -> NEW, FILE: differs "
+     "or\n"
+     "FILE: only in NAME. The status is 0 when nothing differs, 1 when something does, 2 when the Skin "
+     "fails.",
+     1, 2, false},
+    {Command::Copy, "copy", "SKIN --to FOLDER [options]",
+     "Makes a whole new Skin of the Skin as loaded: its record files as a save writes them, every other "
+     "file\n"
+     "of its folder byte for byte. FOLDER must not be there.",
+     1, 1, true},
+    {Command::Pack, "pack", "SKIN --to FILE.zip",
+     "Packs the Skin's folder as it is into one zip archive, where it is the only entry at the top.", 1, 1,
+     true},
+    {Command::Unpack, "unpack", "FILE.zip --to FOLDER",
+     "Unpacks one Skin, which becomes a folder in FOLDER. Nothing is written of an archive that holds "
+     "anything\n"
+     "but the files of one Skin, or one that is there already.",
+     0, 0, true, true},
     {Command::Buttons, "buttons", "--to FILE.png", "Draws every style and shape of button as one sheet.", 0,
      0, true},
 };
 
 // The commands that work on one Skin as a load leaves it.
-constexpr std::initializer_list<Command> kLoading = {Command::Dump, Command::Save, Command::Render,
-                                                     Command::Sheet, Command::Preview};
+constexpr std::initializer_list<Command> kLoading = {Command::Dump,  Command::Save,    Command::Render,
+                                                     Command::Sheet, Command::Preview, Command::Diff,
+                                                     Command::Copy};
 
 const OptionEntry kOptions[] = {
     {"to",
      "PATH",
      "where to write; a folder is made when it isn't there",
-     {Command::Save, Command::Render, Command::Sheet, Command::Preview, Command::Buttons}},
+     {Command::Save, Command::Render, Command::Sheet, Command::Preview, Command::Buttons, Command::Copy,
+      Command::Pack, Command::Unpack}},
     {"cover", "NAME", "also saves the cover layout, under this name", {Command::Save}},
     {"only", "ENTRY", "draws this screen alone; may be given again for further ones", {Command::Render}},
     {"script", "FILE", "plays a script after the load; - is standard input", kLoading},

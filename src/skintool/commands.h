@@ -8,7 +8,19 @@
 
 namespace veneerer {
 
-enum class Command : std::uint8_t { Dump, Save, Render, Check, Sheet, Preview, Buttons };
+enum class Command : std::uint8_t {
+  Dump,
+  Save,
+  Render,
+  Check,
+  Sheet,
+  Preview,
+  Buttons,
+  Diff,
+  Copy,
+  Pack,
+  Unpack
+};
 
 struct CommandEntry {
   Command command;
@@ -17,7 +29,8 @@ struct CommandEntry {
   const char* what;
   int fewestSkins;
   int mostSkins;
-  bool needsTarget;  ///< --to must be there
+  bool needsTarget;           ///< --to must be there
+  bool takesArchive = false;  ///< one archive in the place of Skins
 };
 
 struct OptionEntry {

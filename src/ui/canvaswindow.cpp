@@ -206,8 +206,9 @@ void CanvasWindow::arrange() {
 
 void CanvasWindow::addHelpMenu() {
   QMenu* menu = menuBar()->addMenu(QStringLiteral("&Help"));
-  QAction* keys = addCommand(menu, QStringLiteral("&Keyboard and Mouse"), {QKeySequence(Qt::SHIFT | Qt::Key_F1)},
-                             QStringLiteral("List all keys and gestures"));
+  QAction* keys =
+      addCommand(menu, QStringLiteral("&Keyboard and Mouse"), {QKeySequence(Qt::SHIFT | Qt::Key_F1)},
+                 QStringLiteral("List all keys and gestures"));
   connect(keys, &QAction::triggered, this, [this] { showKeySheet(*this); });
   connect(menu->addAction(QStringLiteral("&About")), &QAction::triggered, this, &CanvasWindow::about);
 }
