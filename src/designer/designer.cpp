@@ -171,6 +171,11 @@ void Designer::openChooser() {
   veneerer::openChooser(*parts_->state, parts_->platform);
 }
 
+void Designer::listSkins() {
+  const History::Pause pause(parts_->history);
+  veneerer::listSkins(*parts_->state, parts_->platform);
+}
+
 void Designer::reload(const QString& skinName) {
   const History::Action action(parts_->history);
   parts_->state->form4.Combo3->setText(skinName);

@@ -40,6 +40,9 @@ public:
   /// Opens the chooser Form3 and hides the canvas. A choice in Form3.List1 runs the full load.
   void openChooser();
 
+  /// Lists the Skins of the root in Form4.Combo3 as they are now, which is no step.
+  void listSkins();
+
   /// Picks another Skin of the same root, as a choice in Form4.Combo3 does: runs the reload.
   void reload(const QString& skinName);
 

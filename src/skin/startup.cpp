@@ -46,15 +46,19 @@ bool startUp(State& state, const Platform& platform, SkinLoader& loader) {
   return loads;
 }
 
+void listSkins(State& state, const Platform& platform) {
+  const QString current = state.form4.Combo3->text();
+  state.form4.Combo3->setRows(SkinsRoot(platform.folder).skins());
+  state.form4.Combo3->setText(current);
+}
+
 void openChooser(State& state, const Platform& platform) {
   const SkinsRoot root(platform.folder);
   QStringList paths;
   for (const QString& name : root.skins()) paths.append(root.path() + u'/' + name);
   state.form3.Dir1->setRows(paths);
   state.form3.List1->setRows(root.skins());
-  const QString current = state.form4.Combo3->text();
-  state.form4.Combo3->setRows(root.skins());
-  state.form4.Combo3->setText(current);
+  listSkins(state, platform);
   state.form1.setVisible(false);
   state.form3.setVisible(true);
 }

@@ -14,6 +14,9 @@ inline constexpr char kDefaultSkin[] = "Black_and_Blue_gif_V8.0(800x600)";
 /// Skin is loaded; on Cancel the chooser is shown. True for OK. Throws RecordError.
 bool startUp(State& state, const Platform& platform, SkinLoader& loader);
 
+/// Lists the Skins of the root in Combo3, whose text stays.
+void listSkins(State& state, const Platform& platform);
+
 /// Opens the chooser: lists the Skins in it and in Combo3, and hides the canvas.
 void openChooser(State& state, const Platform& platform);
 

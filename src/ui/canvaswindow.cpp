@@ -13,6 +13,7 @@
 #include "canvas/screens.h"
 #include "ui/arrangement.h"
 #include "ui/editcommands.h"
+#include "ui/exchangecommands.h"
 #include "ui/exportcommands.h"
 #include "ui/inhandline.h"
 #include "ui/keys.h"
@@ -95,6 +96,7 @@ void CanvasWindow::addFileMenu() {
   QAction* save = addCommand(menu, QStringLiteral("&Save Skin"), {QKeySequence::Save},
                              QStringLiteral("Write the record files of the Skin"));
   connect(save, &QAction::triggered, this, [this] { ui_.hands.click(*state_.form4.Command4); });
+  addExchangeCommands(*menu, ui_.hands, *this);
   menu->addSeparator();
   addExportCommands(*menu, ui_);
   menu->addSeparator();

@@ -113,6 +113,15 @@ QImage Operator::decoded(const QString& path) {
   return image;
 }
 
+void Operator::listSkins() {
+  designer_.listSkins();
+}
+
+void Operator::takeInHand(const QString& skinName) {
+  listSkins();
+  act([&] { designer_.reload(skinName); });
+}
+
 void Operator::fillFonts() {
   designer_.fillFonts();
 }

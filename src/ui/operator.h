@@ -26,6 +26,7 @@ public:
   SkinFolder skinFolder() const { return designer_.skinFolder(); }
   Dialogs& dialogs() { return designer_.platform().dialogs; }
   const Platform& platform() const { return designer_.platform(); }
+  Disk& disk() { return designer_.platform().disk; }
   const Screen& screen() const { return designer_.platform().screen; }
 
   /// Runs what changes nothing of the Skin but may take long: no action begins meanwhile.
@@ -65,6 +66,10 @@ public:
   void chooseSkin();
   /// The picture of a file, a null image where it can't be decoded; the windows stay alive meanwhile.
   QImage decoded(const QString& path);
+  /// Lists the Skins as they are on the disk now.
+  void listSkins();
+  /// The Skin of that name, which may be a new one, as a choice in the list of Skins takes it.
+  void takeInHand(const QString& skinName);
   /// Fills the list of fonts; slow.
   void fillFonts();
 

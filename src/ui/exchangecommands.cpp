@@ -1,0 +1,151 @@
+#include "ui/exchangecommands.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <optional>
+
+#include "elements/printable.h"
+#include "exchange/skincopy.h"
+#include "exchange/skinpacking.h"
+#include "exchange/skinunpacking.h"
+#include "ui/workwindow.h"
+
+namespace veneerer {
+
+namespace {
+
+const QString kArchives = QStringLiteral("Zip Archives (*.zip)");
+
+constexpr int kDialogWidth = 420;  // pixels
+
+/// Where a command runs.
+struct Place {
+  Operator& hands;
+  QWidget& owner;
+
+  QString skin() const { return hands.skinFolder().path(); }
+  QString skinName() const { return QFileInfo(skin()).fileName(); }
+  QString root() const { return QFileInfo(skin()).path(); }
+  void say(const QString& note) const { hands.state().notes.say(note); }
+};
+
+/// Runs work that tells its steps to a window. False when it failed, which a box has told, or was given up.
+bool run(const Place& place, const QString& title, const std::function<void(const GoOn&)>& work) {
+  WorkWindow window(title, &place.owner);
+  try {
+    place.hands.run([&] {
+      work([&](int done, int total, const QString& file) { return window.tell(done, total, file); });
+    });
+    return true;
+  } catch (const GivenUp&) {
+    place.say(QStringLiteral("Cancelled; nothing is left of it."));
+  } catch (const ExchangeError& error) {
+    window.reset();
+    place.hands.dialogs().inform(title, QString::fromUtf8(error.what()));
+  }
+  return false;
+}
+
+QString leftOutNote(const QList<LeftOut>& leftOut) {
+  if (leftOut.isEmpty()) return {};
+  return QStringLiteral(" Left out: %1 of it, the first is %2, %3.")
+      .arg(leftOut.size())
+      .arg(leftOut.first().name, leftOut.first().reason);
+}
+
+/// "Mine copy", or the first such name with a number that nothing bears.
+QString freeName(const Place& place) {
+  const QString name = place.skinName() + QStringLiteral(" copy");
+  QString free = name;
+  for (int i = 2; QFileInfo::exists(place.root() + u'/' + free); ++i) free = name + u' ' + QString::number(i);
+  return free;
+}
+
+/// Why no Skin can have that name, empty when one can.
+QString faultOfName(const Place& place, const QString& name) {
+  if (name.isEmpty() || name.startsWith(u'.') || name.contains(u'/') || name.contains(u'\\'))
+    return QStringLiteral("A Skin's name has no slash in it and doesn't begin with a point.");
+  if (QFileInfo::exists(place.root() + u'/' + name))
+    return shownText(QStringLiteral("%1: a Skin of this name is there already.").arg(name));
+  return {};
+}
+
+/// What the operator types; nothing on cancel.
+std::optional<QString> askName(const Place& place, const QString& title) {
+  QInputDialog dialog(&place.owner);
+  dialog.setWindowTitle(title);
+  dialog.setLabelText(QStringLiteral("Name of the new Skin:"));
+  dialog.setTextValue(freeName(place));
+  dialog.resize(kDialogWidth, dialog.sizeHint().height());
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return dialog.textValue().trimmed();
+}
+
+void copyAsNew(const Place& place) {
+  const QString title = QStringLiteral("Copy as New Skin");
+  const std::optional<QString> chosen = askName(place, title);
+  if (!chosen) return;
+  const QString& name = *chosen;
+  const QString fault = faultOfName(place, name);
+  if (!fault.isEmpty()) return place.hands.dialogs().inform(title, fault);
+  QList<LeftOut> leftOut;
+  const bool isDone = run(place, title, [&](const GoOn& goOn) {
+    leftOut =
+        copySkin(place.hands.state(), place.hands.disk(), place.skin(), place.root() + u'/' + name, goOn);
+  });
+  if (!isDone) return;
+  place.hands.takeInHand(name);
+  place.say(QStringLiteral("%1 is a new Skin, and in hand.").arg(name) + leftOutNote(leftOut));
+}
+
+void exportSkin(const Place& place) {
+  const QString title = QStringLiteral("Export Skin");
+  const QString proposed = QDir::home().filePath(place.skinName() + QStringLiteral(".zip"));
+  const QString file = QFileDialog::getSaveFileName(&place.owner, title, proposed, kArchives);
+  if (file.isEmpty()) return;
+  QList<LeftOut> leftOut;
+  const bool isDone = run(place, title, [&](const GoOn& goOn) {
+    leftOut = packSkin(place.hands.disk(), place.skin(), file, goOn);
+  });
+  if (!isDone) return;
+  const QString unsaved =
+      place.hands.history().isModified() ? QStringLiteral(" What isn't saved isn't in it.") : QString();
+  place.say(QStringLiteral("%1 holds the Skin.").arg(file) + unsaved + leftOutNote(leftOut));
+}
+
+void importSkin(const Place& place) {
+  const QString title = QStringLiteral("Import Skin");
+  const QString file = QFileDialog::getOpenFileName(&place.owner, title, QDir::homePath(), kArchives);
+  if (file.isEmpty()) return;
+  QString name;
+  const bool isDone = run(place, title, [&](const GoOn& goOn) {
+    name = unpackSkin(place.hands.disk(), file, place.root(), goOn);
+  });
+  if (!isDone) return;
+  place.hands.listSkins();
+  place.say(QStringLiteral("%1 is among the Skins now.").arg(name));
+}
+
+}  // namespace
+
+void addExchangeCommands(QMenu& menu, Operator& hands, QWidget& owner) {
+  struct Entry {
+    const char* text;
+    const char* tip;
+    void (*act)(const Place& place);
+  };
+  menu.addSeparator();
+  for (const Entry& entry :
+       {Entry{"Copy as &New Skin...", "Make a new Skin of this one as it is now, and go on with that",
+              copyAsNew},
+        {"&Export...", "Pack the Skin as it was saved into one file", exportSkin},
+        {"&Import...", "Put the Skin of such a file among the others", importSkin}}) {
+    QAction* action = menu.addAction(QString::fromLatin1(entry.text));
+    action->setStatusTip(QString::fromLatin1(entry.tip));
+    QObject::connect(action, &QAction::triggered, &owner,
+                     [place = Place{hands, owner}, act = entry.act] { act(place); });
+  }
+}
+
+}  // namespace veneerer

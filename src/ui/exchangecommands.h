@@ -1,0 +1,13 @@
+// The commands of the menu "File" by which a whole Skin comes and goes.
+#pragma once
+
+#include <QMenu>
+
+#include "ui/operator.h"
+
+namespace veneerer {
+
+/// Appends them. Their dialogs belong to the owner; the hands must outlive the menu.
+void addExchangeCommands(QMenu& menu, Operator& hands, QWidget& owner);
+
+}  // namespace veneerer
