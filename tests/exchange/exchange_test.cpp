@@ -244,6 +244,9 @@ TEST_F(Exchange, ArchivesThatAreNotOneSkinAreRefusedWhole) {
     EXPECT_EQ(everything(), QStringList()) << c.entry;
     EXPECT_FALSE(QFileInfo::exists("/etc/x"));
   }
+  QByteArray cut = zipOf({good, {"T/a.bmp.exe"}});
+  EXPECT_TRUE(unpackFailure(cut.replace("a.bmp.exe", QByteArray("a.bmp\0exe", 9))).contains("printable"));
+  EXPECT_EQ(everything(), QStringList());
 }
 
 TEST_F(Exchange, ASkinThatIsThereAlreadyStays) {
