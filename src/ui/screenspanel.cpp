@@ -44,6 +44,7 @@ ScreensPanel::ScreensPanel(const Ui& ui)
   setWindowTitle(QStringLiteral("Screens"));
   screens_->setObjectName(QStringLiteral("screens"));
   screens_->setAccessibleName(windowTitle());
+  screens_->setToolTip(QStringLiteral("The screens as the jukebox shows them; a click goes to one"));
   screens_->setViewMode(QListView::IconMode);
   screens_->setMovement(QListView::Static);
   screens_->setResizeMode(QListView::Adjust);
