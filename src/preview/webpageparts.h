@@ -17,7 +17,7 @@ h1 { font-size: 1.4rem; overflow-wrap: anywhere; }
 h2 { font-size: 1.2rem; }
 nav ul { display: flex; flex-wrap: wrap; gap: .25rem 1rem; list-style: none; margin: 0; padding: 0; }
 .screen { position: relative; display: inline-block; max-width: 100%; line-height: 0; }
-.screen img { max-width: 100%; height: auto; outline: 1px solid var(--rule); }
+.screen img { max-width: 100%; max-height: 92vh; width: auto; height: auto; outline: 1px solid var(--rule); }
 .screen a { position: absolute; border-radius: 4px; }
 .screen a:hover { outline: 2px solid var(--link); }
 :focus-visible { outline: 3px solid var(--link); outline-offset: 2px; }
