@@ -56,8 +56,15 @@ QString InspectorModel::textAt(const QModelIndex& index) const {
     return place ? QStringLiteral("%1:%2").arg(place->file).arg(place->line) : QString();
   }
   if (isMixed(property)) return QStringLiteral("(several)");
-  return index.column() == Text ? valueText(element.get(property))
+  return index.column() == Text ? withinSkin(property, valueText(element.get(property)))
                                 : pixelText(element, property, hands_.screen());
+}
+
+// The path of a picture inside the Skin is told from the Skin's folder on.
+QString InspectorModel::withinSkin(Property property, const QString& text) const {
+  const QString folder = hands_.skinFolder().path();
+  const bool isInside = propertyType(property) == ValueType::Picture && text.startsWith(folder + u'/');
+  return isInside ? text.mid(folder.size()) : text;
 }
 
 QVariant InspectorModel::data(const QModelIndex& index, int role) const {

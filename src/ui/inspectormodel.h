@@ -35,6 +35,7 @@ public:
 private:
   bool isMixed(Property property) const;
   QString textAt(const QModelIndex& index) const;
+  QString withinSkin(Property property, const QString& text) const;
 
   Operator& hands_;
   std::vector<Element*> elements_;
