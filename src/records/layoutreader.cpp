@@ -5,6 +5,7 @@
 #include "elements/printable.h"
 #include "files/plainfile.h"
 #include "records/fieldvalue.h"
+#include "records/likelycause.h"
 #include "records/linewalk.h"
 #include "records/recorderror.h"
 
@@ -25,7 +26,12 @@ QString fieldOf(const Row& row) {
 class Reading {
 public:
   Reading(const Layout& layout, const QByteArray& bytes, Loading& loading, OnFailure policy)
-      : layout_(layout), walk_(layout.rows()), reader_(bytes), loading_(loading), policy_(policy) {}
+      : layout_(layout),
+        bytes_(bytes),
+        walk_(layout.rows()),
+        reader_(bytes),
+        loading_(loading),
+        policy_(policy) {}
 
   void run() {
     std::vector<int>& lines = loading_.lines;
@@ -44,8 +50,9 @@ private:
   /// False when the value failed and the layout goes on all the same.
   bool takeLine(const Row& row) {
     const int line = reader_.line();
+    isBehindEnd_ = reader_.atEnd();
     try {
-      if (reader_.atEnd()) throw BadValue{QStringLiteral("the file ends where a value is due")};
+      if (isBehindEnd_) throw BadValue{QStringLiteral("the file ends where a value is due")};
       std::visit([this](const auto& content) { take(content); }, row.content);
       return true;
     } catch (const OutOfRange&) {
@@ -59,7 +66,13 @@ private:
   /// False where the layout goes on all the same.
   bool fail(const Row& row, int line, const QString& what) const {
     if (policy_ == OnFailure::Resume) return false;
-    throw RecordError(layout_.fileName(), line, elementOf(row), fieldOf(row), what);
+    throw RecordError(layout_.fileName(), line, elementOf(row), fieldOf(row), what, trace());
+  }
+
+  RecordTrace trace() const {
+    const QString value = isBehindEnd_ ? QString() : reader_.lastText();
+    const QString cause = likelyCause({layout_, loading_.lines, bytes_, isBehindEnd_});
+    return {loading_.folder.path(), value, cause};
   }
 
   void take(const Literal&) { reader_.readValue(); }
@@ -107,11 +120,13 @@ private:
   }
 
   const Layout& layout_;
+  const QByteArray& bytes_;
   LineWalk walk_;
   RecordReader reader_;
   Loading& loading_;
   OnFailure policy_;
   Value heldBack_ = 0;
+  bool isBehindEnd_ = false;  ///< no value is left for the row that is read
 };
 
 }  // namespace
@@ -134,13 +149,14 @@ std::optional<QByteArray> recordFileIfThere(const QString& path) {
   const QFileInfo info(path);
   const FileContent file = readFileInside(info.path(), path, kMostRecordBytes);
   if (file.outcome == FileContent::Outcome::Refused)
-    throw RecordError(info.fileName(), 0, {}, {}, file.reason);
+    throw RecordError(info.fileName(), 0, {}, {}, file.reason, {info.path()});
   return file.isRead() ? std::optional(file.bytes) : std::nullopt;
 }
 
 QByteArray recordFileBytes(const QString& path) {
   if (const std::optional<QByteArray> bytes = recordFileIfThere(path)) return *bytes;
-  throw RecordError(QFileInfo(path).fileName(), 0, {}, {}, QStringLiteral("the file isn't there"));
+  const QFileInfo info(path);
+  throw RecordError(info.fileName(), 0, {}, {}, QStringLiteral("the file isn't there"), {info.path()});
 }
 
 QString readRecordFile(const Layout& layout, const QString& path, Loading& loading) {

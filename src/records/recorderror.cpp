@@ -24,16 +24,37 @@ QString compose(const QString& file, int line, const QString& element, const QSt
 }  // namespace
 
 RecordError::RecordError(const QString& file, int line, const QString& element, const QString& field,
-                         const QString& found)
+                         const QString& found, const RecordTrace& trace)
     : std::runtime_error(compose(file, line, element, field, found).toStdString()),
       file_(file),
       line_(line),
       element_(element),
       field_(field),
-      found_(printable(found)) {}
+      found_(printable(found)),
+      trace_(trace) {}
 
 QString RecordError::message() const {
   return compose(file_, line_, element_, field_, found_);
+}
+
+QString RecordError::report() const {
+  const struct {
+    const char* name;
+    QString value;
+  } facts[] = {
+      {"File", file_},
+      {"Line", line_ > 0 ? QString::number(line_) : QString()},
+      {"Element", element_},
+      {"Field", field_},
+      {"Found", trace_.value},
+      {"Skin", trace_.folder},
+      {"Likely cause", trace_.cause},
+  };
+  QStringList lines{shownText(message()), QString()};
+  for (const auto& fact : facts)
+    if (!fact.value.isEmpty())
+      lines.append(QString::fromLatin1(fact.name) + QStringLiteral(": ") + shownText(fact.value));
+  return lines.join(u'\n');
 }
 
 QString RecordError::place() const {

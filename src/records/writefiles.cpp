@@ -31,7 +31,7 @@ void writeFiles(Disk& disk, const QString& folder, std::vector<NewFile> files) {
     replacement.run();
   } catch (const ReplaceError& error) {
     throw RecordError(error.fault().name, 0, {}, {},
-                      QStringLiteral("the file can't be written: ") + error.fault().reason);
+                      QStringLiteral("the file can't be written: ") + error.fault().reason, {folder});
   }
 }
 

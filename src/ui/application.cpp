@@ -1,6 +1,8 @@
 #include "ui/application.h"
 
+#include <QClipboard>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTextStream>
 
 #include "elements/printable.h"
@@ -8,6 +10,19 @@
 #include "records/recorderror.h"
 
 namespace veneerer {
+
+namespace {
+
+// Other buttons of a box end it.
+void addCopyButton(QMessageBox& box, const QString& text) {
+  QPushButton* copy = box.addButton(QStringLiteral("&Copy"), QMessageBox::ActionRole);
+  copy->setToolTip(QStringLiteral("Put this text on the clipboard"));
+  copy->disconnect();
+  QObject::connect(copy, &QPushButton::clicked, copy,
+                   [text] { QGuiApplication::clipboard()->setText(text); });
+}
+
+}  // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("veneerer"));
@@ -21,21 +36,24 @@ bool Application::notify(QObject* receiver, QEvent* event) {
   try {
     return QApplication::notify(receiver, event);
   } catch (const RecordError& error) {
-    fail(error.message());
+    fail(error.message(), error.report());
   } catch (const std::exception& error) {
-    fail(QString::fromLocal8Bit(error.what()));
+    const QString message = QString::fromLocal8Bit(error.what());
+    fail(message, shownText(message));
   }
   return true;
 }
 
-void Application::fail(const QString& message) {
+void Application::fail(const QString& message, const QString& report) {
   if (std::exchange(failed_, true)) return;
   QTextStream(stderr) << printable(message) << Qt::endl;
   QMessageBox box(QMessageBox::Critical, programTitle(), QString(), QMessageBox::Ok, activeWindow());
   box.setTextFormat(Qt::PlainText);
-  box.setText(shownText(message));
+  box.setText(report);
   box.setInformativeText(
       QStringLiteral("The program ends. Files that were written before stay as they are."));
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  addCopyButton(box, report);
   box.exec();
   exit(kFailureStatus);
 }

@@ -16,7 +16,8 @@ public:
   bool notify(QObject* receiver, QEvent* event) override;
 
 private:
-  void fail(const QString& message);
+  /// The report begins with the message.
+  void fail(const QString& message, const QString& report);
 
   bool failed_ = false;
 };

@@ -1,5 +1,6 @@
 // The windows as windows: closing and coming back, places, keys, failures.
 #include <QActionGroup>
+#include <QClipboard>
 #include <QComboBox>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -236,12 +237,16 @@ TEST_F(Windows, AMalformedFileIsToldOnceAndEndsTheProgram) {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (!box) return;
     told = box->text();
+    for (QAbstractButton* button : box->buttons())
+      if (button->text() == u"&Copy") button->click();
+    EXPECT_TRUE(box->isVisible()) << "to copy is no answer";
     box->accept();
   });
   answer.start(20);
-  const int status = loopAround([] { throw RecordError("menu.ini", 12, {}, {}, "odd"); });
+  const int status = loopAround([] { throw RecordError("menu.ini", 12, {}, {}, "odd", {"/skins/S"}); });
   EXPECT_EQ(status, kFailureStatus);
-  EXPECT_TRUE(told.contains("menu.ini")) << told.toStdString();
+  EXPECT_EQ(told.toStdString(), "menu.ini:12: odd\n\nFile: menu.ini\nLine: 12\nSkin: /skins/S");
+  EXPECT_EQ(QApplication::clipboard()->text(), told);
 }
 
 }  // namespace

@@ -55,7 +55,8 @@ float windowSide(const Loading& loading, Axis axis, int surplus) {
   if (!twips)
     throw RecordError(QStringLiteral("resolution.ini"), 4 + static_cast<int>(axis), field.key(),
                       QStringLiteral("Text"),
-                      QStringLiteral("%1 pixels are out of range").arg(excerpt(field.text())));
+                      QStringLiteral("%1 pixels are out of range").arg(excerpt(field.text())),
+                      {loading.folder.path(), field.text()});
   return static_cast<float>(*twips);
 }
 
