@@ -13,6 +13,7 @@
 #include "elements/numbers.h"
 #include "forms/currentskin.h"
 #include "platform/skinfolder.h"
+#include "tools/rescalefactors.h"
 #include "tools/rescaletables.h"
 
 namespace veneerer {
@@ -21,6 +22,11 @@ namespace {
 
 // How long the progress may stand still, milliseconds.
 constexpr int kPatience = 40;
+
+constexpr char kLeftAlone[] =
+    "Not rescaled are: the resolution, the cover files but the layout in hand, the pictures of the screens "
+    "from "
+    "\"No Search Results Found\" on, the fonts of buttons.";
 
 /// One sentence: how many images were resized, and for each reason those that weren't.
 QString outcome(const std::vector<ImageJob>& jobs, const QStringList& failures) {
@@ -51,25 +57,18 @@ void Rescale::run() {
     return;
   }
   if (state_.form6.Check2->isTicked()) resampleImages();
+  state_.notes.say(QString::fromLatin1(kLeftAlone));
 }
 
 // An ordinary change of the canvas window's size moves nothing; only here does one scale the elements.
 void Rescale::scaleElements() {
-  const float width = newSide(*state_.form6.Text7, Axis::X);
-  const float height = newSide(*state_.form6.Text8, Axis::Y);
+  const float width = wantedSide(*state_.form6.Text7, platform_.screen, Axis::X);
+  const float height = wantedSide(*state_.form6.Text8, platform_.screen, Axis::Y);
   Resizer::requireScale(state_.form1, platform_.screen, width, height);
   // From here on nothing can fail.
   resizer_.scaleToScreen(state_.form1, platform_.screen);
   resizeWindow(Property::Width, width);
   resizeWindow(Property::Height, height);
-}
-
-float Rescale::newSide(const TextBox& field, Axis axis) const {
-  const double pixels = std::nearbyint(leadingNumber(field.text()));
-  if (pixels <= 0) throw ScaleFault("width and height must be above 0 pixels");
-  const auto twips = PixelsToTwips(platform_.screen, pixels, axis);
-  if (!twips) throw ScaleFault("the new size is beyond 32 bits");
-  return static_cast<float>(*twips);
 }
 
 void Rescale::resizeWindow(Property edge, float twips) {

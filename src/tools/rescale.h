@@ -20,12 +20,12 @@ public:
 
   /// Text7 and Text8 of Form6 give the new size in pixels. When one of them isn't above 0 or the scale can't
   /// be computed, the command tells so and changes nothing. How many images were resized, and why others
-  /// weren't, is a note. A call that comes in while the images are being resampled does nothing.
+  /// weren't, is a note; another one tells what a rescale leaves alone. A call that comes in while the images
+  /// are being resampled does nothing.
   void run();
 
 private:
   void scaleElements();
-  float newSide(const TextBox& field, Axis axis) const;
   void resizeWindow(Property edge, float twips);
   void resampleImages();
   std::vector<ImageJob> collectJobs();

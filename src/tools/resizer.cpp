@@ -91,6 +91,10 @@ void Resizer::requireScale(const Window& window, const Screen& screen, float wid
   requireSide(window.height(), screenFactorY(screen), height);
 }
 
+std::pair<float, float> Resizer::screenFactors(const Screen& screen) {
+  return {screenFactorX(screen), screenFactorY(screen)};
+}
+
 void Resizer::scaleToScreen(Window& window, const Screen& screen) {
   windowMoves_ = true;
   factorX_ = screenFactorX(screen);

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <stdexcept>
+#include <utility>
 
 #include "elements/window.h"
 #include "platform/platform.h"
@@ -27,6 +28,9 @@ public:
   /// Throws ScaleFault when scaleToScreen and then scaleOnResize for a window of the new size, twips,
   /// couldn't compute their factors. Changes nothing.
   static void requireScale(const Window& window, const Screen& screen, float width, float height);
+
+  /// What scaleToScreen multiplies by, across and down. Throws ScaleFault for a screen beyond 32767 pixels.
+  static std::pair<float, float> screenFactors(const Screen& screen);
 
   /// Scales a window that was designed for a screen of 1024 by 768 to the given one, and moves it with its
   /// elements. Throws ScaleFault, before anything has moved, for a screen beyond 32767 pixels.

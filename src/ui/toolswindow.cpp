@@ -6,6 +6,7 @@
 #include "canvas/sections.h"
 #include "tools/service.h"
 #include "ui/layouts.h"
+#include "ui/rescaleoutlook.h"
 #include "ui/swatch.h"
 
 namespace veneerer {
@@ -95,7 +96,7 @@ QGroupBox* rescaleFrame(const Ui& ui, Form6& form) {
   auto* grid = compact(new QGridLayout);
   addPair(grid, 0, ui, "Width:", *form.Text7, "Height:", *form.Text8);
   grid->addWidget(makeCheck(ui, *form.Check2), 1, 0, 1, -1);
-  addCommands(grid, 2, ui, {&*form.Command10});
+  grid->addWidget(new RescaleOutlook(ui), 2, 0, 1, -1);
   return makeFrame(QStringLiteral("Re-Scale Skin"), grid);
 }
 

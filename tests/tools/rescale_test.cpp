@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <set>
 
+#include "tools/rescalefactors.h"
 #include "tools/rescaletables.h"
 #include "toolsfixture.h"
 
@@ -64,9 +65,46 @@ TEST_F(RescaleTest, ElementsFollowTheWindow) {
   // Wider first: 10 * (2 + 1) / 2, then lower: times (1 + 0.5) / 2.
   EXPECT_EQ(form1.Label1[0].fontSize(), 11.25f);
   EXPECT_TRUE(world.dialogs.messages.isEmpty());
+  EXPECT_EQ(state.notes.texts().size(), 1) << "what a rescale leaves alone";
   // Outside of the tool a change of the window's size moves nothing.
   form1.setWidth(100);
   EXPECT_EQ(form1.Label1[0].left(), 200);
+}
+
+TEST_F(RescaleTest, TheFactorsAreKnownAhead) {
+  form6.Check2->setValue(0);
+  form4.Text1[0].setText("800");
+  form4.Text1[1].setText("600");
+  form1.place(0, 0, 15 * 804, 15 * 600 + 500);
+  for (const QSize screen : {QSize(1024, 768), QSize(1366, 768)}) {
+    world.platform.screen.width = screen.width();
+    form1.Label1[0].place(1000, 1000, 1000, 1000);
+    form1.Label1[0].setFontSize(10);
+    type(*form6.Text7, "1300");
+    type(*form6.Text8, "500");
+    const auto told = rescaleFactors(state, world.platform.screen);
+    ASSERT_TRUE(told);
+    state.board.click(*form6.Command10);
+    EXPECT_NEAR(form1.Label1[0].left(), 1000 * told->across, 0.5);
+    EXPECT_NEAR(form1.Label1[0].top(), 1000 * told->down, 0.5);
+    EXPECT_NEAR(form1.Label1[0].fontSize(), 10 * told->fonts, 0.01);
+  }
+}
+
+TEST_F(RescaleTest, AnEvenScaleBringsTheResolutionToItsNewSize) {
+  form4.Text1[0].setText("800");
+  form4.Text1[1].setText("600");
+  form1.place(0, 0, 15 * 804, 15 * 600 + 500);
+  EXPECT_EQ(skinResolution(state), QSize(800, 600));
+  const QSize size = sizeForFactor(state, world.platform.screen, 1024.0 / 800);
+  EXPECT_EQ(size, QSize(1029, 811)) << "the window is wider by four pixels and higher by 500 twips";
+  EXPECT_NEAR(*factorOf(state, world.platform.screen, size.width(), Axis::X), 1.28, 0.001);
+  EXPECT_NEAR(*factorOf(state, world.platform.screen, size.height(), Axis::Y), 1.28, 0.001);
+  EXPECT_FALSE(factorOf(state, world.platform.screen, 0, Axis::Y));
+  form1.setHeight(0);
+  EXPECT_FALSE(factorOf(state, world.platform.screen, 100, Axis::Y));
+  form4.Text1[1].setText("none");
+  EXPECT_TRUE(skinResolution(state).isEmpty());
 }
 
 TEST_F(RescaleTest, WhatCannotBeScaledIsToldAndChangesNothing) {
@@ -79,6 +117,8 @@ TEST_F(RescaleTest, WhatCannotBeScaledIsToldAndChangesNothing) {
     world.dialogs.messages.clear();
     rescale(width, height);
     EXPECT_EQ(changes, 0);
+    EXPECT_FALSE(rescaleFactors(state, world.platform.screen).has_value());
+    EXPECT_TRUE(state.notes.texts().isEmpty());
     ASSERT_EQ(world.dialogs.messages.size(), 1);
     EXPECT_EQ(world.dialogs.messages[0].title, u"Rescale SKIN");
     EXPECT_TRUE(world.dialogs.messages[0].text.contains(QLatin1String(why)))
@@ -123,8 +163,9 @@ TEST_F(RescaleTest, BackdropsTakeTheSizeOfTheirElement) {
   EXPECT_EQ(form1.Picture1[1].picture().image().size(), QSize(100, 200));
   EXPECT_EQ(form1.Picture21->width(), 600);
   EXPECT_FALSE(form1.Picture21->isVisible());
-  EXPECT_EQ(state.notes.texts(),
-            QStringList(QStringLiteral("2 of 3 images were resized; missing: \\missing.bmp.")));
+  ASSERT_EQ(state.notes.texts().size(), 2);
+  EXPECT_EQ(state.notes.texts()[0], u"2 of 3 images were resized; missing: \\missing.bmp.");
+  EXPECT_TRUE(state.notes.texts()[1].startsWith("Not rescaled are: "));
   ASSERT_EQ(world.dialogs.messages.size(), 2);
   EXPECT_EQ(world.dialogs.messages[0].text, u"Now Resizing images Do not Loose Focus on main screen");
   EXPECT_EQ(world.dialogs.messages[1].text, u"Images resized");
@@ -184,7 +225,7 @@ TEST_F(RescaleTest, WhatFailsStaysAsItWasAndTheOthersGoOn) {
   EXPECT_EQ(bytes(file("/flat.bmp")), flat);
   EXPECT_EQ(bytes(file("/../outside.bmp")), outside);
   EXPECT_EQ(world.dialogs.messages.size(), 2);
-  ASSERT_EQ(state.notes.texts().size(), 1);
+  ASSERT_EQ(state.notes.texts().size(), 2);
   const QString note = state.notes.texts().first();
   EXPECT_TRUE(note.startsWith(QStringLiteral("1 of 4 images were resized; "))) << note.toStdString();
   for (const char* reason : {"; can't be decoded: \\broken.bmp", "pixels: \\flat.bmp",
@@ -208,7 +249,7 @@ TEST_F(RescaleTest, AFileThatCannotBeWrittenStaysWhole) {
     const QImage two(file("/two.bmp"), "JPEG");
     EXPECT_EQ(one.isNull() + two.isNull(), 1);
     EXPECT_EQ(bytes(file(one.isNull() ? "/one.bmp" : "/two.bmp")), before);
-    EXPECT_EQ(state.notes.texts().last().toStdString(),
+    EXPECT_EQ(state.notes.texts().at(2 * at - 2).toStdString(),
               std::string("1 of 2 images were resized; can't be written (made to fail): ") +
                   (one.isNull() ? "\\one.bmp." : "\\two.bmp."));
     EXPECT_EQ(QDir(skin()).entryList(QDir::Files | QDir::Hidden).size(), 2);
