@@ -157,21 +157,21 @@ SkinFolder Designer::skinFolder() const {
   return parts_->skinFolder();
 }
 
-bool Designer::startUp() {
-  const bool isLoaded = veneerer::startUp(*parts_->state, parts_->platform, parts_->loader);
+bool Designer::startUp(const QString& skinName) {
+  const bool isLoaded = veneerer::startUp(*parts_->state, parts_->platform, parts_->loader, skinName);
   if (!isLoaded) return false;
   parts_->hasLoaded();
   parts_->history.start();
   return true;
 }
 
-// The lists of Skins follow the disk.
-void Designer::openChooser() {
-  const History::Pause pause(parts_->history);
-  veneerer::openChooser(*parts_->state, parts_->platform);
+void Designer::openSkin(const QString& skinName) {
+  listSkins();
+  parts_->loadAs(skinName, [&] { chooseSkin(*parts_->state, skinName, parts_->loader); });
 }
 
 void Designer::listSkins() {
+  // The list follows the disk.
   const History::Pause pause(parts_->history);
   veneerer::listSkins(*parts_->state, parts_->platform);
 }

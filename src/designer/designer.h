@@ -34,11 +34,13 @@ public:
 
   /// Start-up: the splash's progress texts, the lists, the current Skin's name from the settings, the
   /// question whether to load it. True when it was answered OK and the Skin has been loaded; on false the
-  /// chooser Form3 is visible.
-  bool startUp();
+  /// chooser Form3 is visible, in which a choice runs the full load. The Skin of a given name is loaded
+  /// without a question.
+  bool startUp(const QString& skinName = {});
 
-  /// Opens the chooser Form3 and hides the canvas. A choice in Form3.List1 runs the full load.
-  void openChooser();
+  /// Takes another Skin of the same root in hand, as a choice in Form3 does: lists the Skins in Form4.Combo3
+  /// and runs the full load. One that can't be read at all is told in a box, and the Skin in hand stays.
+  void openSkin(const QString& skinName);
 
   /// Lists the Skins of the root in Form4.Combo3 as they are now, which is no step.
   void listSkins();

@@ -22,21 +22,24 @@ QString currentSkin(const Platform& platform) {
   return SkinFolder(platform.folder, name).exists() ? name : fallback;
 }
 
+bool asksToLoad(const Platform& platform) {
+  return platform.dialogs.ask(QStringLiteral("Load Current Skin"),
+                              QStringLiteral("Do you want to Load Current Skin ? (Cancel Starts Blank)"));
+}
+
 }  // namespace
 
-bool startUp(State& state, const Platform& platform, SkinLoader& loader) {
+bool startUp(State& state, const Platform& platform, SkinLoader& loader, const QString& given) {
   const auto tell = [&](const char* text) { state.frmSplash.Label3->setCaption(QString::fromLatin1(text)); };
   tell("Loading...");
   state.frmSplash.setVisible(true);
   nameGenres(state.form1);
   fillFirstLists(state);
   tell("Reading Skin List...");
-  state.form4.Combo3->setText(currentSkin(platform));
+  state.form4.Combo3->setText(given.isEmpty() ? currentSkin(platform) : given);
   tell("Setting Up Veneerer...");
   fillOtherLists(state);
-  const bool loads =
-      platform.dialogs.ask(QStringLiteral("Load Current Skin"),
-                           QStringLiteral("Do you want to Load Current Skin ? (Cancel Starts Blank)"));
+  const bool loads = !given.isEmpty() || asksToLoad(platform);
   state.form6.Combo1->setText(state.form6.Combo1->list().first());
   state.form6.Combo2->setText(state.form6.Combo2->list().first());
   if (loads)

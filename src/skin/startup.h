@@ -11,8 +11,9 @@ namespace veneerer {
 inline constexpr char kDefaultSkin[] = "Black_and_Blue_gif_V8.0(800x600)";
 
 /// Shows the splash, fills the lists, reads the current Skin's name and asks whether to load it. On OK the
-/// Skin is loaded; on Cancel the chooser is shown. True for OK. Throws RecordError.
-bool startUp(State& state, const Platform& platform, SkinLoader& loader);
+/// Skin is loaded; on Cancel the chooser is shown. True for OK. A name that is given is the current Skin's,
+/// and nothing is asked. Throws RecordError.
+bool startUp(State& state, const Platform& platform, SkinLoader& loader, const QString& given = {});
 
 /// Lists the Skins of the root in Combo3, whose text stays.
 void listSkins(State& state, const Platform& platform);

@@ -19,6 +19,7 @@
 #include "ui/keys.h"
 #include "ui/keysheet.h"
 #include "ui/mockupcommands.h"
+#include "ui/opencommand.h"
 #include "ui/plaintext.h"
 #include "ui/tryit.h"
 #include "ui/viewcommands.h"
@@ -92,7 +93,8 @@ void CanvasWindow::addFileMenu() {
   QMenu* menu = menuBar()->addMenu(QStringLiteral("&File"));
   QAction* open = addCommand(menu, QStringLiteral("&Open Skin..."), {QKeySequence::Open},
                              QStringLiteral("Choose another Skin; what isn't saved is lost"));
-  connect(open, &QAction::triggered, this, [this] { ui_.hands.chooseSkin(); });
+  makeOpenCommand(*open, ui_);
+  openDropped(*this, ui_);
   QAction* save = addCommand(menu, QStringLiteral("&Save Skin"), {QKeySequence::Save},
                              QStringLiteral("Write the record files of the Skin"));
   connect(save, &QAction::triggered, this, [this] { ui_.hands.click(*state_.form4.Command4); });

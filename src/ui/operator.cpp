@@ -103,8 +103,8 @@ void Operator::makeSameSize(Sides sides) {
   act([&] { designer_.makeSameSize(sides); });
 }
 
-void Operator::chooseSkin() {
-  act([&] { designer_.openChooser(); });
+void Operator::openSkin(const QString& name) {
+  act([&] { designer_.openSkin(name); });
 }
 
 QImage Operator::decoded(const QString& path) {

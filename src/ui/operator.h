@@ -62,8 +62,8 @@ public:
 
   /// While an action is under way, which may show dialogs or wait for a picture, no other one is to begin.
   bool isActing() const { return isActing_; }
-  /// Shows the chooser, which lists the Skins, in the canvas's place.
-  void chooseSkin();
+  /// Loads another Skin of the program's folder.
+  void openSkin(const QString& name);
   /// The picture of a file, a null image where it can't be decoded; the windows stay alive meanwhile.
   QImage decoded(const QString& path);
   /// Lists the Skins as they are on the disk now.

@@ -185,15 +185,33 @@ TEST_F(Undo, ALoadAndASaveAreTheCleanPlace) {
   EXPECT_EQ(history.stack().count(), 1) << "a save is no step";
   history.undo();
   EXPECT_TRUE(history.isModified()) << "the disk holds what was undone";
-  makeSkin(QStringLiteral("U"));
-  designer->openChooser();
-  EXPECT_EQ(history.stack().count(), 1) << "nor is a new Skin in the list";
   designer->reload(QStringLiteral("T"));
   EXPECT_FALSE(history.isModified());
   EXPECT_EQ(history.stack().undoText(), QStringLiteral("Skin T"));
   history.undo();
   EXPECT_EQ(form4().Combo3->text(), QStringLiteral("S"));
   EXPECT_TRUE(history.isModified());
+}
+
+TEST_F(Undo, OpeningASkinIsOneStepAndItsListIsNone) {
+  makeSkin(QStringLiteral("U"));
+  const ComboBox& skins = *form4().Combo3;
+  const test::RestoredState before(state(), &skins);
+  designer->openSkin(QStringLiteral("T"));
+  const test::RestoredState opened(state(), &skins);
+  EXPECT_EQ(skins.list(), (QStringList{"S", "T", "U"}));
+  EXPECT_EQ(skins.text(), u"T");
+  EXPECT_NE(before.difference(opened), "");
+  QUndoStack& steps = designer->history().stack();
+  EXPECT_EQ(steps.count(), 1);
+  EXPECT_EQ(steps.undoText(), u"Skin T");
+  EXPECT_TRUE(steps.isClean());
+  designer->history().undo();
+  EXPECT_EQ(before.difference(test::RestoredState(state(), &skins)), "");
+  EXPECT_EQ(skins.text(), u"S");
+  EXPECT_EQ(skins.list(), (QStringList{"S", "T", "U"})) << "the list follows the disk";
+  designer->history().redo();
+  EXPECT_EQ(opened.difference(test::RestoredState(state(), &skins)), "");
 }
 
 TEST_F(Undo, APictureIsReadAnew) {

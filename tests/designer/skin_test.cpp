@@ -39,11 +39,18 @@ TEST_F(Skin, TheWindowsComeUpInTheirOrderAndTheSplashGoesLast) {
   start();
   EXPECT_EQ(told.join(u' ').toStdString(), "frmSplash+ Form4+ Form5+ Form6+ Form1+ Form2+ frmSplash-");
   told.clear();
-  designer->openChooser();
-  state().form3.List1->select(0);
-  EXPECT_EQ(told.first().toStdString() + ' ' + told.at(1).toStdString(), "Form1- Form3+");
-  EXPECT_EQ(told.filter("Form1").last().toStdString(), "Form1+");
-  EXPECT_TRUE(told.contains("Form3-"));
+  state().form4.setVisible(false);
+  designer->openSkin("S");
+  EXPECT_EQ(told.join(u' ').toStdString(), "Form4- Form4+")
+      << "the canvas stays; a full load shows the windows";
+}
+
+TEST_F(Skin, ANamedOneIsLoadedWithoutAQuestion) {
+  makeSkin("Other");
+  EXPECT_TRUE(designer->startUp("Other"));
+  EXPECT_EQ(form4().Combo3->text().toStdString(), "Other");
+  EXPECT_TRUE(form1().isVisible());
+  EXPECT_TRUE(world.dialogs.messages.isEmpty());
 }
 
 TEST_F(Skin, TheFileWithoutEffectIsNeitherReadNorWritten) {
@@ -73,6 +80,7 @@ TEST_F(Skin, CancelShowsTheChooserAndLoadsNothingUntilAnEntryIsChosen) {
   EXPECT_FALSE(designer->startUp());
   EXPECT_TRUE(state().form3.isVisible());
   EXPECT_FALSE(form1().isVisible());
+  EXPECT_TRUE(form4().Combo3->text() == u"S") << "the list of Skins leaves the name alone";
   EXPECT_EQ(state().form3.List1->list(), (QStringList{"Other", "S"}));
   EXPECT_EQ(form4().Combo3->list(), state().form3.List1->list());
   state().form3.List1->select(0);
