@@ -1,10 +1,16 @@
 // Veneerer, the designer: the core, the windows and the real world put together.
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTextStream>
 #include <QTimer>
 
 #include "designer/designer.h"
+#include "elements/printable.h"
+#include "platform/program.h"
+#include "platform/programplace.h"
 #include "ui/application.h"
 #include "ui/designerwindows.h"
 #include "ui/qtbackground.h"
@@ -14,38 +20,69 @@ using namespace veneerer;
 
 namespace {
 
-QString programFolder(const QCoreApplication& application) {
-  const QCommandLineOption folder(
-      QStringLiteral("program-folder"),
-      QStringLiteral("The folder that holds \"Skins\" and \"images\"; that of the "
-                     "program itself when not given."),
-      QStringLiteral("path"), QCoreApplication::applicationDirPath());
-  QCommandLineParser parser;
-  parser.addOption(folder);
+constexpr int kUsageStatus = 2;
+
+void parse(QCommandLineParser& parser, const QCoreApplication& application) {
+  parser.addOption(
+      {QStringLiteral("program-folder"),
+       QStringLiteral("The folder that holds \"Skins\" and \"images\". Without it the one of the "
+                      "program itself, where there are Skins in it, else that of the user."),
+       QStringLiteral("path")});
+  parser.addPositionalArgument(QStringLiteral("SKIN"),
+                               QStringLiteral("The folder of a Skin, which is opened without a question."),
+                               QStringLiteral("[SKIN]"));
   parser.addHelpOption();
   parser.addVersionOption();
   parser.process(application);
-  return parser.value(folder);
+}
+
+// An installed program has its data in ../share; so has one that was built and not installed.
+ProgramPlaces placesOf(const QCommandLineParser& parser) {
+  ProgramPlaces places;
+  places.given = parser.value(QStringLiteral("program-folder"));
+  places.skin = parser.positionalArguments().value(0);
+  places.beside = QCoreApplication::applicationDirPath();
+  QStringList data = QStandardPaths::standardLocations(QStandardPaths::AppDataLocation);
+  places.user = data.takeFirst();
+  places.shared = QStringList(places.beside + QStringLiteral("/../share/veneerer")) + data;
+  return places;
+}
+
+/// Empty for a command line that can be followed.
+QString usageFault(const QCommandLineParser& parser) {
+  const QStringList skins = parser.positionalArguments();
+  if (skins.size() > 1) return QStringLiteral("one Skin at most can be opened");
+  const bool isThere = skins.isEmpty() || QFileInfo(skins[0]).isDir();
+  return isThere ? QString() : QStringLiteral("there is no folder %1").arg(excerpt(skins[0], 1000));
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   Application application(argc, argv);
-  const ProgramFolder folder{programFolder(application)};
+  QCommandLineParser parser;
+  parse(parser, application);
+  if (const QString fault = usageFault(parser); !fault.isEmpty()) {
+    QTextStream(stderr) << QStringLiteral("veneerer: ") << fault << Qt::endl;
+    return kUsageStatus;
+  }
   // The common dialogs keep their own notes, custom colours among them: those are to last for the run only.
   const QTemporaryDir notes;
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, notes.path());
 
+  const ProgramPlaces places = placesOf(parser);
   QtDialogs dialogs;
   IniSettings settings;
   Disk disk;
   QtProgress progress;
   QtBackground background;
-  Platform platform{dialogs, settings, disk, primaryScreen(), folder, &progress, &background};
+  const FoundPlace found = findPlace(places, disk);
+  if (!found.fault.isEmpty()) dialogs.inform(programTitle(), found.fault);
+  Platform platform{dialogs, settings, disk, primaryScreen(), found.folder, &progress, &background};
   Designer designer(platform);
   dialogs.setSkin([&designer] { return designer.skinFolder(); });
   DesignerWindows windows(designer);
-  QTimer::singleShot(0, [&] { designer.startUp(); });
+  const QString skin = places.skin.isEmpty() ? QString() : skinName(places.skin);
+  QTimer::singleShot(0, [&] { designer.startUp(skin); });
   return Application::exec();
 }

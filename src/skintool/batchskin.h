@@ -3,15 +3,9 @@
 
 #include <QString>
 
-#include "platform/platform.h"
+#include "platform/programplace.h"
 
 namespace veneerer {
-
-/// The Skin's name by the path of its folder.
-QString skinName(const QString& path);
-
-/// The Skin's parent is the root of Skins, and the root's parent holds the images beside the program.
-ProgramFolder programFolder(const QString& path);
 
 /// The settings of a run: the current Skin is the one on the command line.
 class BatchSettings : public Settings {
