@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "elements/printable.h"
 #include "ui/layouts.h"
@@ -67,6 +68,16 @@ QString aboutText(const SkinGlance& glance, int findings) {
   return facts.join(QStringLiteral(", "));
 }
 
+/// What is in sight comes first: the list is scrolled to the Skin in hand.
+QStringList nearestFirst(const QStringList& skins, const QString& inHand) {
+  const qsizetype at = std::max<qsizetype>(0, skins.indexOf(inHand));
+  QStringList ordered;
+  for (qsizetype by = 0; by < skins.size(); ++by)
+    for (const qsizetype row : {at + by, at - by})
+      if (row >= 0 && row < skins.size() && (by > 0 || ordered.isEmpty())) ordered.append(skins[row]);
+  return ordered;
+}
+
 QString itemText(const QString& name, const SkinGlance* glance) {
   const QString below = !glance                   ? QString()
                         : glance->fault.isEmpty() ? glance->resolution
@@ -100,7 +111,7 @@ OpenSkinDialog::OpenSkinDialog(Glancer& glancer, const QStringList& skins, const
   connect(&glancer_, &Glancer::seen, this, &OpenSkinDialog::tell);
   addSkins(skins);
   propose(inHand);
-  glancer_.lookAt(skins);
+  glancer_.lookAt(nearestFirst(skins, inHand));
 }
 
 OpenSkinDialog::~OpenSkinDialog() {
@@ -190,6 +201,11 @@ void OpenSkinDialog::tellProposed() {
   QString about = glance ? aboutText(*glance, glancer_.findings(skin())) : QString();
   if (skins_.rowCount() == 0) about = QStringLiteral("There are no Skins in %1.").arg(root_);
   about_->setText(shownText(about));
+}
+
+void OpenSkinDialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  list_->scrollTo(list_->currentIndex());
 }
 
 bool OpenSkinDialog::eventFilter(QObject* watched, QEvent* event) {

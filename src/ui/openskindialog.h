@@ -31,6 +31,7 @@ public:
   QString skin() const;
 
 protected:
+  void showEvent(QShowEvent* event) override;
   /// The arrow keys walk in the list while a word is typed.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
