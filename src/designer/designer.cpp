@@ -14,6 +14,7 @@
 #include "panels/skinproperties.h"
 #include "panels/textureviewer.h"
 #include "platform/program.h"
+#include "problems/applyremedy.h"
 #include "records/writefiles.h"
 #include "skin/skinloader.h"
 #include "skin/skinsaver.h"
@@ -65,10 +66,12 @@ struct Designer::Parts {
     const QString refusal = isLoaded() ? loader.refusal(SkinFolder(platform.folder, name)) : QString();
     if (!refusal.isEmpty()) return stay(refusal);
     const bool isFirst = !isLoaded();
+    const QString before = loadedSkin;
     {
       const History::Action action(history, QStringLiteral("Skin ") + shownText(name));
       load();
       hasLoaded();
+      if (before != loadedSkin) state->globals.SkinBefore->setText(before);
       history.markClean();
     }
     if (isFirst) history.start();
@@ -299,6 +302,19 @@ void Designer::distribute(Along along) {
 void Designer::makeSameSize(Sides sides) {
   const History::Action action(parts_->history, QStringLiteral("Same Size"));
   veneerer::makeSameSize(parts_->overlay.elements(), sides);
+}
+
+void Designer::apply(const Remedy& remedy) {
+  const History::Action action(
+      parts_->history, remedy.writes() ? remedy.text + QStringLiteral(" (the file stays)") : remedy.text);
+  const RefusalNotes::Command command(parts_->refusals);
+  try {
+    applyRemedy(*parts_->state, parts_->platform.disk, skinFolder(), remedy);
+  } catch (const RecordError& error) {
+    return parts_->platform.dialogs.inform(QStringLiteral("Problems"),
+                                           QStringLiteral("Nothing is changed. ") + error.message());
+  }
+  if (remedy.writes()) parts_->state->notes.say(QStringLiteral("%1 is written.").arg(remedy.target));
 }
 
 OverlaySelection& Designer::overlay() {

@@ -13,6 +13,7 @@
 #include "history/history.h"
 #include "platform/platform.h"
 #include "platform/skinfolder.h"
+#include "problems/remedy.h"
 
 namespace veneerer {
 
@@ -97,6 +98,9 @@ public:
   void align(AlignTo line);
   void distribute(Along along);
   void makeSameSize(Sides sides);
+  /// Does what the remedy of a finding says, files included, which no undo brings back. What stands against
+  /// writing is told in a box, and nothing has changed.
+  void apply(const Remedy& remedy);
   /// What is selected on the overlay.
   OverlaySelection& overlay();
 

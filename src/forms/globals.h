@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 
+#include "elements/controls.h"
 #include "elements/family.h"
 #include "elements/window.h"
 #include "forms/counts.h"
@@ -39,6 +40,9 @@ public:
   float CoverScale = 1;  ///< multiplies every coordinate of a cover file; nothing changes it
 
   Single<CoverIndex> LastCoverIndex{*this, "LastCoverIndex"};
+  /// The name of the Skin that was in hand before this one, whose values stand where this one's files have
+  /// none; empty for the first one.
+  Single<TextBox> SkinBefore{*this, "SkinBefore"};
 };
 
 }  // namespace veneerer

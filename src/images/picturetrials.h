@@ -21,6 +21,9 @@ public:
 
   PictureTrial of(const QString& path);
 
+  /// The file was written anew: the next question tries it again.
+  void forget(const QString& path) { known_.remove(path); }
+
   /// How many files weren't tried.
   int untried() const;
 

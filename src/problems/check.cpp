@@ -7,6 +7,7 @@
 #include "painting/canvassize.h"
 #include "problems/filecheck.h"
 #include "problems/strayfiles.h"
+#include "problems/wholeskin.h"
 #include "records/coverfile.h"
 #include "records/layoutreader.h"
 #include "records/recorderror.h"
@@ -94,8 +95,7 @@ private:
   // Where case counts, search_Choice.ini is written and never read: its faults end no load.
   void checkWritten(const QString& read, const QString& written, const Layout& layout) {
     check(written, layout, false);
-    if (isFile(read) && isFile(written) && bytesOf(read) != bytesOf(written))
-      warn(read, QStringLiteral("differs from %1, which a save writes and no load reads").arg(written));
+    if (const auto differing = twinFinding(skin_.folder, read, written)) findings_ << *differing;
   }
 
   void check(const QString& name, const Layout& layout, bool isLoaded) {

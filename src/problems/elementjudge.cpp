@@ -3,6 +3,8 @@
 #include <QSet>
 
 #include "canvas/screens.h"
+#include "elements/button.h"
+#include "problems/captionremedies.h"
 #include "problems/savedtexts.h"
 #include "problems/screenplace.h"
 
@@ -22,9 +24,25 @@ Findings ElementJudge::damage(const Element& element) const {
     if (seen.contains(place.property)) continue;
     seen.insert(place.property);
     const QString text = savedTextDamage(element, place.property);
-    if (!text.isEmpty()) findings.append(found(FindingKind::Warning, element, place.property, text));
+    if (text.isEmpty()) continue;
+    findings.append(found(FindingKind::Warning, element, place.property, text));
+    if (place.property == Property::Caption) findings.last().remedies = captionRemedies(element);
   }
-  return findings;
+  return findings << shapeDamage(element);
+}
+
+// A picture that is taken away leaves the outline that was made of it.
+Findings ElementJudge::shapeDamage(const Element& element) const {
+  if (element.kind() != Kind::Button) return {};
+  const auto& button = cast<Button>(element);
+  if (!button.isCustomShaped() || !button.picture().isNull()) return {};
+  Finding finding =
+      found(FindingKind::Warning, element, Property::ButtonShape,
+            QStringLiteral("the shape comes from a picture, and there is none: the next load sets it to 0"));
+  finding.remedies = {{RemedyKind::DropShape,
+                       QStringLiteral("Set the shape to 0, a rectangle"),
+                       {{element.key(), Property::ButtonShape, 0}}}};
+  return {finding};
 }
 
 Findings ElementJudge::hintsAtOnce(const Element& element) {

@@ -15,7 +15,7 @@ public:
 
   void setPlaces(RecordPlaces places) { places_ = std::move(places); }
 
-  /// Warnings: texts that a save and the next load spoil.
+  /// Warnings: texts that a save and the next load spoil, a shape without its picture.
   Findings damage(const Element& element) const;
   /// The hints that can be told at once, and those that need what is drawn beneath; see Hints. None for what
   /// isn't on the canvas.
@@ -27,6 +27,7 @@ public:
 
 private:
   Findings found(const Element& element, const QList<Hint>& hints) const;
+  Findings shapeDamage(const Element& element) const;
   bool isOnCanvas(const Element& element) const;
 
   const State& state_;

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "elements/property.h"
+#include "problems/remedy.h"
 
 namespace veneerer {
 
@@ -22,6 +23,7 @@ struct Finding {
   QString text;          ///< what is wrong; values in it are excerpts
   QString element = {};  ///< the key of what it is about, empty where that isn't known
   std::optional<Property> property = {};
+  Remedies remedies = {};  ///< the likeliest first; whoever prints findings need not know them
 
   bool operator==(const Finding&) const = default;
 };

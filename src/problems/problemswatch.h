@@ -9,6 +9,8 @@
 #include "platform/skinfolder.h"
 #include "problems/elementjudge.h"
 #include "problems/finding.h"
+#include "problems/shownreferences.h"
+#include "problems/skinpictures.h"
 
 namespace veneerer {
 
@@ -16,10 +18,15 @@ namespace veneerer {
 /// change, and lets it work when there is time. Make a new one for another Skin.
 class ProblemsWatch {
 public:
+  /// How much is looked for: without the hints nothing is laid out or painted.
+  enum class Depth { Warnings, Hints };
+
   /// coverFileName is the cover file whose lines are told, empty for none. touch is the least side of a
   /// button, pixels. The state must outlive the watch.
   ProblemsWatch(State& state, const SkinFolder& folder, const Screen& screen,
-                const QString& coverFileName = {}, int touch = kTouchPixels);
+                const QString& coverFileName = {}, int touch = kTouchPixels, Depth depth = Depth::Hints);
+
+  Depth depth() const { return depth_; }
 
   /// Judges everything anew: at once what takes no painting and decodes no picture; the rest waits for
   /// work().
@@ -29,6 +36,10 @@ public:
   /// that stands on the same screen, waits for work(). A change of the canvas window or of the number of
   /// covers has everything wait. What was found stays until it is judged again.
   void judge(const Element& element);
+
+  /// Those files of the Skin's folder, full paths, were written, or are gone: what depends on the disk waits
+  /// to be judged again.
+  void filesChanged(const QStringList& paths);
 
   /// Judges wholly up to that many of the elements that wait, in the order in which they were told. True
   /// while more wait.
@@ -51,19 +62,25 @@ private:
   void await(const Element& element);
   void awaitAll();
   void awaitScreenOf(const Element& element);
+  void awaitSlots(const Element& element);
   Findings referenceFindings(const Element& element);
+  QString pictureShown(const ImageSlot& slot) const;
 
   State& state_;
   SkinFolder folder_;
   Screen screen_;
   QString coverFileName_;
   int touch_;
+  Depth depth_;
+  ShownReferences references_;
+  SkinPictures pictures_;
   PictureTrials trials_{kTrialAllowance};
   std::optional<ElementJudge> judge_;
   std::vector<const Element*> elements_;  ///< all that are judged
   QHash<const Element*, Known> known_;
-  QHash<const Element*, const Element*> buttonOf_;  ///< by the image slot that it takes its picture from
   Findings ofFolder_;
+  Findings ofSkin_;
+  bool isSkinJudged_ = false;
   std::deque<const Element*> waiting_;
   QSet<const Element*> isWaiting_;
 };

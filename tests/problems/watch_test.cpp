@@ -18,6 +18,8 @@ protected:
     // Room for its widest screens.
     state.form1.setWidth(12510);
     state.form1.setHeight(14000);
+    state.form4.Text1[0].setText(QStringLiteral("834"));
+    state.form4.Text1[1].setText(QStringLiteral("933"));
     QDir(root.path()).mkpath(QStringLiteral("images"));
   }
   void workAll(ProblemsWatch& watch) {
@@ -59,6 +61,8 @@ TEST_F(WatchTest, JudgesOneElementAtOnceAndItsScreenLater) {
   watch.judge(key);
   Findings findings = watch.findings();
   ASSERT_FALSE(findings.isEmpty());
+  EXPECT_EQ(findings.first().remedies.size(), 2);
+  findings.first().remedies.clear();
   EXPECT_EQ(findings.first(), (Finding{FindingKind::Warning, QStringLiteral("search.ini"), 41,
                                        QStringLiteral("a comma cuts the caption \"Rock, Pop\""), key.key(),
                                        Property::Caption}));
