@@ -19,7 +19,7 @@ bool takesChosenPicture(const State& state, const Element& element) {
 }
 
 void choosePicture(State& state, const Platform& platform, Element& element) {
-  const QString path = platform.dialogs.chooseFile(QStringLiteral("Image Files|*.bmp;*.jpg;*.gif"));
+  const QString path = platform.dialogs.chooseFile(QString::fromLatin1(kButtonPictures));
   if (path.isEmpty()) {
     give(state, element, Picture(), QString());
     return;

@@ -6,6 +6,9 @@
 
 namespace veneerer {
 
+/// The file dialog's filter for a button and for Picture17.
+inline constexpr char kButtonPictures[] = "Image Files|*.bmp;*.jpg;*.gif";
+
 /// Whether a right press gives the element a picture: the buttons of the canvas and Picture17.
 bool takesChosenPicture(const State& state, const Element& element);
 

@@ -3,6 +3,8 @@
 #include "canvas/canvasinput.h"
 #include "canvas/sections.h"
 #include "design/design.h"
+#include "designer/droppedpicture.h"
+#include "designer/picturesanew.h"
 #include "designer/refusalnotes.h"
 #include "editing/setting.h"
 #include "elements/numbers.h"
@@ -34,6 +36,11 @@ std::unique_ptr<State> makeState() {
   for (Window* window : state->windows()) window->setVisible(false);
   return state;
 }
+
+/// The steps of the remedies, by their kind.
+constexpr const char* kRemedyNames[] = {"Use Another Picture", "Copy Picture into the Skin (its file stays)",
+                                        "Mend Caption",        "Set Shape to 0",
+                                        "Set Resolution",      "Copy Twin (its file stays)"};
 
 }  // namespace
 
@@ -305,8 +312,8 @@ void Designer::makeSameSize(Sides sides) {
 }
 
 void Designer::apply(const Remedy& remedy) {
-  const History::Action action(
-      parts_->history, remedy.writes() ? remedy.text + QStringLiteral(" (the file stays)") : remedy.text);
+  const History::Action action(parts_->history,
+                               QString::fromLatin1(kRemedyNames[static_cast<std::size_t>(remedy.kind)]));
   const RefusalNotes::Command command(parts_->refusals);
   try {
     applyRemedy(*parts_->state, parts_->platform.disk, skinFolder(), remedy);
@@ -315,6 +322,29 @@ void Designer::apply(const Remedy& remedy) {
                                            QStringLiteral("Nothing is changed. ") + error.message());
   }
   if (remedy.writes()) parts_->state->notes.say(QStringLiteral("%1 is written.").arg(remedy.target));
+}
+
+bool Designer::takesPicture(Element& element, const QString& path) {
+  return pictureTaker(state(), element, path) != nullptr;
+}
+
+void Designer::drop(Element& element, const QString& path) {
+  Element* taker = pictureTaker(state(), element, path);
+  if (!taker) return;
+  Dialogs& dialogs = parts_->platform.dialogs;
+  dialogs.giveFile(path);
+  if (&taker->window() == &state().form1)
+    press(*taker, 0, 0, MouseButton::Right);
+  else
+    click(*taker);
+  // Without a frame chosen the preview asks for no file.
+  dialogs.giveFile({});
+  parts_->history.settle();
+}
+
+void Designer::readAnew(const QSet<QString>& paths) {
+  const History::Pause pause(parts_->history);
+  showAnew(state(), skinFolder(), paths);
 }
 
 OverlaySelection& Designer::overlay() {

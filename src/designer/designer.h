@@ -2,6 +2,7 @@
 // an operator does. The windows and the batch tool are two thin shells around it.
 #pragma once
 
+#include <QSet>
 #include <memory>
 #include <optional>
 
@@ -101,6 +102,13 @@ public:
   /// Does what the remedy of a finding says, files included, which no undo brings back. What stands against
   /// writing is told in a box, and nothing has changed.
   void apply(const Remedy& remedy);
+  /// Whether drop() would do something with that file.
+  bool takesPicture(Element& element, const QString& path);
+  /// A picture file is dropped on an element of the canvas or a thumbnail: the file dialog of the button,
+  /// panel or screen there is answered so. One step.
+  void drop(Element& element, const QString& path);
+  /// Other programs wrote these files: what shows one shows what it holds now. No step.
+  void readAnew(const QSet<QString>& paths);
   /// What is selected on the overlay.
   OverlaySelection& overlay();
 

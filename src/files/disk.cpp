@@ -112,7 +112,10 @@ QString Disk::create(const QString& path, const QByteArray& bytes, const QString
   Descriptor file(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
   if (!file.isOpen()) return systemReason();
   makeLike(file, like);
-  if (file.writeAll(bytes) && file.close()) return {};
+  if (file.writeAll(bytes) && file.close()) {
+    note(path);
+    return {};
+  }
   const QString reason = systemReason();
   ::unlink(QFile::encodeName(path).constData());
   return reason;
@@ -146,12 +149,16 @@ QString Disk::overwrite(const QString& path, const QByteArray& bytes) {
   if (!file.isOpen() || ::fstat(file.number(), &status) != 0) return systemReason();
   if (!S_ISREG(status.st_mode)) return noFile();
   const bool isDone = ::ftruncate(file.number(), 0) == 0 && file.writeAll(bytes) && file.close();
-  return isDone ? QString() : systemReason();
+  if (!isDone) return systemReason();
+  note(path);
+  return {};
 }
 
 QString Disk::rename(const QString& from, const QString& to) {
   const int result = std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData());
-  return result == 0 ? QString() : systemReason();
+  if (result != 0) return systemReason();
+  note(to);
+  return {};
 }
 
 QString Disk::renameToNew(const QString& from, const QString& to) {
@@ -183,6 +190,19 @@ QString Disk::makeNewFolder(const QString& path) {
 
 QString Disk::removeFolder(const QString& path) {
   return ::rmdir(QFile::encodeName(path).constData()) == 0 ? QString() : systemReason();
+}
+
+void Disk::note(const QString& path) {
+  const QString real = QFileInfo(path).canonicalFilePath();
+  const FileStamp stamp = stampOf(real);
+  const QMutexLocker lock(&lock_);
+  written_.insert(real, stamp);
+}
+
+FileStamp Disk::written(const QString& path) const {
+  const QString real = QFileInfo(path).canonicalFilePath();
+  const QMutexLocker lock(&lock_);
+  return written_.value(real);
 }
 
 }  // namespace veneerer

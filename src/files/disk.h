@@ -3,13 +3,16 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
+#include <QMutex>
 #include <QString>
 #include <QStringList>
 
+#include "files/filestamp.h"
+
 namespace veneerer {
 
-/// The disk as it is; a test derives from it to let operations fail. It holds no state, so one serves many
-/// threads.
+/// The disk as it is; a test derives from it to let operations fail. One serves many threads.
 class Disk {
 public:
   virtual ~Disk() = default;
@@ -53,6 +56,16 @@ public:
 
   /// Removes a folder that nothing is in.
   [[nodiscard]] virtual QString removeFolder(const QString& path);
+
+  /// What the file of that path was, links resolved, when it was written here last: who watches the disk
+  /// tells our own writing by it. Not there for one that wasn't.
+  FileStamp written(const QString& path) const;
+
+private:
+  void note(const QString& path);
+
+  mutable QMutex lock_;
+  QHash<QString, FileStamp> written_;  ///< by the path, links resolved
 };
 
 }  // namespace veneerer

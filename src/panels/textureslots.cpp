@@ -53,4 +53,12 @@ TextureSlot textureSlot(State& state, const Element& thumbnail) {
   return {nullptr, {}, nullptr};
 }
 
+QString textureFilter(State& state, const Element& thumbnail) {
+  const Form5& form5 = state.form5;
+  if (&thumbnail == &*form5.Image16 || &thumbnail == &*form5.ucAniGIF1)
+    return QStringLiteral("GIF Files|*.gif");
+  if (&thumbnail == &*form5.Image4) return QStringLiteral("Image Files|*.bmp;*.jpg;*.gif");
+  return textureSlot(state, thumbnail).name ? QStringLiteral("Image Files|*.bmp;*.jpg") : QString();
+}
+
 }  // namespace veneerer

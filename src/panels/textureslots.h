@@ -17,4 +17,8 @@ struct TextureSlot {
 /// The slot of that thumbnail; without a name when a click on it has no action.
 TextureSlot textureSlot(State& state, const Element& thumbnail);
 
+/// The file dialog's filter for that thumbnail, or for the frame preview; empty where a click on it opens
+/// none.
+QString textureFilter(State& state, const Element& thumbnail);
+
 }  // namespace veneerer

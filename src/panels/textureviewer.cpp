@@ -7,14 +7,6 @@
 
 namespace veneerer {
 
-namespace {
-
-const QString kPictures = QStringLiteral("Image Files|*.bmp;*.jpg");
-const QString kLogoPictures = QStringLiteral("Image Files|*.bmp;*.jpg;*.gif");
-const QString kFrames = QStringLiteral("GIF Files|*.gif");
-
-}  // namespace
-
 TextureViewer::TextureViewer(State& state, const Platform& platform) : state_(state), platform_(platform) {
   Switchboard& board = state.board;
   Form5& form5 = state.form5;
@@ -46,7 +38,7 @@ void TextureViewer::chooseTexture(Element& thumbnail) {
   const TextureSlot slot = textureSlot(state_, thumbnail);
   if (!slot.name) return;
   QString name;
-  const Picture picture = ask(&thumbnail == &*state_.form5.Image4 ? kLogoPictures : kPictures, name);
+  const Picture picture = ask(textureFilter(state_, thumbnail), name);
   if (picture.isNull()) return;
   thumbnail.set(Property::Picture, picture);
   for (Element* element : slot.canvas) element->set(Property::Picture, picture);
@@ -57,7 +49,7 @@ void TextureViewer::chooseFrame() {
   const int row = state_.form5.Combo1->listIndex();
   if (row < 0 || row >= state_.names.AlbumFrameName.bound()) return;
   QString name;
-  const Picture picture = ask(kFrames, name);
+  const Picture picture = ask(textureFilter(state_, *state_.form5.ucAniGIF1), name);
   if (picture.isNull()) return;
   state_.form1.ucAniGIF1[row].setPicture(picture);
   state_.form5.ucAniGIF1->setPicture(picture);

@@ -1,5 +1,9 @@
 #include "platform/platform.h"
 
+#include <QStringList>
+#include <algorithm>
+#include <utility>
+
 #include "elements/numbers.h"
 #include "elements/printable.h"
 
@@ -28,6 +32,17 @@ QImage decodeAside(const Platform& platform, const Picture& picture) {
 
 std::optional<std::int32_t> PixelsToTwips(const Screen& screen, double pixels, Axis axis) {
   return toWhole(pixels * 1440 / (axis == Axis::X ? screen.dpiX : screen.dpiY));
+}
+
+QString Dialogs::chooseFile(const QString& filter) {
+  return givenFile_.isEmpty() ? showFileDialog(filter) : std::exchange(givenFile_, QString());
+}
+
+bool fitsFilter(const QString& filter, const QString& path) {
+  const QStringList patterns = filter.section(u'|', 1).split(u';', Qt::SkipEmptyParts);
+  return std::ranges::any_of(patterns, [&](const QString& pattern) {
+    return path.endsWith(QStringView(pattern).mid(1), Qt::CaseInsensitive);
+  });
 }
 
 }  // namespace veneerer

@@ -25,7 +25,9 @@ public:
   bool ask(const QString& title, const QString& text);
   /// A file dialog. The filter reads "Image Files|*.bmp;*.jpg". The full name of the chosen file, empty on
   /// cancel.
-  virtual QString chooseFile(const QString& filter) = 0;
+  QString chooseFile(const QString& filter);
+  /// That file answers the next file dialog, which isn't shown; an empty name takes it back.
+  void giveFile(const QString& path) { givenFile_ = path; }
   /// A colour dialog that opens on that plain colour (0x00BBGGRR); nothing on cancel. The table of custom
   /// colours lasts as long as the program runs.
   virtual std::optional<Colour> chooseColour(Colour initial) = 0;
@@ -35,7 +37,13 @@ public:
 private:
   virtual void showMessage(const QString& title, const QString& text) = 0;
   virtual bool showQuestion(const QString& title, const QString& text) = 0;
+  virtual QString showFileDialog(const QString& filter) = 0;
+
+  QString givenFile_;
 };
+
+/// Whether the file's name has an ending of that filter, in any case.
+bool fitsFilter(const QString& filter, const QString& path);
 
 /// The screen that the program stands on.
 struct Screen {

@@ -20,7 +20,7 @@ bool ScriptedDialogs::showQuestion(const QString& title, const QString& text) {
   return isOk;
 }
 
-QString ScriptedDialogs::chooseFile(const QString& filter) {
+QString ScriptedDialogs::showFileDialog(const QString& filter) {
   filters.append(filter);
   return taken(files, QString(), QStringLiteral("the file dialog finds no answer"));
 }

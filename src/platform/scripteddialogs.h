@@ -38,13 +38,13 @@ public:
   QList<Message> messages;  ///< every box shown, questions included
   QStringList filters;      ///< of the file dialogs that were opened
 
-  QString chooseFile(const QString& filter) override;
   std::optional<Colour> chooseColour(Colour initial) override;
   std::optional<FontChoice> chooseFont(const FontChoice& initial) override;
 
 private:
   void showMessage(const QString& title, const QString& text) override;
   bool showQuestion(const QString& title, const QString& text) override;
+  QString showFileDialog(const QString& filter) override;
 
   template <class T>
   T taken(QQueue<T>& queue, const T& otherwise, const QString& what);

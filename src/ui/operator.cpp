@@ -122,6 +122,22 @@ void Operator::takeInHand(const QString& skinName) {
   act([&] { designer_.reload(skinName); });
 }
 
+void Operator::apply(const Remedy& remedy) {
+  act([&] { designer_.apply(remedy); });
+}
+
+void Operator::drop(Element& element, const QString& path) {
+  act([&] { designer_.drop(element, path); });
+}
+
+void Operator::readAnew(const QSet<QString>& paths) {
+  designer_.readAnew(paths);
+}
+
+void Operator::reload() {
+  act([&] { designer_.reload(state().form4.Combo3->text()); });
+}
+
 void Operator::fillFonts() {
   designer_.fillFonts();
 }

@@ -56,6 +56,14 @@ public:
   void align(AlignTo line);
   void distribute(Along along);
   void makeSameSize(Sides sides);
+  void apply(const Remedy& remedy);
+  bool takesPicture(Element& element, const QString& path) { return designer_.takesPicture(element, path); }
+  /// A picture file is dropped on the element.
+  void drop(Element& element, const QString& path);
+  /// Other programs wrote these files.
+  void readAnew(const QSet<QString>& paths);
+  /// Reads the record files of the Skin in hand again.
+  void reload();
   OverlaySelection& overlay() { return designer_.overlay(); }
   /// The next press on the canvas picks the colour that is seen there, and is no press.
   void pickColour(std::function<void(Colour)> picked) { Q_EMIT pickingColour(std::move(picked)); }

@@ -54,7 +54,7 @@ bool QtDialogs::showQuestion(const QString& title, const QString& text) {
   return runBox(title, text, QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel);
 }
 
-QString QtDialogs::chooseFile(const QString& filter) {
+QString QtDialogs::showFileDialog(const QString& filter) {
   const QString file =
       runPictureDialog(pictureFolder(skin_(), lastFolder_), dialogFilter(filter), dialogParent());
   if (!file.isEmpty()) lastFolder_ = QFileInfo(file).path();

@@ -17,13 +17,13 @@ public:
   /// given before the first file dialog.
   void setSkin(std::function<SkinFolder()> skin) { skin_ = std::move(skin); }
 
-  QString chooseFile(const QString& filter) override;
   std::optional<Colour> chooseColour(Colour initial) override;
   std::optional<FontChoice> chooseFont(const FontChoice& initial) override;
 
 private:
   void showMessage(const QString& title, const QString& text) override;
   bool showQuestion(const QString& title, const QString& text) override;
+  QString showFileDialog(const QString& filter) override;
 
   std::function<SkinFolder()> skin_;
   QString lastFolder_;
