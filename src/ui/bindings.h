@@ -19,10 +19,13 @@
 
 namespace veneerer {
 
+class DiskFollower;
+
 /// What every window is made with.
 struct Ui {
   Operator& hands;
   PictureFetcher& pictures;
+  DiskFollower& disk;
 };
 
 // The caption of a window's control shows "&&" as "&". Element captions are never rich text.

@@ -5,13 +5,17 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 #include <optional>
 
 #include "canvas/screens.h"
 #include "canvas/sections.h"
 #include "painting/canvassize.h"
+#include "ui/badge.h"
 #include "ui/canvasaccess.h"
+#include "ui/diskfollower.h"
 #include "ui/overlayhand.h"
+#include "ui/picturedrop.h"
 
 namespace veneerer {
 
@@ -64,6 +68,7 @@ std::optional<QPoint> directionOf(int key) {
 
 CanvasWidget::CanvasWidget(const Ui& ui)
     : hands_(ui.hands),
+      disk_(ui.disk),
       state_(ui.hands.state()),
       scale_(1 / ui.hands.screen().twipsPerPixelX(), 1 / ui.hands.screen().twipsPerPixelY()),
       surface_(*this, state_.form1, scale_),
@@ -85,6 +90,12 @@ CanvasWidget::CanvasWidget(const Ui& ui)
   connect(&hands_, &Operator::selected, this, [this] { tellSelected(*this); });
   new OverlayHand(hands_, *this);
   connect(&ui.pictures, &PictureFetcher::fetched, this, &CanvasWidget::pictureFetched);
+  connect(&disk_, &DiskFollower::missingChanged, this, &CanvasWidget::scheduleRepaint);
+  // Where nothing stands, the backdrop of all screens is.
+  takePictures(*this, hands_, [this](QPointF place) {
+    Element* element = elementAt(place);
+    return element ? element : &state_.form1;
+  });
 }
 
 QSize CanvasWidget::sizeHint() const {
@@ -198,8 +209,19 @@ QList<QRect> CanvasWidget::selectedOutlines() const {
   return outlines;
 }
 
+QList<QRect> CanvasWidget::badges() const {
+  QList<QRect> badges;
+  for (const Element* element : disk_.missing())
+    if (&element->window() == &state_.form1 && element->family() && isShown(*element))
+      badges.append(badgeRect(placeOf(*element)));
+  // A set has no order, and marks are compared.
+  std::ranges::sort(badges, {}, [](const QRect& badge) { return std::pair(badge.y(), badge.x()); });
+  return badges;
+}
+
 CanvasMarks CanvasWidget::marks() const {
   CanvasMarks made;
+  made.badges = badges();
   made.selected = selectedOutlines();
   made.band = band_;
   const Element* element = outlined();

@@ -84,6 +84,7 @@ private:
   const Element* outlined() const;
   QRect outlineOf(const Element* element) const;
   QList<QRect> selectedOutlines() const;
+  QList<QRect> badges() const;
   CanvasMarks marks() const;
   void paintOverlay(QPainter& painter, const QRect& exposed) const;
   Element* sizable() const;
@@ -98,6 +99,7 @@ private:
   QPointF inside(const Element& element, QPointF place) const;
 
   Operator& hands_;
+  const DiskFollower& disk_;
   State& state_;
   CanvasScale scale_;
   CanvasSurface surface_;

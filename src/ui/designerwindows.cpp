@@ -1,13 +1,15 @@
 #include "ui/designerwindows.h"
 
 #include <QScreen>
+#include <QStatusBar>
 #include <QUndoView>
 
 #include "elements/printable.h"
 #include "ui/buttonsettingswindow.h"
 #include "ui/inspector.h"
 #include "ui/outlinepanel.h"
-#include "ui/problemspanel.h"
+#include "ui/problemscount.h"
+#include "ui/reloadbutton.h"
 #include "ui/screenspanel.h"
 #include "ui/settingswindow.h"
 #include "ui/texturewindow.h"
@@ -28,7 +30,13 @@ QString mainTitle(const QString& skinName, const QString& caption) {
 }  // namespace
 
 DesignerWindows::DesignerWindows(Designer& designer)
-    : hands_(designer), pictures_(hands_), ui_{hands_, pictures_}, splash_(ui_), chooser_(ui_), canvas_(ui_) {
+    : hands_(designer),
+      pictures_(hands_),
+      disk_(hands_, pictures_),
+      ui_{hands_, pictures_, disk_},
+      splash_(ui_),
+      chooser_(ui_),
+      canvas_(ui_) {
   State& state = designer.state();
   bind(state.frmSplash, splash_, OnClose::Hide);
   // The splash stays up until a Skin is loaded.
@@ -42,7 +50,10 @@ DesignerWindows::DesignerWindows(Designer& designer)
   addPanel(state.form2, new ButtonSettingsWindow(ui_), "&Button Settings", Qt::Key_F2);
   addPanel("inspector", new Inspector(ui_), "&Inspector", Qt::Key_F7);
   addPanel("outline", new OutlinePanel(ui_), "&Outline", Qt::Key_F3);
-  addPanel("problems", new ProblemsPanel(ui_), "&Problems", Qt::Key_F9);
+  auto* problems = new ProblemsPanel(ui_);
+  addPanel("problems", problems, "&Problems", Qt::Key_F9);
+  canvas_.statusBar()->insertPermanentWidget(1, new ReloadButton(hands_, disk_));
+  canvas_.statusBar()->insertPermanentWidget(1, new ProblemsCount(*problems));
   addHistory();
   addPanel("screens", new ScreensPanel(ui_), "&Screens", Qt::Key_F12);
 }

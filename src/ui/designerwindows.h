@@ -3,6 +3,7 @@
 
 #include "ui/canvaswindow.h"
 #include "ui/chooserwindow.h"
+#include "ui/diskfollower.h"
 #include "ui/splashwindow.h"
 #include "ui/windowbinding.h"
 
@@ -22,6 +23,7 @@ private:
 
   Operator hands_;
   PictureFetcher pictures_;
+  DiskFollower disk_;
   Ui ui_;
   SplashWindow splash_;
   ChooserWindow chooser_;

@@ -2,15 +2,39 @@
 
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "canvas/description.h"
 #include "canvas/sections.h"
 #include "ui/colourmenu.h"
+#include "ui/fieldnote.h"
 #include "ui/layouts.h"
 
 namespace veneerer {
+
+namespace {
+
+// Tells what would become of a caption while it is being typed.
+class CaptionDelegate : public QStyledItemDelegate {
+public:
+  explicit CaptionDelegate(const InspectorModel& model, QObject* parent)
+      : QStyledItemDelegate(parent), model_(model) {}
+
+  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const override {
+    QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+    auto* field = qobject_cast<QLineEdit*>(editor);
+    if (field && model_.propertyAt(index.row()) == Property::Caption) new FieldNote(*field);
+    return editor;
+  }
+
+private:
+  const InspectorModel& model_;
+};
+
+}  // namespace
 
 Inspector::Inspector(const Ui& ui)
     : hands_(ui.hands),
@@ -26,6 +50,7 @@ Inspector::Inspector(const Ui& ui)
   title_->setTextFormat(Qt::PlainText);
   title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   table_->setModel(&model_);
+  table_->setItemDelegate(new CaptionDelegate(model_, this));
   table_->setAccessibleName(QStringLiteral("Properties"));
   table_->setToolTip(QStringLiteral("Type a value to set it; click a colour's name to choose a colour"));
   table_->setSelectionMode(QAbstractItemView::SingleSelection);

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "painting/hittest.h"
+#include "ui/badge.h"
 #include "ui/handles.h"
 
 namespace veneerer {
@@ -97,12 +98,14 @@ QRegion CanvasMarks::region() const {
   for (const QRect& each : selected) region += frame(each);
   region += reach(band);
   for (const QRect& handle : handles) region += reach(handle);
+  for (const QRect& badge : badges) region += reach(badge);
   for (const QLine& line : lines) region += reach(boundsOf(line));
   for (const Way& way : ways) region += QRegion(reach(boundsOf(way.line))) + reach(labelRect(way));
   return region;
 }
 
 void CanvasMarks::paint(QPainter& painter) const {
+  for (const QRect& badge : badges) paintBadge(painter, badge);
   painter.setBrush(Qt::NoBrush);
   if (!hover.isNull()) {
     painter.setPen(QPen(kHoverColour, 1));

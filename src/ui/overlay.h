@@ -31,6 +31,7 @@ struct CanvasMarks {
   QList<QRect> handles;   ///< of the outline
   QList<QLine> lines;     ///< on which edges and centres agree
   QList<Way> ways;        ///< to the next neighbours
+  QList<QRect> badges;    ///< of what misses its picture
 
   bool operator==(const CanvasMarks&) const = default;
 

@@ -3,7 +3,10 @@
 #include <QPainter>
 
 #include "painting/scaledimages.h"
+#include "ui/badge.h"
+#include "ui/diskfollower.h"
 #include "ui/frames.h"
+#include "ui/picturedrop.h"
 
 namespace veneerer {
 
@@ -13,9 +16,12 @@ constexpr QSize kThumbnail(100, 60);
 
 }  // namespace
 
-Thumbnail::Thumbnail(const Ui& ui, Element& element) : element_(element), pictures_(ui.pictures) {
+Thumbnail::Thumbnail(const Ui& ui, Element& element)
+    : element_(element), pictures_(ui.pictures), disk_(ui.disk) {
   bindPainted(ui, element, *this);
   connect(&watcher_, &QFutureWatcherBase::finished, this, &Thumbnail::fetched);
+  connect(&ui.disk, &DiskFollower::missingChanged, this, qOverload<>(&QWidget::update));
+  takePictures(*this, ui.hands, [&element](QPointF) { return &element; });
 }
 
 QSize Thumbnail::sizeHint() const {
@@ -46,6 +52,7 @@ void Thumbnail::paintEvent(QPaintEvent*) {
     painter.setPen(palette().color(QPalette::Text));
     painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("No picture"));
   }
+  if (disk_.misses(element_)) paintBadge(painter, badgeRect(rect()));
   paintFrame(painter, *this);
 }
 

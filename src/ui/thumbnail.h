@@ -33,6 +33,7 @@ private:
 
   Element& element_;
   PictureFetcher& pictures_;
+  const DiskFollower& disk_;
   QFutureWatcher<QImage> watcher_;
   QImage shown_;            ///< no larger than the thumbnail, null while nothing can be shown
   quintptr shownId_ = 0;    ///< the picture that shown_ was made of

@@ -5,6 +5,7 @@
 #include "canvas/description.h"
 #include "canvas/sections.h"
 #include "tools/service.h"
+#include "ui/fieldnote.h"
 #include "ui/layouts.h"
 #include "ui/rescaleoutlook.h"
 #include "ui/swatch.h"
@@ -52,6 +53,7 @@ QLayout* captionLayout(const Ui& ui, Form6& form) {
   auto* row = new QHBoxLayout;
   QLineEdit* caption = makeField(ui, *form.Text1);
   caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  new FieldNote(*caption);
   row->addWidget(makeLabel(QStringLiteral("Button Caption:"), caption));
   row->addWidget(caption, 1);
   return row;

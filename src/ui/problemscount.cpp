@@ -1,0 +1,29 @@
+#include "ui/problemscount.h"
+
+#include <QStyle>
+
+namespace veneerer {
+
+ProblemsCount::ProblemsCount(const ProblemsPanel& panel) {
+  setAutoRaise(true);
+  setFocusPolicy(Qt::TabFocus);
+  setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  setToolTip(QStringLiteral("What is wrong or risky in this Skin, hints apart; a click shows all of it"));
+  connect(&panel, &ProblemsPanel::counted, this, &ProblemsCount::tell);
+  connect(this, &QToolButton::clicked, this, [dock = panel.parentWidget()] {
+    dock->show();
+    dock->raise();
+    dock->activateWindow();
+  });
+  hide();
+}
+
+void ProblemsCount::tell(int problems) {
+  setIcon(problems > 0 ? style()->standardIcon(QStyle::SP_MessageBoxWarning) : QIcon());
+  setText(problems == 0   ? QStringLiteral("No problems")
+          : problems == 1 ? QStringLiteral("1 problem")
+                          : QStringLiteral("%1 problems").arg(problems));
+  show();
+}
+
+}  // namespace veneerer
