@@ -95,14 +95,17 @@ QString CoverLayouts::nameToWrite(const SkinFolder& target) const {
   return name;
 }
 
+void CoverLayouts::write(const SkinFolder& target, std::vector<NewFile> files) {
+  sayWritten(state_.notes, target.path(), writeRecordFiles(platform_.disk, target.path(), std::move(files)));
+}
+
 void CoverLayouts::saveNamed() {
   const SkinFolder target = folder();
   const QString name = nameToWrite(target);
   if (name.isEmpty()) return;
   const Layout frames = framesFile(state_);
   writeOrTell(platform_.dialogs, QString::fromLatin1(kSaveTitle), [&] {
-    writeRecordFiles(platform_.disk, target.path(),
-                     {compose(name), {frames.fileName(), composeRecords(frames)}});
+    write(target, {compose(name), {frames.fileName(), composeRecords(frames)}});
   });
   listFiles();
 }
@@ -119,7 +122,7 @@ void CoverLayouts::offerSave(const SkinFolder& target) {
                              QStringLiteral("Do you want to save the COVER Layout Too?")))
     return;
   const QString name = nameToWrite(target);
-  if (!name.isEmpty()) writeRecordFiles(platform_.disk, target.path(), {compose(name)});
+  if (!name.isEmpty()) write(target, {compose(name)});
   listFiles();
 }
 

@@ -43,6 +43,8 @@ private:
   /// The cover file that Text2 names. Empty when it names none or the operator keeps the one that is there.
   QString nameToWrite(const SkinFolder& target) const;
   NewFile compose(const QString& name);
+  /// Replaces the files together and tells it in a note.
+  void write(const SkinFolder& target, std::vector<NewFile> files);
   void showCount();
   void applyBoxes();
 

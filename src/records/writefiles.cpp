@@ -2,12 +2,24 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
 
+#include "files/plainfile.h"
 #include "records/layoutreader.h"
 
 namespace veneerer {
 
 namespace {
+
+const QString kSaved = QStringLiteral("Saved in ");
+
+int changedOf(const QString& folder, const std::vector<NewFile>& files) {
+  const auto isChanged = [&](const NewFile& file) {
+    const FileContent before = readPlainFile(QDir(folder).filePath(file.name), kMostRecordBytes);
+    return !before.isRead() || before.bytes != file.bytes;
+  };
+  return static_cast<int>(std::ranges::count_if(files, isChanged));
+}
 
 // What no load would take isn't ours to replace.
 void refuseLarge(const QString& folder, const std::vector<NewFile>& files) {
@@ -19,9 +31,22 @@ void refuseLarge(const QString& folder, const std::vector<NewFile>& files) {
 
 }  // namespace
 
-void writeRecordFiles(Disk& disk, const QString& folder, std::vector<NewFile> files) {
+WrittenFiles writeRecordFiles(Disk& disk, const QString& folder, std::vector<NewFile> files) {
   refuseLarge(folder, files);
+  const WrittenFiles written{static_cast<int>(files.size()), changedOf(folder, files)};
   writeFiles(disk, folder, std::move(files));
+  return written;
+}
+
+void sayWritten(Notes& notes, const QString& folder, const WrittenFiles& written) {
+  const QString files =
+      written.all == 1 ? QStringLiteral("1 file") : QStringLiteral("%1 files").arg(written.all);
+  const QString changed = written.changed == 0 ? QStringLiteral("none") : QString::number(written.changed);
+  notes.say(kSaved + QStringLiteral("%1: %2, %3 changed.").arg(QFileInfo(folder).fileName(), files, changed));
+}
+
+bool isSavedNote(const QString& note) {
+  return note.startsWith(kSaved);
 }
 
 void writeFiles(Disk& disk, const QString& folder, std::vector<NewFile> files) {

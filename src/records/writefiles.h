@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include "elements/notes.h"
 #include "files/replacefiles.h"
 #include "platform/platform.h"
 #include "records/recorderror.h"
@@ -21,8 +22,20 @@ public:
 /// RecordError when writing fails all the same: each file is wholly old or wholly new then.
 void writeFiles(Disk& disk, const QString& folder, std::vector<NewFile> files);
 
+/// Files that were written together.
+struct WrittenFiles {
+  int all = 0;
+  int changed = 0;  ///< of these, how many hold other bytes than before
+};
+
 /// The same for record and cover files, of which one above kMostRecordBytes isn't replaced.
-void writeRecordFiles(Disk& disk, const QString& folder, std::vector<NewFile> files);
+WrittenFiles writeRecordFiles(Disk& disk, const QString& folder, std::vector<NewFile> files);
+
+/// Says what a save wrote into that Skin's folder: "Saved in Mine: 59 files, 3 changed."
+void sayWritten(Notes& notes, const QString& folder, const WrittenFiles& written);
+
+/// Whether a note is such a one.
+bool isSavedNote(const QString& note);
 
 /// Runs a command that writes. False when it was refused: a box of that title has told why, behind that
 /// sentence.

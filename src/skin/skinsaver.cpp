@@ -16,13 +16,14 @@ std::vector<NewFile> composedRecords(State& state) {
 }
 
 void saveRecords(State& state, Disk& disk, const SkinFolder& folder) {
-  writeRecordFiles(disk, folder.path(), composedRecords(state));
+  sayWritten(state.notes, folder.path(), writeRecordFiles(disk, folder.path(), composedRecords(state)));
 }
 
 void saveLockedButtons(State& state, const Platform& platform, const SkinFolder& folder) {
   const Layout layout = lockedButtonFile(state);
   writeOrTell(platform.dialogs, state.form2.caption(), [&] {
-    writeRecordFiles(platform.disk, folder.path(), {{layout.fileName(), composeRecords(layout)}});
+    sayWritten(state.notes, folder.path(),
+               writeRecordFiles(platform.disk, folder.path(), {{layout.fileName(), composeRecords(layout)}}));
   });
 }
 

@@ -14,12 +14,12 @@ namespace veneerer {
 std::vector<NewFile> composedRecords(State& state);
 
 /// Composes every record file, from menu.ini to the twins and locked_button.ini, and replaces all of them in
-/// that folder. No question is asked and no copy is kept. Throws WriteRefused when one of them can't be
-/// written, and RecordError when writing fails all the same.
+/// that folder, which a note tells. No question is asked and no copy is kept. Throws WriteRefused when one of
+/// them can't be written, and RecordError when writing fails all the same.
 void saveRecords(State& state, Disk& disk, const SkinFolder& folder);
 
-/// Writes locked_button.ini alone. What stands against it is told in a box. Throws RecordError when writing
-/// fails all the same.
+/// Writes locked_button.ini alone, which a note tells. What stands against it is told in a box. Throws
+/// RecordError when writing fails all the same.
 void saveLockedButtons(State& state, const Platform& platform, const SkinFolder& folder);
 
 }  // namespace veneerer

@@ -21,6 +21,7 @@
 #include "ui/mockupcommands.h"
 #include "ui/opencommand.h"
 #include "ui/plaintext.h"
+#include "ui/savednote.h"
 #include "ui/tryit.h"
 #include "ui/viewcommands.h"
 
@@ -58,7 +59,9 @@ CanvasWindow::CanvasWindow(const Ui& ui)
   setCentralWidget(view_);
   statusBar()->addWidget(status_, 1);
   statusBar()->addPermanentWidget(makeZoomButton(*view_));
-  state_.notes.setListener([this](const QString& note) { status_->tell(note); });
+  state_.notes.setListener([this](const QString& note) {
+    status_->tell(shownNote(note, ui_.hands.skinFolder().path(), QTime::currentTime()));
+  });
   connect(&view_->canvas(), &CanvasWidget::pointed, this, &CanvasWindow::pointed);
   addInHandLine();
   setDockNestingEnabled(true);

@@ -156,6 +156,25 @@ TEST_F(Saving, WhatStandsUnderAFilesNameIsToldAndNothingIsWritten) {
   EXPECT_EQ(files().size(), 59) << "and work goes on";
 }
 
+TEST_F(Saving, ANoteTellsHowManyFilesWereWritten) {
+  for (const Command& command : commands()) click(command);
+  const auto saved = [&](const Command& command) {
+    click(command);
+    return state().notes.texts().last().toStdString();
+  };
+  const std::vector<Command> all = commands();
+  EXPECT_EQ(saved(all[2]), "Saved in S: 59 files, none changed.");
+  EXPECT_EQ(saved(all[1]), "Saved in S: 2 files, none changed.");
+  EXPECT_EQ(saved(all[0]), "Saved in S: 1 file, none changed.");
+  form1().Label39->setFontSize(31);
+  EXPECT_EQ(saved(all[2]), "Saved in S: 59 files, 2 changed.");
+  const qsizetype notes = state().notes.texts().size();
+  QFile::remove(path("menu_v2.ini"));
+  QDir().mkpath(path("menu_v2.ini"));
+  click(all[2]);
+  EXPECT_EQ(state().notes.texts().size(), notes) << "a save that is refused says nothing of the kind";
+}
+
 TEST_F(Saving, AFolderThatIsGoneIsToldAndWorkGoesOn) {
   QDir(path({})).removeRecursively();
   for (const Command& command : commands()) {
