@@ -1,6 +1,6 @@
 #include "skintool/diffcommand.h"
 
-#include "comparison/comparison.h"
+#include "comparison/differencewords.h"
 #include "elements/printable.h"
 #include "skintool/batchskin.h"
 #include "skintool/output.h"
@@ -9,38 +9,10 @@ namespace veneerer {
 
 namespace {
 
-/// Code points of a line that are printed; no image reference of use is longer.
-constexpr int kMostShown = 260;
-
 struct SideNames {
   QString first;
   QString second;
 };
-
-QString nameOf(LineEnd end) {
-  switch (end) {
-    case LineEnd::None:
-      return QStringLiteral("no line end");
-    case LineEnd::Return:
-      return QStringLiteral("CR");
-    case LineEnd::Feed:
-      return QStringLiteral("LF");
-    case LineEnd::ReturnFeed:
-      break;
-  }
-  return QStringLiteral("CR LF");
-}
-
-/// Numbers stand between blanks in the files, which are shown only where they are all that differs.
-QString shown(const std::optional<TextLine>& line, const std::optional<TextLine>& other) {
-  if (!line) return QStringLiteral("(no line)");
-  const QString text = line->text.trimmed();
-  const bool isPlain = !text.isEmpty() && (!other || text != other->text.trimmed());
-  if (isPlain) return excerpt(text, kMostShown);
-  const QString quoted = u'"' + excerpt(line->text, kMostShown) + u'"';
-  const bool isSameText = other && line->text == other->text;
-  return isSameText ? quoted + u' ' + nameOf(line->end) : quoted;
-}
 
 QString subjectOf(const Difference& difference) {
   if (difference.element.isEmpty()) return QStringLiteral("text");
@@ -51,8 +23,8 @@ QString subjectOf(const Difference& difference) {
 QString lineText(const Difference& difference) {
   return QStringLiteral("%1:%2: %3: ")
              .arg(difference.file, QString::number(difference.line), subjectOf(difference)) +
-         shown(difference.before, difference.after) + QStringLiteral(" -> ") +
-         shown(difference.after, difference.before);
+         lineWords(difference.before, difference.after) + QStringLiteral(" -> ") +
+         lineWords(difference.after, difference.before);
 }
 
 QString textOf(const Difference& difference, const SideNames& names) {

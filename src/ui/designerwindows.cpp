@@ -6,6 +6,7 @@
 
 #include "elements/printable.h"
 #include "ui/buttonsettingswindow.h"
+#include "ui/comparepanel.h"
 #include "ui/inspector.h"
 #include "ui/outlinepanel.h"
 #include "ui/problemscount.h"
@@ -56,6 +57,7 @@ DesignerWindows::DesignerWindows(Designer& designer)
   canvas_.statusBar()->insertPermanentWidget(1, new ProblemsCount(*problems));
   addHistory();
   addPanel("screens", new ScreensPanel(ui_), "&Screens", Qt::Key_F12);
+  addPanel("compare", new ComparePanel(ui_), "Co&mpare", Qt::Key_F10);
 }
 
 void DesignerWindows::bindCanvas(State& state) {

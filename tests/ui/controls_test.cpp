@@ -37,7 +37,7 @@ protected:
 };
 
 TEST_F(Controls, HaveToolTips) {
-  ASSERT_EQ(panels().size(), 9);
+  ASSERT_EQ(panels().size(), 10);
   int found = 0;
   for (const QDockWidget* panel : panels())
     for (const QWidget* control : controlsOf(*panel)) {

@@ -1,0 +1,183 @@
+#include "ui/comparepanel.h"
+
+#include <QHeaderView>
+#include <QSet>
+#include <QVBoxLayout>
+
+#include "canvas/description.h"
+#include "comparison/differencewords.h"
+#include "elements/printable.h"
+#include "records/recorderror.h"
+#include "ui/layouts.h"
+
+namespace veneerer {
+
+namespace {
+
+QString counted(qsizetype count, const char* one, const char* many) {
+  return QString::number(count) + u' ' + QString::fromLatin1(count == 1 ? one : many);
+}
+
+QString countedIn(const Differences& differences) {
+  QSet<QString> files;
+  for (const Difference& difference : differences) files.insert(difference.file);
+  return QStringLiteral("%1 in %2")
+      .arg(counted(differences.size(), "difference", "differences"), counted(files.size(), "file", "files"));
+}
+
+QString nameOf(const SkinFolder& folder) {
+  return shownText(folder.path().section(u'/', -1));
+}
+
+}  // namespace
+
+ComparePanel::ComparePanel(const Ui& ui)
+    : hands_(ui.hands),
+      model_(ui.hands.state()),
+      other_(new QComboBox),
+      compare_(new TightButton),
+      rows_(new QTreeView),
+      told_(new QLabel),
+      pictures_(new QWidget),
+      before_(new SmallPicture(ui, QStringLiteral("The picture on the first side"))),
+      after_(new SmallPicture(ui, QStringLiteral("The picture on the second side"))),
+      folders_{SkinFolder(QString()), SkinFolder(QString())} {
+  setWindowTitle(QStringLiteral("Compare"));
+  auto* column = compact(new QVBoxLayout(this));
+  addTop(column);
+  addRows(column);
+  addPictures(column);
+  clear();
+  new Watch(*hands_.state().form4.Combo3, this, [this] {
+    listSkins();
+    if (hands_.skinFolder().path() != folders_[0].path()) clear();
+  });
+}
+
+void ComparePanel::addTop(QVBoxLayout* column) {
+  other_->setAccessibleName(QStringLiteral("Compare with"));
+  other_->setToolTip(QStringLiteral("What the Skin in hand is compared with"));
+  other_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  compare_->setText(QStringLiteral("&Compare"));
+  compare_->setToolTip(QStringLiteral("List what differs; nothing is changed"));
+  connect(compare_, &QPushButton::clicked, this, &ComparePanel::compare);
+  auto* row = new QHBoxLayout;
+  row->addWidget(other_, 1);
+  row->addWidget(compare_);
+  column->addLayout(row);
+}
+
+void ComparePanel::addRows(QVBoxLayout* column) {
+  rows_->setModel(&model_);
+  rows_->setRootIsDecorated(false);
+  rows_->setUniformRowHeights(true);
+  rows_->setAllColumnsShowFocus(true);
+  rows_->setAccessibleName(QStringLiteral("Differences"));
+  rows_->setToolTip(QStringLiteral("Click a difference to select its element; Enter goes to its screen"));
+  rows_->header()->setDefaultSectionSize(fontMetrics().horizontalAdvance(QStringLiteral("TRACK 10 (10)  ")));
+  connect(rows_, &QTreeView::clicked, this, &ComparePanel::select);
+  connect(rows_, &QTreeView::activated, this, &ComparePanel::goTo);
+  told_->setTextFormat(Qt::PlainText);
+  told_->setWordWrap(true);
+  column->addWidget(rows_, 1);
+  column->addWidget(told_);
+}
+
+void ComparePanel::addPictures(QVBoxLayout* column) {
+  auto* row = new QHBoxLayout(pictures_);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(before_, 1);
+  row->addWidget(after_, 1);
+  column->addWidget(pictures_);
+}
+
+void ComparePanel::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  listSkins();
+}
+
+void ComparePanel::listSkins() {
+  if (!isVisible()) return;
+  const QString chosen = otherSkin();
+  const QString inHand = hands_.skinFolder().path().section(u'/', -1);
+  other_->clear();
+  other_->addItem(QStringLiteral("The disk: what a save would change"));
+  for (const QString& skin : SkinsRoot(hands_.platform().folder).skins())
+    if (skin != inHand) other_->addItem(shownText(skin), skin);
+  if (!chosen.isEmpty()) other_->setCurrentIndex(std::max(0, other_->findData(chosen)));
+}
+
+void ComparePanel::compare() {
+  if (hands_.isActing()) return;
+  clear();
+  folders_[0] = hands_.skinFolder();
+  folders_[1] = otherSkin().isEmpty() ? folders_[0] : SkinFolder(hands_.platform().folder, otherSkin());
+  const QString first = otherSkin().isEmpty() ? QStringLiteral("On the Disk") : nameOf(folders_[0]);
+  const QString second = otherSkin().isEmpty() ? QStringLiteral("After a Save") : nameOf(folders_[1]);
+  try {
+    const Differences found = differences();
+    model_.show(found, first, second);
+    tell(found);
+  } catch (const RecordError& error) {
+    told_->setText(QStringLiteral("Nothing is compared. ") + error.message());
+  }
+}
+
+// What touches the elements in hand is quick; two whole Skins with their pictures may be gigabytes.
+Differences ComparePanel::differences() {
+  Differences found;
+  hands_.run([&] {
+    if (otherSkin().isEmpty())
+      found = savedDifferences(hands_.state(), folders_[0]);
+    else
+      hands_.platform().runAside(
+          [&, first = SkinFolder(folders_[0].path()), second = SkinFolder(folders_[1].path())] {
+            found = skinDifferences(first, second, hands_.screen());
+          });
+  });
+  return found;
+}
+
+void ComparePanel::tell(const Differences& differences) {
+  if (otherSkin().isEmpty())
+    return told_->setText(differences.isEmpty()
+                              ? QStringLiteral("A save would change nothing.")
+                              : QStringLiteral("A save would change it: %1.").arg(countedIn(differences)));
+  const QString unsaved =
+      hands_.history().isModified() ? QStringLiteral(" What isn't saved isn't compared.") : QString();
+  told_->setText((differences.isEmpty() ? QStringLiteral("Nothing differs") : countedIn(differences)) + u'.' +
+                 unsaved);
+}
+
+Element* ComparePanel::elementOf(const QModelIndex& index) const {
+  if (!index.isValid()) return nullptr;
+  Element* element = hands_.state().find(model_.at(index.row()).element);
+  return element && element->family() && &element->window() == &hands_.state().form1 ? element : nullptr;
+}
+
+void ComparePanel::select(const QModelIndex& index) {
+  if (Element* element = elementOf(index)) hands_.overlay().select({element});
+  showPictures(model_.at(index.row()));
+}
+
+void ComparePanel::goTo(const QModelIndex& index) {
+  if (Element* element = elementOf(index)) {
+    const int entry = entryHolding(hands_.state(), *element);
+    if (entry >= 0) hands_.choose(*hands_.state().form6.Combo6, entry);
+  }
+  select(index);
+}
+
+void ComparePanel::showPictures(const Difference& difference) {
+  const bool hasBefore = before_->show(picturePath(difference, difference.before, folders_[0]));
+  const bool hasAfter = after_->show(picturePath(difference, difference.after, folders_[1]));
+  pictures_->setVisible(hasBefore || hasAfter);
+}
+
+void ComparePanel::clear() {
+  model_.show({}, QStringLiteral("Before"), QStringLiteral("After"));
+  told_->clear();
+  pictures_->hide();
+}
+
+}  // namespace veneerer
