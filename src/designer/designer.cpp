@@ -4,6 +4,7 @@
 #include "canvas/sections.h"
 #include "design/design.h"
 #include "designer/droppedpicture.h"
+#include "designer/looktaking.h"
 #include "designer/picturesanew.h"
 #include "designer/refusalnotes.h"
 #include "editing/setting.h"
@@ -294,6 +295,15 @@ void Designer::copyLook(const Element& from, const std::vector<Element*>& to) {
   const RefusalNotes::Command command(parts_->refusals);
   for (Element* element : to)
     if (element != &from) veneerer::copyLook(from, *element);
+}
+
+void Designer::takeLook(const QString& skinName, LookPart part) {
+  const std::optional<LookAtHand> found = fetchLook(*parts_->state, parts_->platform, skinName, part);
+  if (!found) return;
+  const QString files = found->copied.names.isEmpty() ? QString() : QStringLiteral(" (its files stay)");
+  const History::Action action(parts_->history, QStringLiteral("Look of ") + shownText(skinName) + files);
+  const RefusalNotes::Command command(parts_->refusals);
+  giveLook(*parts_->state, skinFolder(), skinName, *found);
 }
 
 void Designer::align(AlignTo line) {

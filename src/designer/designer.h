@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "canvas/mousebutton.h"
+#include "designer/takenlook.h"
 #include "editing/arranging.h"
 #include "editing/overlayselection.h"
 #include "elements/controls.h"
@@ -95,6 +96,9 @@ public:
   void setProperty(const std::vector<Element*>& elements, Property property, const Value& value);
   /// Gives these elements what they have in common of the look of that one.
   void copyLook(const Element& from, const std::vector<Element*>& to);
+  /// Gives the screen that is shown the look that it has in another Skin of the root, as one step; pictures
+  /// are copied. See lookToTake. What stands against it is told in a box, and nothing has changed.
+  void takeLook(const QString& skinName, LookPart part);
   /// Puts what is selected on the overlay in line with its first element.
   void align(AlignTo line);
   void distribute(Along along);

@@ -22,6 +22,7 @@
 #include "ui/opencommand.h"
 #include "ui/plaintext.h"
 #include "ui/savednote.h"
+#include "ui/takedialog.h"
 #include "ui/tryit.h"
 #include "ui/viewcommands.h"
 
@@ -132,6 +133,7 @@ void CanvasWindow::addEditMenu() {
   addEditCommands(*menu, ui_.hands);
   menu->addSeparator();
   addCopyScreen(*menu, ui_);
+  addTakeCommand(*menu, ui_.hands, *this);
   connect(&steps, &QUndoStack::cleanChanged, this, [this](bool isClean) { setWindowModified(!isClean); });
 }
 

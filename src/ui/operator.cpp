@@ -91,6 +91,10 @@ void Operator::copyLook(const Element& from, const std::vector<Element*>& to) {
   act([&] { designer_.copyLook(from, to); });
 }
 
+void Operator::takeLook(const QString& skinName, LookPart part) {
+  act([&] { designer_.takeLook(skinName, part); });
+}
+
 void Operator::align(AlignTo line) {
   act([&] { designer_.align(line); });
 }

@@ -1,9 +1,13 @@
-// The panel Compare.
+// The panel Compare, and what is taken from another Skin.
+#include <QDialog>
+#include <QListWidget>
+#include <QRadioButton>
 #include <QTreeView>
 
 #include "canvas/description.h"
 #include "designer/restoredstate.h"
 #include "ui/comparisonmodel.h"
+#include "ui/modal.h"
 #include "ui/smallpicture.h"
 #include "ui/uifixture.h"
 
@@ -119,6 +123,31 @@ TEST_F(Compare, WhatCantBeReadIsTold) {
     isTold = isTold || label->text().startsWith("Nothing is compared. menu_v2.ini");
   EXPECT_TRUE(isTold);
   EXPECT_EQ(rows().model()->rowCount(), 0);
+}
+
+TEST_F(Compare, TheDialogTakesTheChosenPartOfTheChosenSkin) {
+  designer->choose(*form6().Combo6, 4);
+  const float left = form1().Label9[0].left();
+  const int steps = designer->history().stack().count();
+  const test::OnModal<QDialog> dialog([&](QDialog& box) {
+    auto* skins = box.findChild<QListWidget*>();
+    EXPECT_EQ(skins->count(), 1) << "not the one in hand";
+    skins->setCurrentRow(0);
+    for (auto* part : box.findChildren<QRadioButton*>())
+      if (part->text().startsWith("&Colours")) part->click();
+    for (auto* button : box.findChildren<QPushButton*>())
+      if (button->text() == "&Take") {
+        EXPECT_TRUE(button->isDefault() && button->isEnabled());
+        button->click();
+      }
+  });
+  for (QAction* action : widget<QWidget>("Form1").findChildren<QAction*>())
+    if (action->text() == "&Take from Another Skin...") action->trigger();
+  EXPECT_TRUE(dialog.came());
+  EXPECT_EQ(designer->history().stack().count(), steps + 1);
+  EXPECT_TRUE(state().notes.texts().last().contains("is taken from T"))
+      << state().notes.texts().last().toStdString();
+  EXPECT_EQ(form1().Label9[0].left(), left);
 }
 
 }  // namespace
