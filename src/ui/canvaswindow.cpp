@@ -22,6 +22,7 @@
 #include "ui/opencommand.h"
 #include "ui/plaintext.h"
 #include "ui/savednote.h"
+#include "ui/skindrop.h"
 #include "ui/takedialog.h"
 #include "ui/tryit.h"
 #include "ui/viewcommands.h"
@@ -65,6 +66,7 @@ CanvasWindow::CanvasWindow(const Ui& ui)
   });
   connect(&view_->canvas(), &CanvasWidget::pointed, this, &CanvasWindow::pointed);
   addInHandLine();
+  new SkinDrop(ui_.hands, *this);
   setDockNestingEnabled(true);
   setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
   addFileMenu();

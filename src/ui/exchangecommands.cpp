@@ -114,20 +114,25 @@ void exportSkin(const Place& place) {
   place.say(QStringLiteral("%1 holds the Skin.").arg(file) + unsaved + leftOutNote(leftOut));
 }
 
+const QString kImport = QStringLiteral("Import Skin");
+
 void importSkin(const Place& place) {
-  const QString title = QStringLiteral("Import Skin");
-  const QString file = QFileDialog::getOpenFileName(&place.owner, title, QDir::homePath(), kArchives);
-  if (file.isEmpty()) return;
+  const QString file = QFileDialog::getOpenFileName(&place.owner, kImport, QDir::homePath(), kArchives);
+  if (!file.isEmpty()) importArchive(place.hands, place.owner, file);
+}
+
+}  // namespace
+
+void importArchive(Operator& hands, QWidget& owner, const QString& file) {
+  const Place place{hands, owner};
   QString name;
-  const bool isDone = run(place, title, [&](const GoOn& goOn) {
+  const bool isDone = run(place, kImport, [&](const GoOn& goOn) {
     name = unpackSkin(place.hands.disk(), file, place.root(), goOn);
   });
   if (!isDone) return;
   place.hands.listSkins();
   place.say(QStringLiteral("%1 is among the Skins now.").arg(name));
 }
-
-}  // namespace
 
 void addExchangeCommands(QMenu& menu, Operator& hands, QWidget& owner) {
   struct Entry {

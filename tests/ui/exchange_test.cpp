@@ -3,6 +3,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
 
 #include "ui/modal.h"
@@ -29,6 +30,20 @@ protected:
       box.accept();
     });
     trigger("Copy as &New Skin...");
+  }
+  /// Whether the main window takes these files.
+  bool drop(const QStringList& files) {
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& file : files) urls << QUrl::fromLocalFile(file);
+    data.setUrls(urls);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&widget<QWidget>("Form1"), &enter);
+    QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    event.ignore();
+    QApplication::sendEvent(&widget<QWidget>("Form1"), &event);
+    EXPECT_EQ(event.isAccepted(), enter.isAccepted());
+    return event.isAccepted();
   }
   void chooseFile(const QString& entry, const QString& path) {
     const test::OnModal<QFileDialog> dialog([&](QFileDialog& box) {
@@ -88,6 +103,19 @@ TEST_F(ExchangeMenu, AnExportedSkinIsImportedUnderItsNameOnce) {
   EXPECT_EQ(test::bytesOf(skin("S/images/a.bmp")), "picture");
   EXPECT_EQ(form4().Combo3->text(), "S");
   EXPECT_EQ(lastNote(), "S is among the Skins now.");
+}
+
+TEST_F(ExchangeMenu, ADroppedArchiveIsImportedAndNothingElseIsTaken) {
+  const QString archive = root.filePath("S.ZIP");
+  chooseFile("&Export...", archive);
+  QDir(root.path()).rename("Skins/S", "Skins/T");
+  EXPECT_FALSE(drop({root.filePath("Skins")}));
+  EXPECT_FALSE(drop({archive, archive}));
+  EXPECT_FALSE(drop({root.filePath("none.zip")}));
+  EXPECT_FALSE(drop({}));
+  EXPECT_TRUE(drop({archive}));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return lastNote() == "S is among the Skins now."; }));
+  EXPECT_TRUE(QFileInfo(skin("S")).isDir());
 }
 
 TEST(WorkWindow, TellsPlainNamesAndThatItWasGivenUp) {
