@@ -105,12 +105,15 @@ struct Designer::Parts {
 
   void save() {
     const SkinFolder skin = skinFolder();
-    const auto saveAll = [&] { saveRecords(*state, platform.disk, skin); };
+    WrittenFiles written;
+    const auto saveAll = [&] { written = saveRecords(*state, platform.disk, skin); };
     const auto saveCovers = [&] { covers.offerSave(skin); };
     if (!writeOrTell(platform.dialogs, QStringLiteral("Save Skin"), saveAll)) return;
     history.markClean();
     writeOrTell(platform.dialogs, QStringLiteral("Save Cover File"), saveCovers,
                 QStringLiteral("The record files are saved, the cover layout isn't. "));
+    // Behind the question of the covers, whose answer would end it at once.
+    sayWritten(state->notes, skin.path(), written);
   }
 
   /// The commands that do nothing but write files, and list them anew.
@@ -198,8 +201,9 @@ void Designer::save() {
 }
 
 void Designer::saveTo(const SkinFolder& folder) {
-  saveRecords(*parts_->state, parts_->platform.disk, folder);
+  const WrittenFiles written = saveRecords(*parts_->state, parts_->platform.disk, folder);
   parts_->covers.offerSave(folder);
+  sayWritten(parts_->state->notes, folder.path(), written);
 }
 
 void Designer::fillFonts() {

@@ -15,8 +15,8 @@ std::vector<NewFile> composedRecords(State& state) {
   return files;
 }
 
-void saveRecords(State& state, Disk& disk, const SkinFolder& folder) {
-  sayWritten(state.notes, folder.path(), writeRecordFiles(disk, folder.path(), composedRecords(state)));
+WrittenFiles saveRecords(State& state, Disk& disk, const SkinFolder& folder) {
+  return writeRecordFiles(disk, folder.path(), composedRecords(state));
 }
 
 void saveLockedButtons(State& state, const Platform& platform, const SkinFolder& folder) {

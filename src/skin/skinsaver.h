@@ -7,6 +7,7 @@
 #include "forms/state.h"
 #include "platform/platform.h"
 #include "platform/skinfolder.h"
+#include "records/writefiles.h"
 
 namespace veneerer {
 
@@ -14,9 +15,9 @@ namespace veneerer {
 std::vector<NewFile> composedRecords(State& state);
 
 /// Composes every record file, from menu.ini to the twins and locked_button.ini, and replaces all of them in
-/// that folder, which a note tells. No question is asked and no copy is kept. Throws WriteRefused when one of
-/// them can't be written, and RecordError when writing fails all the same.
-void saveRecords(State& state, Disk& disk, const SkinFolder& folder);
+/// that folder. No question is asked and no copy is kept. Throws WriteRefused when one of them can't be
+/// written, and RecordError when writing fails all the same.
+WrittenFiles saveRecords(State& state, Disk& disk, const SkinFolder& folder);
 
 /// Writes locked_button.ini alone, which a note tells. What stands against it is told in a box. Throws
 /// RecordError when writing fails all the same.
