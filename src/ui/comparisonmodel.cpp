@@ -33,7 +33,7 @@ QString sideText(const Difference& difference, int column) {
       return lineWords(sideOf(difference, column),
                        sideOf(difference, isBefore ? ComparisonModel::After : ComparisonModel::Before));
     case Told::Content:
-      return QStringLiteral("(the file's bytes differ)");
+      return QStringLiteral("(differs)");
     case Told::OnlyInFirst:
     case Told::OnlyInSecond:
       return isBefore == (difference.kind == Told::OnlyInFirst) ? QStringLiteral("(the file is there)")
