@@ -100,7 +100,6 @@ void CanvasWindow::addFileMenu() {
   QAction* open = addCommand(menu, QStringLiteral("&Open Skin..."), {QKeySequence::Open},
                              QStringLiteral("Choose another Skin; what isn't saved is lost"));
   makeOpenCommand(*open, ui_);
-  openDropped(*this, ui_);
   QAction* save = addCommand(menu, QStringLiteral("&Save Skin"), {QKeySequence::Save},
                              QStringLiteral("Write the record files of the Skin"));
   connect(save, &QAction::triggered, this, [this] { ui_.hands.click(*state_.form4.Command4); });

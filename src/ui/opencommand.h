@@ -1,4 +1,4 @@
-// The ways in which another Skin comes in hand: the command "Open Skin..." and a folder that is dropped.
+// The command "Open Skin...", by which another Skin comes in hand.
 #pragma once
 
 #include <QAction>
@@ -9,9 +9,5 @@ namespace veneerer {
 
 /// Opens the dialog; the chosen Skin is loaded.
 void makeOpenCommand(QAction& open, const Ui& ui);
-
-/// From now on a folder that is dropped on the window is opened when it is a Skin of the program's folder; of
-/// any other a note tells what to do.
-void openDropped(QWidget& window, const Ui& ui);
 
 }  // namespace veneerer

@@ -109,7 +109,7 @@ TEST_F(ExchangeMenu, ADroppedArchiveIsImportedAndNothingElseIsTaken) {
   const QString archive = root.filePath("S.ZIP");
   chooseFile("&Export...", archive);
   QDir(root.path()).rename("Skins/S", "Skins/T");
-  EXPECT_FALSE(drop({root.filePath("Skins")}));
+  EXPECT_FALSE(drop({root.filePath("Skins/T/images/a.bmp")}));
   EXPECT_FALSE(drop({archive, archive}));
   EXPECT_FALSE(drop({root.filePath("none.zip")}));
   EXPECT_FALSE(drop({}));
