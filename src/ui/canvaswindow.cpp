@@ -98,7 +98,7 @@ void CanvasWindow::addInHandLine() {
 void CanvasWindow::addFileMenu() {
   QMenu* menu = menuBar()->addMenu(QStringLiteral("&File"));
   QAction* open = addCommand(menu, QStringLiteral("&Open Skin..."), {QKeySequence::Open},
-                             QStringLiteral("Choose another Skin; what isn't saved is lost"));
+                             QStringLiteral("Choose another Skin; Undo leads back"));
   makeOpenCommand(*open, ui_);
   QAction* save = addCommand(menu, QStringLiteral("&Save Skin"), {QKeySequence::Save},
                              QStringLiteral("Write the record files of the Skin"));

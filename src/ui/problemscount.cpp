@@ -15,6 +15,9 @@ ProblemsCount::ProblemsCount(const ProblemsPanel& panel) {
     dock->raise();
     dock->activateWindow();
   });
+  // It comes once there was time to judge; the canvas isn't to jump by it.
+  tell(1);
+  setMinimumHeight(sizeHint().height());
   hide();
 }
 
