@@ -33,7 +33,7 @@ QString mended(QString caption, QChar forComma) {
 }  // namespace
 
 Remedies captionRemedies(const Element& element) {
-  const QString caption = element.as<QString>(Property::Caption);
+  const QString& caption = element.as<QString>(Property::Caption);
   Remedies remedies;
   if (lineDamage(kWhat, caption).isEmpty()) return remedies;
   const bool hasComma = caption.contains(u',');

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QPushButton>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 #include "ui/comparisonmodel.h"
 #include "ui/smallpicture.h"
