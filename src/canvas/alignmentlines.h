@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QRectF>
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -15,7 +16,7 @@ namespace veneerer {
 struct Surroundings {
   QRectF container;
   std::vector<QRectF> neighbours;
-  std::vector<double> guides[2];  ///< by Axis: places across, and down
+  std::array<std::vector<double>, 2> guides;  ///< by Axis: places across, and down
 };
 
 /// The container of that element and the visible elements that stand in it beside it; no guides. Whatever has

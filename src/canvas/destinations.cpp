@@ -9,23 +9,21 @@ namespace veneerer {
 namespace {
 
 // Entries of the Edit Section list.
-enum : int {
-  kMain = 0,
-  kHistory = 1,
-  kTop20 = 2,
-  kSearch = 3,
-  kQueue = 4,
-  kOptions = 5,
-  kDecades = 6,
-  kPlaylist = 7,
-  kNowPlaying = 8,
-  kAlbums = 9,
-  kGenres = 13,
-  kRequest = 23,
-  kLogin = 24,  // one's own pages come behind the login
-  kCollections = 27,
-  kPopUp = 31,
-};
+constexpr int kMain = 0;
+constexpr int kHistory = 1;
+constexpr int kTop20 = 2;
+constexpr int kSearch = 3;
+constexpr int kQueue = 4;
+constexpr int kOptions = 5;
+constexpr int kDecades = 6;
+constexpr int kPlaylist = 7;
+constexpr int kNowPlaying = 8;
+constexpr int kAlbums = 9;
+constexpr int kGenres = 13;
+constexpr int kRequest = 23;
+constexpr int kLogin = 24;  // one's own pages come behind the login
+constexpr int kCollections = 27;
+constexpr int kPopUp = 31;
 
 using Menu = std::array<int, 14>;
 

@@ -59,7 +59,7 @@ void SkinPictures::list() {
     if (isPictureName(name)) names_.append(name);
   }
   names_.sort();
-  std::ranges::stable_partition(names_, isInImages);
+  std::stable_partition(names_.begin(), names_.end(), isInImages);
 }
 
 QString SkinPictures::likeliest(const QString& reference) {
