@@ -8,6 +8,7 @@
 #include "comparison/differencewords.h"
 #include "elements/printable.h"
 #include "records/recorderror.h"
+#include "ui/canvaselement.h"
 #include "ui/layouts.h"
 
 namespace veneerer {
@@ -150,9 +151,7 @@ void ComparePanel::tell(const Differences& differences) {
 }
 
 Element* ComparePanel::elementOf(const QModelIndex& index) const {
-  if (!index.isValid()) return nullptr;
-  Element* element = hands_.state().find(model_.at(index.row()).element);
-  return element && element->family() && &element->window() == &hands_.state().form1 ? element : nullptr;
+  return index.isValid() ? canvasElement(hands_.state(), model_.at(index.row()).element) : nullptr;
 }
 
 void ComparePanel::select(const QModelIndex& index) {

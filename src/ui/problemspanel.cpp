@@ -9,6 +9,7 @@
 
 #include "canvas/description.h"
 #include "elements/printable.h"
+#include "ui/canvaselement.h"
 #include "ui/diskfollower.h"
 #include "ui/layouts.h"
 
@@ -64,7 +65,7 @@ ProblemsPanel::ProblemsPanel(const Ui& ui)
   rows_->setRootIsDecorated(false);
   rows_->setUniformRowHeights(true);
   rows_->setAccessibleName(windowTitle());
-  rows_->setToolTip(QStringLiteral("Click a problem to select its element; Enter goes to its screen"));
+  rows_->setToolTip(QStringLiteral("Click a problem to go to its screen and select its element"));
   rows_->header()->setStretchLastSection(false);
   rows_->header()->setSectionResizeMode(Text, QHeaderView::Stretch);
   rows_->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -171,8 +172,7 @@ const Finding* ProblemsPanel::findingOf(const QTreeWidgetItem* row) const {
 
 Element* ProblemsPanel::elementOf(const QTreeWidgetItem* row) const {
   const Finding* finding = findingOf(row);
-  Element* element = finding ? hands_.state().find(finding->element) : nullptr;
-  return element && element->family() && &element->window() == &hands_.state().form1 ? element : nullptr;
+  return finding ? canvasElement(hands_.state(), finding->element) : nullptr;
 }
 
 void ProblemsPanel::goTo(const QTreeWidgetItem* row) {

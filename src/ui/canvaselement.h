@@ -1,0 +1,11 @@
+// The element of the canvas that a row of a panel tells of.
+#pragma once
+
+#include "forms/state.h"
+
+namespace veneerer {
+
+/// The element of Form1 under that key, null where the key names none or the window itself.
+Element* canvasElement(State& state, const QString& key);
+
+}  // namespace veneerer
