@@ -54,6 +54,8 @@ void print(std::FILE* out, QByteArrayView text) {
 }
 
 void put(std::FILE* out, QByteArrayView text) {
+  // An empty view may point nowhere, which fwrite() must not be given.
+  if (text.isEmpty()) return;
   const auto size = static_cast<std::size_t>(text.size());
   require(std::fwrite(text.data(), 1, size, out) == size);
 }
