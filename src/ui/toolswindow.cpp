@@ -184,16 +184,19 @@ ToolsWindow::ToolsWindow(const Ui& ui) : hands_(ui.hands) {
   columns->addLayout(right, 1);
   setContent(*this, columns);
   assignMnemonics(*this);
+  findControls();
   connect(&hands_, &Operator::acted, this, &ToolsWindow::followHand);
   followHand();
 }
 
-QList<std::pair<const Element*, QWidget*>> ToolsWindow::controls() const {
-  QList<std::pair<const Element*, QWidget*>> all;
+void ToolsWindow::findControls() {
+  const QList<QLabel*> labels = findChildren<QLabel*>();
   for (const Family* family : hands_.state().form6.families())
-    for (const Element* control : family->members())
-      if (auto* widget = findChild<QWidget*>(control->key())) all.append({control, widget});
-  return all;
+    for (const Element* element : family->members())
+      if (auto* widget = findChild<QWidget*>(element->key())) {
+        const auto label = std::ranges::find(labels, widget, &QLabel::buddy);
+        controls_.append({element, widget, label == labels.end() ? nullptr : *label});
+      }
 }
 
 void ToolsWindow::followHand() {
@@ -201,16 +204,16 @@ void ToolsWindow::followHand() {
   showTips();
 }
 
+// Each key in a field comes by here: nothing is set that stands already.
 void ToolsWindow::greyOut() {
   QPalette grey = palette();
   for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     grey.setColor(role, grey.color(QPalette::Disabled, role));
-  const QList<QLabel*> labels = findChildren<QLabel*>();
-  for (const auto& [control, widget] : controls()) {
-    const bool serves = servesWhatIsInHand(hands_.state(), *control);
-    if (widget->testAttribute(Qt::WA_SetPalette) == serves) widget->setPalette(serves ? QPalette() : grey);
-    for (QLabel* label : labels)
-      if (label->buddy() == widget) label->setPalette(widget->palette());
+  for (const Control& control : controls_) {
+    const bool serves = servesWhatIsInHand(hands_.state(), *control.element);
+    if (control.widget->testAttribute(Qt::WA_SetPalette) != serves) continue;
+    control.widget->setPalette(serves ? QPalette() : grey);
+    if (control.label) control.label->setPalette(control.widget->palette());
   }
 }
 
@@ -220,7 +223,7 @@ void ToolsWindow::showTips() {
   const Element* inHand = currentElement(state);
   const QString now = inHand ? inHand->key() + elementTitle(state, *inHand) : QString();
   if (std::exchange(told_, now) == now) return;
-  for (const auto& [control, widget] : controls()) showTip(state, *control, *widget);
+  for (const Control& control : controls_) showTip(state, *control.element, *control.widget);
 }
 
 // The list takes long to get, so the first paint doesn't wait for it.

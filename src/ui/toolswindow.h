@@ -1,6 +1,8 @@
 // Form6, "Tools": the fields and commands that act on the current Section.
 #pragma once
 
+#include <QLabel>
+#include <QList>
 #include <QWidget>
 #include <optional>
 
@@ -19,12 +21,19 @@ protected:
   void paintEvent(QPaintEvent* event) override;
 
 private:
+  struct Control {
+    const Element* element;
+    QWidget* widget;
+    QLabel* label;  ///< null when there is none
+  };
+
   void followHand();
   void greyOut();
   void showTips();
-  QList<std::pair<const Element*, QWidget*>> controls() const;
+  void findControls();
 
   Operator& hands_;
+  QList<Control> controls_;
   std::optional<QString> told_;  ///< the element that the tool tips are about
   bool fontsAsked_ = false;
 };
