@@ -15,11 +15,20 @@
 
 namespace veneerer {
 
+namespace {
+
+// Aligned to its own length, so that every compiler reads and writes it in one go.
+struct alignas(sizeof(QSize)) SharedSize {
+  QSize size;
+};
+
+}  // namespace
+
 class PictureFile {
 public:
   PictureFile(QString path, bool isIcon, std::shared_ptr<PictureCache> cache)
       : path_(std::move(path)), isIcon_(isIcon), cache_(std::move(cache)) {}
-  explicit PictureFile(const QImage& image) : size_(image.size()), drawn_(image) {}
+  explicit PictureFile(const QImage& image) : size_({image.size()}), drawn_(image) {}
   ~PictureFile() {
     if (cache_) cache_->drop(this);
   }
@@ -30,12 +39,12 @@ public:
   bool isIcon() const { return isIcon_; }
   PictureCache* cache() const { return cache_.get(); }
 
-  QSize size() const { return size_; }
+  QSize size() const { return size_.load().size; }
 
   /// What can be had without decoding: nothing for a picture that must be decoded first.
   std::optional<QImage> atHand(const PictureNeed& need) const {
     if (!cache_) return drawn_;
-    const QSize size = size_;
+    const QSize size = this->size();
     if (size.isNull()) return QImage();
     std::optional<QImage> kept = size.isValid() ? cache_->find(this, copyFor(need, size)) : std::nullopt;
     const bool isCorner = kept && need.use == PictureNeed::Use::Natural;
@@ -58,7 +67,7 @@ public:
 
 private:
   QImage kept(const QImage& picture, const PictureNeed& need) const {
-    size_ = picture.size();
+    size_ = {picture.size()};
     const QImage copy = copyOf(picture, need);
     if (!copy.isNull()) cache_->keep(this, copyFor(need, picture.size()), copy);
     return copy;
@@ -66,8 +75,8 @@ private:
 
   QString path_;
   bool isIcon_ = false;
-  std::shared_ptr<PictureCache> cache_;        // null for a drawn picture
-  mutable std::atomic<QSize> size_ = QSize();  // (0, 0) of one that can't be decoded
+  std::shared_ptr<PictureCache> cache_;                  // null for a drawn picture
+  mutable std::atomic<SharedSize> size_ = SharedSize();  // (0, 0) of one that can't be decoded
   QImage drawn_;
 };
 
