@@ -5,15 +5,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh
 
-need_packages "${BUILD_PACKAGES[@]}" clang-tidy
+need_packages "${BUILD_PACKAGES[@]}" clang-tidy python3
 # A configuration of its own, because precompiled headers are in GCC's format.
 cmake --preset release -B build/lint -DVENEERER_PCH=OFF -DVENEERER_TESTS=OFF >/dev/null
-(($#)) || set -- "$PWD/src/"
-findings=$(mktemp)
-trap 'rm -f "$findings"' EXIT
-# The compiler is GCC, some of whose options are unknown here.
-if ! run-clang-tidy -quiet -p build/lint -j "$(nproc)" -extra-arg=-Wno-unknown-warning-option "$@" \
-  >"$findings" 2>&1; then
-  grep -E -A 4 '(error|warning): ' "$findings" || cat "$findings"
-  exit 1
-fi
+python3 tools/lint_units.py build/lint "$@"
