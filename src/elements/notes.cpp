@@ -4,9 +4,9 @@
 
 namespace veneerer {
 
-void Notes::say(const QString& note) {
+void Notes::say(const QString& note, NoteKind kind) {
   texts_.append(shownText(note));
-  if (listener_) listener_(texts_.last());
+  if (listener_) listener_(texts_.last(), kind);
 }
 
 }  // namespace veneerer

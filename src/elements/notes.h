@@ -6,13 +6,18 @@
 
 namespace veneerer {
 
+enum class NoteKind {
+  Plain,
+  Saved,  ///< what a save wrote
+};
+
 /// What the operator should know and needn't answer. A note never stops anything and is never a box.
 class Notes {
 public:
-  using Listener = std::function<void(const QString& note)>;
+  using Listener = std::function<void(const QString& note, NoteKind kind)>;
 
   /// Adds a note, one sentence of plain text of which shownText() is kept, and tells it to the listener.
-  void say(const QString& note);
+  void say(const QString& note, NoteKind kind = NoteKind::Plain);
 
   /// All notes since the start, in order.
   const QStringList& texts() const { return texts_; }

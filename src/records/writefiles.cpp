@@ -11,8 +11,6 @@ namespace veneerer {
 
 namespace {
 
-const QString kSaved = QStringLiteral("Saved in ");
-
 int changedOf(const QString& folder, const std::vector<NewFile>& files) {
   const auto isChanged = [&](const NewFile& file) {
     const FileContent before = readPlainFile(QDir(folder).filePath(file.name), kMostRecordBytes);
@@ -42,11 +40,8 @@ void sayWritten(Notes& notes, const QString& folder, const WrittenFiles& written
   const QString files =
       written.all == 1 ? QStringLiteral("1 file") : QStringLiteral("%1 files").arg(written.all);
   const QString changed = written.changed == 0 ? QStringLiteral("none") : QString::number(written.changed);
-  notes.say(kSaved + QStringLiteral("%1: %2, %3 changed.").arg(QFileInfo(folder).fileName(), files, changed));
-}
-
-bool isSavedNote(const QString& note) {
-  return note.startsWith(kSaved);
+  notes.say(QStringLiteral("Saved in %1: %2, %3 changed.").arg(QFileInfo(folder).fileName(), files, changed),
+            NoteKind::Saved);
 }
 
 void writeFiles(Disk& disk, const QString& folder, std::vector<NewFile> files) {

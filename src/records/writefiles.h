@@ -34,9 +34,6 @@ WrittenFiles writeRecordFiles(Disk& disk, const QString& folder, std::vector<New
 /// Says what a save wrote into that Skin's folder: "Saved in Mine: 59 files, 3 changed."
 void sayWritten(Notes& notes, const QString& folder, const WrittenFiles& written);
 
-/// Whether a note is such a one.
-bool isSavedNote(const QString& note);
-
 /// Runs a command that writes. False when it was refused: a box of that title has told why, behind that
 /// sentence.
 bool writeOrTell(Dialogs& dialogs, const QString& title, const std::function<void()>& command,

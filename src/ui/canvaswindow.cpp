@@ -61,8 +61,8 @@ CanvasWindow::CanvasWindow(const Ui& ui)
   setCentralWidget(view_);
   statusBar()->addWidget(status_, 1);
   statusBar()->addPermanentWidget(makeZoomButton(*view_));
-  state_.notes.setListener([this](const QString& note) {
-    status_->tell(shownNote(note, ui_.hands.skinFolder().path(), QTime::currentTime()));
+  state_.notes.setListener([this](const QString& note, NoteKind kind) {
+    status_->tell(shownNote(note, kind, ui_.hands.skinFolder().path(), QTime::currentTime()));
   });
   connect(&view_->canvas(), &CanvasWidget::pointed, this, &CanvasWindow::pointed);
   addInHandLine();

@@ -11,9 +11,9 @@ namespace {
 
 TEST(SavedNote, TellsWhereAndWhen) {
   const QTime time(9, 5, 30);
-  EXPECT_EQ(shownNote("Saved in S: 59 files, 3 changed.", "/a/S", time),
+  EXPECT_EQ(shownNote("Saved in S: 59 files, 3 changed.", NoteKind::Saved, "/a/S", time),
             "Saved in S: 59 files, 3 changed. (09:05:30, /a/S)");
-  EXPECT_EQ(shownNote("S is among the Skins now.", "/a/S", time), "S is among the Skins now.");
+  EXPECT_EQ(shownNote("Saved in S is its name.", NoteKind::Plain, "/a/S", time), "Saved in S is its name.");
 }
 
 class SavedNoteInTheWindow : public test::UiFixture {};
