@@ -14,13 +14,13 @@
 #include "ui/arrangement.h"
 #include "ui/editcommands.h"
 #include "ui/exchangecommands.h"
-#include "ui/exportcommands.h"
 #include "ui/inhandline.h"
 #include "ui/keys.h"
 #include "ui/keysheet.h"
 #include "ui/mockupcommands.h"
 #include "ui/opencommand.h"
 #include "ui/plaintext.h"
+#include "ui/previewcommands.h"
 #include "ui/savednote.h"
 #include "ui/skindrop.h"
 #include "ui/takedialog.h"
@@ -105,7 +105,7 @@ void CanvasWindow::addFileMenu() {
   connect(save, &QAction::triggered, this, [this] { ui_.hands.click(*state_.form4.Command4); });
   addExchangeCommands(*menu, ui_.hands, *this);
   menu->addSeparator();
-  addExportCommands(*menu, ui_);
+  addPreviewCommands(*menu, ui_);
   menu->addSeparator();
   QAction* quit = addCommand(menu, QStringLiteral("&Quit"), {QKeySequence::Quit},
                              QStringLiteral("End the program; nothing is saved"));

@@ -1,4 +1,4 @@
-#include "ui/exportcommands.h"
+#include "ui/previewcommands.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -61,7 +61,7 @@ void copyScreen(const Ui& ui) {
 
 }  // namespace
 
-void addExportCommands(QMenu& file, const Ui& ui) {
+void addPreviewCommands(QMenu& file, const Ui& ui) {
   QAction* action = file.addAction(QStringLiteral("Export as &Web Page..."));
   action->setStatusTip(QStringLiteral("Write one page with all screens, to be looked at in a browser"));
   QObject::connect(action, &QAction::triggered, action, [ui] { exportPage(ui); });

@@ -9,7 +9,7 @@ namespace veneerer {
 
 /// Adds "Export as Web Page..." to the File menu. What came of it is a note; what stands against writing is
 /// told in a box.
-void addExportCommands(QMenu& file, const Ui& ui);
+void addPreviewCommands(QMenu& file, const Ui& ui);
 
 /// Adds "Copy This Screen" to the Edit menu: the canvas as it is, without outlines, as a picture on the
 /// clipboard.
