@@ -141,8 +141,7 @@ TEST_F(Compare, TheDialogTakesTheChosenPartOfTheChosenSkin) {
         button->click();
       }
   });
-  for (QAction* action : widget<QWidget>("Form1").findChildren<QAction*>())
-    if (action->text() == "&Take from Another Skin...") action->trigger();
+  trigger("&Take from Another Skin...");
   EXPECT_TRUE(dialog.came());
   EXPECT_EQ(designer->history().stack().count(), steps + 1);
   EXPECT_TRUE(state().notes.texts().last().contains("is taken from T"))

@@ -3,7 +3,6 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPushButton>
 
 #include "ui/modal.h"
@@ -18,11 +17,6 @@ protected:
   QString skin(const QString& name) const { return root.filePath("Skins/" + name); }
   QString lastNote() { return state().notes.texts().isEmpty() ? QString() : state().notes.texts().last(); }
 
-  void trigger(const QString& text) {
-    for (QAction* action : widget<QWidget>("Form1").findChildren<QAction*>())
-      if (action->text() == text) return action->trigger();
-    ADD_FAILURE() << "no entry " << text.toStdString();
-  }
   void copyAs(const QString& name) {
     const test::OnModal<QInputDialog> dialog([&](QInputDialog& box) {
       EXPECT_EQ(box.textValue(), "S copy");
@@ -31,21 +25,7 @@ protected:
     });
     trigger("Copy as &New Skin...");
   }
-  /// Whether the main window takes these files.
-  bool drop(const QStringList& files) {
-    QMimeData data;
-    QList<QUrl> urls;
-    for (const QString& file : files) urls << QUrl::fromLocalFile(file);
-    data.setUrls(urls);
-    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&widget<QWidget>("Form1"), &enter);
-    QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-    event.ignore();
-    QApplication::sendEvent(&widget<QWidget>("Form1"), &event);
-    EXPECT_EQ(event.isAccepted(), enter.isAccepted());
-    return event.isAccepted();
-  }
-  void chooseFile(const QString& entry, const QString& path) {
+  void chooseFile(const char* entry, const QString& path) {
     const test::OnModal<QFileDialog> dialog([&](QFileDialog& box) {
       auto* name = box.findChild<QLineEdit*>();
       name->setText(path);
@@ -114,7 +94,7 @@ TEST_F(ExchangeMenu, ADroppedArchiveIsImportedAndNothingElseIsTaken) {
   EXPECT_FALSE(drop({root.filePath("none.zip")}));
   EXPECT_FALSE(drop({}));
   EXPECT_TRUE(drop({archive}));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return lastNote() == "S is among the Skins now."; }));
+  EXPECT_EQ(lastNote(), "S is among the Skins now.");
   EXPECT_TRUE(QFileInfo(skin("S")).isDir());
 }
 

@@ -14,11 +14,6 @@ namespace {
 
 class Exporting : public test::UiFixture {
 protected:
-  void trigger(const char* text) {
-    for (QAction* action : widget<QMainWindow>("Form1").findChildren<QAction*>())
-      if (action->text() == QLatin1String(text)) return action->trigger();
-    ADD_FAILURE() << text;
-  }
   /// The dialog that asks where to is answered with that file, empty for Cancel.
   void exportTo(const QString& file) {
     const test::OnModal<QFileDialog> answering([&](QFileDialog& dialog) {

@@ -1,7 +1,6 @@
 // Another Skin comes in hand: by the dialog, and dropped on the window.
 #include <QLineEdit>
 #include <QListView>
-#include <QMimeData>
 #include <QPushButton>
 
 #include "designer/restoredstate.h"
@@ -27,8 +26,7 @@ protected:
       act(dialog);
       if (dialog.isVisible()) dialog.reject();
     });
-    for (QAction* action : widget<QMainWindow>("Form1").findChildren<QAction*>())
-      if (action->text() == u"&Open Skin...") action->trigger();
+    trigger("&Open Skin...");
     EXPECT_TRUE(operation.came());
   }
   static QListView& list(OpenSkinDialog& dialog) { return *dialog.findChild<QListView*>("skins"); }
@@ -55,21 +53,6 @@ protected:
   static QPushButton& open(OpenSkinDialog& dialog) {
     return *dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
   }
-
-  void drop(const QString& path) {
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(path)});
-    QWidget& window = widget<QWidget>("Form1");
-    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, {});
-    enter.ignore();
-    QCoreApplication::sendEvent(&window, &enter);
-    isTaken = enter.isAccepted();
-    QDropEvent dropped(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, {});
-    if (isTaken) QCoreApplication::sendEvent(&window, &dropped);
-    QTest::qWait(1);
-  }
-
-  bool isTaken = false;
 };
 
 TEST_F(Opening, CancelChangesNothing) {
@@ -136,17 +119,14 @@ TEST_F(Opening, ABrokenSkinTellsWhyAndIsntLoaded) {
 }
 
 TEST_F(Opening, ADroppedSkinOfTheFolderIsOpened) {
-  drop(root.filePath("Skins/Amber") + '/');
-  EXPECT_TRUE(isTaken);
+  EXPECT_TRUE(drop({root.filePath("Skins/Amber/")}));
   EXPECT_EQ(form4().Combo3->text(), u"Amber");
   EXPECT_EQ(designer->history().stack().count(), 1);
   QDir(root.path()).mkpath("elsewhere/S");
-  drop(root.filePath("elsewhere/S"));
-  EXPECT_TRUE(isTaken);
+  EXPECT_TRUE(drop({root.filePath("elsewhere/S")}));
   EXPECT_EQ(form4().Combo3->text(), u"Amber");
   EXPECT_TRUE(state().notes.texts().last().startsWith("Only Skins of "));
-  drop(root.filePath("Skins/Amber/resolution.ini"));
-  EXPECT_FALSE(isTaken);
+  EXPECT_FALSE(drop({root.filePath("Skins/Amber/resolution.ini")}));
 }
 
 }  // namespace

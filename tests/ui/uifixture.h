@@ -1,7 +1,12 @@
 // The real windows on a real designer, with the real widgets found by the keys of their elements.
 #pragma once
 
+#include <QAction>
 #include <QApplication>
+#include <QDropEvent>
+#include <QMainWindow>
+#include <QMimeData>
+#include <QUrl>
 #include <QtTest>
 
 #include "designer/skinfixture.h"
@@ -37,6 +42,32 @@ protected:
     throw std::logic_error(key);
   }
   QWidget& canvas() { return widget<QWidget>("canvas"); }
+
+  /// The entry of the main window's menus with that text, mnemonic included; the test ends without it.
+  QAction& menuEntry(const char* text) {
+    for (QAction* action : widget<QMainWindow>("Form1").findChildren<QAction*>())
+      if (action->text() == QLatin1String(text)) return *action;
+    ADD_FAILURE() << "no entry " << text;
+    throw std::logic_error(text);
+  }
+  void trigger(const char* text) { menuEntry(text).trigger(); }
+
+  /// Drops these files on the main window. Whether it takes them.
+  bool drop(const QStringList& files) {
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& file : files) urls << QUrl::fromLocalFile(file);
+    data.setUrls(urls);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&widget<QWidget>("Form1"), &enter);
+    QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    event.ignore();
+    if (enter.isAccepted()) QApplication::sendEvent(&widget<QWidget>("Form1"), &event);
+    EXPECT_EQ(event.isAccepted(), enter.isAccepted());
+    // What comes of it begins when whoever dropped it has been answered.
+    QTest::qWait(1);
+    return event.isAccepted();
+  }
 
   /// A press, a move and a release on the canvas.
   void drag(QPoint from, QPoint by, Qt::MouseButton button = Qt::LeftButton) {

@@ -26,11 +26,6 @@ protected:
     goingOn.start(2000);
     return QApplication::exec();
   }
-  QAction* menuEntry(const char* text) {
-    for (QAction* action : widget<QMainWindow>("Form1").findChildren<QAction*>())
-      if (action->text() == QLatin1String(text)) return action;
-    return nullptr;
-  }
 };
 
 TEST_F(Windows, AToolWindowClosesAndComesBack) {
@@ -38,9 +33,7 @@ TEST_F(Windows, AToolWindowClosesAndComesBack) {
   EXPECT_TRUE(tools.isVisible());
   tools.close();
   EXPECT_FALSE(form6().isVisible());
-  QAction* bring = menuEntry("&Tools");
-  ASSERT_TRUE(bring);
-  bring->trigger();
+  trigger("&Tools");
   EXPECT_TRUE(form6().isVisible());
   EXPECT_TRUE(tools.isVisible());
 }
@@ -84,15 +77,14 @@ TEST_F(Windows, TheCanvasHasTheKeysAtTheEndOfTheStart) {
 }
 
 TEST_F(Windows, ScreensAreChosenFromTheMenuAndByKeys) {
-  QAction* history = menuEntry("History Screen");
-  ASSERT_TRUE(history);
-  history->trigger();
+  const QAction* history = &menuEntry("History Screen");
+  trigger("History Screen");
   EXPECT_EQ(form6().Combo6->listIndex(), 1);
   EXPECT_TRUE(form1().Picture1[1].isVisible());
   EXPECT_TRUE(history->isChecked());
   EXPECT_TRUE(history->actionGroup() && history->actionGroup()->isExclusive()) << "a mark for one of many";
-  menuEntry("&Previous Screen")->trigger();
-  menuEntry("&Previous Screen")->trigger();
+  trigger("&Previous Screen");
+  trigger("&Previous Screen");
   EXPECT_EQ(form6().Combo6->listIndex(), 0) << "there is nothing ahead of the first";
   EXPECT_FALSE(history->isChecked());
 }
@@ -186,20 +178,19 @@ TEST_F(Windows, PanelsAreTornOffAndArrangedAgain) {
   auto& tools = widget<QDockWidget>("Form6");
   auto& history = widget<QDockWidget>("history");
   EXPECT_TRUE(history.isHidden()) << "it waits until it is asked for";
-  menuEntry("&History")->trigger();
+  trigger("&History");
   EXPECT_FALSE(history.isHidden());
   tools.setFloating(true);
   EXPECT_TRUE(tools.isWindow());
   widget<QDockWidget>("Form4").close();
-  menuEntry("&Arrange")->trigger();
+  trigger("&Arrange");
   EXPECT_FALSE(tools.isWindow());
   EXPECT_FALSE(history.isHidden());
   EXPECT_TRUE(widget<QDockWidget>("Form4").isHidden()) << "what was closed stays closed";
 }
 
 TEST_F(Windows, TheMenuUndoesAndTellsWhat) {
-  QAction* undo = menuEntry("&Undo");
-  ASSERT_TRUE(undo);
+  const QAction* undo = &menuEntry("&Undo");
   EXPECT_FALSE(undo->isEnabled());
   auto& canvasWindow = widget<QMainWindow>("Form1");
   auto& field = widget<QLineEdit>("Form4.Text1(0)");
