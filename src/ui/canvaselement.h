@@ -1,11 +1,14 @@
 // The element of the canvas that a row of a panel tells of.
 #pragma once
 
-#include "forms/state.h"
+#include "ui/operator.h"
 
 namespace veneerer {
 
 /// The element of Form1 under that key, null where the key names none or the window itself.
 Element* canvasElement(State& state, const QString& key);
+
+/// Shows the screen that holds the element, and selects it on the overlay.
+void goToElement(Operator& hands, Element& element);
 
 }  // namespace veneerer

@@ -4,7 +4,6 @@
 #include <QSet>
 #include <QVBoxLayout>
 
-#include "canvas/description.h"
 #include "comparison/differencewords.h"
 #include "elements/printable.h"
 #include "records/recorderror.h"
@@ -74,9 +73,9 @@ void ComparePanel::addRows(QVBoxLayout* column) {
   rows_->setUniformRowHeights(true);
   rows_->setAllColumnsShowFocus(true);
   rows_->setAccessibleName(QStringLiteral("Differences"));
-  rows_->setToolTip(QStringLiteral("Click a difference to select its element; Enter goes to its screen"));
+  rows_->setToolTip(QStringLiteral("Click a difference to go to its screen and select its element"));
   rows_->header()->setDefaultSectionSize(fontMetrics().horizontalAdvance(QStringLiteral("TRACK 10 (10)  ")));
-  connect(rows_, &QTreeView::clicked, this, &ComparePanel::select);
+  connect(rows_, &QTreeView::clicked, this, &ComparePanel::goTo);
   connect(rows_, &QTreeView::activated, this, &ComparePanel::goTo);
   told_->setTextFormat(Qt::PlainText);
   told_->setWordWrap(true);
@@ -154,17 +153,9 @@ Element* ComparePanel::elementOf(const QModelIndex& index) const {
   return index.isValid() ? canvasElement(hands_.state(), model_.at(index.row()).element) : nullptr;
 }
 
-void ComparePanel::select(const QModelIndex& index) {
-  if (Element* element = elementOf(index)) hands_.overlay().select({element});
-  showPictures(model_.at(index.row()));
-}
-
 void ComparePanel::goTo(const QModelIndex& index) {
-  if (Element* element = elementOf(index)) {
-    const int entry = entryHolding(hands_.state(), *element);
-    if (entry >= 0) hands_.choose(*hands_.state().form6.Combo6, entry);
-  }
-  select(index);
+  if (Element* element = elementOf(index)) goToElement(hands_, *element);
+  showPictures(model_.at(index.row()));
 }
 
 void ComparePanel::showPictures(const Difference& difference) {

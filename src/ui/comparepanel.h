@@ -11,8 +11,8 @@
 
 namespace veneerer {
 
-/// Compares by the operator's word alone. A click on a row selects its element on the overlay and shows the
-/// pictures that differ, Enter and a double click go to its screen as well.
+/// Compares by the operator's word alone. A click on a row goes to its element's screen, selects it on the
+/// overlay and shows the pictures that differ.
 class ComparePanel : public QWidget {
 public:
   explicit ComparePanel(const Ui& ui);
@@ -32,7 +32,6 @@ private:
   QString otherSkin() const { return other_->currentData().toString(); }
   void tell(const Differences& differences);
   Element* elementOf(const QModelIndex& index) const;
-  void select(const QModelIndex& index);
   void goTo(const QModelIndex& index);
   void showPictures(const Difference& difference);
   void clear();

@@ -7,7 +7,6 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "canvas/description.h"
 #include "elements/printable.h"
 #include "ui/canvaselement.h"
 #include "ui/diskfollower.h"
@@ -176,12 +175,7 @@ Element* ProblemsPanel::elementOf(const QTreeWidgetItem* row) const {
 }
 
 void ProblemsPanel::goTo(const QTreeWidgetItem* row) {
-  Element* element = elementOf(row);
-  if (!element) return;
-  State& state = hands_.state();
-  const int entry = entryHolding(state, *element);
-  if (entry >= 0 && entry != state.form6.Combo6->listIndex()) hands_.choose(*state.form6.Combo6, entry);
-  hands_.overlay().select({element});
+  if (Element* element = elementOf(row)) goToElement(hands_, *element);
 }
 
 void ProblemsPanel::offerRemedies() {

@@ -108,8 +108,7 @@ TEST_F(Compare, GoesToTheScreenOfAnElement) {
   compareWith({});
   const QModelIndex row = rowOf(Column::Property, "Left");
   ASSERT_TRUE(row.isValid());
-  rows().setCurrentIndex(row);
-  QTest::keyClick(&rows(), Qt::Key_Return);
+  clickRow(row);
   EXPECT_EQ(form6().Combo6->listIndex(), entry);
   EXPECT_EQ(designer->overlay().elements(), std::vector<Element*>{&label});
 }
