@@ -23,6 +23,7 @@ public:
   NewArchive(Disk& disk, const QString& archive)
       : disk_(disk), archive_(archive), place_(QDir::cleanPath(QFileInfo(archive).absoluteFilePath())) {
     refuseWhatIsThere();
+    removeAbandonedFiles(disk_, place_.path());
     const QString temporary = place_.path() + u'/' + temporaryName(place_.fileName());
     require(disk_.create(temporary, {}));
     temporary_ = temporary;

@@ -3,6 +3,8 @@
 #include <signal.h>
 #include <unistd.h>
 
+#include <QDir>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <cerrno>
@@ -40,6 +42,14 @@ bool isLeftOver(const QString& name) {
 bool isAbandoned(const QString& name) {
   const QRegularExpressionMatch parts = partsOf(name);
   return parts.hasMatch() && !isAtWork(parts.captured(1));
+}
+
+void removeAbandonedFiles(Disk& disk, const QString& folder) {
+  const auto files = QDir(folder).entryInfoList({QStringLiteral("*.saving")}, QDir::Files | QDir::Hidden);
+  for (const QFileInfo& file : files) {
+    if (isAbandoned(file.fileName()) && !file.isSymLink()) [[maybe_unused]]
+      const QString stays = disk.remove(file.filePath());
+  }
 }
 
 }  // namespace veneerer

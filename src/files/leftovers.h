@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include "files/disk.h"
+
 namespace veneerer {
 
 /// A new name for what is to bear that name once it is whole: hidden, told by this process, and not to be
@@ -16,5 +18,9 @@ bool isLeftOver(const QString& name);
 
 /// The same, and the process that gave the name is no more: nobody else is writing it right now.
 bool isAbandoned(const QString& name);
+
+/// Removes the files in that folder which killed programs left over. No link is followed; what can't be
+/// removed stays.
+void removeAbandonedFiles(Disk& disk, const QString& folder);
 
 }  // namespace veneerer

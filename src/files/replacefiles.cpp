@@ -11,14 +11,6 @@ namespace {
 
 constexpr qsizetype kMostNameBytes = 255;
 
-void removeLeftOversIn(const QString& folder, Disk& disk) {
-  const auto files = QDir(folder).entryInfoList({QStringLiteral("*.saving")}, QDir::Files | QDir::Hidden);
-  for (const QFileInfo& file : files) {
-    if (isAbandoned(file.fileName()) && !file.isSymLink()) [[maybe_unused]]
-      const QString stays = disk.remove(file.filePath());
-  }
-}
-
 QString folderIsGone(const QString& folder) {
   return QStringLiteral("the folder %1 is gone").arg(folder);
 }
@@ -78,7 +70,7 @@ void FileReplacement::run() {
 void FileReplacement::removeLeftOvers() {
   QSet<QString> folders{folder_};
   for (const Target& target : targets_) folders.insert(QFileInfo(target.path).path());
-  for (const QString& folder : folders) removeLeftOversIn(folder, disk_);
+  for (const QString& folder : folders) removeAbandonedFiles(disk_, folder);
 }
 
 void FileReplacement::writeBeside() {

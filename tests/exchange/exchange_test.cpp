@@ -189,7 +189,10 @@ TEST_F(Exchange, WhatAKilledProgramLeftIsRemovedByTheNext) {
   test::writeBytes(root.filePath("kept"), "kept");
   QFile::link(root.path(), made(left + "/link"));
   test::writeBytes(made("Skins/.mine.saving/x"), "somebody else's");
+  const QString archive = root.filePath(".S.zip.999999999-0123456789abcdef.saving");
+  test::writeBytes(archive, "half an archive");
   packSkin(world.disk, path({}), root.filePath("S.zip"));
+  EXPECT_FALSE(QFileInfo::exists(archive));
   unpackSkin(world.disk, root.filePath("S.zip"), made("Skins"));
   EXPECT_FALSE(QFileInfo::exists(made(left)));
   EXPECT_TRUE(QFileInfo::exists(made("Skins/.mine.saving/x")));
