@@ -52,6 +52,10 @@ QIcon iconOf(const QWidget& widget, const SkinGlance* glance) {
   return icon;
 }
 
+// Said ahead, where it can still be saved; there is no question.
+const QString kEnds = QStringLiteral(
+    " To open it ends the program with this text: what isn't saved in the Skin in hand is lost.");
+
 QString foundText(int findings) {
   if (findings == 0) return QStringLiteral("no problems");
   return findings == 1 ? QStringLiteral("1 problem") : QStringLiteral("%1 problems").arg(findings);
@@ -151,8 +155,9 @@ void OpenSkinDialog::setUpList() {
   list_->setMinimumSize(list_->gridSize());
   resize(kRoom * list_->gridSize().width() + bar + 4 * kGap, screen()->availableSize().height() * 3 / 4);
   connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { tellProposed(); });
-  connect(list_, &QListView::doubleClicked, this,
-          [this] { buttons_->button(QDialogButtonBox::Open)->click(); });
+  connect(list_, &QListView::doubleClicked, this, [this] {
+    if (!isBroken()) buttons_->button(QDialogButtonBox::Open)->click();
+  });
 }
 
 void OpenSkinDialog::addSkins(const QStringList& skins) {
@@ -196,11 +201,21 @@ void OpenSkinDialog::tell(const QString& skin) {
 
 void OpenSkinDialog::tellProposed() {
   const SkinGlance* glance = glancer_.glance(skin());
-  const bool isBroken = glance && !glance->fault.isEmpty();
-  buttons_->button(QDialogButtonBox::Open)->setEnabled(!skin().isEmpty() && !isBroken);
+  buttons_->button(QDialogButtonBox::Open)->setEnabled(!skin().isEmpty());
   QString about = glance ? aboutText(*glance, glancer_.findings(skin())) : QString();
   if (skins_.rowCount() == 0) about = QStringLiteral("There are no Skins in %1.").arg(root_);
-  about_->setText(shownText(about));
+  about_->setText(shownText(about) + (isBroken() ? kEnds : QString()));
+}
+
+bool OpenSkinDialog::isBroken() const {
+  const SkinGlance* glance = glancer_.glance(skin());
+  return glance && !glance->fault.isEmpty();
+}
+
+// The button itself takes the key when it has the focus.
+void OpenSkinDialog::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!isEnter || !isBroken()) QDialog::keyPressEvent(event);
 }
 
 void OpenSkinDialog::showEvent(QShowEvent* event) {

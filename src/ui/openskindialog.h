@@ -14,7 +14,8 @@
 namespace veneerer {
 
 /// Changes nothing: it only chooses. Pictures and findings come in while it is open. A Skin that can't be
-/// loaded is marked and tells why; it can't be chosen.
+/// loaded is marked, and tells why and that opening it ends the program; only the button itself chooses it,
+/// not a double click and not the key Enter elsewhere.
 class OpenSkinDialog : public QDialog {
   Q_OBJECT
 
@@ -32,6 +33,7 @@ public:
 
 protected:
   void showEvent(QShowEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   /// The arrow keys walk in the list while a word is typed.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -43,6 +45,8 @@ private:
   void search(const QString& word);
   void tell(const QString& skin);
   void tellProposed();
+  /// Whether it is known that the proposed Skin can't be loaded.
+  bool isBroken() const;
 
   Glancer& glancer_;
   QString root_;

@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "designer/restoredstate.h"
+#include "records/recorderror.h"
 #include "ui/modal.h"
 #include "ui/openskindialog.h"
 #include "ui/uifixture.h"
@@ -102,20 +103,30 @@ TEST_F(Opening, AChoiceIsAFullLoadAndOneStep) {
   EXPECT_EQ(form4().Combo3->text(), u"Amber");
 }
 
-TEST_F(Opening, ABrokenSkinTellsWhyAndIsntLoaded) {
+// It ends the program, as anywhere: told ahead, and only for who presses the button.
+TEST_F(Opening, ABrokenSkinTellsWhyAndOnlyItsButtonOpensIt) {
   inDialog([&](OpenSkinDialog& dialog) {
     choose(dialog, 1);
     EXPECT_TRUE(tells(dialog, 1, "menu.ini:3: "));
     EXPECT_TRUE(tells(dialog, 1, "&lt;b&gt;")) << "no name is read as markup";
     const QModelIndex broken = list(dialog).model()->index(1, 0);
     EXPECT_TRUE(broken.data().toString().endsWith("can't be loaded"));
-    EXPECT_TRUE(dialog.findChild<QLabel*>("about")->text().contains("Can't be loaded: menu.ini:3: "));
-    EXPECT_FALSE(open(dialog).isEnabled());
+    const QString about = dialog.findChild<QLabel*>("about")->text();
+    EXPECT_TRUE(about.contains("Can't be loaded: menu.ini:3: ") && about.contains("what isn't saved"));
     QTest::keyClick(&list(dialog), Qt::Key_Return);
+    QTest::keyClick(&search(dialog), Qt::Key_Return);
+    QTest::mouseDClick(list(dialog).viewport(), Qt::LeftButton, {}, list(dialog).visualRect(broken).center());
     EXPECT_TRUE(dialog.isVisible());
+    choose(dialog, 0);
+    EXPECT_FALSE(dialog.findChild<QLabel*>("about")->text().contains("saved in"));
   });
   EXPECT_EQ(form4().Combo3->text(), u"S");
   EXPECT_TRUE(world.dialogs.messages.size() == 1) << "the question of the start";
+  const auto press = [](OpenSkinDialog& dialog) {
+    choose(dialog, 1);
+    open(dialog).click();
+  };
+  EXPECT_THROW(inDialog(press), RecordError);
 }
 
 TEST_F(Opening, ADroppedSkinOfTheFolderIsOpened) {
