@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QMovie>
+#include <utility>
 
 #include "elements/family.h"
 #include "files/plainfile.h"
@@ -73,7 +74,12 @@ void ucAniGIF::setStage(std::optional<Stage> stage) {
   update();
 }
 
+void ucAniGIF::setWatched(bool isWatched) {
+  if (std::exchange(isWatched_, isWatched) != isWatched) pending_.start(0);
+}
+
 bool ucAniGIF::isSeen(const Element& element) const {
+  if (!isWatched_) return false;
   return stage_ ? isShownOn(*stage_, element) : isShown(element);
 }
 

@@ -38,6 +38,10 @@ public:
   /// What is shown on the window from now on in the place of its visible children; nothing for those.
   void setStage(std::optional<Stage> stage);
 
+  /// While nobody can see the window nothing plays, and no timer runs. Takes effect once the program comes to
+  /// rest, so that a repaint may say it.
+  void setWatched(bool isWatched);
+
   /// The frame to show now; a null image for an element that isn't playing, whose picture shows its first.
   QImage frame(const Element& element) const;
 
@@ -58,6 +62,7 @@ private:
   std::optional<Stage> stage_;
   Attachment watching_;
   QTimer pending_;
+  bool isWatched_ = true;
   std::vector<const AnimatedFrame*> elements_;
   QHash<quintptr, std::shared_ptr<Playing>> playing_;  // by the picture's id
 };

@@ -66,6 +66,8 @@ Q_SIGNALS:
 
 protected:
   bool event(QEvent* event) override;
+  void showEvent(QShowEvent*) override { frames_.setWatched(true); }
+  void hideEvent(QHideEvent*) override { frames_.setWatched(false); }
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;

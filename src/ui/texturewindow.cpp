@@ -21,7 +21,7 @@ constexpr QSize kPreview(92, 69);
 class FramePreview : public QAbstractButton {
 public:
   FramePreview(const Ui& ui, Form5& form)
-      : frame_(*form.ucAniGIF1), player_(form, [this](const Element&) { QWidget::update(); }) {
+      : frame_(*form.ucAniGIF1), player_(form, [this](const Element&) { showNext(); }) {
     setFixedSize(kPreview);
     painter_.setFrameSource([this](const Element& frame) { return player_.frame(frame); });
     bindPainted(ui, frame_, *this);
@@ -30,6 +30,7 @@ public:
 
 protected:
   void paintEvent(QPaintEvent*) override {
+    player_.setWatched(true);
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::Base));
     painter_.paintElement(painter, frame_, rect());
@@ -37,6 +38,12 @@ protected:
   }
 
 private:
+  // A panel behind another tab counts as visible, and is painted when it comes to the front.
+  void showNext() {
+    player_.setWatched(!visibleRegion().isEmpty());
+    QWidget::update();
+  }
+
   AnimatedFrame& frame_;
   CanvasPainter painter_;
   ucAniGIF player_;

@@ -66,6 +66,10 @@ TEST_F(Animation, PlaysWhileItIsShown) {
   EXPECT_TRUE(waitFor([&] { return player.frame(element).isNull(); }));
   form.Picture2[3].setVisible(true);
   EXPECT_TRUE(waitFor([&] { return shows(Qt::blue); }));
+  player.setWatched(false);
+  EXPECT_TRUE(waitFor([&] { return player.frame(element).isNull(); }));
+  player.setWatched(true);
+  EXPECT_TRUE(waitFor([&] { return shows(Qt::blue); }));
   form.ucAniGIF1[0].setPicture(Picture());
   EXPECT_TRUE(player.frame(element).isNull());
 }
