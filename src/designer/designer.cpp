@@ -196,6 +196,18 @@ void Designer::reload(const QString& skinName) {
   parts_->reload();
 }
 
+void Designer::goOnWithCopy(const QString& skinName) {
+  listSkins();
+  const History::Action action(parts_->history);
+  const SkinFolder before = skinFolder();
+  TextBox& skinBefore = *state().globals.SkinBefore;
+  const QString earlier = skinBefore.text();
+  reload(skinName);
+  // Nothing is left behind from another Skin: the copy has all of it.
+  skinBefore.setText(earlier);
+  showOfCopy(state(), before, skinFolder());
+}
+
 void Designer::save() {
   parts_->save();
 }

@@ -51,6 +51,10 @@ public:
   /// Picks another Skin of the same root, as a choice in Form4.Combo3 does: runs the reload.
   void reload(const QString& skinName);
 
+  /// Goes on with a copy of the Skin in hand, of that name and the same root: as reload(), but what no reload
+  /// reads comes along, and the pictures shown are the copy's own.
+  void goOnWithCopy(const QString& skinName);
+
   /// Save Skin into the Skin's own folder, with its questions. What stands against writing is told in a box,
   /// and nothing has changed.
   void save();

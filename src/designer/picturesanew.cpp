@@ -1,5 +1,7 @@
 #include "designer/picturesanew.h"
 
+#include <functional>
+
 #include "problems/shownreferences.h"
 
 namespace veneerer {
@@ -31,16 +33,30 @@ void showFound(State& state, const SkinFolder& folder, const QSet<QString>& path
     }
 }
 
+void forEachElement(State& state, const std::function<void(Element&)>& act) {
+  for (Window* window : state.windows()) {
+    act(*window);
+    for (const Family* family : window->families())
+      for (Element* element : family->members()) act(*element);
+  }
+}
+
 }  // namespace
 
 void showAnew(State& state, const SkinFolder& folder, const QSet<QString>& paths) {
   const ViewsOnly views(state.board);
-  for (Window* window : state.windows()) {
-    showChanged(state, *window, paths);
-    for (const Family* family : window->families())
-      for (Element* element : family->members()) showChanged(state, *element, paths);
-  }
+  forEachElement(state, [&](Element& element) { showChanged(state, element, paths); });
   showFound(state, folder, paths);
+}
+
+void showOfCopy(State& state, const SkinFolder& from, const SkinFolder& to) {
+  const ViewsOnly views(state.board);
+  const QString folder = from.path() + u'/';
+  forEachElement(state, [&](Element& element) {
+    const Picture* shown = pictureOf(element);
+    const QString path = shown ? shown->path() : QString();
+    if (path.startsWith(folder)) show(state, element, to.file(path.mid(folder.size())));
+  });
 }
 
 }  // namespace veneerer

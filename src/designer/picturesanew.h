@@ -13,4 +13,8 @@ namespace veneerer {
 /// leaves what is shown.
 void showAnew(State& state, const SkinFolder& folder, const QSet<QString>& paths);
 
+/// Every element that shows a file of the one Skin shows the file of that name of its copy, where it is
+/// there. No handler runs.
+void showOfCopy(State& state, const SkinFolder& from, const SkinFolder& to);
+
 }  // namespace veneerer

@@ -95,7 +95,7 @@ void copyAsNew(const Place& place) {
         copySkin(place.hands.state(), place.hands.disk(), place.skin(), place.root() + u'/' + name, goOn);
   });
   if (!isDone) return;
-  place.hands.takeInHand(name);
+  place.hands.goOnWithCopy(name);
   place.say(QStringLiteral("%1 is a new Skin, and in hand.").arg(name) + leftOutNote(leftOut));
 }
 

@@ -121,9 +121,8 @@ void Operator::listSkins() {
   designer_.listSkins();
 }
 
-void Operator::takeInHand(const QString& skinName) {
-  listSkins();
-  act([&] { designer_.reload(skinName); });
+void Operator::goOnWithCopy(const QString& skinName) {
+  act([&] { designer_.goOnWithCopy(skinName); });
 }
 
 void Operator::apply(const Remedy& remedy) {

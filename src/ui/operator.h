@@ -77,8 +77,7 @@ public:
   QImage decoded(const QString& path);
   /// Lists the Skins as they are on the disk now.
   void listSkins();
-  /// The Skin of that name, which may be a new one, as a choice in the list of Skins takes it.
-  void takeInHand(const QString& skinName);
+  void goOnWithCopy(const QString& skinName);
   /// Fills the list of fonts; slow.
   void fillFonts();
 

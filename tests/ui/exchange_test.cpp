@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "problems/leftbehind.h"
+#include "support/pictures.h"
 #include "ui/modal.h"
 #include "ui/uifixture.h"
 #include "ui/workwindow.h"
@@ -38,7 +40,11 @@ protected:
 TEST_F(ExchangeMenu, ACopyIsInHandAsItWasAndTheOldOneStays) {
   write("images/a.bmp", "picture");
   form1().Label39->setFontSize(31);
+  // No change of Skin would show another one here.
+  test::writePicture(path("images/star.bmp"), 4, 4, Qt::red);
+  form1().aicAlphaImage1[3].setPicture(state().pictures.load(path("images/star.bmp")));
   copyAs("Mine");
+  EXPECT_EQ(form1().aicAlphaImage1[3].picture().path(), skin("Mine/images/star.bmp"));
   EXPECT_EQ(form4().Combo3->text(), "Mine");
   EXPECT_TRUE(form4().Combo3->list().contains("Mine"));
   EXPECT_EQ(form1().Label39->fontSize(), 31);
@@ -46,10 +52,14 @@ TEST_F(ExchangeMenu, ACopyIsInHandAsItWasAndTheOldOneStays) {
   EXPECT_EQ(test::bytesOf(skin("Mine/images/a.bmp")), "picture");
   EXPECT_TRUE(QFileInfo::exists(skin("Mine/menu.ini")));
   EXPECT_FALSE(QFileInfo::exists(skin("S/menu.ini")));
+  designer->setProperty({&*form1().Label39}, Property::FontSize, 30.f);
+  EXPECT_TRUE(leftBehindFindings(state(), designer->skinFolder()).isEmpty()) << "it is no other Skin";
+  designer->history().undo();
   EXPECT_TRUE(lastNote().startsWith("Mine is a new Skin"));
 
   designer->history().undo();
   EXPECT_EQ(form4().Combo3->text(), "S");
+  EXPECT_EQ(form1().aicAlphaImage1[3].picture().path(), path("images/star.bmp"));
 }
 
 TEST_F(ExchangeMenu, ANameThatCannotBeIsToldAndNothingIsMade) {
