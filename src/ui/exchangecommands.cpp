@@ -9,6 +9,7 @@
 #include "exchange/skincopy.h"
 #include "exchange/skinpacking.h"
 #include "exchange/skinunpacking.h"
+#include "ui/targetdialog.h"
 #include "ui/workwindow.h"
 
 namespace veneerer {
@@ -101,8 +102,8 @@ void copyAsNew(const Place& place) {
 
 void exportSkin(const Place& place) {
   const QString title = QStringLiteral("Export Skin");
-  const QString proposed = QDir::home().filePath(place.skinName() + QStringLiteral(".zip"));
-  const QString file = QFileDialog::getSaveFileName(&place.owner, title, proposed, kArchives);
+  const QString file = chooseTarget(
+      {title, kArchives, QStringLiteral("zip"), place.skinName() + QStringLiteral(".zip")}, &place.owner);
   if (file.isEmpty()) return;
   QList<LeftOut> leftOut;
   const bool isDone = run(place, title, [&](const GoOn& goOn) {
@@ -117,7 +118,8 @@ void exportSkin(const Place& place) {
 const QString kImport = QStringLiteral("Import Skin");
 
 void importSkin(const Place& place) {
-  const QString file = QFileDialog::getOpenFileName(&place.owner, kImport, QDir::homePath(), kArchives);
+  const QString file = QFileDialog::getOpenFileName(&place.owner, kImport, QDir::homePath(), kArchives,
+                                                    nullptr, QFileDialog::ReadOnly);
   if (!file.isEmpty()) importArchive(place.hands, place.owner, file);
 }
 

@@ -2,31 +2,18 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 
 #include "preview/screenpicture.h"
 #include "preview/webpage.h"
 #include "records/writefiles.h"
+#include "ui/targetdialog.h"
 
 namespace veneerer {
 
 namespace {
 
 constexpr char kExport[] = "Export as Web Page";
-
-/// Empty when it was cancelled.
-QString chooseTarget(const QString& skinName) {
-  QFileDialog dialog(QApplication::activeWindow(), QString::fromLatin1(kExport), QDir::homePath(),
-                     QStringLiteral("Web Pages (*.html)"));
-  // The dialog chooses a name; it makes, renames and deletes nothing.
-  dialog.setOption(QFileDialog::ReadOnly);
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(QStringLiteral("html"));
-  dialog.selectFile(skinName + QStringLiteral(".html"));
-  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
-}
 
 void writePage(const Ui& ui, const QFileInfo& file, const QString& skinName) {
   State& state = ui.hands.state();
@@ -39,7 +26,9 @@ void writePage(const Ui& ui, const QFileInfo& file, const QString& skinName) {
 
 void exportPage(const Ui& ui) {
   const QString skinName = ui.hands.state().form4.Combo3->text();
-  const QString path = chooseTarget(skinName);
+  const QString path = chooseTarget({QString::fromLatin1(kExport), QStringLiteral("Web Pages (*.html)"),
+                                     QStringLiteral("html"), skinName + QStringLiteral(".html")},
+                                    QApplication::activeWindow());
   if (path.isEmpty()) return;
   const QFileInfo file(path);
   // No file of the Skin is at stake: a failure ends the export, not the program.
