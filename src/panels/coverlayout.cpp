@@ -88,7 +88,9 @@ QString CoverLayouts::nameToWrite(const SkinFolder& target) const {
   const QString name = coverFileName(state_.form4.Text2->text());
   if (name.isEmpty())
     platform_.dialogs.inform(
-        title, QStringLiteral("Type a plain file name that ends in .cov for the cover layout first."));
+        title, QStringLiteral(
+                   "In File Controls/Settings, type a plain file name that ends in .cov for the cover layout "
+                   "first."));
   else if (QFileInfo::exists(target.file(name)) &&
            !platform_.dialogs.ask(title, QStringLiteral("Do You want to overwrite this cover file?")))
     return {};
