@@ -34,6 +34,7 @@ RescaleOutlook::RescaleOutlook(const Ui& ui)
   factors_->setObjectName(QStringLiteral("rescaleFactors"));
   factors_->setTextFormat(Qt::PlainText);
   factors_->setWordWrap(true);
+  // The commands below stay in their place while numbers are typed: no outlook takes more.
   factors_->setMinimumHeight(2 * factors_->fontMetrics().lineSpacing());
   factors_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* even = new QPushButton(QStringLiteral("Even Scale"));
@@ -66,7 +67,7 @@ void RescaleOutlook::tell() {
   const QSize scaled(qRound(resolution.width() * factors->across),
                      qRound(resolution.height() * factors->down));
   if (!resolution.isEmpty())
-    text += QStringLiteral("; %1 becomes %2").arg(sizeText(resolution), sizeText(scaled));
+    text += QStringLiteral("; %1 to %2").arg(sizeText(resolution), sizeText(scaled));
   factors_->setText(text);
 }
 

@@ -41,7 +41,7 @@ TEST_F(Outlook, FollowsWhatIsTyped) {
   auto& width = widget<QLineEdit>("Form6.Text7");
   QTest::keyClicks(&width, "1608");
   QTest::keyClicks(&widget<QLineEdit>("Form6.Text8"), "380");
-  EXPECT_EQ(told(), "Width × 2, height × 0.6, fonts × 1.2; 800 x 600 becomes 1600 x 360");
+  EXPECT_EQ(told(), "Width × 2, height × 0.6, fonts × 1.2; 800 x 600 to 1600 x 360");
   form4().Text1[0].setText("");
   form1().place(0, 0, 15 * 1608, 15 * 600 + 500);
   EXPECT_EQ(told(), "Width × 1, height × 0.6, fonts × 0.8");
@@ -54,7 +54,7 @@ TEST_F(Outlook, FillsInAnEvenScaleAndNoMore) {
                                     "To 1600 x 1200 (× 2)"}));
   fill("To 1024 x 768 (× 1.28)");
   EXPECT_EQ(size(), "1029x811");
-  EXPECT_EQ(told(), "Width × 1.28, height × 1.281, fonts × 1.3; 800 x 600 becomes 1024 x 768");
+  EXPECT_EQ(told(), "Width × 1.28, height × 1.281, fonts × 1.3; 800 x 600 to 1024 x 768");
   designer->type(*form6().Text7, "402");
   fill("Height as the &Width");
   EXPECT_EQ(size(), "402x317");
