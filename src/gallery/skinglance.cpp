@@ -1,9 +1,10 @@
 #include "gallery/skinglance.h"
 
 #include <QDir>
-#include <QFileInfo>
+#include <algorithm>
 
 #include "designer/designer.h"
+#include "files/filestamp.h"
 #include "platform/scripteddialogs.h"
 #include "preview/screenpicture.h"
 #include "problems/check.h"
@@ -13,21 +14,17 @@ namespace veneerer {
 namespace {
 
 QDateTime newestFile(const QString& folder) {
-  const auto files =
-      QDir(folder).entryInfoList({QStringLiteral("*.ini"), QStringLiteral("*.cov")}, QDir::Files, QDir::Time);
-  return files.isEmpty() ? QDateTime() : files.first().lastModified();
+  const QDir dir(folder);
+  qint64 newest = 0;
+  for (const QString& name : dir.entryList({QStringLiteral("*.ini"), QStringLiteral("*.cov")}, QDir::Files))
+    newest = std::max(newest, stampOf(dir.filePath(name)).modified);
+  return newest == 0 ? QDateTime() : QDateTime::fromMSecsSinceEpoch(newest);
 }
 
 QString resolutionOf(State& state) {
   const QString width = state.form4.Text1[0].text().trimmed();
   const QString height = state.form4.Text1[1].text().trimmed();
   return width.isEmpty() || height.isEmpty() ? QString() : width + QStringLiteral(" x ") + height;
-}
-
-QImage mainScreen(State& state, const Screen& screen, int mostSide) {
-  CanvasPainter painter;
-  const QImage whole = screenPicture(state, screen, painter, 0);
-  return whole.scaled(reducedTo(whole.size(), mostSide), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 }  // namespace
@@ -42,7 +39,8 @@ SkinGlance glanceAt(const Platform& platform, const QString& skinName, int mostS
     Designer designer(own);
     designer.startUp(skinName);
     glance.resolution = resolutionOf(designer.state());
-    glance.picture = mainScreen(designer.state(), platform.screen, mostSide);
+    CanvasPainter painter;
+    glance.picture = screenSketch(designer.state(), platform.screen, painter, 0, mostSide);
   } catch (const std::exception& error) {
     glance.fault = QString::fromUtf8(error.what());
   }

@@ -1,16 +1,21 @@
 #include "ui/glancer.h"
 
+#include <QThread>
+#include <algorithm>
+
 namespace veneerer {
 
 namespace {
 
 enum Priority { Findings = 0, Pictures = 1 };
 
+constexpr int kMostThreads = 2;
+
 }  // namespace
 
 Glancer::Glancer(const Platform& platform, int mostSide) : platform_(platform), mostSide_(mostSide) {
-  // One Skin at a time takes a decoder's memory.
-  pool_.setMaxThreadCount(1);
+  // Each takes a decoder's memory.
+  pool_.setMaxThreadCount(std::min(kMostThreads, QThread::idealThreadCount()));
   pool_.setThreadPriority(QThread::LowPriority);
 }
 

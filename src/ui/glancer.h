@@ -9,20 +9,20 @@
 
 namespace veneerer {
 
-/// One thread of its own looks at one Skin after the other: first all pictures, then all findings. What was
-/// seen is kept for the next time. To be made in the interface's thread, which hears the signals.
+/// Threads of its own look at one Skin after the other: first all pictures, then all findings. What was seen
+/// is kept for the next time. To be made in the interface's thread, which hears the signals.
 class Glancer : public QObject {
   Q_OBJECT
 
 public:
   /// The platform must outlive the glancer.
   Glancer(const Platform& platform, int mostSide);
-  /// Waits for the Skin that is being looked at.
+  /// Waits for the Skins that are being looked at.
   ~Glancer() override;
 
   /// Looks at these from now on, in this order, in the place of those that wait.
   void lookAt(const QStringList& skins);
-  /// Ends with the Skin that is being looked at.
+  /// Ends with the Skins that are being looked at.
   void rest();
 
   /// What is known of that Skin, null for one that wasn't looked at yet.

@@ -131,10 +131,9 @@ void ScreensPanel::paintNext() {
   waiting_.pop_front();
   if (!painter_) painter_ = std::make_unique<CanvasPainter>();
   painter_->setScalingAllowance(kScalingAllowance);
-  const QImage whole = screenPicture(hands_.state(), hands_.screen(), *painter_, entry);
   const double device = devicePixelRatioF();
-  QImage small = whole.scaled(reducedTo(whole.size(), static_cast<int>(kSide * device)),
-                              Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  QImage small =
+      screenSketch(hands_.state(), hands_.screen(), *painter_, entry, static_cast<int>(kSide * device));
   small.setDevicePixelRatio(device);
   // A selected one keeps its colours, too.
   QIcon icon(QPixmap::fromImage(small));

@@ -2,6 +2,7 @@
 #include "preview/screenpicture.h"
 
 #include <QMap>
+#include <cstdlib>
 
 #include "canvas/destinations.h"
 #include "canvas/screens.h"
@@ -34,6 +35,21 @@ TEST_F(ScreenPicture, IsWhatChoosingTheScreenWouldShow) {
     showScreen(state, entry);
     EXPECT_TRUE(picture == seen()) << entry;
   }
+}
+
+TEST_F(ScreenPicture, InSmallLooksLikeTheWholeReduced) {
+  for (const int entry : {0, 4, 9}) {
+    const QImage whole = lookedAt(entry);
+    const QImage small = screenSketch(state, screen, painter, entry, 200);
+    ASSERT_EQ(small.size(), reducedTo(whole.size(), 200));
+    const QImage expected = whole.scaled(small.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    qint64 apart = 0;
+    for (int y = 0; y < small.height(); ++y)
+      for (int x = 0; x < small.width(); ++x)
+        apart += std::abs(qGray(small.pixel(x, y)) - qGray(expected.pixel(x, y)));
+    EXPECT_LT(apart, 6 * qint64(small.width()) * small.height()) << "of 255 a pixel, entry " << entry;
+  }
+  EXPECT_EQ(screenSketch(state, screen, painter, 0, 9000).size(), seen().size()) << "none is enlarged";
 }
 
 TEST_F(ScreenPicture, ChangesNothing) {
