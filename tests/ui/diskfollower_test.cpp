@@ -3,6 +3,7 @@
 
 #include <QSignalSpy>
 #include <QtTest>
+#include <algorithm>
 
 #include "designer/restoredstate.h"
 #include "designer/skinfixture.h"
@@ -148,6 +149,24 @@ TEST_F(Following, WhatCannotBeDecodedLeavesTheOldPictureAndIsCounted) {
   test::writePicture(path(QStringLiteral("images/queue.bmp")), 9, 9, Qt::green);
   EXPECT_TRUE(comes([&] { return shown() == QColor(Qt::green); }));
   EXPECT_TRUE(says("No problems")) << count.text().toStdString();
+}
+
+// Some disks tell nothing of what others write; nor does the system of what is written through the memory.
+TEST_F(Following, LooksAtAllFilesWhenTheProgramGetsTheFocus) {
+  ASSERT_EQ(shown(), QColor(Qt::red));
+  const QString picture = path(QStringLiteral("images/queue.bmp"));
+  test::writePicture(root.filePath(QStringLiteral("blue.bmp")), 8, 8, Qt::blue);
+  const QByteArray blue = test::bytesOf(root.filePath(QStringLiteral("blue.bmp")));
+  QFile file(picture);
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.size() == blue.size());
+  uchar* bytes = file.map(0, file.size());
+  ASSERT_TRUE(bytes);
+  std::ranges::copy(blue, bytes);
+  file.unmap(bytes);
+  QTest::qWait(6 * int(kShort.count()));
+  EXPECT_EQ(shown(), QColor(Qt::red)) << "nobody told it";
+  Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+  EXPECT_TRUE(comes([&] { return shown() == QColor(Qt::blue); }));
 }
 
 TEST_F(Following, AMissingPictureIsMissedUntilItComes) {
