@@ -66,8 +66,7 @@ void RescaleOutlook::tell() {
   const QSize resolution = skinResolution(hands_.state());
   const QSize scaled(qRound(resolution.width() * factors->across),
                      qRound(resolution.height() * factors->down));
-  if (!resolution.isEmpty())
-    text += QStringLiteral("; %1 to %2").arg(sizeText(resolution), sizeText(scaled));
+  if (!resolution.isEmpty()) text += QStringLiteral("; %1 to %2").arg(sizeText(resolution), sizeText(scaled));
   factors_->setText(text);
 }
 
