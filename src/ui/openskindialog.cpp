@@ -54,7 +54,7 @@ QIcon iconOf(const QWidget& widget, const SkinGlance* glance) {
 
 // Said ahead, where it can still be saved; there is no question.
 const QString kEnds = QStringLiteral(
-    " To open it ends the program with this text: what isn't saved in the Skin in hand is lost.");
+    "\nTo open it ends the program with this text: what isn't saved in the Skin in hand is lost.");
 
 QString foundText(int findings) {
   if (findings == 0) return QStringLiteral("no problems");
