@@ -5,9 +5,9 @@
 #include <QList>
 #include <optional>
 
-#include "comparison/textlines.h"
 #include "forms/state.h"
 #include "platform/skinfolder.h"
+#include "records/textlines.h"
 
 namespace veneerer {
 

@@ -1,9 +1,9 @@
 #include "comparison/recordtext.h"
 
-#include "comparison/textlines.h"
 #include "records/layoutreader.h"
 #include "records/layoutwriter.h"
 #include "records/recorderror.h"
+#include "records/textlines.h"
 
 namespace veneerer {
 

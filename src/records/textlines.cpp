@@ -1,4 +1,4 @@
-#include "comparison/textlines.h"
+#include "records/textlines.h"
 
 #include "records/codepage.h"
 
