@@ -34,7 +34,8 @@ double pixelWork(const QByteArray& bytes) {
 /// A picture file's bytes in the hands of the one decoder that its head tells.
 class Decoder {
 public:
-  explicit Decoder(const QString& path) : bytes_(readPlainFile(path, kMostPictureBytes).bytes) {
+  explicit Decoder(const QString& path) : Decoder(readPlainFile(path, kMostPictureBytes).bytes) {}
+  explicit Decoder(QByteArray bytes) : bytes_(std::move(bytes)) {
     PictureFormat format = formatOf(bytes_);
     work_ = bytes_.size();
     if (format == PictureFormat::Icon && !openIcon(format)) return;
@@ -52,13 +53,16 @@ public:
 
   /// An empty size asks for the picture's own.
   QImage read(QSize scaled) {
-    if (!isWithinBounds_) return {};
     if (!scaled.isEmpty()) reader_.setScaledSize(scaled);
-    QImage image = reader_.read();
-    if (pixelsOf(image.size()) > kMostPicturePixels) return {};
+    QImage image = readExactly();
     // The raster engine's own formats paint fastest; converting once here spares it at every repaint.
     return std::move(image).convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
                                                                     : QImage::Format_RGB32);
+  }
+
+  QImage readExactly() {
+    QImage image = isWithinBounds_ ? reader_.read() : QImage();
+    return pixelsOf(image.size()) > kMostPicturePixels ? QImage() : image;
   }
 
 private:
@@ -98,6 +102,10 @@ qint64 pixelsOf(QSize size) {
 
 QImage decodePicture(const QString& path) {
   return Decoder(path).read(QSize());
+}
+
+QImage decodeExactly(const QByteArray& bytes) {
+  return Decoder(bytes).readExactly();
 }
 
 QImage decodeThumbnail(const QString& path, QSize within) {

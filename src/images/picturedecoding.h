@@ -23,7 +23,10 @@ qint64 pixelsOf(QSize size);
 /// The picture of that file in a format that paints fast; null for one that can't be decoded.
 QImage decodePicture(const QString& path);
 
-/// The same in the largest size of its proportions within that one, never larger than it is.
+/// The picture of a file's bytes as they hold it: its palette, its depth, its alpha. Null as above.
+QImage decodeExactly(const QByteArray& bytes);
+
+/// decodePicture() in the largest size of its proportions within that one, never larger than it is.
 QImage decodeThumbnail(const QString& path, QSize within);
 
 /// How large the picture of a file is and what decoding it costs, from what can be told without doing it.
