@@ -20,9 +20,10 @@ constexpr QColor kLight(255, 255, 255, 190);
 constexpr QColor kShade(0, 0, 0, 140);
 constexpr QColor kDisabledText(112, 112, 112);
 
-QColor shownColour(const Button& button, bool hover, std::int32_t lock, Property normal, Property hovered) {
+/// Of the two colours the one that counts.
+Property shownColour(const Button& button, bool hover, std::int32_t lock, Property normal, Property hovered) {
   const bool isLocked = button.as<std::int32_t>(Property::HoverColorLocks) & lock;
-  return button.as<Colour>(hover && !isLocked ? hovered : normal).toQColor();
+  return hover && !isLocked ? hovered : normal;
 }
 
 bool isLatched(const Button& button) {
@@ -71,6 +72,7 @@ void paintFocus(QPainter& painter, const QRectF& contents, const QRectF& clip) {
 struct ButtonPainter::Task {
   QPainter& painter;
   const Button& button;
+  const Dress& dress;
   QRectF rect;
   QRectF clip;  ///< already within the rectangle
   const PixelScale& scale;
@@ -79,12 +81,15 @@ struct ButtonPainter::Task {
   bool isDown;   ///< pressed or latched
   double nudge;  ///< how far the contents move when the button is down, pixels
 
+  QColor colour(Property property) const { return dress.of(button, property).toQColor(); }
   QColor back() const {
-    return shownColour(button, state.hover, kBackLocked, Property::BackColor, Property::HoverBackColor);
+    return colour(
+        shownColour(button, state.hover, kBackLocked, Property::BackColor, Property::HoverBackColor));
   }
   QColor fore() const {
     if (!isEnabled) return kDisabledText;
-    return shownColour(button, state.hover, kForeLocked, Property::ForeColor, Property::HoverForeColor);
+    return colour(
+        shownColour(button, state.hover, kForeLocked, Property::ForeColor, Property::HoverForeColor));
   }
   FaceLook look(QSize size, const QImage& picture) const;
 };
@@ -96,7 +101,7 @@ FaceLook ButtonPainter::Task::look(QSize size, const QImage& picture) const {
                 .style = button.buttonStyle(),
                 .gradient = button.gradientMode(),
                 .back = back().rgb(),
-                .second = button.gradientColor().toQColor().rgb(),
+                .second = colour(Property::GradientColor).rgb(),
                 .pictureSize = picture.isNull() ? 0 : static_cast<int>(button.pictureSize()),
                 .pictureKey = picture.isNull() ? 0 : picture.cacheKey(),
                 .hover = state.hover,
@@ -133,7 +138,8 @@ void ButtonPainter::paint(QPainter& painter, const Button& button, const QRectF&
   const bool isEnabled = button.as<bool>(Property::Enabled);
   const ButtonState answered = isEnabled ? state : ButtonState();
   const bool isDown = answered.pressed || (isEnabled && isLatched(button));
-  Task task{painter, button, rect, rect & clip, scale, answered, isEnabled, isDown, isDown ? 1.0 : 0.0};
+  Task task{painter, button,   dress_,    rect,   rect & clip,
+            scale,   answered, isEnabled, isDown, isDown ? 1.0 : 0.0};
   if (task.clip.isEmpty()) return;
   // A custom shape may ask to be moved as a whole in place of the look of a pressed button.
   if (isDown && button.isCustomShaped() && button.as<bool>(Property::CustomClick)) {

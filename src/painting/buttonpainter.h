@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "elements/button.h"
+#include "elements/dress.h"
 #include "painting/buttonface.h"
 #include "painting/customoutline.h"
 #include "painting/pixels.h"
@@ -21,9 +22,9 @@ struct ButtonState {
 
 class ButtonPainter {
 public:
-  /// The caches must outlive the painter.
-  ButtonPainter(TextLayouts& texts, ScaledImages& images, CutOuts& cutOuts)
-      : texts_(texts), images_(images), faces_(cutOuts, images) {}
+  /// The caches and the dress, in whose colours the buttons are painted, must outlive the painter.
+  ButtonPainter(TextLayouts& texts, ScaledImages& images, CutOuts& cutOuts, const Dress& dress)
+      : texts_(texts), images_(images), faces_(cutOuts, images), dress_(dress) {}
 
   /// Paints the button over a rectangle; what lies outside the clip isn't touched. Both in pixels. Nothing
   /// shows past the button's outline. A face that is too large to keep (see kLargestKeptImage) is painted as
@@ -46,6 +47,7 @@ private:
   TextLayouts& texts_;
   ScaledImages& images_;
   ButtonFaces faces_;
+  const Dress& dress_;
 };
 
 }  // namespace veneerer

@@ -107,14 +107,14 @@ void CanvasPainter::paintOne(QPainter& painter, const Element& element, const QR
 void CanvasPainter::paintLabel(QPainter& painter, const Label& label, const QRectF& rect,
                                const QRectF& clip) {
   const QRectF shown = rect & clip;
-  if (label.isOpaque()) painter.fillRect(shown, label.backColor().toQColor());
+  if (label.isOpaque()) painter.fillRect(shown, dress_.of(label, Property::BackColor).toQColor());
   const int height = fontPixels(label.fontSize(), scale_.y);
   if (label.caption().isEmpty() || height == 0) return;
   const LaidOutText& text =
       texts_.of({label.caption(), label.fontName(), height, fontFlags(label),
                  static_cast<int>(std::ceil(rect.width() + lostWidth(label, rect, scale_))),
                  static_cast<int>(std::ceil(rect.height())), label.alignment()});
-  painter.setPen(label.foreColor().toQColor());
+  painter.setPen(dress_.of(label, Property::ForeColor).toQColor());
   drawTextWithin(painter, text, rect.topLeft(), shown);
 }
 
@@ -129,7 +129,7 @@ void CanvasPainter::paintNatural(QPainter& painter, const Picture& picture, cons
 void CanvasPainter::paintPictureBox(QPainter& painter, const PictureBox& box, const QRectF& rect,
                                     const QRectF& clip) {
   const QRectF shown = rect & clip;
-  painter.fillRect(shown, box.backColor().toQColor());
+  painter.fillRect(shown, dress_.of(box, Property::BackColor).toQColor());
   paintNatural(painter, box.picture(), rect, shown);
   if (box.as<std::int32_t>(Property::BorderStyle) == 1) paintBorder(painter, rect, clip);
 }

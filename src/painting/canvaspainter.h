@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "elements/controls.h"
+#include "elements/dress.h"
 #include "elements/label.h"
 #include "elements/stage.h"
 #include "forms/form1.h"
@@ -40,6 +41,9 @@ public:
   /// What is painted on the canvas window from now on in the place of its visible children; nothing for
   /// those.
   void setStage(std::optional<Stage> stage) { stage_ = std::move(stage); }
+
+  /// In which colours everything is painted from now on.
+  void setDress(const Dress& dress) { dress_ = dress; }
 
   /// The outlines of custom shapes, for a hit test of what is painted here.
   CutOuts& cutOuts() { return cutOuts_; }
@@ -80,7 +84,8 @@ private:
   TextLayouts texts_;
   ScaledImages images_;
   CutOuts cutOuts_;
-  ButtonPainter buttons_{texts_, images_, cutOuts_};
+  Dress dress_;
+  ButtonPainter buttons_{texts_, images_, cutOuts_, dress_};
   FrameSource frames_;
   std::optional<Stage> stage_;
   const Element* hovered_ = nullptr;

@@ -86,7 +86,7 @@ StoredValue readStored(RecordReader& reader) {
   return StoredValue(asText(value));
 }
 
-void writeField(RecordWriter& out, const Field& field) {
+void writeField(RecordWriter& out, const Field& field, const Dress& dress) {
   const Value& value = field.from.element->get(field.from.property);
   switch (field.kind) {
     case ValueKind::Text:
@@ -96,7 +96,7 @@ void writeField(RecordWriter& out, const Field& field) {
     case ValueKind::Long:
       return out.writeWhole(std::get<std::int32_t>(value));
     case ValueKind::Colour:
-      return out.writeWhole(std::get<Colour>(value).number());
+      return out.writeWhole(dress.of(*field.from.element, field.from.property).number());
     case ValueKind::Single:
       return out.writeSingle(std::get<float>(value));
     case ValueKind::Whole:

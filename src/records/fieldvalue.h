@@ -2,6 +2,7 @@
 // and nowhere else.
 #pragma once
 
+#include "elements/dress.h"
 #include "records/recordreader.h"
 #include "records/recordwriter.h"
 #include "records/row.h"
@@ -23,7 +24,7 @@ double readNumber(RecordReader& reader);
 /// The next value as it stands: a number, else its text.
 StoredValue readStored(RecordReader& reader);
 
-/// Writes the value of the slot that the field is written from.
-void writeField(RecordWriter& out, const Field& field);
+/// Writes the value of the slot that the field is written from; a colour in that of the dress.
+void writeField(RecordWriter& out, const Field& field, const Dress& dress);
 
 }  // namespace veneerer

@@ -4,11 +4,13 @@
 #include <QByteArray>
 #include <vector>
 
+#include "elements/dress.h"
 #include "records/layout.h"
 
 namespace veneerer {
 
-QByteArray composeRecords(const Layout& layout);
+/// The file's colours are those of the dress.
+QByteArray composeRecords(const Layout& layout, const Dress& dress = {});
 
 /// A row as it stands in a composed file.
 struct WrittenRow {
@@ -17,6 +19,6 @@ struct WrittenRow {
 };
 
 /// The same; rows gets those that are written, in file order. They belong to the layout.
-QByteArray composeRecords(const Layout& layout, std::vector<WrittenRow>& rows);
+QByteArray composeRecords(const Layout& layout, std::vector<WrittenRow>& rows, const Dress& dress = {});
 
 }  // namespace veneerer

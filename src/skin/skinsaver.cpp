@@ -6,11 +6,11 @@
 
 namespace veneerer {
 
-std::vector<NewFile> composedRecords(State& state) {
+std::vector<NewFile> composedRecords(State& state, const Dress& dress) {
   std::vector<NewFile> files;
   for (const SaveEntry& entry : saveOrder()) {
     const Layout layout = entry.layout(state);
-    if (!layout.isEmpty()) files.push_back({savedName(entry, layout), composeRecords(layout)});
+    if (!layout.isEmpty()) files.push_back({savedName(entry, layout), composeRecords(layout, dress)});
   }
   return files;
 }

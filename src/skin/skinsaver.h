@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "elements/dress.h"
 #include "files/replacefiles.h"
 #include "forms/state.h"
 #include "platform/platform.h"
@@ -11,8 +12,8 @@
 
 namespace veneerer {
 
-/// Every record file as a save writes it.
-std::vector<NewFile> composedRecords(State& state);
+/// Every record file as a save writes it, in the colours of the dress.
+std::vector<NewFile> composedRecords(State& state, const Dress& dress = {});
 
 /// Composes every record file, from menu.ini to the twins and locked_button.ini, and replaces all of them in
 /// that folder. No question is asked and no copy is kept. Throws WriteRefused when one of them can't be

@@ -57,7 +57,8 @@ protected:
   TextLayouts texts;
   ScaledImages images;
   CutOuts cutOuts;
-  ButtonPainter painter{texts, images, cutOuts};
+  Dress dress;
+  ButtonPainter painter{texts, images, cutOuts, dress};
 };
 
 int count(const QImage& image, QColor colour) {
