@@ -42,6 +42,10 @@ double contrastOf(double one, double other) {
   return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
 }
 
+QString contrastText(double contrast) {
+  return QString::number(std::floor(contrast * 10) / 10, 'f', 1);
+}
+
 double leastContrast(float points, bool isBold) {
   const bool isLarge = points >= 18 || (isBold && points >= 14);
   return isLarge ? 3 : 4.5;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QImage>
+#include <QString>
 
 namespace veneerer {
 
@@ -13,6 +14,9 @@ double meanLuminance(const QImage& image);
 
 /// The contrast of two luminances, 1 for none to 21 for black on white.
 double contrastOf(double one, double other);
+
+/// A contrast to be read, with one digit behind the point; never more than it is.
+QString contrastText(double contrast);
 
 /// The least contrast that a text of that many points can be read with: large letters need less.
 double leastContrast(float points, bool isBold);

@@ -35,15 +35,16 @@ QSize reducedSize(QSizeF size) {
   return (size * reductionOf(size)).toSize().expandedTo(QSize(1, 1));
 }
 
-FaceLook lookOf(const Button& button, QSize size, double scale, const PictureSample& sample) {
+FaceLook lookOf(const Button& button, const Dress& dress, QSize size, double scale,
+                const PictureSample& sample) {
   const bool isCovered = !sample.image.isNull();
   return {.size = size,
           .scale = scale,
           .shape = button.buttonShape(),
           .style = button.buttonStyle(),
           .gradient = button.gradientMode(),
-          .back = button.backColor().toQColor().rgb(),
-          .second = button.gradientColor().toQColor().rgb(),
+          .back = dress.of(button, Property::BackColor).toQColor().rgb(),
+          .second = dress.of(button, Property::GradientColor).toQColor().rgb(),
           .pictureSize = isCovered ? static_cast<int>(button.pictureSize()) : 0,
           .pictureKey = isCovered ? sample.image.cacheKey() : 0};
 }
@@ -56,8 +57,14 @@ bool coversFace(const Button& button) {
 class GroundPainter {
 public:
   GroundPainter(QPainter& painter, const State& state, PictureSamples& pictures, ButtonFaces& faces,
-                const PixelScale& scale, const Element& last)
-      : painter_(painter), state_(state), pictures_(pictures), faces_(faces), scale_(scale), last_(last) {}
+                const PixelScale& scale, const Dress& dress, const Element& last)
+      : painter_(painter),
+        state_(state),
+        pictures_(pictures),
+        faces_(faces),
+        scale_(scale),
+        dress_(dress),
+        last_(last) {}
 
   bool isComplete() const { return isComplete_; }
 
@@ -110,12 +117,12 @@ private:
     switch (element.kind()) {
       case Kind::Label:
         if (const auto& label = cast<Label>(element); label.isOpaque())
-          painter_.fillRect(clip, label.backColor().toQColor());
+          painter_.fillRect(clip, dress_.of(label, Property::BackColor).toQColor());
         return;
       case Kind::Button:
         return paintButton(cast<Button>(element), rect, clip);
       case Kind::PictureBox:
-        painter_.fillRect(clip, element.as<Colour>(Property::BackColor).toQColor());
+        painter_.fillRect(clip, dress_.of(element, Property::BackColor).toQColor());
         return paintNatural(element.as<Picture>(Property::Picture), rect.topLeft(), clip);
       default:
         return paintPicture(element, rect, clip);
@@ -137,7 +144,7 @@ private:
     const QSize size = reducedSize(rect.size());
     work_ += kFaceCost * static_cast<double>(pixelsOf(size));
     const PictureSample sample = coversFace(button) ? sampleOf(button.picture()) : PictureSample();
-    const FaceLook look = lookOf(button, size, reductionOf(rect.size()), sample);
+    const FaceLook look = lookOf(button, dress_, size, reductionOf(rect.size()), sample);
     drawWithin(painter_, rect, faces_.face(look, sample.image), clip);
   }
 
@@ -146,6 +153,7 @@ private:
   PictureSamples& pictures_;
   ButtonFaces& faces_;
   const PixelScale& scale_;
+  const Dress& dress_;
   const Element& last_;
   double work_ = 0;
   bool isComplete_ = true;
@@ -157,7 +165,7 @@ QPointF originOf(const Element& element, const PixelScale& scale) {
 
 }  // namespace
 
-std::optional<double> Ground::luminance(const Element& element, const QRectF& part) {
+std::optional<double> Ground::luminance(const Element& element, const QRectF& part, const Dress& dress) {
   if (!kReach.contains(part)) return {};
   const QRect region = part.toAlignedRect();
   const double factor = reductionOf(region.size());
@@ -167,7 +175,7 @@ std::optional<double> Ground::luminance(const Element& element, const QRectF& pa
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.scale(factor, factor);
   painter.translate(-region.topLeft());
-  GroundPainter ground(painter, state_, pictures_, faces_, scale_, element);
+  GroundPainter ground(painter, state_, pictures_, faces_, scale_, dress, element);
   const int entry = screenEntryOf(state_, element);
   if (entry == 0) {
     ground.paintFrame(region);

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "elements/dress.h"
 #include "forms/state.h"
 #include "painting/buttonface.h"
 #include "painting/pixels.h"
@@ -23,7 +24,8 @@ public:
   /// The mean luminance, over that part of the window (pixels), of the element itself without its caption and
   /// of all that lies below it on its screen. Nothing where that isn't known: a picture is beyond what may be
   /// decoded, or more lies there than a stranger's Skin may make anybody paint.
-  std::optional<double> luminance(const Element& element, const QRectF& part);
+  /// Painted in the colours of that dress.
+  std::optional<double> luminance(const Element& element, const QRectF& part, const Dress& dress = {});
 
 private:
   const State& state_;

@@ -65,8 +65,7 @@ QList<Hint> Hints::atOnce(const Element& element) {
 }
 
 QList<Hint> Hints::byGround(const Element& element) {
-  const bool isSeen = isShownOnScreen(state_, element) && !hiderOf(state_, element, scale_);
-  const QString text = isSeen ? faint(element) : QString();
+  const QString text = faint(element);
   return text.isEmpty() ? QList<Hint>() : QList<Hint>{{Property::ForeColor, text}};
 }
 
@@ -132,20 +131,12 @@ QString Hints::pictureFar(const Element& element) {
 }
 
 QString Hints::faint(const Element& element) {
-  const std::optional<CaptionLayout> caption = captions_.of(element);
+  const std::optional<SeenCaption> caption = contrasts_.seen(element);
   if (!caption) return {};
-  const QPointF corner = pixelPlace(element, scale_).topLeft();
-  const QRectF seen = caption->ink.translated(corner) & partWithinContainers(element, scale_);
-  if (seen.isEmpty()) return {};
-  const std::optional<double> ground = ground_.luminance(element, seen);
-  if (!ground) return {};
-  const QRgb letters = element.as<Colour>(Property::ForeColor).toQColor().rgb();
-  const double contrast = contrastOf(luminanceOf(letters), *ground);
-  const double least =
-      leastContrast(element.as<float>(Property::FontSize), element.as<bool>(Property::FontBold));
-  if (contrast >= least) return {};
+  const std::optional<double> contrast = contrasts_.of(*caption);
+  if (!contrast || *contrast >= caption->least) return {};
   return QStringLiteral("%1 has a contrast of %2 to what lies beneath, %3 is the least")
-      .arg(captionOf(element), QString::number(std::floor(contrast * 10) / 10, 'f', 1), number(least));
+      .arg(captionOf(element), contrastText(*contrast), number(caption->least));
 }
 
 }  // namespace veneerer

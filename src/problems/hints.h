@@ -7,9 +7,9 @@
 #include "forms/state.h"
 #include "painting/pixels.h"
 #include "platform/platform.h"
+#include "problems/captioncontrast.h"
 #include "problems/captions.h"
 #include "problems/fontsathand.h"
-#include "problems/ground.h"
 #include "problems/picturesamples.h"
 
 namespace veneerer {
@@ -54,7 +54,7 @@ private:
   int touch_;
   PictureSamples pictures_;
   Captions captions_{pictures_, scale_};
-  Ground ground_{state_, pictures_, scale_};
+  CaptionContrasts contrasts_{state_, pictures_, captions_, scale_};
   FontsAtHand fonts_;
 };
 
