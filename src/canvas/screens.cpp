@@ -55,6 +55,14 @@ int entryOf(const State& state, const Element& element) {
   return -1;
 }
 
+int shownEntry(const State& state) {
+  const int chosen = state.form6.Combo6->listIndex();
+  if (chosen >= 0) return chosen;
+  for (int entry = 0; entry < static_cast<int>(kScreenEntries.size()); ++entry)
+    if (screenOf(state, entry).isVisible()) return entry;
+  return -1;
+}
+
 bool isScreen(const State& state, const Element& element) {
   const Form1& form1 = state.form1;
   return element.family() == &form1.Picture1 || &element == &form1.Picture12[0] ||

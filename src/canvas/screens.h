@@ -57,6 +57,9 @@ Element& screenOf(State& state, int entry);
 /// The entry whose panel the element is, -1 for none.
 int entryOf(const State& state, const Element& element);
 
+/// The entry that is chosen, else, as behind a start, the one that is seen; -1 for none.
+int shownEntry(const State& state);
+
 /// Whether the element is the panel of an entry.
 bool isScreen(const State& state, const Element& element);
 

@@ -306,6 +306,11 @@ void Designer::setProperty(const std::vector<Element*>& elements, Property prope
     if (element->has(property)) veneerer::setProperty(*element, property, value);
 }
 
+void Designer::recolour(const Dress& dress) {
+  const History::Action action(parts_->history, QStringLiteral("Recolour"));
+  for (const DressedColour& dressed : dress.colours()) dressed.element->set(dressed.property, dressed.colour);
+}
+
 void Designer::copyLook(const Element& from, const std::vector<Element*>& to) {
   const History::Action action(parts_->history, QStringLiteral("Paste Style"));
   const RefusalNotes::Command command(parts_->refusals);

@@ -11,6 +11,7 @@
 #include "editing/arranging.h"
 #include "editing/overlayselection.h"
 #include "elements/controls.h"
+#include "elements/dress.h"
 #include "forms/state.h"
 #include "history/history.h"
 #include "platform/platform.h"
@@ -98,6 +99,8 @@ public:
 
   /// Sets one property of all these elements that have it.
   void setProperty(const std::vector<Element*>& elements, Property property, const Value& value);
+  /// Gives the elements the colours of that dress, as one step.
+  void recolour(const Dress& dress);
   /// Gives these elements what they have in common of the look of that one.
   void copyLook(const Element& from, const std::vector<Element*>& to);
   /// Gives the screen that is shown the look that it has in another Skin of the root, as one step; pictures

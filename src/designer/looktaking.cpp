@@ -39,15 +39,6 @@ qsizetype elementsOf(const TakenLook& look) {
   return elements.size();
 }
 
-/// The screen that was chosen, else, as behind a start, the one that is seen; -1 for none.
-int shownEntry(const State& state) {
-  const int chosen = state.form6.Combo6->listIndex();
-  if (chosen >= 0) return chosen;
-  for (int entry = 0; entry < static_cast<int>(kScreenEntries.size()); ++entry)
-    if (screenOf(state, entry).isVisible()) return entry;
-  return -1;
-}
-
 }  // namespace
 
 std::optional<LookAtHand> fetchLook(State& state, const Platform& platform, const QString& skinName,
