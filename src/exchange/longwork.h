@@ -11,6 +11,9 @@ namespace veneerer {
 /// again and again. False when the work is to be given up. An empty one counts as true.
 using GoOn = std::function<bool(int done, int total, const QString& file)>;
 
+/// Called now and then by a part of the work that takes long; throws GivenUp when the work is to be.
+using Step = std::function<void()>;
+
 /// The work was given up; nothing is left of it.
 class GivenUp : public std::exception {
 public:

@@ -26,8 +26,13 @@ void refuseWithin(const QString& from, const QString& to) {
 
 class SkinCopy {
 public:
-  SkinCopy(NewFolder& folder, const GoOn& goOn, std::vector<NewFile> records, FolderTree tree)
-      : folder_(folder), goOn_(goOn), records_(std::move(records)), tree_(std::move(tree)) {
+  SkinCopy(NewFolder& folder, const GoOn& goOn, std::vector<NewFile> records, FolderTree tree,
+           const CopyChanges& changes)
+      : folder_(folder),
+        goOn_(goOn),
+        records_(std::move(records)),
+        tree_(std::move(tree)),
+        changes_(changes) {
     QSet<QString> names;
     for (const NewFile& file : records_) names.insert(file.name);
     tree_.files.removeIf([&](const TreeFile& file) { return names.contains(file.name); });
@@ -42,19 +47,29 @@ public:
     }
     for (const TreeFile& file : std::as_const(tree_.files)) {
       step(file.name);
-      folder_.copy(file.path, file.name, file.bytes);
+      copy(file);
     }
     tellStep(goOn_, total_, total_, QString());
     folder_.putInPlace();
   }
 
 private:
+  void copy(const TreeFile& file) {
+    const auto stay = [&] { tellStep(goOn_, done_, total_, file.name); };
+    std::optional<QByteArray> remade;
+    if (changes_.remade) remade = changes_.remade(file, stay);
+    if (remade)
+      folder_.create(file.name, *remade);
+    else
+      folder_.copy(file.path, file.name, file.bytes);
+  }
   void step(const QString& name) { tellStep(goOn_, done_++, total_, name); }
 
   NewFolder& folder_;
   const GoOn& goOn_;
   std::vector<NewFile> records_;
   FolderTree tree_;
+  const CopyChanges& changes_;
   int done_ = 0;
   int total_ = 0;
 };
@@ -62,12 +77,12 @@ private:
 }  // namespace
 
 QList<LeftOut> copySkin(State& state, Disk& disk, const QString& from, const QString& to, const GoOn& goOn,
-                        const ExchangeLimits& limits) {
+                        const ExchangeLimits& limits, const CopyChanges& changes) {
   refuseWithin(from, to);
   const FolderTree tree = contentsOf(from, limits);
   try {
     NewFolder folder(disk, to);
-    SkinCopy(folder, goOn, composedRecords(state), tree).run();
+    SkinCopy(folder, goOn, composedRecords(state, changes.dress), tree, changes).run();
   } catch (const ReplaceError& error) {
     throw ExchangeError(QStringLiteral("%1: no copy is made: %2").arg(to, QString::fromUtf8(error.what())));
   }
