@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <algorithm>
+#include <cstdlib>
 
 #include "canvas/screens.h"
 #include "platform/program.h"
@@ -66,6 +67,39 @@ int parseTouch(const QCommandLineParser& parser) {
   return positive(parser.value(name), name, 32767);
 }
 
+/// 0 where the option isn't given.
+int parseTurn(const QCommandLineParser& parser, const QString& name, int most) {
+  if (!parser.isSet(name)) return 0;
+  bool isNumber = false;
+  const int number = parser.value(name).toInt(&isNumber);
+  if (!isNumber || std::abs(number) > most)
+    throw UsageError(QStringLiteral("--%1 takes numbers from -%2 to %2").arg(name).arg(most));
+  return number;
+}
+
+void addReplacement(ColourMap& map, const QString& text) {
+  const QStringList colours = text.split(u'=');
+  const auto isColour = [](const QString& word) {
+    return word.size() == 7 && word.startsWith(u'#') && QColor::isValidColor(word);
+  };
+  if (colours.size() != 2 || !std::ranges::all_of(colours, isColour))
+    throw UsageError(QStringLiteral("--replace takes #RRGGBB=#RRGGBB, not \"%1\"").arg(text));
+  const Colour from = Colour::of(QColor(colours[0]));
+  if (map.replaced.contains(from.number()))
+    throw UsageError(QStringLiteral("--replace names %1 twice").arg(colours[0]));
+  map.replaced.insert(from.number(), Colour::of(QColor(colours[1])));
+}
+
+Recolouring parseRecolouring(const QCommandLineParser& parser) {
+  Recolouring recolouring;
+  recolouring.map.turn = {parseTurn(parser, QStringLiteral("hue"), 360),
+                          parseTurn(parser, QStringLiteral("saturation"), 100),
+                          parseTurn(parser, QStringLiteral("lightness"), 100)};
+  for (const QString& text : parser.values(QStringLiteral("replace"))) addReplacement(recolouring.map, text);
+  recolouring.withPictures = parser.isSet(QStringLiteral("pictures"));
+  return recolouring;
+}
+
 void checkSkins(const CommandEntry& command, const QStringList& skins) {
   if (skins.size() < command.fewestSkins || skins.size() > command.mostSkins) {
     const QString count = command.mostSkins == 0   ? QStringLiteral("no Skin")
@@ -87,7 +121,8 @@ QString checkedArchive(const QStringList& operands) {
 
 void checkTarget(const CommandEntry& command, const QString& to) {
   if (command.needsTarget && to.isEmpty()) throw UsageError(QStringLiteral("--to is missing"));
-  if (command.command == Command::Copy && (QFileInfo::exists(to) || QFileInfo(to).isSymLink()))
+  const bool isNew = command.command == Command::Copy || command.command == Command::Recolour;
+  if (isNew && (QFileInfo::exists(to) || QFileInfo(to).isSymLink()))
     throw UsageError(QStringLiteral("\"%1\" is there already").arg(to));
 }
 
@@ -128,6 +163,7 @@ Arguments readOptions(const QCommandLineParser& parser) {
   arguments.screen = parseScreen(parser);
   arguments.design = parser.isSet(QStringLiteral("design"));
   arguments.touch = parseTouch(parser);
+  arguments.recolouring = parseRecolouring(parser);
   checkEntries(arguments.only);
   checkCover(parser, arguments.cover);
   if (parser.isSet(QStringLiteral("script")) && arguments.script.isEmpty())

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "platform/platform.h"
+#include "recolouring/recolouredcopy.h"
 #include "skintool/commands.h"
 
 namespace veneerer {
@@ -26,6 +27,7 @@ struct Arguments {
   QStringList only;   ///< render: the entries to render, empty for all
   QString script;     ///< a script to play after the load, "-" for standard input, empty for none
   bool reload = false;
+  Recolouring recolouring;
   bool design = false;  ///< check: hints as well
   int touch = 0;        ///< check: the least side of a button for a hint, pixels
   Screen screen;

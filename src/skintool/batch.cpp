@@ -72,6 +72,9 @@ private:
       case Command::Copy:
         copyTo(designer_, arguments_.to, err);
         break;
+      case Command::Recolour:
+        recolourTo(designer_, arguments_.to, arguments_.recolouring, err);
+        break;
       default:
         save();
     }

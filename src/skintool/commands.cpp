@@ -44,6 +44,12 @@ const CommandEntry kCommands[] = {
      "file\n"
      "of its folder byte for byte. FOLDER must not be there.",
      1, 1, true},
+    {Command::Recolour, "recolour",
+     "SKIN --to FOLDER [--hue DEGREES] [--saturation PERCENT] [--lightness PERCENT]\n"
+     "                [--replace #RRGGBB=#RRGGBB]... [--pictures] [options]",
+     "Makes a whole new Skin of the Skin as loaded in other colours: every colour that its files store, but\n"
+     "for system colours, is replaced or turned. FOLDER must not be there.",
+     1, 1, true},
     {Command::Pack, "pack", "SKIN --to FILE.zip",
      "Packs the Skin's folder as it is into one zip archive, where it is the only entry at the top.", 1, 1,
      true},
@@ -59,16 +65,24 @@ const CommandEntry kCommands[] = {
 // The commands that work on one Skin as a load leaves it.
 constexpr std::initializer_list<Command> kLoading = {Command::Dump,  Command::Save,    Command::Render,
                                                      Command::Sheet, Command::Preview, Command::Diff,
-                                                     Command::Copy};
+                                                     Command::Copy,  Command::Recolour};
 
 const OptionEntry kOptions[] = {
     {"to",
      "PATH",
      "where to write; a folder is made when it isn't there",
      {Command::Save, Command::Render, Command::Sheet, Command::Preview, Command::Buttons, Command::Copy,
-      Command::Pack, Command::Unpack}},
+      Command::Recolour, Command::Pack, Command::Unpack}},
     {"cover", "NAME", "also saves the cover layout, under this name", {Command::Save}},
     {"only", "ENTRY", "draws this screen alone; may be given again for further ones", {Command::Render}},
+    {"hue", "DEGREES", "turns the hue of the colours, from -360 to 360", {Command::Recolour}},
+    {"saturation", "PERCENT", "takes or gives saturation, from -100 to 100", {Command::Recolour}},
+    {"lightness", "PERCENT", "the way to black, down to -100, or to white, up to 100", {Command::Recolour}},
+    {"replace",
+     "#RRGGBB=#RRGGBB",
+     "gives the second colour to all places of the first; may be given again for further ones",
+     {Command::Recolour}},
+    {"pictures", nullptr, "turns the pictures too, each in its own format", {Command::Recolour}},
     {"script", "FILE", "plays a script after the load; - is standard input", kLoading},
     {"reload", nullptr, "reads the files once more, in the order of a change of Skin", kLoading},
     {"screen", "WIDTHxHEIGHT", "the size of the screen in pixels; 1024x768 without it", kLoading},

@@ -18,6 +18,7 @@ enum class Command : std::uint8_t {
   Buttons,
   Diff,
   Copy,
+  Recolour,
   Pack,
   Unpack
 };

@@ -1,4 +1,4 @@
-// The commands copy, pack and unpack.
+// The commands copy, recolour, pack and unpack.
 #pragma once
 
 #include <cstdio>
@@ -12,6 +12,10 @@ namespace veneerer {
 
 /// Copies the Skin in hand as it is now into that folder.
 void copyTo(Designer& designer, const QString& folder, std::FILE* err);
+
+/// The same in other colours. Tells the pictures, too, that are copied as they are, and the colours to
+/// replace that no place has.
+void recolourTo(Designer& designer, const QString& folder, const Recolouring& recolouring, std::FILE* err);
 
 /// Packs the Skin of the command line. The exit status.
 int runPack(const Arguments& arguments, std::FILE* err);
