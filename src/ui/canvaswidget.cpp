@@ -125,6 +125,13 @@ void CanvasWidget::setGuides(const Guides& guides) {
   update();
 }
 
+void CanvasWidget::setDress(const Dress& dress) {
+  surface_.painter().setDress(dress);
+  surface_.changed();
+  dirty_.addAll();
+  scheduleRepaint();
+}
+
 void CanvasWidget::setMockUp(const MockUp& mockUp) {
   mockUp_ = mockUp;
   update();

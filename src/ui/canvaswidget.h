@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+#include "elements/dress.h"
 #include "painting/anigif.h"
 #include "painting/hittest.h"
 #include "ui/bindings.h"
@@ -39,6 +40,8 @@ public:
   /// The steps of the grid in canvas pixels; an empty size for no grid.
   void setGrid(QSizeF step);
   void setGuides(const Guides& guides);
+  /// In which colours the canvas is painted from now on; an empty dress for its own.
+  void setDress(const Dress& dress);
 
   const MockUp& mockUp() const { return mockUp_; }
   void setMockUp(const MockUp& mockUp);

@@ -21,6 +21,7 @@
 #include "ui/opencommand.h"
 #include "ui/plaintext.h"
 #include "ui/previewcommands.h"
+#include "ui/recolourdialog.h"
 #include "ui/savednote.h"
 #include "ui/skindrop.h"
 #include "ui/takedialog.h"
@@ -135,6 +136,7 @@ void CanvasWindow::addEditMenu() {
   menu->addSeparator();
   addCopyScreen(*menu, ui_);
   addTakeCommand(*menu, ui_.hands, *this);
+  addRecolourCommand(*menu, ui_, view_->canvas(), *this);
   connect(&steps, &QUndoStack::cleanChanged, this, [this](bool isClean) { setWindowModified(!isClean); });
 }
 

@@ -48,13 +48,6 @@ bool run(const Place& place, const QString& title, const std::function<void(cons
   return false;
 }
 
-QString leftOutNote(const QList<LeftOut>& leftOut) {
-  if (leftOut.isEmpty()) return {};
-  return QStringLiteral(" Left out: %1 of it, the first is %2, %3.")
-      .arg(leftOut.size())
-      .arg(leftOut.first().name, leftOut.first().reason);
-}
-
 /// "Mine copy", or the first such name with a number that nothing bears.
 QString freeName(const Place& place) {
   const QString name = place.skinName() + QStringLiteral(" copy");
@@ -84,20 +77,11 @@ std::optional<QString> askName(const Place& place, const QString& title) {
 }
 
 void copyAsNew(const Place& place) {
-  const QString title = QStringLiteral("Copy as New Skin");
-  const std::optional<QString> chosen = askName(place, title);
-  if (!chosen) return;
-  const QString& name = *chosen;
-  const QString fault = faultOfName(place, name);
-  if (!fault.isEmpty()) return place.hands.dialogs().inform(title, fault);
-  QList<LeftOut> leftOut;
-  const bool isDone = run(place, title, [&](const GoOn& goOn) {
-    leftOut =
-        copySkin(place.hands.state(), place.hands.disk(), place.skin(), place.root() + u'/' + name, goOn);
-  });
-  if (!isDone) return;
-  place.hands.goOnWithCopy(name);
-  place.say(QStringLiteral("%1 is a new Skin, and in hand.").arg(name) + leftOutNote(leftOut));
+  makeNewSkin(
+      place.hands, place.owner, QStringLiteral("Copy as New Skin"),
+      [&](const QString& folder, const GoOn& goOn) {
+        return leftOutNote(copySkin(place.hands.state(), place.hands.disk(), place.skin(), folder, goOn));
+      });
 }
 
 void exportSkin(const Place& place) {
@@ -124,6 +108,32 @@ void importSkin(const Place& place) {
 }
 
 }  // namespace
+
+QString leftOutNote(const QList<LeftOut>& leftOut) {
+  if (leftOut.isEmpty()) return {};
+  return QStringLiteral(" Left out: %1 of it, the first is %2, %3.")
+      .arg(leftOut.size())
+      .arg(leftOut.first().name, leftOut.first().reason);
+}
+
+bool makeNewSkin(Operator& hands, QWidget& owner, const QString& title,
+                 const std::function<QString(const QString& folder, const GoOn& goOn)>& make) {
+  const Place place{hands, owner};
+  const std::optional<QString> name = askName(place, title);
+  if (!name) return false;
+  const QString fault = faultOfName(place, *name);
+  if (!fault.isEmpty()) {
+    hands.dialogs().inform(title, fault);
+    return false;
+  }
+  QString note;
+  const bool isDone =
+      run(place, title, [&](const GoOn& goOn) { note = make(place.root() + u'/' + *name, goOn); });
+  if (!isDone) return false;
+  hands.goOnWithCopy(*name);
+  place.say(QStringLiteral("%1 is a new Skin, and in hand.").arg(*name) + note);
+  return true;
+}
 
 void importArchive(Operator& hands, QWidget& owner, const QString& file) {
   const Place place{hands, owner};

@@ -87,6 +87,10 @@ void Operator::set(const std::vector<Element*>& elements, Property property, con
   act([&] { designer_.setProperty(elements, property, value); });
 }
 
+void Operator::recolour(const Dress& dress) {
+  act([&] { designer_.recolour(dress); });
+}
+
 void Operator::copyLook(const Element& from, const std::vector<Element*>& to) {
   act([&] { designer_.copyLook(from, to); });
 }

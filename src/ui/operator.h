@@ -52,6 +52,7 @@ public:
   void tick(CheckBox& box, int value);
   /// Sets a property of all these elements.
   void set(const std::vector<Element*>& elements, Property property, const Value& value);
+  void recolour(const Dress& dress);
   void copyLook(const Element& from, const std::vector<Element*>& to);
   void takeLook(const QString& skinName, LookPart part);
   void align(AlignTo line);
