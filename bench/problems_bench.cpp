@@ -3,6 +3,8 @@
 
 #include "loadeddesigner.h"
 #include "problems/problemswatch.h"
+#include "recolouring/faintcaptions.h"
+#include "recolouring/storedcolours.h"
 
 namespace veneerer {
 namespace {
@@ -62,6 +64,21 @@ void judgeScreenLater(benchmark::State& run) {
   }
 }
 BENCHMARK(judgeScreenLater)->Unit(benchmark::kMillisecond);
+
+// All captions of the Skin in other colours, which a slider's steps share.
+void judgeRecoloured(benchmark::State& run) {
+  LoadedDesigner skin;
+  State& state = skin.designer.state();
+  const std::vector<ColourPlace> places = storedColours(state);
+  FaintCaptions faint(state, skin.platform.screen);
+  int hue = 0;
+  for (auto _ : run) {
+    faint.judge(recoloured(places, {{}, {.hue = ++hue % 180}}), 0);
+    while (faint.work(100)) {
+    }
+  }
+}
+BENCHMARK(judgeRecoloured)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace veneerer

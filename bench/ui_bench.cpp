@@ -2,12 +2,14 @@
 // drag, one key in a field, the colours of the whole Skin. On the default Skin.
 #include <benchmark/benchmark.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QSlider>
 #include <QThread>
 #include <QWidget>
 #include <memory>
@@ -109,6 +111,23 @@ void copyColoursOverAll(benchmark::State& run) {
   }
 }
 BENCHMARK(copyColoursOverAll)->Unit(benchmark::kMillisecond);
+
+// A slider of the dialog Recolour, with the repaint of the screen that has the most to paint and what is
+// judged of the captions in between.
+void recolourStep(benchmark::State& run) {
+  Program program;
+  program.designer.state().form6.Combo6->select(static_cast<int>(run.range(0)));
+  for (QAction* action : program.canvas->window()->findChildren<QAction*>())
+    if (action->text() == QStringLiteral("Rec&olour...")) action->trigger();
+  auto* hue = qobject_cast<QSlider*>(Program::find(QStringLiteral("hue")));
+  for (int i = 0; i < 100; ++i) Program::settle();
+  int turn = 0;
+  for (auto _ : run) {
+    hue->setValue(++turn % 180);
+    for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(recolourStep)->Arg(0)->Arg(3)->Arg(13)->Unit(benchmark::kMillisecond);
 
 // The canvas alone, at about 1920 by 1080 pixels.
 struct LargeView {
