@@ -59,7 +59,7 @@ QString whereText(const State& state, const std::vector<const ColourPlace*>& pla
   }
   const qsizetype more = std::ssize(places) - lines.size();
   if (more > 0) lines << QStringLiteral("and %1 more").arg(more);
-  return lines.join(u'\n');
+  return lines.join(QStringLiteral("; "));
 }
 
 }  // namespace

@@ -11,8 +11,8 @@ namespace {
 
 // How long captions are judged before the operator's next doing comes in between. With the repaint it stays
 // within a frame.
-constexpr std::chrono::milliseconds kPatience(4);
-constexpr int kAtOnce = 8;  // captions
+constexpr std::chrono::milliseconds kPatience(2);
+constexpr int kAtOnce = 4;  // captions
 
 }  // namespace
 
