@@ -10,28 +10,22 @@ constexpr const char* kTabs[] = {"Audio", "Video", "Karaoke", "Most||Played", "N
 constexpr const char* kQuickKeys[] = {"A", "B", "C", "D", "E", "F", "G", "H", "I", "J", "K", "L", "M", "N",
                                       "O", "P", "Q", "R", "S", "T", "U", "V", "W", "X", "Y", "Z", "#"};
 
-// Tall and narrow buttons have no room for sloping sides.
-ButtonLook upright(ButtonLook look) {
-  look.shape = 0;
-  return look;
-}
-
 void composeSlider(Composer& c, int i, const Box& place) {
   Form1& f = c.form;
   PictureBox& track = f.Picture13[i];
   c.panel(track, f.Picture1[9], place, c.theme.track);
   const int side = std::min(place.w, place.h);
   const Box thumb = i == 0 ? Box{0, place.h / 3, side, 60} : Box{place.w / 3, 0, 80, side};
-  const Box bubble = i == 0 ? Box{0, 0, side, 28} : Box{0, 0, 36, side};
+  const Box bubble = i == 0 ? Box{0, 0, side, kFinger} : Box{0, 0, 36, side};
   c.button(f.lvButtons_H55[i], track, bubble, QStringLiteral("A"), kNeutralButton);
-  c.button(f.lvButtons_H5[i], track, thumb, QStringLiteral("Slider"), upright(c.theme.primary), 7);
+  c.button(f.lvButtons_H5[i], track, thumb, QStringLiteral("Slider"), c.theme.primary, 7);
 }
 
 // One of five ways to jump to a letter is shown, so they share the bar at the foot.
 void composeJump(Composer& c, Box foot) {
   Form1& f = c.form;
   PictureBox& screen = f.Picture1[9];
-  composeSlider(c, 1, foot.centred(foot.w, c.px(32)));
+  composeSlider(c, 1, foot.centred(foot.w, c.finger(32)));
   c.buttons(f.lvButtons_H38, 0, screen, Grid(foot, 27, 1, c.px(2)), kQuickKeys, c.theme.key, 8);
   c.button(f.lvButtons_H3[1], screen, foot.centred(c.px(200), foot.h), QStringLiteral("Jump To Letter"),
            c.theme.primary);
@@ -66,7 +60,7 @@ void composeFilter(Composer& c, Box area) {
 void composePlayingPanel(Composer& c, const Box& place) {
   Form1& f = c.form;
   PictureBox& panel = *f.Picture17;
-  c.panel(panel, f.Picture1[8], place, kCardBack);
+  c.clearPanel(panel, f.Picture1[8], place);
   Box area = place.inside().inset(c.px(16));
   c.artwork(f.Picture3[2], panel, area.cutBottom(c.px(92), c.px(10)).centred(c.px(92), c.px(92)));
   const Grid rows(area, 1, 3, c.px(4));
@@ -79,6 +73,13 @@ void composePlayingPanel(Composer& c, const Box& place) {
   }
 }
 
+// Beside the texts, or above them on an upright screen.
+Box cutPlaying(const Composer& c, Box& body) {
+  if (body.h <= body.w) return body.cutLeft(body.h, c.px(14));
+  const int side = std::min(body.w, body.h * 3 / 5);
+  return body.cutTop(side, c.px(14)).centred(side, side);
+}
+
 }  // namespace
 
 void composeAlbumView(Composer& c) {
@@ -89,12 +90,11 @@ void composeAlbumView(Composer& c) {
   const Box foot = Box(body).cutBottom(c.px(kTouch));
   if (!c.plan.sliderUpright) body.cutBottom(c.px(kTouch), c.px(6));
   composeFilter(c, body.cutTop(c.px(28), c.px(6)));
-  c.button(f.lvButtons_H3[0], screen, body.cutLeft(c.px(52), c.px(8)), QStringLiteral("Back"),
-           upright(c.theme.plain));
-  c.button(f.lvButtons_H3[2], screen, body.cutRight(c.px(52), c.px(8)), QStringLiteral("For-||ward"),
-           upright(c.theme.plain));
+  c.button(f.lvButtons_H3[0], screen, body.cutLeft(c.px(52), c.px(8)), QStringLiteral("Back"), c.theme.plain);
+  c.button(f.lvButtons_H3[2], screen, body.cutRight(c.px(52), c.px(8)), QStringLiteral("Next"),
+           c.theme.plain);
   composeCovers(c, coverArea(c), CoverLayout());
-  composeSlider(c, 0, body.cutRight(c.px(34)));
+  composeSlider(c, 0, body.cutRight(sliderWidth(c)));
   composeJump(c, foot);
 }
 
@@ -107,7 +107,7 @@ void composeNowPlaying(Composer& c) {
   const Box button = corner.cutRight(c.px(110), c.px(kMargin));
   c.button(*f.lvButtons_H21, screen, button, QStringLiteral("Fullscreen"), c.theme.primary);
   header.cutRight(button.w, c.px(kMargin));
-  c.panel(f.Picture3[3], screen, header.inset(0, c.px(4)), kCardBack);
+  c.clearPanel(f.Picture3[3], screen, header.inset(0, c.px(4)));
   Box next = body.cutBottom(c.px(84), c.px(12));
   c.panel(f.Picture3[1], screen, next.cutLeft(next.h, c.px(12)), kArtwork);
   c.image(f.aicAlphaImage1[20], screen, next.cutRight(c.px(150), c.px(12)).centred(c.px(150), c.px(30)));
@@ -115,7 +115,7 @@ void composeNowPlaying(Composer& c) {
   c.line(f.Label6[0], screen, texts.cutTop(texts.h / 2), QStringLiteral("TEXT EXAMPLE"),
          {on.heading, 13, true});
   c.line(f.Label6[1], screen, texts, QStringLiteral("TEXT EXAMPLE"), {on.body, 11});
-  c.panel(f.Picture3[0], screen, body.cutLeft(body.h, c.px(14)), kArtwork);
+  c.panel(f.Picture3[0], screen, cutPlaying(c, body), kArtwork);
   composePlayingPanel(c, body);
 }
 

@@ -6,13 +6,18 @@ namespace veneerer::design {
 
 namespace {
 
-void setText(Label& label, const QString& caption, const TextLook& look, int points) {
+void setText(Label& label, const QString& caption, const TextLook& look, const QString& font, int points) {
   label.setCaption(caption);
   label.setForeColor(look.ink);
-  label.setFontName(QStringLiteral("Arial"));
+  label.setFontName(font);
   label.setFontSize(static_cast<float>(points));
   label.set(Property::FontBold, look.bold);
   label.setAlignment(look.align);
+}
+
+// Sloping sides eat up a tall and narrow button.
+bool hasRoomForSlopes(const Box& at) {
+  return 2 * at.h <= 3 * at.w / 2;
 }
 
 }  // namespace
@@ -22,7 +27,7 @@ int Composer::px(int length) const {
 }
 
 int Composer::points(const TextLook& look) const {
-  return static_cast<int>(std::lround(look.points * plan.textScale));
+  return std::max(plan.leastPoints, static_cast<int>(std::lround(look.points * plan.textScale)));
 }
 
 void Composer::panel(PictureBox& box, Element& holder, const Box& at, Colour back) {
@@ -30,6 +35,11 @@ void Composer::panel(PictureBox& box, Element& holder, const Box& at, Colour bac
   box.setBackColor(back);
   box.setForeColor(theme.screen.body);
   put(box, at);
+}
+
+void Composer::clearPanel(PictureBox& box, Element& holder, const Box& at) {
+  panel(box, holder, at, kCardBack);
+  box.setOpaque(false);
 }
 
 void Composer::image(Element& image, Element& holder, const Box& at) {
@@ -40,7 +50,7 @@ void Composer::image(Element& image, Element& holder, const Box& at) {
 void Composer::text(Label& label, Element& holder, const Box& at, const QString& caption,
                     const TextLook& look) {
   label.setContainer(holder);
-  setText(label, caption, look, points(look));
+  setText(label, caption, look, plan.font, points(look));
   label.setBackColor(theme.row.back);
   label.setOpaque(false);
   put(label, at);
@@ -48,7 +58,7 @@ void Composer::text(Label& label, Element& holder, const Box& at, const QString&
 
 void Composer::line(Label& label, Element& holder, const Box& at, const QString& caption,
                     const TextLook& look) {
-  text(label, holder, lineIn(at, points(look)), caption, look);
+  text(label, holder, lineIn(at, lineOf(look)), caption, look);
 }
 
 void Composer::field(Label& label, Element& holder, const Box& at, const QString& caption,
@@ -62,7 +72,7 @@ void Composer::button(Button& button, Element& holder, const Box& at, const QStr
                       const ButtonLook& look, int points) {
   button.setContainer(holder);
   button.setCaption(caption);
-  button.setButtonShape(look.shape);
+  button.setButtonShape(hasRoomForSlopes(at) ? look.shape : 0);
   button.setButtonStyle(look.style);
   button.setBackColor(look.back);
   button.setForeColor(look.fore);
@@ -84,9 +94,20 @@ void Composer::buttons(Array<Button>& family, int first, Element& holder, const 
 
 ScreenParts partsOf(const Composer& c, const Element& screen) {
   Box all = boxOf(screen).inside().inset(c.px(kMargin), 0);
-  const Box header = all.cutTop(c.px(kHeaderHeight), c.px(8));
+  // Some buttons in it have one size in all Skins.
+  const Box header = all.cutTop(std::max(c.px(kHeaderHeight), kHeaderHeight), c.px(8));
   all.cutBottom(c.px(kMargin));
   return {header, all};
+}
+
+Box dialogOf(const Element& screen) {
+  const Box all = boxOf(screen).inside();
+  return all.centred(std::min(all.w, all.h * 8 / 5), std::min(all.h, all.w * 11 / 10));
+}
+
+Box cutPicture(Box& row, int gap) {
+  const int side = std::min(row.h, row.w / 2);
+  return row.cutLeft(side, gap).centred(side, side);
 }
 
 }  // namespace veneerer::design

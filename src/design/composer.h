@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <algorithm>
 #include <array>
 #include <span>
 
@@ -22,6 +23,16 @@ struct TextLook {
 /// Captions of an array's members, from index 0 on.
 using Captions = std::span<const char* const>;
 
+/// A length along a screen's edge that keeps its parts off the edge, before the plan's scale.
+inline constexpr int kMargin = 10;
+inline constexpr int kGap = 6;
+/// The upper edge of a screen, which holds its title.
+inline constexpr int kHeaderHeight = 48;
+/// A button that a finger hits.
+inline constexpr int kTouch = 44;
+/// The least side of such a button, pixels of any plan.
+inline constexpr int kFinger = 32;
+
 class Composer {
 public:
   Composer(State& state, const Plan& places, const Theme& looks)
@@ -36,10 +47,14 @@ public:
   /// A text size in the plan's own whole points.
   int points(const TextLook& look) const;
   /// The height that a line of that look needs, pixels.
-  int lineOf(const TextLook& look) const { return lineHeight(points(look)); }
+  int lineOf(const TextLook& look) const { return lineHeight(points(look), plan.lineFactor); }
+  /// A length of a button that a finger still hits, pixels.
+  int finger(int length) const { return std::max(px(length), kFinger); }
 
   /// A panel in a flat colour.
   void panel(PictureBox& box, Element& holder, const Box& at, Colour back);
+  /// A panel whose colour no record holds: it shows what lies beneath.
+  void clearPanel(PictureBox& box, Element& holder, const Box& at);
   /// A picture, its placeholder colour, or an image without one.
   void artwork(PictureBox& box, Element& holder, const Box& at) { panel(box, holder, at, kArtwork); }
   void image(Element& image, Element& holder, const Box& at);
@@ -64,19 +79,17 @@ public:
   static constexpr int kKeyPoints = 14;
 };
 
-/// A length along a screen's edge that keeps its parts off the edge, before the plan's scale.
-inline constexpr int kMargin = 10;
-inline constexpr int kGap = 6;
-/// The upper edge of a screen, which holds its title.
-inline constexpr int kHeaderHeight = 48;
-/// A button that a finger hits.
-inline constexpr int kTouch = 44;
-
 /// The inside of a screen with its margins taken off, and the header cut from it.
 struct ScreenParts {
   Box header;
   Box body;
 };
 ScreenParts partsOf(const Composer& composer, const Element& screen);
+
+/// The part of a panel that its contents take: as much of the middle as keeps keys and tiles in proportion.
+Box dialogOf(const Element& screen);
+
+/// Cuts a square for a picture off the left side, at most half as wide as the row.
+Box cutPicture(Box& row, int gap);
 
 }  // namespace veneerer::design

@@ -7,7 +7,8 @@ namespace veneerer::design {
 
 namespace {
 
-constexpr int kSpare = 29;  // the last cover and frame, which no layout uses
+constexpr int kCaptionWidth = 76;  // that of the usual captions
+constexpr int kSpare = 29;         // the last cover and frame, which no layout uses
 
 TextLook captionLook(Colour ink, bool isFeatured, bool bold) {
   return {ink, isFeatured ? 13 : 9, bold, Alignment::Center};
@@ -72,14 +73,31 @@ void composeFeatured(Composer& c, Box area) {
   composeCell(c, area.centred(area.w, std::min(area.h, side + c.px(60))), kFeaturedCover, false);
 }
 
+// So that the covers become as large as can be.
+int columnsFor(const Composer& c, const Box& area, const CoverLayout& layout) {
+  if (layout.columns > 0) return layout.columns;
+  const int captions = c.lineOf(captionLook({}, false, true)) * (layout.dates ? 4 : 2) + c.px(12);
+  int best = 1, largest = 0;
+  for (int columns = 1; columns <= layout.count; ++columns) {
+    const int rows = (layout.count + columns - 1) / columns;
+    const int width = area.w / columns - c.px(10);
+    const int side = std::min(width, area.h / rows - captions);
+    if (side <= largest || width < c.px(kCaptionWidth)) continue;
+    largest = side;
+    best = columns;
+  }
+  return best;
+}
+
 }  // namespace
 
 void composeCovers(Composer& c, Box area, const CoverLayout& layout) {
   const Box featured =
       layout.featured ? area.cutLeft(area.w / 3, c.px(16)) : area.centred(area.w / 3, area.h * 2 / 3);
   composeFeatured(c, featured);
-  const int rows = (layout.count + layout.columns - 1) / layout.columns;
-  const Grid grid(area, layout.columns, rows, c.px(10), c.px(8));
+  const int columns = columnsFor(c, area, layout);
+  const int rows = (layout.count + columns - 1) / columns;
+  const Grid grid(area, columns, rows, c.px(10), c.px(8));
   for (int i = kCovers - 1; i >= 0; --i)
     if (layout.overlapping)
       composeOverlapping(c, area, layout, i);
@@ -88,13 +106,18 @@ void composeCovers(Composer& c, Box area, const CoverLayout& layout) {
   composePicture(c, area.centred(c.px(48), c.px(48)), kSpare);
 }
 
+int sliderWidth(const Composer& c) {
+  constexpr int kOfItsLetter = 34;
+  return std::max(c.px(kOfItsLetter), kOfItsLetter);
+}
+
 Box coverArea(const Composer& c) {
   Box area = partsOf(c, c.form.Picture1[9]).body;
   // The slider makes the buttons at the foot needless.
   if (!c.plan.sliderUpright) area.cutBottom(c.px(kTouch), c.px(6));
   area.cutTop(c.px(28), c.px(6));
   area = area.inset(c.px(60), 0);
-  if (c.plan.sliderUpright) area.cutRight(c.px(34), c.px(8));
+  if (c.plan.sliderUpright) area.cutRight(sliderWidth(c), c.px(8));
   return area;
 }
 

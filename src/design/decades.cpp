@@ -26,7 +26,7 @@ void composeStepper(Composer& c, Array<Button>& buttons, Label& title, Box area,
 
 void composeDecadeRow(Composer& c, Box row, int i) {
   PictureBox& screen = c.form.Picture1[6];
-  c.artwork(c.form.Picture15[i], screen, row.cutLeft(row.h, c.px(10)));
+  c.artwork(c.form.Picture15[i], screen, cutPicture(row, c.px(10)));
   Box texts = row.centred(row.w, c.px(40));
   c.line(c.form.Label30[i], screen, texts.cutTop(texts.h / 2), QStringLiteral("Track  %1").arg(i),
          {c.theme.screen.heading, 11, true});
@@ -35,7 +35,7 @@ void composeDecadeRow(Composer& c, Box row, int i) {
 
 void composeYears(Composer& c) {
   PictureBox& screen = c.form.Picture1[17];
-  Box area = boxOf(screen).inside().inset(c.px(18), c.px(16));
+  Box area = dialogOf(screen).inset(c.px(18), c.px(16));
   const Box footer = area.cutBottom(c.px(50), c.px(12));
   c.button(*c.form.lvButtons_H45, screen, footer.centred(c.px(160), footer.h), QStringLiteral("Back"),
            c.theme.plain, 11);
@@ -55,7 +55,7 @@ void composeYears(Composer& c) {
 
 void composeCharts(Composer& c) {
   PictureBox& screen = c.form.Picture1[18];
-  Box area = boxOf(screen).inside().inset(c.px(22), c.px(20));
+  Box area = dialogOf(screen).inset(c.px(22), c.px(20));
   const Box footer = area.cutBottom(c.px(50), c.px(14));
   c.button(*c.form.lvButtons_H15, screen, footer.centred(c.px(160), footer.h), QStringLiteral("Back"),
            c.theme.plain, 11);
@@ -71,7 +71,7 @@ void composeCharts(Composer& c) {
 
 void composeMonths(Composer& c) {
   PictureBox& screen = c.form.Picture1[19];
-  Box area = boxOf(screen).inside().inset(c.px(28), c.px(24));
+  Box area = dialogOf(screen).inset(c.px(28), c.px(24));
   const Box footer = area.cutBottom(c.px(50), c.px(18));
   c.button(*c.form.lvButtons_H47, screen, footer.centred(c.px(160), footer.h), QStringLiteral("Back"),
            c.theme.plain, 11);

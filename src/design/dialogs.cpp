@@ -32,7 +32,7 @@ void composeKeypad(Composer& c, const Box& area) {
 
 void composeLoadPlaylist(Composer& c) {
   PictureBox& screen = c.form.Picture1[20];
-  Box area = boxOf(screen).inside().inset(c.px(28), c.px(24));
+  Box area = dialogOf(screen).inset(c.px(28), c.px(24));
   const Grid column(area.cutRight(c.px(120), c.px(20)), 1, 3, c.px(16));
   c.buttons(c.form.lvButtons_H52, 0, screen, column, std::to_array<const char*>({"UP", "DOWN", "CANCEL"}),
             c.theme.plain, 12);
@@ -44,7 +44,7 @@ void composeLoadPlaylist(Composer& c) {
 
 void composeSavePlaylist(Composer& c) {
   PictureBox& screen = c.form.Picture1[21];
-  Box area = boxOf(screen).inside().inset(c.px(24), c.px(30));
+  Box area = dialogOf(screen).inset(c.px(24), c.px(30));
   const TextLook look{c.theme.field.heading, 20, true, Alignment::Center};
   c.field(*c.form.Label46, screen, area.cutTop(c.lineOf(look), c.px(30)), QStringLiteral("FILENAME"), look);
   fullKeyboard(c, c.form.lvButtons_H51, screen, area, "Save");
@@ -78,14 +78,14 @@ void composePlaylistDialogs(Composer& c) {
 
 void composeRequest(Composer& c) {
   PictureBox& screen = c.form.Picture1[23];
-  Box area = boxOf(screen).inside().inset(c.px(24), c.px(24));
+  Box area = dialogOf(screen).inset(c.px(24), c.px(24));
   composeTwoFields(c, c.form.Label53, screen, area, std::to_array<const char*>({"Track", "Artist"}));
   fullKeyboard(c, c.form.lvButtons_H56, screen, area, "Send");
 }
 
 void composeLogin(Composer& c) {
   PictureBox& screen = c.form.Picture1[24];
-  Box area = boxOf(screen).inside().inset(c.px(24), c.px(24));
+  Box area = dialogOf(screen).inset(c.px(24), c.px(24));
   composeTwoFields(c, c.form.Label56, screen, area,
                    std::to_array<const char*>({"Enter User Name", "Enter Password"}));
   fullKeyboard(c, c.form.lvButtons_H58, screen, area, "Login");
@@ -94,14 +94,15 @@ void composeLogin(Composer& c) {
 void composeLicence(Composer& c) {
   PictureBox& screen = c.form.Picture1[26];
   screen.setBackColor(kCardBack);
-  c.text(c.form.Label27[3], screen, boxOf(screen).inside().inset(40, 36), QString::fromLatin1(kLicence),
-         {c.theme.card.body, 14});
+  screen.setOpaque(false);
+  c.text(c.form.Label27[3], screen, boxOf(screen).inside().inset(24, 20), QString::fromLatin1(kLicence),
+         {c.theme.bar.body, 14});
   c.form.Label27[3].setFontSize(14);
 }
 
 void composeCollections(Composer& c) {
   PictureBox& screen = c.form.Picture1[27];
-  Box area = boxOf(screen).inside().inset(c.px(24), c.px(22));
+  Box area = dialogOf(screen).inset(c.px(24), c.px(22));
   const Grid foot(area.cutBottom(c.px(50), c.px(16)), 3, 1, c.px(12));
   const auto button = [&](int index, int column, const char* caption) {
     c.button(c.form.lvButtons_H61[index], screen, foot.cell(column), QString::fromLatin1(caption),
@@ -126,7 +127,7 @@ void composeConfirmation(Composer& c) {
 
 void composeFreeCredit(Composer& c) {
   PictureBox& screen = c.form.Picture1[29];
-  Box area = boxOf(screen).inside().inset(c.px(40), c.px(36));
+  Box area = dialogOf(screen).inset(c.px(40), c.px(36));
   c.line(c.form.Label38[4], screen, area.cutTop(c.px(48)), QStringLiteral("Try Your Luck"),
          {c.theme.screen.heading, 24, true, Alignment::Center});
   c.line(c.form.Label38[5], screen, area.cutTop(c.px(36), c.px(20)), QStringLiteral("Pick A Box"),

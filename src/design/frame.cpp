@@ -9,8 +9,6 @@ namespace {
 constexpr const char* kMenu[] = {
     "History", "Search", "Queue",        "Top 20",      "Options",     "Decades",        "Playlist",
     "Genres",  "Albums", "Now||Playing", "My||V-Quill", "Collections", "Request||Track", "Pop Up||Menu"};
-// No record holds the colour of the bar behind the status texts.
-constexpr Colour kBar = rgb(14, 20, 31);
 constexpr const char* kTransport[] = {"<<", "l l", ">>"};
 
 void composeMenu(Composer& c) {
@@ -75,14 +73,14 @@ struct Chip {
 
 void composeStatusTexts(Composer& c, const Box& area) {
   Form1& f = c.form;
-  const Chip chips[] = {{f.Picture2[4], f.Label27[0], "Credits: 0", c.theme.card.heading, true},
-                        {f.Picture2[5], f.Label27[1], "#Jukebox ID", c.theme.card.muted, false},
-                        {f.Picture2[6], *f.Label41, "PAUSED", c.theme.card.accent, true},
-                        {f.Picture2[7], f.Label4[4], "Message", c.theme.card.body, false}};
+  const Chip chips[] = {{f.Picture2[4], f.Label27[0], "Credits: 0", c.theme.bar.heading, true},
+                        {f.Picture2[5], f.Label27[1], "#Jukebox ID", c.theme.bar.muted, false},
+                        {f.Picture2[6], *f.Label41, "PAUSED", c.theme.bar.accent, true},
+                        {f.Picture2[7], f.Label4[4], "Message", c.theme.bar.body, false}};
   const Grid grid(area, 2, 2, c.px(6), c.px(4));
   for (int i = 0; i < 4; ++i) {
     const Chip& chip = chips[i];
-    c.panel(chip.panel, f, grid.cell(i), kCardBack);
+    c.clearPanel(chip.panel, f, grid.cell(i));
     c.line(chip.label, f, grid.cell(i).inset(c.px(4), 0), QString::fromLatin1(chip.caption),
            {chip.ink, 9, chip.bold, Alignment::Center});
   }
@@ -90,8 +88,7 @@ void composeStatusTexts(Composer& c, const Box& area) {
 
 void composeStatus(Composer& c) {
   Form1& f = c.form;
-  const Box rule{c.plan.status.x, c.plan.status.y, c.plan.status.w, 2};
-  c.panel(f.Picture2[3], f, c.plan.statusOnBackdrop ? rule : c.plan.status, kBar);
+  c.clearPanel(f.Picture2[3], f, c.plan.status);
   Box area = c.plan.status.inset(c.px(10), c.px(4));
   const auto next = [&](int index, const char* caption, const ButtonLook& look) {
     const Box at = area.cutRight(c.px(70), c.px(3));
@@ -114,9 +111,9 @@ void composeStage(Composer& c) {
   const Box& stage = c.plan.stage;
   const Box banner =
       Box{stage.x, stage.y + stage.h * 18 / 25, stage.w, c.px(64)}.centred(c.px(420), c.px(64));
-  c.panel(f.Picture2[13], f, banner, kCardBack);
+  c.clearPanel(f.Picture2[13], f, banner);
   c.line(f.Label4[5], f, banner.inset(c.px(14), 0), QStringLiteral("Touch an album to hear it"),
-         {c.theme.card.heading, 14, true, Alignment::Center});
+         {c.theme.bar.heading, 14, true, Alignment::Center});
   c.line(f.Label27[5], f, c.plan.name, QStringLiteral("#Jukebox Name"),
          {c.theme.bar.heading, c.plan.namePoints, true, Alignment::Center});
 }

@@ -49,7 +49,7 @@ void composeHeader(Composer& c, Box header) {
   c.button(f.lvButtons_H35[2], screen, step.cell(0), QStringLiteral("<"), c.theme.plain, 14);
   c.button(f.lvButtons_H35[1], screen, step.cell(1), QStringLiteral("Back"), c.theme.plain);
   c.button(f.lvButtons_H35[0], screen, step.cell(2), QStringLiteral(">"), c.theme.plain, 14);
-  c.panel(f.Picture2[9], screen, header.inset(0, c.px(4)), kCardBack);
+  c.clearPanel(f.Picture2[9], screen, header.inset(0, c.px(4)));
 }
 
 // Either the one button or the letters are shown.
@@ -74,7 +74,7 @@ void composeGenre(Composer& c) {
   auto [header, body] = partsOf(c, c.form.Picture1[13]);
   composeHeader(c, header);
   composeJump(c, body.cutBottom(c.px(kTouch), c.px(6)));
-  const Grid tiles(body, 7, 4, c.px(6));
+  const Grid tiles = body.h > body.w ? Grid(body, 4, 7, c.px(6)) : Grid(body, 7, 4, c.px(6));
   for (int i = 0; i < 28; ++i) composeTile(c, tiles.cell(i), i);
   composeBar(c);
 }

@@ -56,13 +56,12 @@ Box Grid::span(int column, int row, int count) const {
   return {area_.x + left, area_.y + shareStart(area_.h, rows_, gapDown_, row), last - left + width, height};
 }
 
-int lineHeight(int points) {
-  // Ascent and descent of the usual sans-serif fonts come to 1.15 of the size; two pixels keep accents whole.
-  return static_cast<int>(std::ceil(points * 96.0 / 72.0 * 1.15)) + 2;
+int lineHeight(int points, double lineFactor) {
+  // Two pixels keep accents whole.
+  return static_cast<int>(std::ceil(points * 96.0 / 72.0 * lineFactor)) + 2;
 }
 
-Box lineIn(const Box& box, int points) {
-  const int height = lineHeight(points);
+Box lineIn(const Box& box, int height) {
   return {box.x, box.y + (box.h - height) / 2, box.w, height};
 }
 

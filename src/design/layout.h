@@ -53,12 +53,14 @@ private:
   int gapDown_;
 };
 
-/// The height of one line of text of that size in points, pixels.
-int lineHeight(int points);
+/// Ascent and descent of the usual sans-serif fonts, in sizes.
+inline constexpr double kLineFactor = 1.15;
 
-/// Where a line of that size stands in the middle of the rectangle's height; a label's text begins at its
-/// top.
-Box lineIn(const Box& box, int points);
+/// The height of one line of text of that size in points, pixels.
+int lineHeight(int points, double lineFactor = kLineFactor);
+
+/// Where a line of that height stands in the middle of the rectangle's; a label's text begins at its top.
+Box lineIn(const Box& box, int height);
 
 /// Places the element, in twips.
 void put(Element& element, const Box& box);

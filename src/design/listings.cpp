@@ -70,7 +70,7 @@ void composeNextSong(Composer& c, Box area) {
 void composeQueueRow(Composer& c, Box row, int i) {
   PictureBox& screen = c.form.Picture1[4];
   const Ground& on = c.theme.screen;
-  c.artwork(c.form.Picture10[i], screen, row.cutLeft(row.h, c.px(10)));
+  c.artwork(c.form.Picture10[i], screen, cutPicture(row, c.px(10)));
   Box right = row.cutRight(c.px(124), c.px(8));
   const int third = row.h / 3;
   c.line(c.form.Label23[i], screen, row.cutTop(third), QStringLiteral("Track  %1").arg(i),
@@ -111,7 +111,7 @@ void composeTop20(Composer& c) {
   auto [header, body] = partsOf(c, screen);
   Box tabs = header.inset(0, c.px(2)).cutRight(2 * c.px(110) + c.px(kGap), c.px(kMargin));
   header.cutRight(tabs.w, c.px(kMargin));
-  c.panel(c.form.Picture2[8], screen, header.inset(0, c.px(4)), kCardBack);
+  c.clearPanel(c.form.Picture2[8], screen, header.inset(0, c.px(4)));
   const Grid tabGrid(tabs, 2, 1, c.px(kGap));
   c.button(c.form.lvButtons_H59[0], screen, tabGrid.cell(0), QStringLiteral("All"), c.theme.tab);
   c.button(c.form.lvButtons_H59[1], screen, tabGrid.cell(1), QStringLiteral("My Top 10"), c.theme.tab);
@@ -161,7 +161,7 @@ void composePlaylist(Composer& c) {
   const Grid rows(body, 1, 10, c.px(4));
   for (int i = 0; i < 10; ++i) {
     Box row = rows.cell(i);
-    c.artwork(c.form.Picture19[i], screen, row.cutLeft(row.h, c.px(10)));
+    c.artwork(c.form.Picture19[i], screen, cutPicture(row, c.px(10)));
     c.line(c.form.Label44[i], screen, row, QStringLiteral("Playlist Track  %1").arg(i), {on.body, 11});
   }
 }

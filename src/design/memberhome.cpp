@@ -17,9 +17,9 @@ void composeShelf(Composer& c, Box area, int shelf) {
   Form1& f = c.form;
   PictureBox& screen = f.Picture1[25];
   const Ground& on = c.theme.screen;
-  c.button(f.lvButtons_H60[shelf], screen, area.cutBottom(c.px(38), c.px(4)),
+  c.button(f.lvButtons_H60[shelf], screen, area.cutBottom(c.finger(38), c.px(4)),
            QString::fromLatin1(kShelves[shelf]), c.theme.primary, 8);
-  c.artwork(f.Picture25[shelf], screen, area.cutLeft(area.h, c.px(6)));
+  c.artwork(f.Picture25[shelf], screen, cutPicture(area, c.px(6)));
   const Grid lines(area, 1, kLinesOnShelf, 0);
   for (int i = 0; i < kLinesOnShelf; ++i)
     c.line(f.Label58[kLinesOnShelf * shelf + i], screen, lines.cell(i),
@@ -31,7 +31,7 @@ void composeAccount(Composer& c, Box area) {
   Form1& f = c.form;
   PictureBox& screen = f.Picture1[25];
   const Ground& on = c.theme.screen;
-  c.buttons(f.lvButtons_H60, 3, screen, Grid(area.cutBottom(c.px(36), c.px(6)), 7, 1, c.px(4)), kAccount,
+  c.buttons(f.lvButtons_H60, 3, screen, Grid(area.cutBottom(c.finger(36), c.px(6)), 7, 1, c.px(4)), kAccount,
             c.theme.plain, 8);
   c.artwork(f.Picture25[4], screen, area.cutLeft(area.h, c.px(8)));
   c.button(f.lvButtons_H60[54], screen, area.cutRight(c.px(96), c.px(8)), QStringLiteral("Change||Picture"),
@@ -46,13 +46,13 @@ void composeAccount(Composer& c, Box area) {
 void composeKeys(Composer& c, const Box& place) {
   Form1& f = c.form;
   PictureBox& panel = f.Picture25[3];
-  c.panel(panel, f.Picture1[25], place, kCardBack);
+  c.clearPanel(panel, f.Picture1[25], place);
   Box area = place.inside().inset(c.px(8), c.px(6));
   const Grid prompts(area.cutTop(c.px(20), c.px(2)), 2, 1, c.px(8));
   c.line(f.Label58[17], panel, prompts.cell(0), QStringLiteral("Enter D.O.B."),
-         {c.theme.card.heading, 10, true});
+         {c.theme.screen.heading, 10, true});
   c.line(f.Label58[18], panel, prompts.cell(1), QStringLiteral("Enter Email Address"),
-         {c.theme.card.heading, 10, true});
+         {c.theme.screen.heading, 10, true});
   Keyboard keyboard(c, f.lvButtons_H60, panel, area, 5);
   keyboard.digits(f.lvButtons_H60, 36, 0);
   keyboard.letters(10, 1);
@@ -62,13 +62,17 @@ void composeKeys(Composer& c, const Box& place) {
   keyboard.words(kWords);
 }
 
+int keysHeight(const Composer& c) {
+  return std::max(c.px(244), 5 * kFinger + 4 * c.px(4) + 2 * c.px(6) + c.px(22));
+}
+
 }  // namespace
 
 void composeMemberHome(Composer& c) {
   Form1& f = c.form;
   PictureBox& screen = f.Picture1[25];
   Box area = boxOf(screen).inside().inset(c.px(16), 0);
-  Box header = area.cutTop(c.px(kHeaderHeight), c.px(8));
+  Box header = area.cutTop(std::max(c.px(kHeaderHeight), kHeaderHeight), c.px(8));
   header.cutLeft(kTitleWidth);
   area.cutBottom(c.px(8));
   // No record holds this one, so it keeps to the corner where it fits on every screen.
@@ -77,8 +81,8 @@ void composeMemberHome(Composer& c) {
   f.Label57->setFontSize(14);
   c.line(f.Label27[4], screen, header, QStringLiteral("Credits: 0"),
          {c.theme.header.accent, 11, true, Alignment::Right});
-  composeKeys(c, area.cutBottom(c.px(244), c.px(6)));
-  composeAccount(c, area.cutBottom(c.px(82), c.px(6)));
+  composeKeys(c, area.cutBottom(keysHeight(c), c.px(6)));
+  composeAccount(c, area.cutBottom(c.finger(40) + c.finger(36) + c.px(6), c.px(6)));
   const Grid shelves(area, 3, 1, c.px(12));
   for (int i = 0; i < 3; ++i) composeShelf(c, shelves.cell(i), i);
 }

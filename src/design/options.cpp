@@ -27,7 +27,7 @@ constexpr const char* kPlayOptions[] = {
 void composeAlternates(Composer& c, const Box& place) {
   Form1& f = c.form;
   PictureBox& panel = *f.Picture28;
-  c.panel(panel, f.Picture1[15], place, kCardBack);
+  c.clearPanel(panel, f.Picture1[15], place);
   const Grid rows(place.inside().inset(c.px(10), c.px(8)), 1, 4, 0);
   for (int i = 0; i < 4; ++i)
     c.line(f.Label33[4 + i], panel, rows.cell(i), QStringLiteral("Alternate Song %1").arg(i + 1),
@@ -37,11 +37,11 @@ void composeAlternates(Composer& c, const Box& place) {
 void composeKeys(Composer& c, const Box& place) {
   Form1& f = c.form;
   PictureBox& panel = *f.Picture32;
-  c.panel(panel, f.Picture1[15], place, kCardBack);
+  c.clearPanel(panel, f.Picture1[15], place);
   Box area = place.inside().inset(c.px(10), c.px(8));
   Box top = area.cutTop(c.px(28), c.px(6));
   c.artwork(*f.Picture33, panel, top.cutLeft(top.h, c.px(8)));
-  c.line(f.Label33[8], panel, top, QStringLiteral("Message"), {c.theme.card.heading, 12, true});
+  c.line(f.Label33[8], panel, top, QStringLiteral("Message"), {c.theme.screen.heading, 12, true});
   Keyboard keyboard(c, f.lvButtons_H62, panel, area, 3);
   keyboard.letters(0, 0);
   constexpr WordKey kWords[] = {{26, 2, 0, 3, "Space"}, {27, 2, 17, 3, "Done"}};
@@ -52,7 +52,7 @@ void composeSong(Composer& c, Box area) {
   Form1& f = c.form;
   PictureBox& screen = f.Picture1[15];
   const Ground& on = c.theme.screen;
-  c.artwork(*f.Picture4, screen, area.cutLeft(area.h, c.px(14)));
+  c.artwork(*f.Picture4, screen, cutPicture(area, c.px(14)));
   const TextLook looks[] = {{on.heading, 14, true}, {on.body, 11}, {on.muted, 10}};
   const Grid rows(area, 1, 7, 0);
   for (int i = 0; i < 3; ++i)
@@ -84,7 +84,7 @@ void composeOptions(Composer& c) {
 void composePlayOptions(Composer& c) {
   Form1& f = c.form;
   PictureBox& screen = f.Picture1[15];
-  Box area = boxOf(screen).inside().inset(c.px(20), c.px(16));
+  Box area = dialogOf(screen).inset(c.px(20), c.px(16));
   composeKeys(c, area.cutBottom(c.px(196), c.px(10)));
   c.buttons(f.lvButtons_H41, 0, screen, Grid(area.cutBottom(c.px(104), c.px(10)), 4, 2, c.px(8)),
             kPlayOptions, c.theme.primary);

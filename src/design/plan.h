@@ -2,6 +2,8 @@
 // told otherwise.
 #pragma once
 
+#include <QString>
+
 #include "design/layout.h"
 
 namespace veneerer::design {
@@ -11,6 +13,9 @@ struct Plan {
   int height = 600;
   double scale = 1;      ///< multiplies the lengths that don't follow from a container
   double textScale = 1;  ///< multiplies the sizes of the labels' texts
+  int leastPoints = 1;   ///< no label's text is smaller
+  QString font = QStringLiteral("Arial");
+  double lineFactor = kLineFactor;  ///< the height of the font's lines, in sizes
 
   Box menu;
   int menuColumns = 1;
@@ -18,18 +23,18 @@ struct Plan {
   Box name;             ///< the jukebox's name
   int namePoints = 12;  ///< its size before the text scale
   Box player;
-  Box status;                     ///< the bar of credits, messages and the navigation of the main screen
-  bool statusOnBackdrop = false;  ///< the status bar is a part of the backdrop, only a line parts it off
-  Box stage;                      ///< the panel that the main screen shows where no other screen stands
-  Box screen;                     ///< each of the full screens
-  Box dialog;                     ///< each of the panels
-  Box confirm;                    ///< the confirmation
+  Box status;   ///< the bar of credits, messages and the navigation of the main screen
+  Box stage;    ///< the panel that the main screen shows where no other screen stands
+  Box screen;   ///< each of the full screens
+  Box dialog;   ///< each of the panels
+  Box confirm;  ///< the confirmation
   Box pin;
   Box popup;
   int popupColumns = 2;
   Box genreBar;
   bool genreBarUpright = false;
 
+  int trackColumns = 1;        ///< of the track listing; in two, each track has two lines
   bool albumCounts = true;     ///< room for the number of albums on each genre
   bool sliderUpright = false;  ///< keeps a column of the album view free for the vertical slider
 };

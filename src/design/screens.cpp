@@ -10,6 +10,9 @@ constexpr int kPinScreen = 16;
 constexpr int kLicenceScreen = 26;
 constexpr int kConfirmScreen = 28;
 
+// No record holds this one: it stands here in every Skin, and is to fit the smallest.
+constexpr Box kLicencePlace{160, 80, 480, 400};
+
 // What the canvas window's frame takes, pixels.
 constexpr int kFrameWidth = 4;
 constexpr int kFrameHeight = 33;
@@ -18,8 +21,7 @@ Box placeOf(const Plan& plan, int screen) {
   // The main screen shows nothing of its own but its size, with the window's frame, is that of the backdrop:
   // a rescale resamples the one to the other.
   if (screen == kMainScreen) return {0, 0, plan.width + kFrameWidth, plan.height + kFrameHeight};
-  // No record holds this one: it stands where the design has it in every Skin.
-  if (screen == kLicenceScreen) return builtInPlan().screen;
+  if (screen == kLicenceScreen) return kLicencePlace;
   if (screen == kPinScreen) return plan.pin;
   if (screen == kConfirmScreen) return plan.confirm;
   return screen < kFirstDialog ? plan.screen : plan.dialog;
@@ -29,7 +31,7 @@ Box placeOf(const Plan& plan, int screen) {
 
 void composeScreens(Composer& c) {
   for (int i = 0; i < 30; ++i) c.panel(c.form.Picture1[i], c.form, placeOf(c.plan, i), c.theme.screen.back);
-  c.panel(c.form.Picture12[0], c.form, c.plan.genreBar, kCardBack);
+  c.clearPanel(c.form.Picture12[0], c.form, c.plan.genreBar);
   c.panel(*c.form.Picture23, c.form, c.plan.popup, c.theme.bar.back);
 }
 

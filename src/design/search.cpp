@@ -19,6 +19,7 @@ constexpr const char* kLetters[] = {"A", "B", "C", "D", "E", "F", "G", "H", "I",
 constexpr Box kClearPlace{10, 2, 76, 44};
 constexpr Box kAllTabPlace{10, 2, 76, 44};
 constexpr int kFixedColumn = 84;
+constexpr int kSearchedLine = 27;  // its text has one size, 16 points
 
 void composeQuickResults(Composer& c, const Box& area) {
   PictureBox& screen = c.form.Picture1[3];
@@ -26,7 +27,7 @@ void composeQuickResults(Composer& c, const Box& area) {
   const Grid grid(area, 4, 3, c.px(8));
   for (int i = 0; i < 12; ++i) {
     Box cell = grid.cell(i);
-    c.artwork(c.form.Picture27[i], screen, cell.cutLeft(cell.h, c.px(6)));
+    c.artwork(c.form.Picture27[i], screen, cutPicture(cell, c.px(6)));
     const char* caption = i < 4 ? "Quick Artist" : "Quick Album";
     c.text(c.form.Label19[i], screen, cell, QStringLiteral("%1  %2").arg(QString::fromLatin1(caption)).arg(i),
            {i < 4 ? on.heading : on.body, 9, i < 4});
@@ -47,7 +48,7 @@ void composeResultRow(Composer& c, const Box& row, int i) {
   const Ground& on = c.theme.row;
   c.panel(c.form.Picture7[i], screen, row, on.back);
   Box inner = row.inset(c.px(4));
-  c.artwork(c.form.Picture31[i], screen, inner.cutLeft(inner.h, c.px(10)));
+  c.artwork(c.form.Picture31[i], screen, cutPicture(inner, c.px(10)));
   Box right = inner.cutRight(c.px(150), c.px(8));
   const int half = inner.h / 2;
   c.line(c.form.Label14[i], screen, inner.cutTop(half), QStringLiteral("Artist  %1").arg(i),
@@ -62,7 +63,7 @@ void composeResultRow(Composer& c, const Box& row, int i) {
 
 void composeInternetTracks(Composer& c, const Box& place) {
   PictureBox& panel = *c.form.Picture29;
-  c.panel(panel, c.form.Picture1[22], place, kCardBack);
+  c.clearPanel(panel, c.form.Picture1[22], place);
   Box area = place.inside().inset(c.px(12));
   const Grid arrows(area.cutRight(c.px(92), c.px(12)), 1, 2, c.px(kGap));
   c.button(c.form.lvButtons_H53[3], panel, arrows.cell(0), QStringLiteral("UP"), c.theme.plain);
@@ -88,8 +89,8 @@ void composeSearch(Composer& c) {
          {c.theme.header.heading, 16, true});
   const Box keys = body.cutBottom(c.px(196), c.px(8));
   const TextLook searched{c.theme.field.heading, 16, true, Alignment::Center};
-  c.field(*c.form.Label32, screen, body.cutTop(c.lineOf(searched), c.px(8)), QStringLiteral("TEXT EXAMPLE"),
-          searched);
+  c.field(*c.form.Label32, screen, body.cutTop(std::max(c.lineOf(searched), kSearchedLine), c.px(8)),
+          QStringLiteral("TEXT EXAMPLE"), searched);
   composeQuickResults(c, body);
   Box left = keys;
   const Grid actions(left.cutRight(c.px(116), c.px(kMargin)), 1, 4, c.px(4));
@@ -118,8 +119,8 @@ void composeSearchResults(Composer& c) {
 
 void composeSearchChoice(Composer& c) {
   PictureBox& screen = c.form.Picture1[14];
-  Box area = boxOf(screen).inside().inset(c.px(40), c.px(28));
-  c.panel(c.form.Picture2[11], screen, area.cutTop(c.px(96), c.px(24)), kCardBack);
+  Box area = dialogOf(screen).inset(c.px(40), c.px(28));
+  c.clearPanel(c.form.Picture2[11], screen, area.cutTop(c.px(96), c.px(24)));
   const Box cancel = area.cutBottom(c.px(56), c.px(24));
   const Grid choices(area, 1, 3, c.px(14));
   c.buttons(c.form.lvButtons_H25, 0, screen, choices,
@@ -131,7 +132,7 @@ void composeSearchChoice(Composer& c) {
 void composeNoSearchResults(Composer& c) {
   PictureBox& screen = c.form.Picture1[22];
   const Ground& on = c.theme.screen;
-  Box area = boxOf(screen).inside().inset(c.px(28), c.px(20));
+  Box area = dialogOf(screen).inset(c.px(28), c.px(20));
   c.line(c.form.Label51[0], screen, area.cutTop(c.px(34)), QStringLiteral("Search Term in Title"),
          {on.heading, 16, true, Alignment::Center});
   c.line(c.form.Label51[1], screen, area.cutTop(c.px(28), c.px(10)), QStringLiteral("Was Not Found In AUDIO"),
@@ -148,8 +149,8 @@ void composeNoSearchResults(Composer& c) {
 
 void composeJumpToLetter(Composer& c) {
   PictureBox& screen = c.form.Picture1[12];
-  const Box area = boxOf(screen).inside().inset(c.px(18));
-  const Grid grid(area, 7, 4, c.px(8));
+  const Box area = dialogOf(screen).inset(c.px(18));
+  const Grid grid = area.h > area.w ? Grid(area, 4, 7, c.px(8)) : Grid(area, 7, 4, c.px(8));
   c.buttons(c.form.lvButtons_H22, 0, screen, grid, kLetters, c.theme.key, 18);
   c.button(c.form.lvButtons_H23[0], screen, grid.cell(26), QStringLiteral("Jump To||Start"), c.theme.wideKey);
   c.button(c.form.lvButtons_H23[1], screen, grid.cell(27), QStringLiteral("Done"), c.theme.wideKey);

@@ -33,7 +33,7 @@ struct Theme {
   Ground bar;     ///< menu, player and status bars
   Ground row;     ///< a row of a list
   Ground field;   ///< where a text is typed
-  Ground card;    ///< texts on panels whose ground is kCardBack in every Skin
+  Ground card;    ///< texts on panels that have pictures of their own
   ButtonLook menu;
   ButtonLook transport;
   ButtonLook plain;
@@ -47,7 +47,7 @@ struct Theme {
 // No record holds the colours of these, so they look the same in every Skin: neutral darks that go with any
 // palette.
 
-/// Panels, and the ground of Theme::card.
+/// Panels that show what lies beneath; it is told, but never seen.
 inline constexpr Colour kCardBack = rgb(30, 30, 31);
 /// A picture that is still to come.
 inline constexpr Colour kArtwork = rgb(54, 56, 60);

@@ -15,37 +15,68 @@ void composeAlbumInfo(Composer& c, Box area) {
   c.line(f.Label2[2], screen, area.cutTop(c.px(18)), QStringLiteral("Released : "), {on.body, 9});
   c.line(f.Label2[3], screen, area.cutTop(c.px(18), c.px(6)), QStringLiteral("Genre : "), {on.body, 9});
   Box feed = area.cutTop(area.h * 9 / 20, c.px(6));
-  c.panel(f.Picture2[14], screen, feed, kCardBack);
+  c.clearPanel(f.Picture2[14], screen, feed);
   const Grid lines(feed.inset(c.px(6), c.px(3)), 1, 5, 0);
   for (int i = 0; i < 5; ++i)
     c.line(f.Label2[4 + i], screen, lines.cell(i), QStringLiteral("RSS Feed"),
-           {i == 0 ? c.theme.card.heading : c.theme.card.muted, 8, i == 0});
+           {i == 0 ? on.heading : on.muted, 8, i == 0});
   PictureBox& story = f.Picture2[15];
-  c.panel(story, screen, area, kCardBack);
+  c.clearPanel(story, screen, area);
   Box inside = area.inside().inset(c.px(6), c.px(4));
-  c.button(f.lvButtons_H8[2], story, inside.cutBottom(c.px(32), c.px(4)), QStringLiteral("Read More"),
+  c.button(f.lvButtons_H8[2], story, inside.cutBottom(c.finger(32), c.px(4)), QStringLiteral("Read More"),
            c.theme.plain);
   c.line(f.Label2[9], story, inside.cutTop(c.px(16)), QStringLiteral("RSS Headline"),
          {c.theme.card.heading, 9, true});
   c.text(f.Label2[10], story, inside, QStringLiteral("RSS Body"), {c.theme.card.body, 8});
 }
 
-void composeTrackRow(Composer& c, Box row, int i) {
+// The places of a track's title, number, play count and stars.
+struct TrackPlaces {
+  Box title, number, count, stars;
+};
+
+TrackPlaces inOneLine(const Composer& c, Box row) {
+  TrackPlaces places;
+  places.stars = row.cutRight(c.px(60), c.px(4)).inset(0, c.px(2));
+  places.count = row.cutRight(c.px(78), c.px(4));
+  places.number = row.cutLeft(c.px(56), c.px(4));
+  places.title = row;
+  return places;
+}
+
+// Two lines make a row that a finger hits.
+TrackPlaces inTwoLines(const Composer& c, Box row) {
+  TrackPlaces places;
+  row = row.centred(row.w, std::min(row.h, c.px(38)));
+  Box upper = row.cutTop(row.h / 2);
+  places.number = upper.cutLeft(c.px(57), c.px(2));
+  places.title = upper;
+  places.stars = row.cutLeft(c.px(56), c.px(4)).inset(0, c.px(1));
+  places.count = row;
+  return places;
+}
+
+void composeTrack(Composer& c, const TrackPlaces& at, int i) {
   Form1& f = c.form;
   PictureBox& screen = f.Picture1[10];
-  c.image(f.aicAlphaImage1[i], screen, row.cutRight(c.px(60), c.px(4)).inset(0, c.px(2)));
+  const Ground& on = c.theme.screen;
+  c.image(f.aicAlphaImage1[i], screen, at.stars);
   f.aicAlphaImage1[i].setToolTipText(QStringLiteral("Star Rating %1").arg(i));
-  c.line(f.Label60[i], screen, row.cutRight(c.px(78), c.px(4)), QStringLiteral("Play Count:  %1").arg(i),
-         {c.theme.card.muted, 8, false, Alignment::Right});
-  c.line(f.Label3[i], screen, row.cutLeft(c.px(56), c.px(4)), QStringLiteral("Track  %1").arg(i),
-         {c.theme.card.accent, 9});
-  c.line(f.Label1[i], screen, row, QStringLiteral("Track Listing  %1").arg(i), {c.theme.card.body, 9});
+  c.line(f.Label60[i], screen, at.count, QStringLiteral("Play Count:  %1").arg(i),
+         {on.muted, 8, false, Alignment::Right});
+  c.line(f.Label3[i], screen, at.number, QStringLiteral("Track  %1").arg(i), {on.accent, 9});
+  c.line(f.Label1[i], screen, at.title, QStringLiteral("Track Listing  %1").arg(i), {on.body, 9});
 }
 
 void composeTracks(Composer& c, const Box& area) {
-  c.panel(*c.form.Picture8, c.form.Picture1[10], area, kCardBack);
-  const Grid rows(area.inset(c.px(8), c.px(3)), 1, kTracks, 0);
-  for (int i = 0; i < kTracks; ++i) composeTrackRow(c, rows.cell(i), i);
+  c.clearPanel(*c.form.Picture8, c.form.Picture1[10], area);
+  const int columns = c.plan.trackColumns;
+  const int rows = kTracks / columns;
+  const Grid grid(area.inset(c.px(8), c.px(3)), columns, rows, c.px(10), 0);
+  for (int i = 0; i < kTracks; ++i) {
+    const Box cell = grid.cell(i / rows, i % rows);
+    composeTrack(c, columns > 1 ? inTwoLines(c, cell) : inOneLine(c, cell), i);
+  }
 }
 
 void composeOtherAlbums(Composer& c, Box area) {
@@ -102,7 +133,7 @@ void composeTrackListing(Composer& c) {
   composeHeader(c, header);
   composeFooter(c, body.cutBottom(c.px(kTouch), c.px(6)));
   composeAlbumInfo(c, body.cutLeft(c.px(122), c.px(8)));
-  const Box others = body.cutRight(c.px(140), c.px(8));
+  const Box others = body.cutRight(c.px(c.plan.trackColumns > 1 ? 152 : 140), c.px(8));
   composeTracks(c, body);
   composeOtherAlbums(c, others);
 }

@@ -21,6 +21,11 @@ bool isSize(Property property) {
   return property == P::Width || property == P::Height;
 }
 
+// Whether a panel shows what lies beneath it is the built-in design's business; no file holds it.
+bool isOfPanels(const Element& element, Property property) {
+  return element.kind() == Kind::PictureBox && property == P::BackStyle;
+}
+
 }  // namespace
 
 void setProperty(Element& element, Property property, const Value& value) {
@@ -43,7 +48,8 @@ bool isLook(Property property) {
 
 void copyLook(const Element& from, Element& to) {
   for (const Property property : kLook)
-    if (from.has(property) && to.has(property)) setProperty(to, property, from.get(property));
+    if (from.has(property) && to.has(property) && !isOfPanels(to, property))
+      setProperty(to, property, from.get(property));
 }
 
 }  // namespace veneerer

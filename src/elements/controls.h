@@ -13,6 +13,9 @@ public:
   const Picture& picture() const { return as<Picture>(Property::Picture); }
   Colour backColor() const { return as<Colour>(Property::BackColor); }
   Colour foreColor() const { return as<Colour>(Property::ForeColor); }
+  /// One that isn't shows what lies beneath it in the place of its back colour.
+  bool isOpaque() const { return as<std::int32_t>(Property::BackStyle) == 1; }
+  void setOpaque(bool opaque) { set(Property::BackStyle, opaque ? 1 : 0); }
   void setPicture(const Picture& picture) { set(Property::Picture, picture); }
   void setBackColor(Colour colour) { set(Property::BackColor, colour); }
   void setForeColor(Colour colour) { set(Property::ForeColor, colour); }

@@ -66,7 +66,10 @@ Defaults buttonDefaults() {
 
 Defaults pictureBoxDefaults() {
   return kPlace + kPicture +
-         Defaults{{P::BackColor, kButtonFace}, {P::ForeColor, kButtonText}, {P::BorderStyle, 0}};
+         Defaults{{P::BackColor, kButtonFace},
+                  {P::ForeColor, kButtonText},
+                  {P::BackStyle, 1},
+                  {P::BorderStyle, 0}};
 }
 
 Defaults rowsDefaults() {

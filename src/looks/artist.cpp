@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "looks/lettering.h"
+#include "looks/motifs.h"
 
 namespace veneerer::looks {
 
@@ -29,6 +30,12 @@ QRectF rectOf(const design::Box& box) {
   return QRectF(box.x, box.y, box.w, box.h);
 }
 
+// So far that white can be read on it.
+QColor darkened(QColor colour) {
+  for (int i = 0; i < 20 && contrastOf(Qt::white, colour) < 6; ++i) colour = colour.darker(115);
+  return colour;
+}
+
 QImage opaqueImage(QSize size) {
   return QImage(size.expandedTo(QSize(1, 1)), QImage::Format_RGB32);
 }
@@ -37,45 +44,6 @@ QImage clearImage(QSize size) {
   QImage image(size.expandedTo(QSize(1, 1)), QImage::Format_ARGB32);
   image.fill(Qt::transparent);
   return image;
-}
-
-void paintRings(QPainter& painter, const QRectF& area, const QColor& ink) {
-  const QPointF centre(area.right() - area.width() * 0.12, area.bottom() + area.height() * 0.1);
-  const double step = std::max(5.0, area.height() / 42);
-  for (int i = 3; i < 60; ++i) {
-    painter.setPen(QPen(withAlpha(ink, i % 6 == 0 ? ink.alpha() * 2 : ink.alpha()), 1));
-    painter.drawEllipse(centre, step * i, step * i);
-  }
-}
-
-void paintSlats(QPainter& painter, const QRectF& area, const QColor& ink) {
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(withAlpha(ink, ink.alpha() / 2));
-  for (double x = area.left(); x < area.right(); x += 4)
-    painter.drawRect(QRectF(x, area.top(), 1, area.height()));
-  painter.setBrush(ink);
-  for (int i = 0; i < 5; ++i) {
-    const double left = area.left() + area.width() * (0.15 + 0.2 * i);
-    const double width = area.width() * (0.03 + 0.015 * (i % 3));
-    QPolygonF ray;
-    ray << QPointF(left, area.top()) << QPointF(left + width, area.top())
-        << QPointF(left + width - area.height() * 0.5, area.bottom())
-        << QPointF(left - area.height() * 0.5, area.bottom());
-    painter.drawPolygon(ray);
-  }
-}
-
-void paintBubbles(QPainter& painter, const QRectF& area, const QColor& ink) {
-  struct Bubble {
-    double x, y, radius;  // shares of the area; the radius of its height
-  };
-  constexpr Bubble kBubbles[] = {{.92, .9, .42},  {.75, 1.02, .26}, {.06, .96, .3},
-                                 {.5, 1.05, .18}, {.99, .35, .2},   {.22, 1.02, .14}};
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(ink);
-  for (const Bubble& bubble : kBubbles)
-    painter.drawEllipse(QPointF(area.left() + area.width() * bubble.x, area.top() + area.height() * bubble.y),
-                        area.height() * bubble.radius, area.height() * bubble.radius);
 }
 
 void paintWatermark(QPainter& painter, const QRectF& area, Icon icon, const QColor& ink) {
@@ -101,41 +69,30 @@ QList<QRgb> ramp(const QColor& from, const QColor& through, const QColor& to, in
 
 }  // namespace
 
-void Artist::paintMotif(QPainter& painter, const QRectF& area, double strength) const {
-  painter.save();
-  painter.setClipRect(area, Qt::IntersectClip);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setBrush(Qt::NoBrush);
-  const QColor ink = withAlpha(look_.palette.accent, static_cast<int>(std::lround(14 * strength)));
-  switch (look_.motif) {
-    case Motif::Rings:
-      paintRings(painter, area, ink);
-      break;
-    case Motif::Slats:
-      paintSlats(painter, area, ink);
-      break;
-    case Motif::Bubbles:
-      paintBubbles(painter, area, ink);
-      break;
-  }
-  painter.restore();
+void Artist::paintPattern(QPainter& painter, const QRectF& area, QColor ink, double strength) const {
+  // A quarter of it at most, which the inks of the scheme allow for.
+  constexpr double kUsual = 0.055;
+  ink.setAlphaF(static_cast<float>(std::min(kUsual * strength, kMotifShare / 2)));
+  veneerer::looks::paintMotif(painter, area, look_.motif, ink);
 }
 
 void Artist::paintBar(QPainter& painter, const QRectF& area) const {
-  const Palette& p = look_.palette;
+  const Palette& p = scheme_.palette;
   painter.fillRect(area, downwards(area, p.bar, p.barEnd));
-  paintMotif(painter, area, 0.7);
-  painter.fillRect(QRectF(area.left(), area.bottom() - 1, area.width(), 1), withAlpha(p.accent, 90));
+  paintPattern(painter, area, p.barMotif, 0.8);
+  const double edge = std::max(1.0, std::round(plan_.scale));
+  painter.fillRect(QRectF(area.left(), area.bottom() - edge, area.width(), edge),
+                   withAlpha(p.accent, std::min(255, look_.lines * 3)));
 }
 
 QImage Artist::backdrop() const {
-  const design::Plan& plan = look_.plan;
-  const Palette& p = look_.palette;
+  const design::Plan& plan = plan_;
+  const Palette& p = scheme_.palette;
   QImage image = opaqueImage({plan.width + kFrameSurplusAcross, plan.height + kFrameSurplusDown});
   QPainter painter(&image);
   const QRectF all = image.rect();
-  painter.fillRect(all, downwards(all, p.backdrop, p.backdropEnd));
-  paintMotif(painter, all, 1);
+  painter.fillRect(all, downwards(all, p.bar, p.barEnd));
+  paintPattern(painter, all, p.barMotif, 1);
   for (const design::Box& box : {plan.logo, plan.player, plan.status, plan.menu})
     paintBar(painter, rectOf(box));
   painter.fillRect(QRectF(0, plan.height, all.width(), kFrameSurplusDown), p.barEnd);
@@ -144,49 +101,56 @@ QImage Artist::backdrop() const {
 }
 
 QImage Artist::screen(QSize size, int header, Icon icon) const {
-  const Palette& p = look_.palette;
+  const Palette& p = scheme_.palette;
   QImage image = opaqueImage(size);
   QPainter painter(&image);
   const QRectF all = image.rect();
   painter.fillRect(all, downwards(all, p.backdrop, p.backdropEnd));
-  paintMotif(painter, all, 1);
-  paintWatermark(painter, all.adjusted(0, header, 0, 0), icon, withAlpha(p.accent, 18));
+  paintPattern(painter, all, p.motif, 1);
+  paintWatermark(painter, all.adjusted(0, header, 0, 0), icon, withAlpha(p.motif, 18));
   if (header > 0) {
     painter.fillRect(QRectF(0, 0, all.width(), header),
                      downwards(QRectF(0, 0, all.width(), header), p.header, p.bar));
-    painter.fillRect(QRectF(0, header - 2, all.width(), 2), p.accentEnd);
+    const double edge = std::max(2.0, std::round(2 * plan_.scale));
+    painter.fillRect(QRectF(0, header - edge, all.width(), edge), p.accent);
   }
   painter.setPen(QPen(p.line, 1));
   painter.drawRect(all.adjusted(0.5, 0.5, -0.5, -0.5));
   return image;
 }
 
+// A record that looks out from behind the lower edge of the texts.
 QImage Artist::stage(QSize size) const {
-  const Palette& p = look_.palette;
+  const Palette& p = scheme_.palette;
   QImage image = opaqueImage(size);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF all = image.rect();
-  painter.fillRect(all, downwards(all, p.header, p.barEnd));
-  paintMotif(painter, all, 2);
-  // A record that looks out from behind the lower edge.
-  const QPointF centre(all.center().x(), all.height() * 0.62);
-  const double radius = all.height() * 0.34;
+  painter.fillRect(all, downwards(all, p.bar, p.barEnd));
+  paintPattern(painter, all, p.barMotif, 2);
+  if (look_.motif == Motif::Plain || look_.motif == Motif::Bands)
+    drawIcon(painter, stageIcon(all), Icon::Note, withAlpha(p.accent, 60));
+  else
+    paintRecord(painter, all);
+  return image;
+}
+
+void Artist::paintRecord(QPainter& painter, const QRectF& all) const {
+  const Palette& p = scheme_.palette;
+  const QPointF centre(all.center().x(), all.top() + all.height() * 0.56);
+  const double radius = std::min(all.height() * 0.36, all.width() * 0.42);
   QRadialGradient shine(centre, radius);
-  shine.setColorAt(0, withAlpha(p.accent, 120));
-  shine.setColorAt(0.3, withAlpha(p.accentEnd, 70));
-  shine.setColorAt(1, withAlpha(p.accentEnd, 20));
+  shine.setColorAt(0, withAlpha(p.barMotif, 60));
+  shine.setColorAt(0.3, withAlpha(p.barMotif, 36));
+  shine.setColorAt(1, withAlpha(p.barMotif, 12));
   painter.setPen(Qt::NoPen);
   painter.setBrush(shine);
   painter.drawEllipse(centre, radius, radius);
   painter.setBrush(Qt::NoBrush);
   for (int i = 4; i <= 16; ++i) {
-    painter.setPen(QPen(withAlpha(p.accent, i % 4 == 0 ? 90 : 34), 1));
+    painter.setPen(QPen(withAlpha(p.barMotif, i % 4 == 0 ? 60 : 28), std::max(1.0, plan_.scale)));
     painter.drawEllipse(centre, radius * i / 16, radius * i / 16);
   }
-  painter.setBrush(p.barEnd);
-  painter.drawEllipse(centre, radius * 0.05, radius * 0.05);
-  return image;
 }
 
 QImage Artist::bar(QSize size) const {
@@ -197,7 +161,7 @@ QImage Artist::bar(QSize size) const {
 }
 
 QImage Artist::logo(QSize size) const {
-  const Palette& p = look_.palette;
+  const Palette& p = scheme_.palette;
   QImage image = bar(size);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -209,45 +173,47 @@ QImage Artist::logo(QSize size) const {
         QPen(withAlpha(p.accent, alpha), height * width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     drawLettering(painter, letters, QStringLiteral("MERLANE"), Qt::AlignHCenter);
   }
-  painter.setPen(QPen(Qt::white, height * 0.045, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setPen(
+      QPen(scheme_.theme.bar.heading.toQColor(), height * 0.045, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   drawLettering(painter, letters, QStringLiteral("MERLANE"), Qt::AlignHCenter);
-  painter.setPen(QPen(p.icon, height * 0.02, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setPen(
+      QPen(scheme_.theme.bar.accent.toQColor(), height * 0.02, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   const QRectF under(letters.left(), height * 0.72, letters.width(), height * 0.12);
   drawLettering(painter, under, QStringLiteral("V-QUILL EDITION"), Qt::AlignHCenter);
   return image;
 }
 
+// A title in the header looks like those that are texts.
 QImage Artist::banner(QSize size, const QString& text) const {
-  const Palette& p = look_.palette;
   QImage image = opaqueImage(size);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF all = image.rect();
-  painter.fillRect(all, p.header);
-  painter.fillRect(QRectF(0, all.height() * 0.15, std::max(3.0, all.height() * 0.1), all.height() * 0.7),
-                   p.accent);
-  const QRectF letters = all.adjusted(all.height() * 0.4, all.height() * 0.28, -4, -all.height() * 0.28);
-  painter.setPen(QPen(Qt::white, all.height() * 0.07, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  drawLettering(painter, letters, text, Qt::AlignLeft);
+  const double above = std::round(4 * plan_.scale);
+  painter.fillRect(all, scheme_.palette.header);
+  paintPattern(painter, all.adjusted(0, -above, 0, above), scheme_.palette.barMotif, 0);
+  const double pixels = 16 * plan_.textScale * 96 / 72;
+  drawLines(painter, all, {text}, {plan_.font, pixels, Qt::AlignLeft},
+            scheme_.theme.header.heading.toQColor());
   return image;
 }
 
 QImage Artist::card(QSize size, Icon icon) const {
-  const Palette& p = look_.palette;
+  const Palette& p = scheme_.palette;
   QImage image = opaqueImage(size);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF all = image.rect();
-  painter.fillRect(all, downwards(all, p.barEnd.lighter(130), p.barEnd));
-  paintWatermark(painter, all, icon, withAlpha(p.accent, 40));
-  painter.setPen(QPen(withAlpha(p.accent, 150), 1));
+  painter.fillRect(all, downwards(all, p.card, p.cardEnd));
+  paintWatermark(painter, all, icon, withAlpha(p.motif, 24));
+  painter.setPen(QPen(p.line, 1));
   painter.setBrush(Qt::NoBrush);
   painter.drawRect(all.adjusted(0.5, 0.5, -0.5, -0.5));
   return image;
 }
 
 QImage Artist::cover(int side) const {
-  const Palette& p = look_.palette;
+  const Palette& p = scheme_.palette;
   QImage image = opaqueImage({side, side});
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -274,7 +240,7 @@ QImage Artist::cover(int side) const {
 }
 
 QImage Artist::track(QSize size) const {
-  const Palette& p = look_.palette;
+  const Palette& p = scheme_.palette;
   QImage image = opaqueImage(size);
   QPainter painter(&image);
   const QRectF all = image.rect();
@@ -288,48 +254,53 @@ QImage Artist::track(QSize size) const {
   return image;
 }
 
-QRectF Artist::menuIconPlace(QSize size, int captionLines) const {
-  constexpr double kCaptionLine = 14;
-  const double width = size.width();
-  const double height = size.height();
-  if (look_.menuIcons == IconPlace::Left)
-    return QRectF(height * 0.22, height * 0.25, height * 0.5, height * 0.5);
-  if (look_.menuIcons == IconPlace::Lettered)
-    return QRectF((width - height * 0.34) / 2, height * 0.14, height * 0.34, height * 0.34);
-  // Half the lines, with an empty one on top, are above the middle of the face.
-  const double free = (height - kCaptionLine * (captionLines + 1)) / 2 + kCaptionLine;
-  const double side = std::min(free * 0.78, height * 0.4);
-  return QRectF((width - side) / 2, (free - side) * 0.6, side, side);
-}
-
-QImage Artist::menuFace(QSize size, Icon icon, const QStringList& caption) const {
+// The rows of a caption under an icon share what the icon leaves; a wide button has them side by side.
+QImage Artist::menuFace(QSize size, Icon icon, const QStringList& caption, const QColor& ink) const {
   QImage image = clearImage(size);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  const double width = size.width();
-  const double height = size.height();
-  drawIcon(painter, menuIconPlace(size, static_cast<int>(caption.size())), icon, look_.palette.icon);
-  painter.fillRect(QRectF(height * 0.1, 1, width - height * 0.2, 1), QColor(255, 255, 255, 50));
-  if (look_.menuIcons != IconPlace::Lettered) return image;
-  painter.setPen(QPen(Qt::white, height * 0.019, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  double top = height * (caption.size() > 1 ? 0.6 : 0.68);
-  for (const QString& line : caption) {
-    drawLettering(painter, QRectF(width * 0.05, top, width * 0.9, height * 0.105), line.toUpper(),
-                  Qt::AlignHCenter);
-    top += height * 0.17;
+  const QRectF all = image.rect();
+  const double h = all.height(), w = all.width();
+  const bool isBeside = look_.menuIcons == IconPlace::Left && w > 2.2 * h;
+  const double pixels = std::min(12.5 * plan_.textScale, h * 0.26);
+  const LetterStyle style{plan_.font, pixels, isBeside ? Qt::AlignLeft : Qt::AlignHCenter};
+  if (isBeside) {
+    const double side = h * 0.46;
+    drawIcon(painter, QRectF(h * 0.2, (h - side) / 2, side, side), icon, scheme_.palette.icon);
+    drawLines(painter, all.adjusted(side + h * 0.36, 0, -h * 0.1, 0), caption, style, ink);
+    return image;
   }
+  const double lines = std::min(h * 0.56, pixels * 1.2 * static_cast<double>(caption.size()));
+  const double side = std::min(h - lines - h * 0.2, w * 0.5);
+  const double top = (h - side - lines) * 0.46;
+  drawIcon(painter, QRectF((w - side) / 2, top, side, side), icon, scheme_.palette.icon);
+  drawLines(painter, QRectF(w * 0.04, top + side + h * 0.03, w * 0.92, lines), caption, style, ink);
   return image;
+}
+
+QImage Artist::captionFace(QSize size, const QStringList& caption, double points, const QColor& ink) const {
+  QImage image = clearImage(size);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF all = QRectF(image.rect()).adjusted(size.width() * 0.07, 2, -size.width() * 0.07, -2);
+  drawLines(painter, all, caption, {plan_.font, points * plan_.textScale * 96 / 72, Qt::AlignHCenter}, ink);
+  return image;
+}
+
+QRectF Artist::stageIcon(const QRectF& all) {
+  const double side = std::min(all.width(), all.height()) * 0.5;
+  return QRectF(all.center().x() - side / 2, all.top() + all.height() * 0.56 - side / 2, side, side);
 }
 
 QImage Artist::popup(QSize size) const {
   QImage image = bar(size);
   QPainter painter(&image);
-  painter.setPen(QPen(look_.palette.accent, 1));
+  painter.setPen(QPen(scheme_.palette.accent, 1));
   painter.drawRect(QRectF(image.rect()).adjusted(0.5, 0.5, -0.5, -0.5));
   return image;
 }
 
-QImage Artist::iconFace(QSize size, Icon icon) const {
+QImage Artist::iconFace(QSize size, Icon icon, const QColor& ink) const {
   QImage image = clearImage(size);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -338,20 +309,20 @@ QImage Artist::iconFace(QSize size, Icon icon) const {
   painter.translate(place.topLeft());
   painter.scale(side / 24, side / 24);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(Qt::white);
+  painter.setBrush(ink);
   painter.drawPath(iconPath(icon));
   return image;
 }
 
 QImage Artist::prize(int side) const {
-  const Palette& p = look_.palette;
+  const Palette& p = scheme_.palette;
   QImage image = clearImage({side, side});
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   const double s = side;
   const QRectF box(s * 0.08, s * 0.38, s * 0.84, s * 0.58);
   const QRectF lid(s * 0.03, s * 0.24, s * 0.94, s * 0.16);
-  const QColor ribbon = look_.theme.primary.fore == design::rgb(255, 255, 255) ? p.icon : p.accent;
+  const QColor ribbon = scheme_.theme.screen.accent.toQColor();
   painter.setPen(Qt::NoPen);
   painter.setBrush(downwards(box, p.accentEnd.darker(125), p.accentEnd.darker(190)));
   painter.drawRoundedRect(box, s * 0.03, s * 0.03);
@@ -365,6 +336,22 @@ QImage Artist::prize(int side) const {
   painter.drawEllipse(QPointF(s * 0.39, s * 0.15), s * 0.1, s * 0.07);
   painter.drawEllipse(QPointF(s * 0.61, s * 0.15), s * 0.1, s * 0.07);
   return image;
+}
+
+QColor Artist::prizeInk() const {
+  const QColor box = scheme_.palette.accentEnd;
+  const QColor grounds[] = {box.darker(125), box.darker(190)};
+  return legible(scheme_.theme.screen.heading.toQColor(), grounds);
+}
+
+void Artist::backWhiteText(QImage& image, const design::Box& place) const {
+  if (contrastOf(Qt::white, scheme_.palette.header) > kLeastContrast) return;
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(darkened(scheme_.palette.accent));
+  const design::Box plate = place.inset(-8, -6);
+  painter.drawRoundedRect(QRectF(plate.x, plate.y, plate.w, plate.h), 6, 6);
 }
 
 QImage Artist::stars(QSize size) const {
@@ -391,7 +378,7 @@ QImage Artist::stars(QSize size) const {
 std::vector<QImage> Artist::coverFrame(int side, int count) const {
   constexpr int kShades = 31;
   constexpr int kThickness = 6;
-  const Palette& p = look_.palette;
+  const Palette& p = scheme_.palette;
   // Entry 0 is what lets the cover show.
   QList<QRgb> table = ramp(p.line, p.accent, Qt::white, kShades);
   table.prepend(qRgb(255, 0, 255));

@@ -8,12 +8,15 @@
 
 #include "looks/icons.h"
 #include "looks/look.h"
+#include "looks/palette.h"
 
 namespace veneerer::looks {
 
 class Artist {
 public:
-  explicit Artist(const Look& look) : look_(look) {}
+  /// All three must outlive the artist.
+  Artist(const Look& look, const design::Plan& plan, const Scheme& scheme)
+      : look_(look), plan_(plan), scheme_(scheme) {}
 
   /// What stands behind everything, the bars included; covers the window's surplus as well.
   QImage backdrop() const;
@@ -25,31 +28,40 @@ public:
   QImage logo(QSize size) const;
   /// A title in the header.
   QImage banner(QSize size, const QString& text) const;
-  /// A dark panel for light texts, with an icon as a watermark.
+  /// A panel of its own, with an icon as a watermark.
   QImage card(QSize size, Icon icon) const;
   /// A cover that isn't there.
   QImage cover(int side) const;
   /// The ground of a slider.
   QImage track(QSize size) const;
-  /// The face of a button with an icon, see-through elsewhere.
-  /// The caption's lines stand under an icon above them; lettering takes their place.
-  QImage menuFace(QSize size, Icon icon, const QStringList& caption) const;
+  /// The face of a menu button, see-through but for its icon and the lines of its caption.
+  QImage menuFace(QSize size, Icon icon, const QStringList& caption, const QColor& ink) const;
+  /// The same of a caption alone, in letters of at most so many points before the plan's text scale.
+  QImage captionFace(QSize size, const QStringList& caption, double points, const QColor& ink) const;
   /// The ground of a panel that lies on others.
   QImage popup(QSize size) const;
-  QImage iconFace(QSize size, Icon icon) const;
+  /// An icon alone, filled.
+  QImage iconFace(QSize size, Icon icon, const QColor& ink) const;
   /// The box that holds a prize; its outline is the button's.
   QImage prize(int side) const;
+  /// What can be read on the box.
+  QColor prizeInk() const;
+  /// Darkens the place of a text that is white in every Skin, where it couldn't be read otherwise.
+  void backWhiteText(QImage& image, const design::Box& place) const;
   /// Five stars, none of them earned.
   QImage stars(QSize size) const;
   /// The frames of a cover's frame: a light that runs round a see-through middle.
   std::vector<QImage> coverFrame(int side, int count) const;
 
 private:
-  void paintMotif(QPainter& painter, const QRectF& area, double strength) const;
+  void paintPattern(QPainter& painter, const QRectF& area, QColor ink, double strength) const;
   void paintBar(QPainter& painter, const QRectF& area) const;
-  QRectF menuIconPlace(QSize size, int captionLines) const;
+  void paintRecord(QPainter& painter, const QRectF& area) const;
+  static QRectF stageIcon(const QRectF& area);
 
   const Look& look_;
+  const design::Plan& plan_;
+  const Scheme& scheme_;
 };
 
 }  // namespace veneerer::looks

@@ -1,5 +1,6 @@
 #include "looks/lettering.h"
 
+#include <QFontMetricsF>
 #include <QPainterPath>
 #include <algorithm>
 
@@ -97,6 +98,30 @@ void drawLettering(QPainter& painter, const QRectF& rect, const QString& text, Q
   for (const QChar sign : text) {
     painter.drawPath(letterPath(strokesOf(sign), at, unit));
     at.rx() += (kWidth + kSpacing) * unit;
+  }
+}
+
+void drawLines(QPainter& painter, const QRectF& rect, const QStringList& lines, const LetterStyle& style,
+               const QColor& ink) {
+  constexpr int kMeasured = 100;
+  constexpr double kLine = 1.2;
+  QFont font(style.font);
+  font.setBold(true);
+  font.setPixelSize(kMeasured);
+  const QFontMetricsF metrics(font);
+  double widest = 1;
+  for (const QString& line : lines) widest = std::max(widest, metrics.horizontalAdvance(line));
+  const double count = static_cast<double>(lines.size());
+  const double pixels =
+      std::min({style.pixels, rect.width() / widest * kMeasured, rect.height() / (count * kLine)});
+  font.setPixelSize(std::max(1, static_cast<int>(pixels)));
+  painter.setFont(font);
+  painter.setPen(ink);
+  const double step = font.pixelSize() * kLine;
+  double top = rect.center().y() - step * count / 2;
+  for (const QString& line : lines) {
+    painter.drawText(QRectF(rect.x(), top, rect.width(), step), style.align | Qt::AlignVCenter, line);
+    top += step;
   }
 }
 

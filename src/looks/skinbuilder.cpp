@@ -1,14 +1,26 @@
 #include "looks/skinbuilder.h"
 
+#include <QHash>
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
 #include "design/design.h"
 #include "design/screens.h"
+#include "files/newfolder.h"
 #include "forms/counts.h"
+#include "images/pictureencoding.h"
 #include "looks/artist.h"
+#include "looks/looks.h"
+#include "looks/palette.h"
 #include "looks/pictures.h"
+#include "looks/plans.h"
+#include "painting/buttonlayout.h"
+#include "painting/pixels.h"
+#include "painting/textlayouts.h"
 #include "records/coverfile.h"
 #include "records/layoutwriter.h"
 #include "records/recordfiles.h"
-#include "records/writefiles.h"
 #include "skin/lists.h"
 #include "skin/skinsaver.h"
 
@@ -76,8 +88,7 @@ constexpr MenuPicture kTransportPictures[] = {
 
 constexpr int kStarWidth = 160;
 constexpr int kStarHeight = 32;
-constexpr int kCoverSide = 300;
-constexpr int kFrameSide = 160;
+constexpr int kLargestFrame = 420;
 constexpr int kFrameCount = 8;
 
 QSize sizeOf(const Element& element) {
@@ -91,35 +102,46 @@ QString imageFile(const char* name) {
 
 class Builder {
 public:
-  Builder(const QString& folder, const Look& look, Disk& disk)
-      : look_(look),
-        artist_(look),
-        folder_(folder + QStringLiteral("/Skins/") + QString::fromLatin1(look.name)),
-        disk_(disk),
-        pictures_(folder_.path() + QStringLiteral("/images"), disk) {}
+  explicit Builder(const Wish& wish, const GoOn& goOn)
+      : look_(*wish.look),
+        plan_(planOf(look_, wish.size, wish.font)),
+        scheme_(schemeOf(look_, wish.colours)),
+        artist_(look_, plan_, scheme_),
+        goOn_(goOn) {}
 
-  void build() {
+  MadeSkin build() {
     compose();
     choose();
     drawFrame();
     drawScreens();
     drawPanels();
     drawButtons();
-    save();
+    saveCovers();
+    std::vector<NewFile> files = composedRecords(state_);
+    addOtherCase(files);
+    std::ranges::move(pictures_.files, std::back_inserter(files));
+    std::ranges::move(covers_, std::back_inserter(files));
+    return {std::move(files), scheme_.notes};
   }
 
 private:
+  // Where case counts, this screen is read under another name than it is written.
+  void addOtherCase(std::vector<NewFile>& files) {
+    const Layout choice = searchChoiceFile(state_);
+    files.push_back({choice.fileName(), composeRecords(choice)});
+  }
+
   void compose() {
     applyBuiltInDesign(state_);
     fillFirstLists(state_);
     fillOtherLists(state_);
-    design::Composer composer(state_, look_.plan, look_.theme);
+    design::Composer composer(state_, plan_, scheme_.theme);
     design::composeCanvas(composer);
     composeSamples();
   }
 
   void composeSamples() {
-    const design::Theme& theme = look_.theme;
+    const design::Theme& theme = scheme_.theme;
     Form6& tools = state_.form6;
     tools.Label5->setBackColor(theme.screen.back);
     tools.Label5->setForeColor(theme.screen.body);
@@ -138,16 +160,17 @@ private:
 
   void choose() {
     Form4& f = state_.form4;
-    f.Text1[0].setText(QString::number(look_.plan.width));
-    f.Text1[1].setText(QString::number(look_.plan.height));
+    f.Text1[0].setText(QString::number(plan_.width));
+    f.Text1[1].setText(QString::number(plan_.height));
     f.Combo1->setText(QStringLiteral("20"));
     f.Combo7->setText(QString::number(kGenres));
-    f.Combo2->select(look_.choices.jumpToLetter);
-    f.Combo5->select(look_.choices.genre);
-    f.Combo6->select(look_.choices.navigation);
+    const Choices choices = choicesFor(look_, plan_);
+    f.Combo2->select(choices.jumpToLetter);
+    f.Combo5->select(choices.genre);
+    f.Combo6->select(choices.navigation);
     f.Combo9->select(kAlbumView);
-    f.Combo10->select(look_.choices.player);
-    f.Combo11->select(look_.choices.genre == 0 ? 0 : 1);
+    f.Combo10->select(choices.player);
+    f.Combo11->select(choices.genre == 0 ? 0 : 1);
     f.Combo12->select(kTenAlbums);
     f.Check10->setValue(1);
     for (const Family* family : state_.form2.families())
@@ -158,6 +181,7 @@ private:
   void drawFrame() {
     Form1& f = state_.form1;
     ImageTable& names = state_.names.ImageName;
+    step(QStringLiteral("backdrop.jpg"));
     names[0].setValue(pictures_.add(QStringLiteral("backdrop.jpg"), artist_.backdrop()));
     names[13].setValue(pictures_.add(QStringLiteral("Player.bmp"), artist_.bar(sizeOf(f.Picture2[1]))));
     names[14].setValue(pictures_.add(QStringLiteral("logo.jpg"), artist_.logo(sizeOf(f.Picture2[2]))));
@@ -171,14 +195,18 @@ private:
 
   void drawScreens() {
     const int header = headerHeight();
-    for (const Backdrop& b : kBackdrops)
+    for (const Backdrop& b : kBackdrops) {
+      step(imageFile(b.file));
       state_.names.ImageName[b.screen].setValue(pictures_.add(
           imageFile(b.file), artist_.screen(sizeOf(state_.form1.Picture1[b.screen]), header, b.icon)));
+    }
     state_.names.ImageName[11].setValue(state_.names.ImageName[9].value());
-    for (const NamedBackdrop& b : kNamedBackdrops)
-      (state_.names.*b.name)
-          ->setValue(pictures_.add(imageFile(b.file), artist_.screen(sizeOf(state_.form1.Picture1[b.screen]),
-                                                                     b.header ? header : 0, b.icon)));
+    for (const NamedBackdrop& b : kNamedBackdrops) {
+      step(imageFile(b.file));
+      QImage screen = artist_.screen(sizeOf(state_.form1.Picture1[b.screen]), b.header ? header : 0, b.icon);
+      if (b.screen == kMemberHome) artist_.backWhiteText(screen, design::boxOf(*state_.form1.Label57));
+      (state_.names.*b.name)->setValue(pictures_.add(imageFile(b.file), screen));
+    }
   }
 
   void drawPanels() {
@@ -196,14 +224,23 @@ private:
         pictures_.add(QStringLiteral("playing_panel.jpg"), artist_.card(sizeOf(*f.Picture17), Icon::None)));
     state_.names.FeedPanelName->setValue(
         pictures_.add(QStringLiteral("feed.jpg"), artist_.card(sizeOf(f.Picture2[15]), Icon::None)));
-    pictures_.add(QStringLiteral("ImageNotFound.jpg"), artist_.cover(kCoverSide));
-    pictures_.add(QStringLiteral("star 0.png"), artist_.stars({kStarWidth, kStarHeight}));
+    pictures_.add(QStringLiteral("ImageNotFound.jpg"), artist_.cover(coverSide()));
+    pictures_.add(QStringLiteral("star 0.png"), artist_.stars(starSize()));
     drawCoverFrame();
+  }
+
+  // The stars of a track and those of the song that plays are one picture.
+  QSize starSize() {
+    const QSize small = sizeOf(state_.form1.aicAlphaImage1[0]);
+    const QSize large = sizeOf(state_.form1.aicAlphaImage1[20]);
+    return {static_cast<int>(std::sqrt(small.width() * large.width())),
+            static_cast<int>(std::sqrt(small.height() * large.height()))};
   }
 
   void drawCoverFrame() {
     const QString name =
-        pictures_.addGif(QStringLiteral("frame.gif"), artist_.coverFrame(kFrameSide, kFrameCount), {12, 0});
+        pictures_.addGif(QStringLiteral("frame.gif"),
+                         artist_.coverFrame(std::min(coverSide(), kLargestFrame), kFrameCount), {12, 0});
     state_.names.ImageName[12].setValue(name);
     for (int i = 0; i < state_.names.AlbumFrameName.bound(); ++i)
       state_.names.AlbumFrameName[i].setValue(name);
@@ -211,46 +248,101 @@ private:
 
   void drawButtons() {
     Form1& f = state_.form1;
-    ImageTable& menu = state_.names.ofButtons(f.lvButtons_H1);
+    step(QStringLiteral("menu_history.png"));
     for (int i = 0; i < 14; ++i) {
       Button& button = f.lvButtons_H1[i];
-      const QStringList caption = button.caption().split(QStringLiteral("||"));
-      menu[i].setValue(pictures_.add(imageFile(kMenuPictures[i].file),
-                                     artist_.menuFace(sizeOf(button), kMenuPictures[i].icon, caption)));
-      // An empty first line keeps the caption clear of the icon above it.
-      if (look_.menuIcons == IconPlace::Above) button.setCaption(QStringLiteral("||") + button.caption());
-      if (look_.menuIcons == IconPlace::Lettered) button.setCaption(QString());
+      name(button, pictures_.add(imageFile(kMenuPictures[i].file),
+                                 artist_.menuFace(sizeOf(button), kMenuPictures[i].icon, linesOf(button),
+                                                  button.foreColor().toQColor())));
     }
-    ImageTable& transport = state_.names.ofButtons(f.lvButtons_H2);
     for (int i = 0; i < 3; ++i) {
-      transport[i].setValue(
-          pictures_.add(imageFile(kTransportPictures[i].file),
-                        artist_.iconFace(sizeOf(f.lvButtons_H2[i]), kTransportPictures[i].icon)));
-      f.lvButtons_H2[i].setCaption(QString());
+      Button& button = f.lvButtons_H2[i];
+      name(button, pictures_.add(imageFile(kTransportPictures[i].file),
+                                 artist_.iconFace(sizeOf(button), kTransportPictures[i].icon,
+                                                  button.foreColor().toQColor())));
     }
     drawPrize();
+    letterCaptions();
+  }
+
+  static QStringList linesOf(const Button& button) { return button.caption().split(QStringLiteral("||")); }
+
+  // What the picture says takes the place of the caption.
+  void name(Button& button, const QString& picture) {
+    state_.names.of(button)->setValue(picture);
+    button.setCaption(QString());
+  }
+
+  // A button's letters have one size in all Skins. Where that is too large for it, or too small for the
+  // screen, they become a picture.
+  void letterCaptions() {
+    TextLayouts texts;
+    for (Family* family : state_.form1.families())
+      for (Element* element : family->members())
+        if (element->kind() == Kind::Button && isRecorded(*element)) letter(cast<Button>(*element), texts);
+  }
+
+  bool isRecorded(const Element& element) const {
+    const Form1& f = state_.form1;
+    const Family* family = element.family();
+    if (family == &f.lvButtons_H20 || family == &f.lvButtons_H55 || family == &f.lvButtons_H57)
+      return family == &f.lvButtons_H57 && element.index() < 5;
+    if (family == &f.lvButtons_H42) return element.index() < 3;
+    return family != &f.lvButtons_H49 || element.index() < 7;
+  }
+
+  void letter(Button& button, TextLayouts& texts) {
+    constexpr double kTooSmall = 1.3;
+    if (button.caption().isEmpty()) return;
+    const bool isFitting = fits(button, texts);
+    if (isFitting && plan_.textScale < kTooSmall) return;
+    step(QStringLiteral("lettering"));
+    const double points = static_cast<double>(button.as<float>(Property::FontSize));
+    const QString lettered = QStringLiteral("%1 %2 %3 %4 %5")
+                                 .arg(sizeOf(button).width())
+                                 .arg(sizeOf(button).height())
+                                 .arg(button.foreColor().number())
+                                 .arg(points)
+                                 .arg(button.caption());
+    auto known = letterings_.constFind(lettered);
+    if (known == letterings_.constEnd()) known = letterings_.insert(lettered, draw(button, points));
+    name(button, *known);
+  }
+
+  QString draw(const Button& button, double points) {
+    const QString file =
+        QStringLiteral("caption %1.png").arg(letterings_.size() + 1, 3, 10, QLatin1Char('0'));
+    return pictures_.add(
+        file, artist_.captionFace(sizeOf(button), linesOf(button), points, button.foreColor().toQColor()));
+  }
+
+  bool fits(const Button& button, TextLayouts& texts) const {
+    constexpr double kPixels = 1.0 / design::kTwipsPerPixel;
+    const QRectF face(0, 0, button.width() * kPixels, button.height() * kPixels);
+    const QRectF room = contentsRect(button, face);
+    const LaidOutText& text =
+        texts.of({drawnCaption(button.caption()), button.as<QString>(Property::FontName),
+                  fontPixels(button.as<float>(Property::FontSize), kPixels), fontFlags(button), kAnyWidth,
+                  kAnyWidth, 0});
+    return text.width <= room.width() && text.height <= room.height();
   }
 
   // The outline of this button is its picture's.
   void drawPrize() {
     Button& button = state_.form1.lvButtons_H57[5];
-    const QString name = pictures_.add(QStringLiteral("prize.png"), artist_.prize(sizeOf(button).width()));
-    state_.names.ofButtons(state_.form1.lvButtons_H57)[5].setValue(name);
-    button.setPicture(state_.pictures.load(folder_.resolve(name)));
+    const QImage prize = artist_.prize(sizeOf(button).width());
+    state_.names.of(button)->setValue(pictures_.add(QStringLiteral("prize.png"), prize));
+    button.setForeColor(Colour::of(artist_.prizeInk()));
+    button.setPicture(Picture::drawn(prize));
     button.setButtonShape(Button::kFirstCustomShape);
   }
 
-  void save() {
-    for (const NamedCovers& covers : look_.covers) saveCovers(covers);
-    saveRecords(state_, disk_, folder_);
-    // Where case counts, this screen is read under another name than it is written.
-    const Layout choice = searchChoiceFile(state_);
-    write(choice.fileName(), composeRecords(choice));
+  void saveCovers() {
+    for (const NamedCovers& covers : look_.covers) addCovers(covers);
   }
 
-  void saveCovers(const NamedCovers& covers) {
-    design::Composer composer(state_, look_.plan, look_.theme);
-    design::composeCovers(composer, design::coverArea(composer), covers.layout);
+  void addCovers(const NamedCovers& covers) {
+    placeCovers(covers.layout);
     state_.globals.LastCoverIndex->setValue(covers.layout.count - 1);
     Form4& f = state_.form4;
     f.Check3->setValue(covers.seeThrough ? 1 : 0);
@@ -258,39 +350,85 @@ private:
     f.Check6->setValue(covers.layout.dates ? 1 : 0);
     f.Check7->setValue(covers.layout.featured ? 1 : 0);
     f.Check11->setValue(covers.layout.overlapping ? 1 : 0);
-    const QString name = imageFile(covers.file);
-    write(name, composeRecords(coverFile(state_, name, covers.layout.count - 1)));
+    const QString file =
+        QStringLiteral("%1 %2.cov")
+            .arg(covers.layout.count)
+            .arg(covers.layout.overlapping ? QStringLiteral("Coverflow") : QStringLiteral("Covers"));
+    covers_.push_back({file, composeRecords(coverFile(state_, file, covers.layout.count - 1))});
   }
 
-  void write(const QString& name, const QByteArray& bytes) {
-    writeFiles(disk_, folder_.path(), {{name, bytes}});
+  void placeCovers(const design::CoverLayout& layout) {
+    design::Composer composer(state_, plan_, scheme_.theme);
+    design::composeCovers(composer, design::coverArea(composer), layout);
+  }
+
+  // Shown in all of the layouts, so between the sizes that it has in them.
+  int coverSide() {
+    double least = kMostPixels, most = 1;
+    for (const NamedCovers& covers : look_.covers) {
+      placeCovers(covers.layout);
+      for (int i = 0; i < covers.layout.count; ++i) {
+        const double side = sizeOf(state_.form1.Image2[i]).width();
+        least = std::min(least, side);
+        most = std::max(most, side);
+      }
+    }
+    return static_cast<int>(std::lround(std::sqrt(least * most)));
   }
 
   int headerHeight() {
-    const design::Composer composer(state_, look_.plan, look_.theme);
+    const design::Composer composer(state_, plan_, scheme_.theme);
     return design::partsOf(composer, state_.form1.Picture1[1]).header.bottom() + composer.px(1);
   }
+
+  void step(const QString& file) { tellStep(goOn_, std::min(done_++, kStepsInAll), kStepsInAll, file); }
 
   static constexpr int kAlbumView = 8;  // row of the default home screens
   static constexpr int kTenAlbums = 9;  // row of the other albums; any above it would hide them
 
+  static constexpr int kMemberHome = 25;
+  static constexpr int kAnyWidth = 4096;
+  static constexpr int kStepsInAll = 40;
+
   const Look& look_;
+  design::Plan plan_;
+  Scheme scheme_;
   Artist artist_;
-  SkinFolder folder_;
-  Disk& disk_;
+  const GoOn& goOn_;
   Pictures pictures_;
   State state_;
+  std::vector<NewFile> covers_;
+  QHash<QString, QString> letterings_;  ///< the pictures by all that they depend on
+  int done_ = 0;
 };
 
 }  // namespace
 
-void buildSkin(const QString& folder, const Look& look, Disk& disk) {
-  Builder(folder, look, disk).build();
+Wish defaultsOf(const Look& look) {
+  return {&look, look.size, look.colours, QString::fromLatin1(look.font)};
 }
 
-void buildProgramImages(const QString& folder, const Look& look, Disk& disk) {
-  const Pictures pictures(folder + QStringLiteral("/images"), disk);
-  pictures.add(QStringLiteral("star 0.png"), Artist(look).stars({kStarWidth, kStarHeight}));
+MadeSkin drawSkin(const Wish& wish, const GoOn& goOn) {
+  return Builder(wish, goOn).build();
+}
+
+QStringList makeSkin(Disk& disk, const QString& to, const Wish& wish, const GoOn& goOn) {
+  const MadeSkin made = drawSkin(wish, goOn);
+  try {
+    NewFolder folder(disk, to);
+    for (const NewFile& file : made.files) folder.create(file.name, file.bytes);
+    folder.putInPlace();
+  } catch (const ReplaceError& error) {
+    throw ExchangeError(QStringLiteral("%1: no Skin is made: %2").arg(to, QString::fromUtf8(error.what())));
+  }
+  return made.notes;
+}
+
+QByteArray programStars() {
+  const Look& look = kBlackAndBlue;
+  const design::Plan plan = planOf(look, look.size, QString::fromLatin1(look.font));
+  const Scheme scheme = schemeOf(look, look.colours);
+  return encodePicture(Artist(look, plan, scheme).stars({kStarWidth, kStarHeight}), "png");
 }
 
 }  // namespace veneerer::looks

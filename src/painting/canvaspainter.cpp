@@ -6,6 +6,7 @@
 #include "elements/colour.h"
 #include "painting/canvassize.h"
 #include "painting/clipping.h"
+#include "painting/panelground.h"
 #include "painting/seenelements.h"
 
 namespace veneerer {
@@ -129,8 +130,11 @@ void CanvasPainter::paintNatural(QPainter& painter, const Picture& picture, cons
 void CanvasPainter::paintPictureBox(QPainter& painter, const PictureBox& box, const QRectF& rect,
                                     const QRectF& clip) {
   const QRectF shown = rect & clip;
-  painter.fillRect(shown, dress_.of(box, Property::BackColor).toQColor());
-  paintNatural(painter, box.picture(), rect, shown);
+  for (const GroundPiece& piece : groundOf(box, rect, scale_, dress_)) {
+    const QRectF part = piece.rect & shown;
+    if (piece.colour) painter.fillRect(part, piece.colour->toQColor());
+    paintNatural(painter, *piece.picture, piece.rect, part);
+  }
   if (box.as<std::int32_t>(Property::BorderStyle) == 1) paintBorder(painter, rect, clip);
 }
 

@@ -10,6 +10,7 @@
 #include "images/picturedecoding.h"
 #include "painting/buttonface.h"
 #include "painting/hittest.h"
+#include "painting/panelground.h"
 #include "painting/scaledimages.h"
 #include "problems/contrast.h"
 #include "problems/screenplace.h"
@@ -122,10 +123,16 @@ private:
       case Kind::Button:
         return paintButton(cast<Button>(element), rect, clip);
       case Kind::PictureBox:
-        painter_.fillRect(clip, dress_.of(element, Property::BackColor).toQColor());
-        return paintNatural(element.as<Picture>(Property::Picture), rect.topLeft(), clip);
+        return paintPanel(cast<PictureBox>(element), rect, clip);
       default:
         return paintPicture(element, rect, clip);
+    }
+  }
+
+  void paintPanel(const PictureBox& box, const QRectF& rect, const QRectF& clip) {
+    for (const GroundPiece& piece : groundOf(box, rect, scale_, dress_)) {
+      if (piece.colour) painter_.fillRect(piece.rect & clip, piece.colour->toQColor());
+      paintNatural(*piece.picture, piece.rect.topLeft(), piece.rect & clip);
     }
   }
 

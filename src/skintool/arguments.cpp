@@ -2,10 +2,13 @@
 
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <algorithm>
 #include <cstdlib>
 
 #include "canvas/screens.h"
+#include "looks/looks.h"
+#include "looks/plans.h"
 #include "platform/program.h"
 #include "problems/hints.h"
 #include "records/coverfile.h"
@@ -119,6 +122,59 @@ QString checkedArchive(const QStringList& operands) {
   return operands.first();
 }
 
+QColor parseColour(const QCommandLineParser& parser, const char* name, const QColor& usual) {
+  const QString option = QString::fromLatin1(name);
+  if (!parser.isSet(option)) return usual;
+  static const QRegularExpression form(QStringLiteral("^#[0-9A-Fa-f]{6}$"));
+  const QString value = parser.value(option);
+  if (!form.match(value).hasMatch()) throw UsageError(QStringLiteral("--%1 takes #RRGGBB").arg(option));
+  return QColor(value);
+}
+
+QSize parseSize(const QCommandLineParser& parser, QSize usual) {
+  const QString name = QStringLiteral("size");
+  if (!parser.isSet(name)) return usual;
+  const QStringList sides = parser.value(name).split(u'x');
+  if (sides.size() != 2) throw UsageError(QStringLiteral("--size takes WIDTHxHEIGHT in pixels"));
+  const QSize size(positive(sides[0], name, 32767), positive(sides[1], name, 32767));
+  if (const QString fault = looks::faultOfSize(size); !fault.isEmpty()) throw UsageError(fault);
+  return size;
+}
+
+QString parseFont(const QCommandLineParser& parser, const QString& usual) {
+  const QString name = QStringLiteral("font");
+  if (!parser.isSet(name)) return usual;
+  const QString font = parser.value(name).trimmed();
+  if (font.isEmpty()) throw UsageError(QStringLiteral("--font takes the name of a font"));
+  return font;
+}
+
+looks::Wish parseWish(const QCommandLineParser& parser) {
+  const QString name = parser.value(QStringLiteral("look"));
+  if (name.isEmpty()) throw UsageError(QStringLiteral("--look is missing"));
+  const looks::Look* look = looks::findLook(name);
+  if (!look) throw UsageError(QStringLiteral("there is no look \"%1\"").arg(name));
+  looks::Wish wish = looks::defaultsOf(*look);
+  wish.size = parseSize(parser, wish.size);
+  wish.colours.accent = parseColour(parser, "accent", wish.colours.accent);
+  wish.colours.ground = parseColour(parser, "ground", wish.colours.ground);
+  wish.colours.text = parseColour(parser, "text", wish.colours.text);
+  wish.font = parseFont(parser, wish.font);
+  return wish;
+}
+
+/// The folder of the command new; none where the looks are only to be listed.
+void readNew(const QCommandLineParser& parser, const QStringList& operands, Arguments& arguments) {
+  const bool isList = parser.value(QStringLiteral("look")) == u"list";
+  if (operands.size() > 1 || (operands.isEmpty() && !isList))
+    throw UsageError(QStringLiteral("new takes one folder"));
+  if (isList) return;
+  arguments.wish = parseWish(parser);
+  arguments.to = operands.first();
+  if (QFileInfo::exists(arguments.to) || QFileInfo(arguments.to).isSymLink())
+    throw UsageError(QStringLiteral("\"%1\" is there already").arg(arguments.to));
+}
+
 void checkTarget(const CommandEntry& command, const QString& to) {
   if (command.needsTarget && to.isEmpty()) throw UsageError(QStringLiteral("--to is missing"));
   const bool isNew = command.command == Command::Copy || command.command == Command::Recolour;
@@ -184,11 +240,13 @@ Arguments parseArguments(const QStringList& words) {
   if (operands.isEmpty()) throw UsageError(QStringLiteral("a command is missing"));
   const CommandEntry& command = commandNamed(operands.takeFirst());
   refuseForeignOptions(parser, command);
-  if (!command.takesArchive) checkSkins(command, operands);
+  if (!command.takesArchive && !command.takesFolder) checkSkins(command, operands);
 
   arguments = readOptions(parser);
   arguments.command = command.command;
-  if (command.takesArchive)
+  if (command.takesFolder)
+    readNew(parser, operands, arguments);
+  else if (command.takesArchive)
     arguments.archive = checkedArchive(operands);
   else
     arguments.skins = operands;

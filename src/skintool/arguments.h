@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <stdexcept>
 
+#include "looks/skinbuilder.h"
 #include "platform/platform.h"
 #include "recolouring/recolouredcopy.h"
 #include "skintool/commands.h"
@@ -23,6 +24,7 @@ struct Arguments {
   QStringList skins;  ///< paths of Skin folders; one but for check and diff, none for buttons and unpack
   QString archive;    ///< unpack: its path
   QString to;         ///< save, render, copy, pack, unpack and what draws: the target
+  looks::Wish wish;   ///< new: what is to be drawn into `to`; without a look, the looks are to be listed
   QString cover;      ///< save: the cover file's name, empty to leave the covers out
   QStringList only;   ///< render: the entries to render, empty for all
   QString script;     ///< a script to play after the load, "-" for standard input, empty for none

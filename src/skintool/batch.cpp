@@ -15,6 +15,7 @@
 #include "skintool/checkcommand.h"
 #include "skintool/diffcommand.h"
 #include "skintool/exchangecommands.h"
+#include "skintool/newcommand.h"
 #include "skintool/output.h"
 #include "skintool/pages.h"
 #include "skintool/render.h"
@@ -130,6 +131,7 @@ int run(const Arguments& arguments, std::FILE* out, std::FILE* err) {
   if (isOfTwo(arguments)) return runDiff(arguments, out);
   if (arguments.command == Command::Pack) return runPack(arguments, err);
   if (arguments.command == Command::Unpack) return runUnpack(arguments);
+  if (arguments.command == Command::New) return runNew(arguments, out, err);
   return BatchRun(arguments).run(out, err);
 }
 

@@ -58,6 +58,12 @@ const CommandEntry kCommands[] = {
      "anything\n"
      "but the files of one Skin, or one that is there already.",
      0, 0, true, true},
+    {Command::New, "new",
+     "FOLDER --look NAME [--size WIDTHxHEIGHT] [--accent #RRGGBB] [--ground #RRGGBB] [--text #RRGGBB]\n"
+     "       [--font NAME]",
+     "Draws a whole new Skin: pictures, record files and cover layouts. FOLDER must not be there; its name\n"
+     "is the Skin's. --look list names the looks.",
+     0, 0, false, false, true},
     {Command::Buttons, "buttons", "--to FILE.png", "Draws every style and shape of button as one sheet.", 0,
      0, true},
 };
@@ -89,6 +95,12 @@ const OptionEntry kOptions[] = {
     {"dpi", "N", "the screen's dots per logical inch; 96 without it", kLoading},
     {"design", nullptr, "also tells, as hints, what a touch screen suffers from", {Command::Check}},
     {"touch", "N", "with --design: the least side of a button in pixels; 32 without it", {Command::Check}},
+    {"look", "NAME", "the look, or \"list\" for the names of all of them", {Command::New}},
+    {"size", "WIDTHxHEIGHT", "the Skin's size in pixels; that of the look without it", {Command::New}},
+    {"accent", "#RRGGBB", "the colour of lines, light and what is to be touched next", {Command::New}},
+    {"ground", "#RRGGBB", "the colour that everything stands on", {Command::New}},
+    {"text", "#RRGGBB", "the colour of the texts, moved where it could not be read", {Command::New}},
+    {"font", "NAME", "the font of all texts", {Command::New}},
     {"help", nullptr, "prints this help", {}},
     {"version", nullptr, "prints the program's version", {}},
 };

@@ -20,7 +20,8 @@ enum class Command : std::uint8_t {
   Copy,
   Recolour,
   Pack,
-  Unpack
+  Unpack,
+  New
 };
 
 struct CommandEntry {
@@ -32,6 +33,7 @@ struct CommandEntry {
   int mostSkins;
   bool needsTarget;           ///< --to must be there
   bool takesArchive = false;  ///< one archive in the place of Skins
+  bool takesFolder = false;   ///< one folder that is to be made
 };
 
 struct OptionEntry {

@@ -1,0 +1,91 @@
+// The command new, and what comes of it.
+#include "looks/looks.h"
+#include "skintool/batchrun.h"
+
+namespace veneerer {
+namespace {
+
+class NewCommand : public BatchTest {
+protected:
+  QString mine() const { return path("Skins/Mine"); }
+};
+
+TEST_F(NewCommand, ListsTheLooksAndDrawsOne) {
+  EXPECT_EQ(run({"new", "--look", "list"}), 0);
+  const QList<QByteArray> names = out.split('\n');
+  EXPECT_GE(names.size(), 9);
+  EXPECT_EQ(run({"new", mine(), "--look", names[3], "--size", "700x500"}), 0);
+  EXPECT_EQ(err, "");
+  EXPECT_EQ(run({"check", mine()}), 0);
+  EXPECT_EQ(run({"dump", mine()}), 0);
+  EXPECT_TRUE(out.contains("\"Text\": \"700\"") && out.contains("\"Text\": \"500\""));
+}
+
+TEST_F(NewCommand, TakesColoursAndAFontAndTellsWhatItMoved) {
+  EXPECT_EQ(run({"new", mine(), "--look", "paper", "--ground", "#202020", "--text", "#303030", "--accent",
+                 "#00ff00", "--font", "Courier New"}),
+            0);
+  EXPECT_TRUE(err.startsWith("The text colour #303030 becomes #")) << err.toStdString();
+  EXPECT_EQ(err.count('\n'), 1);
+  EXPECT_TRUE(test::bytesOf(mine() + "/history.ini").contains("Courier New"));
+  EXPECT_EQ(run({"check", "--design", mine()}), 0);
+  EXPECT_EQ(out, "");
+}
+
+TEST_F(NewCommand, RefusesWhatCannotBe) {
+  const QStringList wrong[] = {{"new", mine()},
+                               {"new", "--look", "Paper"},
+                               {"new", mine(), "--look", "Papyrus"},
+                               {"new", skin(), "--look", "Paper"},
+                               {"new", mine(), "--look", "Paper", "--size", "600x400"},
+                               {"new", mine(), "--look", "Paper", "--size", "1024"},
+                               {"new", mine(), "--look", "Paper", "--accent", "red"},
+                               {"new", mine(), "--look", "Paper", "--font", ""},
+                               {"new", mine(), "--look", "Paper", "--to", path("x")}};
+  for (const QStringList& words : wrong) {
+    EXPECT_EQ(run(words), 2) << words.join(' ').toStdString();
+    EXPECT_TRUE(err.startsWith("skintool: ")) << err.toStdString();
+  }
+  EXPECT_FALSE(QFileInfo::exists(mine()));
+}
+
+struct Case {
+  QByteArray look;
+  const char* size;
+  QStringList colours;
+};
+
+// Every look in the size it was made for and in those that are hard, once in colours that hardly go together.
+std::vector<Case> cases() {
+  std::vector<Case> all;
+  for (const looks::Look* look : looks::allLooks()) {
+    all.push_back({look->name, "640x480", {}});
+    all.push_back({look->name, "1080x1920", {}});
+    all.push_back({look->name, "2560x1080", {}});
+    all.push_back(
+        {look->name, "1024x768", {"--accent", "#e0ff10", "--ground", "#7a7f78", "--text", "#907060"}});
+  }
+  return all;
+}
+
+class EveryLook : public NewCommand, public testing::WithParamInterface<Case> {};
+
+TEST_P(EveryLook, GivesASkinWithoutFaultsThatASaveLeavesAlone) {
+  const auto& [look, size, colours] = GetParam();
+  ASSERT_EQ(run(QStringList{"new", mine(), "--look", look, "--size", size} + colours), 0)
+      << err.toStdString();
+  EXPECT_EQ(run({"check", "--design", mine()}), 0);
+  EXPECT_EQ(out, "");
+  const test::Files made = test::filesBelow(mine());
+  EXPECT_EQ(run({"save", mine(), "--to", mine()}), 0);
+  EXPECT_EQ(test::filesBelow(mine()), made);
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, EveryLook, testing::ValuesIn(cases()), [](const auto& info) {
+  const Case& made = info.param;
+  const QByteArray name = made.look + '_' + made.size;
+  return QString::fromLatin1(name).remove(' ').toStdString();
+});
+
+}  // namespace
+}  // namespace veneerer
