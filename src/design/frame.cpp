@@ -81,7 +81,7 @@ void composeStatusTexts(Composer& c, const Box& area) {
   for (int i = 0; i < 4; ++i) {
     const Chip& chip = chips[i];
     c.clearPanel(chip.panel, f, grid.cell(i));
-    c.line(chip.label, f, grid.cell(i).inset(c.px(4), 0), QString::fromLatin1(chip.caption),
+    c.line(chip.label, f, grid.cell(i).inset(c.px(2), 0), QString::fromLatin1(chip.caption),
            {chip.ink, 9, chip.bold, Alignment::Center});
   }
 }
@@ -99,7 +99,7 @@ void composeStatus(Composer& c) {
   next(2, "Forward", c.theme.plain);
   next(0, "Back", c.theme.plain);
   next(1, "Jump To||Letter", c.theme.plain);
-  composeStatusTexts(c, area.cutLeft(c.px(162), c.px(5)));
+  composeStatusTexts(c, area.cutLeft(c.px(172), c.px(5)));
   c.line(*f.Label55, f, area, QStringLiteral("Current Page: 0/0"),
          {c.theme.bar.body, 8, false, Alignment::Right});
 }

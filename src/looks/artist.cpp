@@ -72,6 +72,8 @@ QList<QRgb> ramp(const QColor& from, const QColor& through, const QColor& to, in
 void Artist::paintPattern(QPainter& painter, const QRectF& area, QColor ink, double strength) const {
   // A quarter of it at most, which the inks of the scheme allow for.
   constexpr double kUsual = 0.055;
+  constexpr double kOfLines = 2;
+  if (look_.motif == Motif::Grid || look_.motif == Motif::Grain) strength *= kOfLines;
   ink.setAlphaF(static_cast<float>(std::min(kUsual * strength, kMotifShare / 2)));
   veneerer::looks::paintMotif(painter, area, look_.motif, ink);
 }

@@ -148,9 +148,19 @@ private:
     return ground;
   }
 
+  /// A strong colour is rather deepened than lettered otherwise than all the rest.
+  Side sideOfTone(Tone tone, const QColor& colour) const {
+    constexpr double kNear = 2.6;
+    const bool isOfGround = tone == Tone::Ground || tone == Tone::Raised;
+    const bool isStrong = tone == Tone::Accent || tone == Tone::Second;
+    if (isOfGround) return side_;
+    if (isStrong && contrastOf(Qt::white, colour) >= kNear) return {Qt::white, Qt::black};
+    return sideOf(colour);
+  }
+
   void mixBars() {
     const QColor bar = toned(look_.bars);
-    const Side side = look_.bars == Tone::Accent ? sideOf(bar) : side_;
+    const Side side = sideOfTone(look_.bars, bar);
     const double depth = look_.motif == Motif::Plain ? 0 : 0.22;
     bar_ = surfaceOf(bar, mix(bar, side.away, depth), given_.accent, side);
     const QColor text = look_.bars == Tone::Accent ? mix(text_, side.pole, 0.85) : text_;
@@ -244,8 +254,7 @@ std::vector<QColor> facesOf(const design::ButtonLook& look) {
 // The face as it is painted has the say: its style lightens and darkens it.
 design::ButtonLook Mixer::button(const ButtonForm& form) const {
   const QColor wished = toned(form.tone);
-  const bool hasOwnSide = form.tone != Tone::Ground && form.tone != Tone::Raised;
-  const Side side = hasOwnSide ? sideOf(wished) : side_;
+  const Side side = sideOfTone(form.tone, wished);
   const QColor fore =
       form.tone == Tone::Paper ? mix(screen_.end, side.pole, 0.3) : mix(text_, side.pole, 0.8);
   design::ButtonLook look{form.shape, form.style, {}, {}, {}, form.mode};

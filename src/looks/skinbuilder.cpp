@@ -70,20 +70,15 @@ constexpr NamedBackdrop kNamedBackdrops[] = {
     {29, &ImageNames::FreeCreditName, "credit.jpg", Icon::None, false},
 };
 
-struct MenuPicture {
+constexpr const char* kMenuPictures[] = {
+    "menu_history.png", "menu_search.png",      "menu_queue.png",   "menu_top20.png",  "menu_options.png",
+    "menu_decades.png", "menu_playlist.png",    "menu_genres.png",  "menu_albums.png", "menu_playing.png",
+    "menu_member.png",  "menu_collections.png", "menu_request.png", "menu_popup.png"};
+struct TransportPicture {
   const char* file;
   Icon icon;
 };
-constexpr MenuPicture kMenuPictures[] = {
-    {"menu_history.png", Icon::Clock},   {"menu_search.png", Icon::Magnifier},
-    {"menu_queue.png", Icon::Queue},     {"menu_top20.png", Icon::Podium},
-    {"menu_options.png", Icon::Sliders}, {"menu_decades.png", Icon::Calendar},
-    {"menu_playlist.png", Icon::Note},   {"menu_genres.png", Icon::Tiles},
-    {"menu_albums.png", Icon::Disc},     {"menu_playing.png", Icon::Play},
-    {"menu_member.png", Icon::Person},   {"menu_collections.png", Icon::Stack},
-    {"menu_request.png", Icon::Plus},    {"menu_popup.png", Icon::Dots},
-};
-constexpr MenuPicture kTransportPictures[] = {
+constexpr TransportPicture kTransportPictures[] = {
     {"previous.png", Icon::Previous}, {"pause.png", Icon::Pause}, {"next.png", Icon::Next}};
 
 constexpr int kStarWidth = 160;
@@ -251,8 +246,8 @@ private:
     step(QStringLiteral("menu_history.png"));
     for (int i = 0; i < 14; ++i) {
       Button& button = f.lvButtons_H1[i];
-      name(button, pictures_.add(imageFile(kMenuPictures[i].file),
-                                 artist_.menuFace(sizeOf(button), kMenuPictures[i].icon, linesOf(button),
+      name(button, pictures_.add(imageFile(kMenuPictures[i]),
+                                 artist_.menuFace(sizeOf(button), kMenuIcons[i], linesOf(button),
                                                   button.foreColor().toQColor())));
     }
     for (int i = 0; i < 3; ++i) {

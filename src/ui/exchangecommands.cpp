@@ -9,6 +9,7 @@
 #include "exchange/skincopy.h"
 #include "exchange/skinpacking.h"
 #include "exchange/skinunpacking.h"
+#include "ui/newskindialog.h"
 #include "ui/targetdialog.h"
 #include "ui/workwindow.h"
 
@@ -48,9 +49,8 @@ bool run(const Place& place, const QString& title, const std::function<void(cons
   return false;
 }
 
-/// "Mine copy", or the first such name with a number that nothing bears.
-QString freeName(const Place& place) {
-  const QString name = place.skinName() + QStringLiteral(" copy");
+/// That name, or the first such one with a number that nothing bears.
+QString freeName(const Place& place, const QString& name) {
   QString free = name;
   for (int i = 2; QFileInfo::exists(place.root() + u'/' + free); ++i) free = name + u' ' + QString::number(i);
   return free;
@@ -70,7 +70,7 @@ std::optional<QString> askName(const Place& place, const QString& title) {
   QInputDialog dialog(&place.owner);
   dialog.setWindowTitle(title);
   dialog.setLabelText(QStringLiteral("Name of the new Skin:"));
-  dialog.setTextValue(freeName(place));
+  dialog.setTextValue(freeName(place, place.skinName() + QStringLiteral(" copy")));
   dialog.resize(kDialogWidth, dialog.sizeHint().height());
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.textValue().trimmed();
@@ -82,6 +82,24 @@ void copyAsNew(const Place& place) {
       [&](const QString& folder, const GoOn& goOn) {
         return leftOutNote(copySkin(place.hands.state(), place.hands.disk(), place.skin(), folder, goOn));
       });
+}
+
+void newSkin(const Place& place) {
+  const QString title = QStringLiteral("New Skin");
+  NewSkinDialog dialog(
+      freeName(place, title), [&place](const QString& name) { return faultOfName(place, name); },
+      &place.owner);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const QString name = dialog.name();
+  const looks::Wish wish = dialog.wish();
+  QStringList notes;
+  const bool isDone = run(place, title, [&](const GoOn& goOn) {
+    notes = looks::makeSkin(place.hands.disk(), place.root() + u'/' + name, wish, goOn);
+  });
+  if (!isDone) return;
+  place.hands.goOnWithCopy(name);
+  notes.prepend(QStringLiteral("%1 is a new Skin, and in hand.").arg(name));
+  place.say(notes.join(u' '));
 }
 
 void exportSkin(const Place& place) {
@@ -154,8 +172,8 @@ void addExchangeCommands(QMenu& menu, Operator& hands, QWidget& owner) {
   };
   menu.addSeparator();
   for (const Entry& entry :
-       {Entry{"Copy as &New Skin...", "Make a new Skin of this one as it is now, and go on with that",
-              copyAsNew},
+       {Entry{"New S&kin...", "Draw a whole new Skin of a look, a size and three colours", newSkin},
+        {"Copy as &New Skin...", "Make a new Skin of this one as it is now, and go on with that", copyAsNew},
         {"&Export...", "Pack the Skin as it was saved into one file", exportSkin},
         {"&Import...", "Put the Skin of such a file among the others", importSkin}}) {
     QAction* action = menu.addAction(QString::fromLatin1(entry.text));

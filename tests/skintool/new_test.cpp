@@ -81,11 +81,12 @@ TEST_P(EveryLook, GivesASkinWithoutFaultsThatASaveLeavesAlone) {
   EXPECT_EQ(test::filesBelow(mine()), made);
 }
 
-INSTANTIATE_TEST_SUITE_P(Looks, EveryLook, testing::ValuesIn(cases()), [](const auto& info) {
-  const Case& made = info.param;
-  const QByteArray name = made.look + '_' + made.size;
+std::string nameOf(const testing::TestParamInfo<Case>& made) {
+  const QByteArray name = made.param.look + '_' + made.param.size;
   return QString::fromLatin1(name).remove(' ').toStdString();
-});
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, EveryLook, testing::ValuesIn(cases()), nameOf);
 
 }  // namespace
 }  // namespace veneerer

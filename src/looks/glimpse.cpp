@@ -1,0 +1,118 @@
+#include "looks/glimpse.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "canvas/screens.h"
+#include "design/design.h"
+#include "design/screens.h"
+#include "looks/artist.h"
+#include "looks/icons.h"
+#include "looks/plans.h"
+#include "painting/canvaspainter.h"
+
+namespace veneerer::looks {
+
+namespace {
+
+// From this size on the rules of the plans give the same for the same proportions, pixels.
+constexpr double kWidth = 720;
+constexpr double kHeight = 540;
+
+QSize reduced(QSize size) {
+  const double factor = std::min(1.0, std::max(kWidth / size.width(), kHeight / size.height()));
+  return (QSizeF(size) * factor).toSize();
+}
+
+QSize sizeOf(const Element& element) {
+  const design::Box box = design::boxOf(element);
+  return {box.w, box.h};
+}
+
+class Glimpser {
+public:
+  Glimpser(const Wish& wish, QSize within)
+      : plan_(planOf(*wish.look, reduced(wish.size), wish.font)),
+        scheme_(schemeOf(*wish.look, wish.colours)),
+        artist_(*wish.look, plan_, scheme_),
+        layout_(wish.look->covers.begin()->layout),
+        within_(within) {}
+
+  Glimpse taken(std::span<const int> entries) {
+    compose();
+    drawFrame();
+    Glimpse glimpse{{}, scheme_.notes};
+    for (const int entry : entries) glimpse.screens << picture(entry);
+    return glimpse;
+  }
+
+private:
+  void compose() {
+    applyBuiltInDesign(state_);
+    design::Composer composer(state_, plan_, scheme_.theme);
+    design::composeCanvas(composer);
+    design::composeCovers(composer, design::coverArea(composer), layout_);
+    Form1& f = state_.form1;
+    header_ = design::partsOf(composer, f.Picture1[1]).header.bottom() + 1;
+    for (int i = 0; i < 28; ++i)
+      for (Element* part : {static_cast<Element*>(&f.Image2[i]), static_cast<Element*>(&f.ucAniGIF1[i]),
+                            static_cast<Element*>(&f.Label9[i]), static_cast<Element*>(&f.Label10[i])})
+        part->setVisible(i < layout_.count);
+  }
+
+  void drawFrame() {
+    Form1& f = state_.form1;
+    show(f, artist_.backdrop());
+    show(f.Picture2[12], artist_.stage(sizeOf(f.Picture2[12])));
+    show(f.Picture2[2], artist_.logo(sizeOf(f.Picture2[2])));
+    for (int i : {0, 1}) show(f.Picture2[i], artist_.bar(sizeOf(f.Picture2[i])));
+    show(*f.Picture6, artist_.track(sizeOf(*f.Picture6)));
+    for (int i = 0; i < 14; ++i) drawMenu(f.lvButtons_H1[i], i);
+    const Picture cover = Picture::drawn(artist_.cover(sizeOf(f.Image2[0]).width()));
+    for (int i = 0; i < layout_.count; ++i) f.Image2[i].setPicture(cover);
+  }
+
+  void drawMenu(Button& button, int i) {
+    const QStringList lines = button.caption().split(QStringLiteral("||"));
+    button.setPicture(Picture::drawn(
+        artist_.menuFace(sizeOf(button), kMenuIcons[i], lines, button.foreColor().toQColor())));
+    button.setCaption(QString());
+  }
+
+  template <class E>
+  static void show(E& element, const QImage& image) {
+    element.setPicture(Picture::drawn(image));
+  }
+
+  QImage picture(int entry) {
+    if (entry > 0 && entry < 30) {
+      PictureBox& screen = state_.form1.Picture1[entry];
+      show(screen, artist_.screen(sizeOf(screen), header_, Icon::None));
+    }
+    const QSize size = QSize(plan_.width, plan_.height).scaled(within_, Qt::KeepAspectRatio);
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    CanvasPainter canvas;
+    canvas.setStage(stageOf(state_, entry));
+    const double scale = static_cast<double>(size.width()) / plan_.width / design::kTwipsPerPixel;
+    canvas.paint(painter, state_.form1, image.rect(), scale, scale);
+    return image;
+  }
+
+  design::Plan plan_;
+  Scheme scheme_;
+  Artist artist_;
+  design::CoverLayout layout_;
+  QSize within_;
+  int header_ = 0;
+  State state_;
+};
+
+}  // namespace
+
+Glimpse glimpseOf(const Wish& wish, std::span<const int> entries, QSize within) {
+  return Glimpser(wish, within).taken(entries);
+}
+
+}  // namespace veneerer::looks
