@@ -91,7 +91,7 @@ void composeStatus(Composer& c) {
   c.clearPanel(f.Picture2[3], f, c.plan.status);
   Box area = c.plan.status.inset(c.px(10), c.px(4));
   const auto next = [&](int index, const char* caption, const ButtonLook& look) {
-    const Box at = area.cutRight(c.px(70), c.px(3));
+    const Box at = area.cutRight(c.px(67), c.px(3));
     c.button(f.lvButtons_H57[index], f, at, QString::fromLatin1(caption), look, 8);
   };
   next(4, "Free||Credits?", c.theme.primary);

@@ -95,8 +95,11 @@ private:
     QPainter painter(&image);
     CanvasPainter canvas;
     canvas.setStage(stageOf(state_, entry));
-    const double scale = static_cast<double>(size.width()) / plan_.width / design::kTwipsPerPixel;
-    canvas.paint(painter, state_.form1, image.rect(), scale, scale);
+    // Pictures are drawn in their own size, so it is the painter that makes all of it smaller.
+    constexpr double kScale = 1.0 / design::kTwipsPerPixel;
+    const double factor = static_cast<double>(size.width()) / plan_.width;
+    painter.scale(factor, factor);
+    canvas.paint(painter, state_.form1, QRect(0, 0, plan_.width, plan_.height), kScale, kScale);
     return image;
   }
 
