@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <random>
 
+#include "canvas/description.h"
 #include "canvas/screens.h"
 #include "designer/restoredstate.h"
 #include "designer/skinfixture.h"
@@ -93,7 +94,7 @@ TEST_F(Undo, WhatBelongsTogetherIsOneStep) {
   designer->press(button, 0, 0, MouseButton::Left);
   designer->move(button, 30, 0, MouseButton::Left);
   designer->move(button, 0, 45, MouseButton::Left);
-  EXPECT_EQ(history.stack().undoText(), QStringLiteral("Place of Queue (2)"));
+  EXPECT_EQ(history.stack().undoText(), "Place of " + elementTitle(state(), button));
   designer->click(button);
   EXPECT_EQ(steps(), 1) << "a drag and its click";
   for (const char* text : {"9", "90", "900"})

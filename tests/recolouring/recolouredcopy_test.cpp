@@ -74,7 +74,7 @@ TEST_F(RecolouredCopies, AReplacedColourChangesExactlyItsOwnPlaces) {
     files.insert(difference.file);
   }
   EXPECT_TRUE(files.contains("search_choice.ini")) << "no save writes it, but a load reads it";
-  EXPECT_TRUE(files.contains("18 Covers.cov") && files.contains("8 Covers.cov"));
+  EXPECT_TRUE(files.contains("12 Covers.cov") && files.contains("8 Covers.cov"));
 
   test::copyShippedSkin("Daylight_Wide(1920x1080)", root.path(), "T");
   QDir(root.filePath("Skins/T")).removeRecursively();

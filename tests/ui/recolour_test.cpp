@@ -99,7 +99,7 @@ TEST_F(Recolour, IsSeenAtOnceAndLeavesNoTraceOnCancel) {
   int told = 0;
   const Attachment watching = state().board.watch([&](const Change&) { ++told; });
   for (const int hue : {20, 90, 150}) {
-    turn(hue, 20);
+    turn(hue, 60);
     EXPECT_NE(seen(), before);
     EXPECT_EQ(records(), records0) << "a save meanwhile would write what it would have";
   }
