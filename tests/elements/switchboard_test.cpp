@@ -46,7 +46,7 @@ TEST_F(Board, HandlersComeBeforeViewsAndEachInTheOrderOfAttaching) {
 
 TEST_F(Board, WhatAHandlerChangesIsToldAtOnce) {
   const Attachment all[] = {
-      window.onChange(*window.Label1, Property::Left, [this](Element& e) { e.setTop(1); }),
+      window.onChange(*window.Label1, Property::Left, [](Element& e) { e.setTop(1); }),
       window.onChange(*window.Label1, Property::Top, says("top")),
       window.onChange(*window.Label1, Property::Left, says("left"))};
   window.Label1->setLeft(1);
