@@ -1,5 +1,7 @@
 #include "canvas/description.h"
 
+#include <cmath>
+
 #include "canvas/screens.h"
 #include "canvas/sections.h"
 #include "elements/numbers.h"
@@ -23,9 +25,14 @@ QString inTwips(const Element& e) {
                    QStringLiteral("twips"));
 }
 
+// Of a record file any number may come, far beyond an int.
+QString wholeText(double number) {
+  return QString::number(std::round(number) + 0.0, 'f', 0);  // no minus ahead of a zero
+}
+
 QString inPixels(const Element& e, const Screen& screen) {
-  const auto across = [&](float twips) { return QString::number(qRound(twips / screen.twipsPerPixelX())); };
-  const auto down = [&](float twips) { return QString::number(qRound(twips / screen.twipsPerPixelY())); };
+  const auto across = [&](float twips) { return wholeText(twips / screen.twipsPerPixelX()); };
+  const auto down = [&](float twips) { return wholeText(twips / screen.twipsPerPixelY()); };
   return placeText(across(e.left()), down(e.top()), across(e.width()), down(e.height()),
                    QStringLiteral("px"));
 }
