@@ -61,9 +61,8 @@ std::vector<Case> cases() {
   for (const looks::Look* look : looks::allLooks()) {
     all.push_back({look->name, "640x480", {}});
     all.push_back({look->name, "640x1138", {}});
-    all.push_back({look->name, "1120x480", {}});
     all.push_back(
-        {look->name, "1024x768", {"--accent", "#e0ff10", "--ground", "#7a7f78", "--text", "#907060"}});
+        {look->name, "1120x480", {"--accent", "#e0ff10", "--ground", "#7a7f78", "--text", "#907060"}});
   }
   return all;
 }

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kShort{20};
 // Far more than any of it takes, milliseconds.
-constexpr int kLong = 5000;
+constexpr int kLong = 30000;
 
 class FileWatchTest : public testing::Test {
 protected:

@@ -18,7 +18,7 @@ protected:
   QTreeWidgetItem* row(const char* text) {
     return rows().findItems(QLatin1String(text), Qt::MatchContains).value(0);
   }
-  bool comes(const std::function<bool()>& holds) { return QTest::qWaitFor(holds, 20'000); }
+  bool comes(const std::function<bool()>& holds) { return QTest::qWaitFor(holds, 60'000); }
   void clickRow(QTreeWidgetItem* item) {
     rows().scrollToItem(item);
     QTest::mouseClick(rows().viewport(), Qt::LeftButton, {}, rows().visualItemRect(item).center());

@@ -195,7 +195,7 @@ TEST_F(Recolour, AColourIsGivenToAllItsPlaces) {
 
 TEST_F(Recolour, AClickOnAFaintCaptionGoesToItsElement) {
   turn(0, 80);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return faint().count() > 50; }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return faint().count() > 50; }, 60'000));
   QListWidgetItem* last = faint().item(faint().count() - 1);
   faint().scrollToItem(last);
   QTest::mouseClick(faint().viewport(), Qt::LeftButton, {}, faint().visualItemRect(last).center());
@@ -204,7 +204,7 @@ TEST_F(Recolour, AClickOnAFaintCaptionGoesToItsElement) {
   settle();
   EXPECT_TRUE(isOpen());
   press("R&eset");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return faint().count() == 0; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return faint().count() == 0; }, 60'000));
 }
 
 TEST_F(Recolour, WithPicturesMakesANewSkinAndLeavesThisOne) {
