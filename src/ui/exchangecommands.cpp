@@ -97,7 +97,7 @@ void newSkin(const Place& place) {
     notes = looks::makeSkin(place.hands.disk(), place.root() + u'/' + name, wish, goOn);
   });
   if (!isDone) return;
-  place.hands.goOnWithCopy(name);
+  place.hands.openSkin(name);
   notes.prepend(QStringLiteral("%1 is a new Skin, and in hand.").arg(name));
   place.say(notes.join(u' '));
 }

@@ -1,13 +1,17 @@
 // A whole Skin comes and goes by the menu.
+#include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "designer/restoredstate.h"
 #include "problems/leftbehind.h"
 #include "support/pictures.h"
 #include "ui/modal.h"
+#include "ui/newskindialog.h"
 #include "ui/uifixture.h"
 #include "ui/workwindow.h"
 
@@ -60,6 +64,31 @@ TEST_F(ExchangeMenu, ACopyIsInHandAsItWasAndTheOldOneStays) {
   designer->history().undo();
   EXPECT_EQ(form4().Combo3->text(), "S");
   EXPECT_EQ(form1().aicAlphaImage1[3].picture().path(), path("images/star.bmp"));
+}
+
+TEST_F(ExchangeMenu, ANewSkinIsOpenedWithNothingOfTheOldOne) {
+  form1().aicAlphaImage1[3].setVisible(false);
+  const auto answer = [this](QDialogButtonBox::StandardButton button) {
+    const test::OnModal<NewSkinDialog> dialog([&](NewSkinDialog& box) {
+      box.findChild<QLineEdit*>("name")->setText("Mine");
+      box.findChild<QComboBox*>("look")->setCurrentText("Old Oak");
+      box.findChild<QComboBox*>("size")->setCurrentText("640x480");
+      QTest::mouseClick(box.findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
+    });
+    trigger("New S&kin...");
+  };
+  answer(QDialogButtonBox::Cancel);
+  EXPECT_FALSE(QFileInfo::exists(skin("Mine")));
+  EXPECT_EQ(form4().Combo3->text(), "S");
+
+  answer(QDialogButtonBox::Ok);
+  EXPECT_EQ(form4().Combo3->text(), "Mine");
+  EXPECT_TRUE(lastNote().startsWith("Mine is a new Skin, and in hand."));
+  test::RestoredState made(state());
+  designer->history().undo();
+  EXPECT_EQ(form4().Combo3->text(), "S");
+  designer->openSkin("Mine");
+  EXPECT_EQ(made.difference(test::RestoredState(state())), "") << "what a choice of it in the list loads";
 }
 
 TEST_F(ExchangeMenu, ANameThatCannotBeIsToldAndNothingIsMade) {
