@@ -45,10 +45,9 @@ TEST_F(Board, HandlersComeBeforeViewsAndEachInTheOrderOfAttaching) {
 }
 
 TEST_F(Board, WhatAHandlerChangesIsToldAtOnce) {
-  const Attachment all[] = {
-      window.onChange(*window.Label1, Property::Left, [](Element& e) { e.setTop(1); }),
-      window.onChange(*window.Label1, Property::Top, says("top")),
-      window.onChange(*window.Label1, Property::Left, says("left"))};
+  const Attachment all[] = {window.onChange(*window.Label1, Property::Left, [](Element& e) { e.setTop(1); }),
+                            window.onChange(*window.Label1, Property::Top, says("top")),
+                            window.onChange(*window.Label1, Property::Left, says("left"))};
   window.Label1->setLeft(1);
   EXPECT_EQ(told(), "top left");
 }
