@@ -4,7 +4,7 @@ namespace veneerer {
 
 namespace {
 
-// The format: https://www.w3.org/Graphics/GIF/spec-gif89a.txt. Sizes in bytes.
+// Of the format GIF89a, whose sizes hold for GIF87a too. Sizes in bytes.
 constexpr qsizetype kSignature = 6;
 constexpr qsizetype kScreenSize = 7;
 constexpr qsizetype kScreenFlags = 4;
