@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "painting/buttonface.h"
-#include "problems/contrast.h"
 
 namespace veneerer::looks {
 

@@ -6,6 +6,7 @@
 
 #include "design/theme.h"
 #include "looks/look.h"
+#include "problems/contrast.h"
 
 namespace veneerer::looks {
 
@@ -31,9 +32,6 @@ struct Scheme {
   Palette palette;
   QStringList notes;  ///< which of the given colours had to be moved, a sentence each
 };
-
-/// The least contrast of a text to what lies beneath it.
-inline constexpr double kLeastContrast = 4.5;
 
 /// The share of the motif that a text may meet at most.
 inline constexpr double kMotifShare = 0.25;

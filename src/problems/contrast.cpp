@@ -48,7 +48,7 @@ QString contrastText(double contrast) {
 
 double leastContrast(float points, bool isBold) {
   const bool isLarge = points >= 18 || (isBold && points >= 14);
-  return isLarge ? 3 : 4.5;
+  return isLarge ? 3 : kLeastContrast;
 }
 
 }  // namespace veneerer

@@ -18,6 +18,9 @@ double contrastOf(double one, double other);
 /// A contrast to be read, with one digit behind the point; never more than it is.
 QString contrastText(double contrast);
 
+/// The least contrast that any text can be read with.
+inline constexpr double kLeastContrast = 4.5;
+
 /// The least contrast that a text of that many points can be read with: large letters need less.
 double leastContrast(float points, bool isBold);
 

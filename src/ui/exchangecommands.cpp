@@ -77,7 +77,7 @@ std::optional<QString> askName(const Place& place, const QString& title) {
 }
 
 void copyAsNew(const Place& place) {
-  makeNewSkin(
+  copyAsNewSkin(
       place.hands, place.owner, QStringLiteral("Copy as New Skin"),
       [&](const QString& folder, const GoOn& goOn) {
         return leftOutNote(copySkin(place.hands.state(), place.hands.disk(), place.skin(), folder, goOn));
@@ -134,8 +134,8 @@ QString leftOutNote(const QList<LeftOut>& leftOut) {
       .arg(leftOut.first().name, leftOut.first().reason);
 }
 
-bool makeNewSkin(Operator& hands, QWidget& owner, const QString& title,
-                 const std::function<QString(const QString& folder, const GoOn& goOn)>& make) {
+bool copyAsNewSkin(Operator& hands, QWidget& owner, const QString& title,
+                   const std::function<QString(const QString& folder, const GoOn& goOn)>& make) {
   const Place place{hands, owner};
   const std::optional<QString> name = askName(place, title);
   if (!name) return false;

@@ -242,7 +242,7 @@ void RecolourDialog::accept() {
   const QPointer<RecolourDialog> dialog(this);
   if (!pictures_->isChecked())
     recolourInHand();
-  else if (!makeNewSkin() || !dialog)
+  else if (!copyAsNewSkin() || !dialog)
     return;
   QDialog::accept();
 }
@@ -254,9 +254,9 @@ void RecolourDialog::recolourInHand() {
   hands_.state().notes.say(placesText(dress.colours().size()));
 }
 
-bool RecolourDialog::makeNewSkin() {
+bool RecolourDialog::copyAsNewSkin() {
   const Recolouring recolouring{map_, true};
-  return veneerer::makeNewSkin(hands_, owner_, kTitle, [&](const QString& folder, const GoOn& goOn) {
+  return veneerer::copyAsNewSkin(hands_, owner_, kTitle, [&](const QString& folder, const GoOn& goOn) {
     const NotRecoloured kept =
         copyRecoloured(hands_.state(), hands_.platform(), skin_, folder, recolouring, goOn);
     return leftOutNote(kept.leftOut) + keptText(kept);

@@ -39,7 +39,7 @@ private:
   void tellFaint(bool isAll);
   void goTo(const QListWidgetItem* row);
   void recolourInHand();
-  bool makeNewSkin();
+  bool copyAsNewSkin();
 
   Operator& hands_;
   QWidget& owner_;
