@@ -47,12 +47,10 @@ QString textOf(Operator& hands, const Element& element) {
 InHandLine::InHandLine(const Ui& ui)
     : hands_(ui.hands),
       watching_(ui.hands.state().board.watch([this](const Change&) { telling_.start(); })),
-      what_(new QLabel),
+      what_(new ElidedLine),
       elsewhere_(new QLabel(QStringLiteral("on another screen"))),
       goThere_(new QPushButton(QStringLiteral("&Go there"))) {
   setObjectName(QStringLiteral("inHandLine"));
-  what_->setTextFormat(Qt::PlainText);
-  what_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(6, 2, 6, 2);
   row->addWidget(what_, 1);
@@ -81,19 +79,15 @@ void InHandLine::tell() {
   State& state = hands_.state();
   const Element* element = currentElement(state);
   const bool isOnCanvas = element && &element->window() == &state.form1;
-  text_ = element ? textOf(hands_, *element) : QStringLiteral("Click an element to take it in hand");
-  showText();
+  const QString text =
+      element ? textOf(hands_, *element) : QStringLiteral("Click an element to take it in hand");
+  what_->setLine(text);
+  what_->setAccessibleName(QStringLiteral("In hand: ") + text);
   showColours(element);
   const int entry = isOnCanvas ? entryHolding(state, *element) : -1;
   const bool isElsewhere = entry >= 0 && !isShown(screenOf(state, entry));
   elsewhere_->setVisible(isElsewhere);
   goThere_->setVisible(isElsewhere);
-}
-
-void InHandLine::showText() {
-  what_->setText(what_->fontMetrics().elidedText(text_, Qt::ElideRight, what_->width()));
-  what_->setToolTip(plainToolTip(text_));
-  what_->setAccessibleName(QStringLiteral("In hand: ") + text_);
 }
 
 void InHandLine::showColours(const Element* element) {
@@ -103,14 +97,12 @@ void InHandLine::showColours(const Element* element) {
     chips_[i]->setVisible(has);
     if (!has) continue;
     const Colour colour = element->as<Colour>(property);
+    const QString tip = propertyTitle(property) + u' ' + valueText(colour);
+    if (chips_[i]->toolTip() == tip) continue;
     chips_[i]->setPixmap(colourChip(colour.toQColor(), kChip));
-    chips_[i]->setToolTip(propertyTitle(property) + u' ' + valueText(colour));
-    chips_[i]->setAccessibleName(chips_[i]->toolTip());
+    chips_[i]->setToolTip(tip);
+    chips_[i]->setAccessibleName(tip);
   }
-}
-
-void InHandLine::resizeEvent(QResizeEvent*) {
-  showText();
 }
 
 }  // namespace veneerer

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "ui/bindings.h"
+#include "ui/elidedline.h"
 
 namespace veneerer {
 
@@ -14,18 +15,13 @@ public:
 
   QSize minimumSizeHint() const override { return QSize(200, sizeHint().height()); }
 
-protected:
-  void resizeEvent(QResizeEvent* event) override;
-
 private:
   void tell();
-  void showText();
   void showColours(const Element* element);
 
   Operator& hands_;
   Attachment watching_;
-  QString text_;
-  QLabel* what_;
+  ElidedLine* what_;
   QList<QLabel*> chips_;
   QLabel* elsewhere_;
   QPushButton* goThere_;

@@ -14,6 +14,9 @@ namespace veneerer {
 
 namespace {
 
+// Shorter than any style waits before it shows a tip, longer than the pause between two keys; milliseconds.
+constexpr int kRest = 250;
+
 // A field for a number of twips, pixels or points asks for no more room than that.
 QLineEdit* makeNumberField(const Ui& ui, TextBox& element) {
   QLineEdit* field = makeField(ui, element);
@@ -185,6 +188,9 @@ ToolsWindow::ToolsWindow(const Ui& ui) : hands_(ui.hands) {
   setContent(*this, columns);
   assignMnemonics(*this);
   findControls();
+  telling_.setSingleShot(true);
+  telling_.setInterval(kRest);
+  telling_.callOnTimeout(this, &ToolsWindow::showTips);
   connect(&hands_, &Operator::acted, this, &ToolsWindow::followHand);
   followHand();
 }
@@ -201,7 +207,7 @@ void ToolsWindow::findControls() {
 
 void ToolsWindow::followHand() {
   greyOut();
-  showTips();
+  telling_.start();
 }
 
 // Each key in a field comes by here: nothing is set that stands already.
@@ -217,7 +223,6 @@ void ToolsWindow::greyOut() {
   }
 }
 
-// Every move of a drag comes by here.
 void ToolsWindow::showTips() {
   State& state = hands_.state();
   const Element* inHand = currentElement(state);

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QList>
+#include <QTimer>
 #include <QWidget>
 #include <optional>
 
@@ -12,7 +13,7 @@ namespace veneerer {
 
 /// Fields that don't reach the element in hand are grey; they can be typed into all the same, since the
 /// global commands take what stands there. Tool tips tell what a control does for the element in hand, or why
-/// it does nothing.
+/// it does nothing; they follow when the hand rests, well before one can show.
 class ToolsWindow : public QWidget {
 public:
   explicit ToolsWindow(const Ui& ui);
@@ -34,6 +35,7 @@ private:
 
   Operator& hands_;
   QList<Control> controls_;
+  QTimer telling_;               ///< the hand has rested: the tool tips follow
   std::optional<QString> told_;  ///< the element that the tool tips are about
   bool fontsAsked_ = false;
 };
