@@ -109,13 +109,13 @@ void composeNowPlaying(Composer& c) {
   header.cutRight(button.w, c.px(kMargin));
   c.clearPanel(f.Picture3[3], screen, header.inset(0, c.px(4)));
   Box next = body.cutBottom(c.px(84), c.px(12));
-  c.panel(f.Picture3[1], screen, next.cutLeft(next.h, c.px(12)), kArtwork);
+  c.artwork(f.Picture3[1], screen, next.cutLeft(next.h, c.px(12)));
   c.image(f.aicAlphaImage1[20], screen, next.cutRight(c.px(150), c.px(12)).centred(c.px(150), c.px(30)));
   Box texts = next.centred(next.w, c.px(56));
   c.line(f.Label6[0], screen, texts.cutTop(texts.h / 2), QStringLiteral("TEXT EXAMPLE"),
          {on.heading, 13, true});
   c.line(f.Label6[1], screen, texts, QStringLiteral("TEXT EXAMPLE"), {on.body, 11});
-  c.panel(f.Picture3[0], screen, cutPlaying(c, body), kArtwork);
+  c.artwork(f.Picture3[0], screen, cutPlaying(c, body));
   composePlayingPanel(c, body);
 }
 

@@ -39,7 +39,12 @@ void Composer::panel(PictureBox& box, Element& holder, const Box& at, Colour bac
 
 void Composer::clearPanel(PictureBox& box, Element& holder, const Box& at) {
   panel(box, holder, at, kCardBack);
-  box.setOpaque(false);
+  box.setBackStyle(BackStyle::Transparent);
+}
+
+void Composer::artwork(PictureBox& box, Element& holder, const Box& at) {
+  panel(box, holder, at, kArtwork);
+  box.setBackStyle(BackStyle::Veil);
 }
 
 void Composer::image(Element& image, Element& holder, const Box& at) {

@@ -55,8 +55,9 @@ public:
   void panel(PictureBox& box, Element& holder, const Box& at, Colour back);
   /// A panel whose colour no record holds: it shows what lies beneath.
   void clearPanel(PictureBox& box, Element& holder, const Box& at);
-  /// A picture, its placeholder colour, or an image without one.
-  void artwork(PictureBox& box, Element& holder, const Box& at) { panel(box, holder, at, kArtwork); }
+  /// The place of a picture that the jukebox shows: a veil over what lies beneath.
+  void artwork(PictureBox& box, Element& holder, const Box& at);
+  /// An image without a placeholder.
   void image(Element& image, Element& holder, const Box& at);
 
   /// A transparent text that fills the box from its top.

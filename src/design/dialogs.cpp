@@ -94,7 +94,7 @@ void composeLogin(Composer& c) {
 void composeLicence(Composer& c) {
   PictureBox& screen = c.form.Picture1[26];
   screen.setBackColor(kCardBack);
-  screen.setOpaque(false);
+  screen.setBackStyle(BackStyle::Transparent);
   c.text(c.form.Label27[3], screen, boxOf(screen).inside().inset(24, 20), QString::fromLatin1(kLicence),
          {c.theme.bar.body, 14});
   c.form.Label27[3].setFontSize(14);

@@ -33,7 +33,7 @@ void composeTile(Composer& c, const Box& tile, int i) {
   c.artwork(f.Picture20[i], screen, inner);
   f.Picture20[i].setToolTipText(QStringLiteral("Genre Icon  %1").arg(i));
   const Grid thumbs(inner.inset(c.px(2)), 4, 1, c.px(2));
-  for (int k = 0; k < 4; ++k) c.panel(f.Picture26[4 * i + k], screen, thumbs.cell(k), kThumbnail);
+  for (int k = 0; k < 4; ++k) c.artwork(f.Picture26[4 * i + k], screen, thumbs.cell(k));
   c.text(f.Label59[i], screen, counted, QStringLiteral("() Album(s)"), count);
 }
 

@@ -49,12 +49,10 @@ struct Theme {
 
 /// Panels that show what lies beneath; it is told, but never seen.
 inline constexpr Colour kCardBack = rgb(30, 30, 31);
-/// A picture that is still to come.
+/// A picture that is still to come; told, but never seen.
 inline constexpr Colour kArtwork = rgb(54, 56, 60);
-/// One of several small pictures on a larger one.
-inline constexpr Colour kThumbnail = rgb(96, 100, 108);
 /// Buttons that no record, or only another button's, brings back.
-inline constexpr ButtonLook kNeutralButton = {0, 6, rgb(58, 64, 76), rgb(255, 255, 255), rgb(38, 43, 53), 2};
+inline constexpr ButtonLook kNeutralButton = {0, 6, rgb(62, 62, 62), rgb(255, 255, 255), rgb(42, 42, 42), 2};
 inline constexpr ButtonLook kDangerButton = {0, 6, rgb(150, 30, 38), rgb(255, 255, 255), rgb(104, 16, 24), 2};
 
 /// The theme of the built-in design.

@@ -11,7 +11,7 @@ void composeAlbumInfo(Composer& c, Box area) {
   Form1& f = c.form;
   PictureBox& screen = f.Picture1[10];
   const Ground& on = c.theme.screen;
-  c.panel(f.Picture2[10], screen, area.cutTop(area.w, c.px(6)), kArtwork);
+  c.artwork(f.Picture2[10], screen, area.cutTop(area.w, c.px(6)));
   c.line(f.Label2[2], screen, area.cutTop(c.px(18)), QStringLiteral("Released : "), {on.body, 9});
   c.line(f.Label2[3], screen, area.cutTop(c.px(18), c.px(6)), QStringLiteral("Genre : "), {on.body, 9});
   Box feed = area.cutTop(area.h * 9 / 20, c.px(6));

@@ -1,6 +1,7 @@
 // The remaining kinds of element: pictures, lists, text fields, boxes and command buttons.
 #pragma once
 
+#include "elements/backstyle.h"
 #include "elements/element.h"
 
 namespace veneerer {
@@ -13,9 +14,9 @@ public:
   const Picture& picture() const { return as<Picture>(Property::Picture); }
   Colour backColor() const { return as<Colour>(Property::BackColor); }
   Colour foreColor() const { return as<Colour>(Property::ForeColor); }
-  /// One that isn't shows what lies beneath it in the place of its back colour.
-  bool isOpaque() const { return as<std::int32_t>(Property::BackStyle) == 1; }
-  void setOpaque(bool opaque) { set(Property::BackStyle, opaque ? 1 : 0); }
+  /// One that isn't opaque shows what lies beneath it in the place of its back colour.
+  BackStyle backStyle() const { return static_cast<BackStyle>(as<std::int32_t>(Property::BackStyle)); }
+  void setBackStyle(BackStyle style) { set(Property::BackStyle, static_cast<std::int32_t>(style)); }
   void setPicture(const Picture& picture) { set(Property::Picture, picture); }
   void setBackColor(Colour colour) { set(Property::BackColor, colour); }
   void setForeColor(Colour colour) { set(Property::ForeColor, colour); }

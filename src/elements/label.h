@@ -1,10 +1,10 @@
 #pragma once
 
+#include "elements/backstyle.h"
 #include "elements/element.h"
 
 namespace veneerer {
 
-enum class BackStyle { Transparent = 0, Opaque = 1 };
 enum class Alignment { Left = 0, Right = 1, Center = 2 };
 
 /// A font's six attributes; the size is in points.

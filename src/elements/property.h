@@ -19,7 +19,7 @@ enum class Property : std::uint8_t {
   Caption,
   BackColor,  ///< 0x00BBGGRR; a set top bit names a system colour
   ForeColor,  ///< as BackColor
-  BackStyle,  ///< 0 transparent, 1 opaque
+  BackStyle,  ///< of BackStyle
   Alignment,  ///< 0 left, 1 right, 2 centre
   FontName,
   FontSize,  ///< points

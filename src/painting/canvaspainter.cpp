@@ -132,7 +132,7 @@ void CanvasPainter::paintPictureBox(QPainter& painter, const PictureBox& box, co
   const QRectF shown = rect & clip;
   for (const GroundPiece& piece : groundOf(box, rect, scale_, dress_)) {
     const QRectF part = piece.rect & shown;
-    if (piece.colour) painter.fillRect(part, piece.colour->toQColor());
+    if (piece.colour.isValid()) painter.fillRect(part, piece.colour);
     paintNatural(painter, *piece.picture, piece.rect, part);
   }
   if (box.as<std::int32_t>(Property::BorderStyle) == 1) paintBorder(painter, rect, clip);

@@ -6,6 +6,9 @@ namespace veneerer {
 
 namespace {
 
+// Lightens a dark ground and darkens a light one, as far as texts on either can still be read.
+constexpr QColor kVeil(128, 128, 128, 72);
+
 bool isScreen(const Element& element) {
   return element.family()->name() == u"Picture1";
 }
@@ -19,7 +22,7 @@ public:
   Coats(const PixelScale& scale, const Dress& dress) : scale_(scale), dress_(dress) {}
 
   void add(const PictureBox& box, const QRectF& rect) {
-    if (!box.isOpaque()) addBeneath(box, rect);
+    if (box.backStyle() != BackStyle::Opaque) addBeneath(box, rect);
     addOwn(box, rect);
   }
 
@@ -27,9 +30,18 @@ public:
 
 private:
   void addOwn(const PictureBox& box, const QRectF& rect) {
-    pieces.push_back({rect,
-                      box.isOpaque() ? std::optional(dress_.of(box, Property::BackColor)) : std::nullopt,
-                      &box.picture()});
+    pieces.push_back({rect, colourOf(box), &box.picture()});
+  }
+
+  QColor colourOf(const PictureBox& box) const {
+    switch (box.backStyle()) {
+      case BackStyle::Opaque:
+        return dress_.of(box, Property::BackColor).toQColor();
+      case BackStyle::Veil:
+        return kVeil;
+      default:
+        return {};
+    }
   }
 
   void addBeneath(const PictureBox& box, const QRectF& rect) {
@@ -49,7 +61,8 @@ private:
 
   void addHolder(const Element& holder, const QRectF& rect) {
     if (holder.kind() == Kind::PictureBox) return add(cast<PictureBox>(holder), rect);
-    pieces.push_back({rect, dress_.of(holder, Property::BackColor), &holder.as<Picture>(Property::Picture)});
+    pieces.push_back(
+        {rect, dress_.of(holder, Property::BackColor).toQColor(), &holder.as<Picture>(Property::Picture)});
   }
 
   const PixelScale& scale_;

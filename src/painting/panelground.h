@@ -1,22 +1,21 @@
 // What a panel without a colour of its own is painted with.
 #pragma once
 
+#include <QColor>
 #include <QRectF>
-#include <optional>
 #include <vector>
 
-#include "elements/colour.h"
 #include "elements/controls.h"
 #include "elements/dress.h"
 #include "painting/pixels.h"
 
 namespace veneerer {
 
-/// One coat of a panel's ground: a colour over a rectangle, and a picture in its own size from its top left
-/// corner on. Both belong to an element that outlives the piece.
+/// One coat of a panel's ground: a colour or a veil over a rectangle, and a picture in its own size from its
+/// top left corner on. Both belong to an element that outlives the piece.
 struct GroundPiece {
-  QRectF rect;  ///< pixels; what is seen of the panel may be less
-  std::optional<Colour> colour;
+  QRectF rect;    ///< pixels; what is seen of the panel may be less
+  QColor colour;  ///< invalid for none
   const Picture* picture;
 };
 

@@ -131,7 +131,7 @@ private:
 
   void paintPanel(const PictureBox& box, const QRectF& rect, const QRectF& clip) {
     for (const GroundPiece& piece : groundOf(box, rect, scale_, dress_)) {
-      if (piece.colour) painter_.fillRect(piece.rect & clip, piece.colour->toQColor());
+      if (piece.colour.isValid()) painter_.fillRect(piece.rect & clip, piece.colour);
       paintNatural(*piece.picture, piece.rect.topLeft(), piece.rect & clip);
     }
   }
