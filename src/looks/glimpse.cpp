@@ -68,6 +68,7 @@ private:
     for (int i : {0, 1}) show(f.Picture2[i], artist_.bar(sizeOf(f.Picture2[i])));
     show(*f.Picture6, artist_.track(sizeOf(*f.Picture6)));
     for (int i = 0; i < 14; ++i) drawMenu(f.lvButtons_H1[i], i);
+    for (int i = 0; i < 3; ++i) drawTransport(f.lvButtons_H2[i], i);
     const Picture cover = Picture::drawn(artist_.cover(sizeOf(f.Image2[0]).width()));
     for (int i = 0; i < layout_.count; ++i) f.Image2[i].setPicture(cover);
   }
@@ -76,6 +77,12 @@ private:
     const QStringList lines = button.caption().split(QStringLiteral("||"));
     button.setPicture(Picture::drawn(
         artist_.menuFace(sizeOf(button), kMenuIcons[i], lines, button.foreColor().toQColor())));
+    button.setCaption(QString());
+  }
+
+  void drawTransport(Button& button, int i) {
+    const QColor ink = button.foreColor().toQColor();
+    button.setPicture(Picture::drawn(artist_.iconFace(sizeOf(button), kTransportIcons[i], ink)));
     button.setCaption(QString());
   }
 

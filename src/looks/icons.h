@@ -36,6 +36,9 @@ inline constexpr Icon kMenuIcons[] = {
     Icon::Clock, Icon::Magnifier, Icon::Queue, Icon::Podium, Icon::Sliders, Icon::Calendar, Icon::Note,
     Icon::Tiles, Icon::Disc,      Icon::Play,  Icon::Person, Icon::Stack,   Icon::Plus,     Icon::Dots};
 
+/// Of the player's buttons, by their index.
+inline constexpr Icon kTransportIcons[] = {Icon::Previous, Icon::Pause, Icon::Next};
+
 /// Draws the icon in the largest square in the middle of the rectangle, in that colour.
 void drawIcon(QPainter& painter, const QRectF& rect, Icon icon, const QColor& colour);
 

@@ -74,12 +74,7 @@ constexpr const char* kMenuPictures[] = {
     "menu_history.png", "menu_search.png",      "menu_queue.png",   "menu_top20.png",  "menu_options.png",
     "menu_decades.png", "menu_playlist.png",    "menu_genres.png",  "menu_albums.png", "menu_playing.png",
     "menu_member.png",  "menu_collections.png", "menu_request.png", "menu_popup.png"};
-struct TransportPicture {
-  const char* file;
-  Icon icon;
-};
-constexpr TransportPicture kTransportPictures[] = {
-    {"previous.png", Icon::Previous}, {"pause.png", Icon::Pause}, {"next.png", Icon::Next}};
+constexpr const char* kTransportPictures[] = {"previous.png", "pause.png", "next.png"};
 
 constexpr int kStarWidth = 160;
 constexpr int kStarHeight = 32;
@@ -252,9 +247,9 @@ private:
     }
     for (int i = 0; i < 3; ++i) {
       Button& button = f.lvButtons_H2[i];
-      name(button, pictures_.add(imageFile(kTransportPictures[i].file),
-                                 artist_.iconFace(sizeOf(button), kTransportPictures[i].icon,
-                                                  button.foreColor().toQColor())));
+      name(button, pictures_.add(
+                       imageFile(kTransportPictures[i]),
+                       artist_.iconFace(sizeOf(button), kTransportIcons[i], button.foreColor().toQColor())));
     }
     drawPrize();
     letterCaptions();
