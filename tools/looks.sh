@@ -1,47 +1,51 @@
-#!/bin/sh
+#!/usr/bin/env bash
 # Draws every look in many sizes and random colours: the check must have nothing to say, and a load and save must
 # change no byte. usage: tools/looks.sh [SKINTOOL [TRIPLES [SEED]]]; without TRIPLES, the look's colours and 3 more.
-set -eu
-cd "$(dirname "$0")/.."
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
 tool=${1:-build/release/src/skintool}
 triples=${2:-3}
 seed=${3:-1}
 sizes="640x480 800x600 1024x768 1080x1920 1920x1080 2560x1080 3840x2160"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+export tool work
 
-# One line of options for each triple, the look's own colours first.
-colours() {
-  echo
-  awk -v n="$triples" -v seed="$1" 'BEGIN {
-    srand(seed)
-    for (i = 0; i < n; ++i)
-      printf "--accent #%06x --ground #%06x --text #%06x\n", rand() * 16777215, rand() * 16777215, rand() * 16777215
-  }'
+# The options of each Skin, a line each: every look in every size, in its own colours and in random ones.
+wishes() {
+  "$tool" new --look list | awk -v sizes="$sizes" -v triples="$triples" -v seed="$seed" '
+    function colour() { return sprintf("#%06x", rand() * 16777215) }
+    BEGIN { srand(seed); count = split(sizes, size, " ") }
+    {
+      for (s = 1; s <= count; ++s)
+        for (i = 0; i <= triples; ++i) {
+          printf "--look|%s|--size|%s", $0, size[s]
+          if (i) printf "|--accent|%s|--ground|%s|--text|%s", colour(), colour(), colour()
+          print ""
+        }
+    }'
 }
 
-bad=0
-count=0
-"$tool" new --look list >"$work/looks"
-while read -r look; do
-  for size in $sizes; do
-    seed=$((seed + 1))
-    colours "$seed" >"$work/colours"
-    while read -r options; do
-      rm -rf "$work/skin" "$work/before"
-      # shellcheck disable=SC2086
-      "$tool" new "$work/skin" --look "$look" --size "$size" $options 2>/dev/null
-      "$tool" check --design "$work/skin" >"$work/findings" || true
-      cp -r "$work/skin" "$work/before"
-      "$tool" save "$work/skin" --to "$work/skin" >/dev/null
-      count=$((count + 1))
-      if [ -s "$work/findings" ] || ! diff -r "$work/before" "$work/skin" >"$work/changed"; then
-        bad=$((bad + 1))
-        echo "$look $size $options"
-        head -3 "$work/findings" "$work/changed"
-      fi
-    done <"$work/colours"
-  done
-done <"$work/looks"
-echo "$count Skins, $bad with findings or changes"
-[ "$bad" -eq 0 ]
+# Draws one Skin and tells what is wrong with it.
+try() {
+  local options folder
+  IFS='|' read -ra options <<<"$1"
+  folder=$(mktemp -d "$work/XXXXXX")
+  "$tool" new "$folder/skin" "${options[@]}" 2>/dev/null || echo "not drawn" >"$folder/findings"
+  "$tool" check --design "$folder/skin" >>"$folder/findings" || true
+  cp -r "$folder/skin" "$folder/before"
+  "$tool" save "$folder/skin" --to "$folder/skin" >/dev/null
+  diff -r "$folder/before" "$folder/skin" >>"$folder/findings" || true
+  if [[ -s "$folder/findings" ]]; then
+    echo "BAD ${options[*]}"
+    head -3 "$folder/findings"
+  fi
+  rm -rf "$folder"
+}
+export -f try
+
+wishes >"$work/wishes"
+xargs -P "$(nproc)" -d '\n' -I{} bash -c 'try "$1"' _ {} <"$work/wishes" | tee "$work/told"
+bad=$(grep -c '^BAD' "$work/told" || true)
+echo "$(wc -l <"$work/wishes") Skins, $bad with findings or changes"
+((bad == 0))
