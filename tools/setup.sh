@@ -4,7 +4,7 @@
 readonly BUILD_PACKAGES=(
   g++ cmake ninja-build ccache
   qt6-base-dev libjpeg62-turbo-dev libgif-dev libquazip1-qt6-dev
-  libgtest-dev libgmock-dev libbenchmark-dev
+  libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev
   fontconfig fonts-liberation fonts-dejavu-core
 )
 
