@@ -1,6 +1,7 @@
 #include "images/picture.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QColor>
 #include <QTemporaryDir>
@@ -47,6 +48,8 @@ TEST_F(PictureTest, AFileWrittenAnewIsANewPicture) {
 TEST_F(PictureTest, WhatIsNoPictureHasNoImage) {
   EXPECT_TRUE(store.load(path("missing.bmp")).isNull());
   EXPECT_TRUE(store.load(folder.path()).isNull()) << "a folder is no file";
+  ASSERT_EQ(::mkfifo(QFile::encodeName(path("pipe.bmp")).constData(), 0600), 0);
+  EXPECT_TRUE(store.load(path("pipe.bmp")).isNull()) << "nobody writes into it, and nobody waits";
   EXPECT_TRUE(Picture().image().isNull());
   test::writeBytes(path("text.gif"), "no picture at all");
   EXPECT_TRUE(store.load(path("text.gif")).isNull());
