@@ -1,5 +1,12 @@
-// A monkey at the real windows: whatever mouse and keys do, it can be undone and redone exactly.
+// A monkey at the real windows, panels and dialogs: whatever mouse, wheel, keys and commands do, it can be
+// undone and redone exactly. On a patient machine more of it, and another one:
+//   VENEERER_MONKEY_EVENTS=100000 VENEERER_MONKEY_SEED=7 build/release/tests/test_ui --gtest_filter=Monkey.*
 #include <QAbstractScrollArea>
+#include <QFileDialog>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPointer>
+#include <QScopedValueRollback>
 #include <QTimer>
 #include <QWheelEvent>
 #include <random>
@@ -10,8 +17,15 @@
 namespace veneerer {
 namespace {
 
-constexpr int kRounds = 6;
+constexpr int kEvents = 1500;
 constexpr int kEventsPerRound = 150;
+constexpr int kEventsPerDialog = 12;
+
+int given(const char* variable, int otherwise) {
+  bool isGiven = false;
+  const int number = qEnvironmentVariableIntValue(variable, &isGiven);
+  return isGiven ? number : otherwise;
+}
 
 class Monkey : public test::UiFixture {
 protected:
@@ -22,13 +36,39 @@ protected:
     UiFixture::SetUp();
     QApplication::setDoubleClickInterval(2);
     // Menus and boxes would wait for ever.
-    closing_.callOnTimeout([] { dismiss(); });
-    closing_.start(5);
+    inside_.callOnTimeout([this] { goOnInside(); });
+    inside_.start(5);
   }
 
-  static void dismiss() {
+  void goOnInside() {
     if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
-    if (QWidget* modal = QApplication::activeModalWidget()) modal->close();
+    QWidget* modal = QApplication::activeModalWidget();
+    if (!modal) return;
+    // What would write anywhere is only closed.
+    if (qobject_cast<QFileDialog*>(modal) || isInside_ || left_ == 0) return close(*modal);
+    const QScopedValueRollback<bool> inside(isInside_, true);
+    --left_;
+    playIn(*modal);
+  }
+  void close(QWidget& modal) {
+    if (auto* box = qobject_cast<QMessageBox*>(&modal))
+      box->done(QMessageBox::Ok);
+    else
+      modal.close();
+  }
+  void playIn(QWidget& dialog) {
+    const QPointer<QWidget> target = &anyWidgetOf(dialog);
+    if (below(2) == 0)
+      QTest::mouseClick(target, Qt::LeftButton, {}, anyPlace(*target));
+    else
+      atTheKeys(*target);
+  }
+
+  void dismiss() {
+    goOnInside();
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (window->isVisible() && (window->objectName() == u"tryit" || window->objectName() == u"keySheet"))
+        window->close();
   }
 
   unsigned below(int count) { return static_cast<unsigned>(random()) % static_cast<unsigned>(count); }
@@ -83,23 +123,30 @@ protected:
                       oneOf<Qt::KeyboardModifiers>({Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier}));
   }
 
-  /// What the monkey may touch: what takes the mouse or the keys.
-  std::vector<QWidget*> reachable() {
+  /// What takes the mouse or the keys in a window; the window itself where nothing does.
+  QWidget& anyWidgetOf(QWidget& window) {
     std::vector<QWidget*> found;
-    for (QWidget* each : widget<QWidget>("Form1").findChildren<QWidget*>())
+    for (QWidget* each : window.findChildren<QWidget*>())
       if (each->isVisible() && each->isEnabled() && each->focusPolicy() != Qt::NoFocus) found.push_back(each);
-    return found;
-  }
-
-  QWidget& anyWidget() {
-    const std::vector<QWidget*> widgets = reachable();
-    QWidget* chosen = widgets[below(static_cast<int>(widgets.size()))];
+    if (found.empty()) return window;
+    QWidget* chosen = found[below(static_cast<int>(found.size()))];
     if (auto* area = qobject_cast<QAbstractScrollArea*>(chosen)) return *area->viewport();
     return *chosen;
+  }
+  QWidget& anyWidget() { return anyWidgetOf(widget<QWidget>("Form1")); }
+
+  void anyCommand() {
+    std::vector<QAction*> commands;
+    for (QAction* action : widget<QMainWindow>("Form1").menuBar()->findChildren<QAction*>())
+      if (action->isEnabled() && !action->menu() && action->text() != QStringLiteral("&Quit"))
+        commands.push_back(action);
+    if (!commands.empty()) commands[below(static_cast<int>(commands.size()))]->trigger();
   }
 
   void doAnything() {
     answerAhead();
+    left_ = kEventsPerDialog;
+    if (below(30) == 0) return anyCommand();
     switch (below(8)) {
       case 0:
       case 1:
@@ -131,19 +178,19 @@ protected:
   /// The list of cover files follows the disk.
   test::RestoredState restored() { return test::RestoredState(state(), &*form4().File1); }
 
-  std::mt19937 random{71};
+  std::mt19937 random{static_cast<unsigned>(given("VENEERER_MONKEY_SEED", 71))};
 
 private:
-  QTimer closing_;
+  QTimer inside_;
+  bool isInside_ = false;
+  int left_ = 0;  ///< events until what is open is closed
 };
 
 TEST_F(Monkey, WhateverItDoesIsUndoneAndRedoneExactly) {
-  // More rounds on a patient machine: VENEERER_MONKEY_ROUNDS=700.
-  bool isGiven = false;
-  const int given = qEnvironmentVariableIntValue("VENEERER_MONKEY_ROUNDS", &isGiven);
+  const int rounds = given("VENEERER_MONKEY_EVENTS", kEvents) / kEventsPerRound;
   History& history = designer->history();
   int most = 0;
-  for (int round = 0; round < (isGiven ? given : kRounds); ++round) {
+  for (int round = 0; round < rounds; ++round) {
     history.start();
     const test::RestoredState first = restored();
     play(kEventsPerRound);
