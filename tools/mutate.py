@@ -10,6 +10,7 @@ What is left out: the constants of the built-in design and of the looks, the win
 program where only the program is wrong, and headers that most sources include, each of which would take minutes.
 """
 import filecmp
+import hashlib
 import json
 import os
 import random
@@ -28,14 +29,15 @@ TREE = HOME / 'tree'
 BUILD = TREE / 'build' / 'release'  # as in any checkout, so that ccache knows it
 SURVIVORS = HOME / 'survivors.json'
 REPORT = HOME / 'report.txt'
+USUAL = HOME / 'usual.json'
 
 LEFT_OUT = re.compile(r'src/(design|ui|looks/each)/|src/main\.cpp$')
 # Folders that have no test program of their own, and whose tests know them best.
 TESTED_BY = {'forms': 'elements', 'history': 'designer', 'panels': 'designer'}
 # The next ones to be asked; those that see most of the system.
 BROAD = ('cases', 'designer', 'skin', 'skintool')
-# It reads the sources, so it would see the fault itself; and the slowest.
-NEVER, LAST = ('house',), ('ui',)
+# The first reads the sources, so it would see the fault itself; the other one is slow and about the windows.
+NEVER = ('house', 'ui')
 
 MOST_INCLUDERS = 30  # of a header
 MOST_MEMORY = 8 << 30
@@ -231,7 +233,7 @@ def test(program, seconds=None):
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
     environment = {**os.environ, 'QT_QPA_PLATFORM': 'offscreen', 'HOME': str(folder), 'TMPDIR': str(folder)}
-    status, output = run([str(BUILD / 'tests' / f'test_{program}'), '--gtest_brief=1', '--gtest_fail_fast'], seconds,
+    status, output = run([str(binary(program)), '--gtest_brief=1', '--gtest_fail_fast'], seconds,
                          env=environment, cwd=folder,
                          preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (MOST_MEMORY, MOST_MEMORY)))
     if status == 0:
@@ -245,21 +247,40 @@ def programs():
     return [f for f in folders if f not in NEVER and f != 'support']
 
 
-class Judge:
-    """Builds all test programs without a fault, then asks them."""
+def binary(program):
+    return BUILD / 'tests' / f'test_{program}'
 
-    def __init__(self):
-        self.usual = {}
-        print('Building without a fault', flush=True)
-        status, output = make(programs())
-        if status:
-            sys.exit(output)
-        for program in programs():
+
+def built_at(program):
+    return binary(program).stat().st_mtime_ns
+
+
+def usual_durations():
+    """Of each program without a fault, seconds; those that haven't changed since the last time aren't run again."""
+    known = json.loads(USUAL.read_text()) if USUAL.is_file() else {}
+    usual = {}
+    for program in programs():
+        contents = hashlib.sha1(binary(program).read_bytes()).hexdigest()
+        if known.get(program, [''])[0] != contents:
             start = time.monotonic()
             failed = test(program)
             if failed:
                 sys.exit(f'Without a fault {failed} fails')
-            self.usual[program] = time.monotonic() - start
+            known[program] = [contents, time.monotonic() - start]
+        usual[program] = known[program][1]
+        USUAL.write_text(json.dumps(known))
+    return usual
+
+
+class Judge:
+    """Builds all test programs without a fault, then asks them."""
+
+    def __init__(self):
+        print('Building without a fault', flush=True)
+        status, output = make(programs())
+        if status:
+            sys.exit(output)
+        self.usual = usual_durations()
 
     def patience(self, program):
         return max(LEAST_PATIENCE, PATIENCE * self.usual[program])
@@ -270,19 +291,17 @@ class Judge:
         rest = sorted(self.usual, key=self.usual.get)
         yield [own]
         yield [p for p in rest if p in BROAD and p != own]
-        yield [p for p in rest if p not in (own, *BROAD, *LAST)]
-        yield [p for p in rest if p in LAST]
+        yield [p for p in rest if p not in (own, *BROAD)]
 
     def verdict(self, fault):
         """The test that catches a planted fault, '' for none, None for one that doesn't compile."""
         for batch in self.batches(fault.path):
-            before = {p: (BUILD / 'tests' / f'test_{p}').stat().st_mtime_ns for p in batch}
+            before = {p: built_at(p) for p in batch}
             status, _ = make(batch, CCACHE_READONLY='1')
             if status:
                 return None
             # One that wasn't linked anew doesn't hold the fault.
-            changed = [p for p in batch if (BUILD / 'tests' / f'test_{p}').stat().st_mtime_ns != before[p]]
-            for program in changed:
+            for program in (p for p in batch if built_at(p) != before[p]):
                 caught = test(program, self.patience(program))
                 if caught:
                     return caught
