@@ -95,13 +95,21 @@ TEST(Jpeg, QualityAndSamplingAreHeldWithinTheFormat) {
   EXPECT_FALSE(encoder.setQuality(0));
   EXPECT_FALSE(encoder.setQuality(101));
   EXPECT_EQ(encoder.encode().bytes.size(), usual);
-  EXPECT_TRUE(encoder.setQuality(5));
+  EXPECT_TRUE(encoder.setQuality(100));
+  EXPECT_GT(encoder.encode().bytes.size(), usual);
+  EXPECT_TRUE(encoder.setQuality(1));
   EXPECT_LT(encoder.encode().bytes.size(), usual);
 
-  EXPECT_FALSE(encoder.SetSamplingFrequencies(0, 1, 1, 1, 1, 1));
-  EXPECT_FALSE(encoder.SetSamplingFrequencies(4, 4, 1, 1, 1, 1));
-  EXPECT_TRUE(encoder.SetSamplingFrequencies(2, 1, 1, 1, 1, 1));
-  EXPECT_EQ(frameHeader(encoder.encode().bytes).sampling, (QList<int>{0x21, 0x11, 0x11}));
+  for (const int wrong : {0, 5}) {
+    EXPECT_FALSE(encoder.SetSamplingFrequencies(wrong, 1, 1, 1, 1, 1));
+    EXPECT_FALSE(encoder.SetSamplingFrequencies(1, 1, 1, 1, 1, wrong));
+  }
+  EXPECT_FALSE(encoder.SetSamplingFrequencies(2, 2, 2, 2, 1, 3)) << "11 blocks in all";
+  EXPECT_EQ(frameHeader(encoder.encode().bytes).sampling, (QList<int>{0x22, 0x11, 0x11}));
+  EXPECT_TRUE(encoder.SetSamplingFrequencies(2, 2, 2, 2, 1, 2));
+  EXPECT_EQ(frameHeader(encoder.encode().bytes).sampling, (QList<int>{0x22, 0x22, 0x12}));
+  EXPECT_TRUE(encoder.SetSamplingFrequencies(4, 1, 2, 1, 1, 1));
+  EXPECT_EQ(frameHeader(encoder.encode().bytes).sampling, (QList<int>{0x41, 0x21, 0x11}));
 }
 
 TEST(Jpeg, FailuresAreValues) {

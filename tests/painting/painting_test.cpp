@@ -261,6 +261,25 @@ TEST_F(Painting, UnderlinesStandUnderTheirText) {
   }
 }
 
+TEST_F(Painting, EachFlagOfAFontShowsInItsOwnWay) {
+  Label& label = putLabel(form, {0, 0, 90, 60}, "HIHI", 24);
+  const auto ink = [](const QImage& image) {
+    return test::countPixels(image.size(), [&](int x, int y) { return image.pixelColor(x, y) == Qt::red; });
+  };
+  const QImage plain = paint();
+  const auto painted = [&](Property flag) {
+    label.set(flag, true);
+    const QImage image = paint();
+    label.set(flag, false);
+    EXPECT_TRUE(paint() == plain);
+    return image;
+  };
+  EXPECT_GT(ink(painted(Property::FontBold)), ink(plain) * 5 / 4);
+  const QImage slanted = painted(Property::FontItalic);
+  EXPECT_LT(ink(slanted), ink(plain)) << "upright strokes have more full pixels";
+  EXPECT_GT(ink(slanted), 0);
+}
+
 // Where texts break follows from the width in whole pixels.
 TEST_F(Painting, TheWidthOfATextIsTheSameAtEachScale) {
   Label& label = form.Label1[0];
