@@ -251,23 +251,22 @@ def binary(program):
     return BUILD / 'tests' / f'test_{program}'
 
 
-def built_at(program):
-    return binary(program).stat().st_mtime_ns
+def contents(program):
+    return hashlib.sha1(binary(program).read_bytes()).hexdigest()
 
 
 def usual_durations():
-    """Of each program without a fault, seconds; those that haven't changed since the last time aren't run again."""
+    """Of each program without a fault its contents and seconds; those that haven't changed since the last time aren't run again."""
     known = json.loads(USUAL.read_text()) if USUAL.is_file() else {}
     usual = {}
     for program in programs():
-        contents = hashlib.sha1(binary(program).read_bytes()).hexdigest()
-        if known.get(program, [''])[0] != contents:
+        if known.get(program, [''])[0] != contents(program):
             start = time.monotonic()
             failed = test(program)
             if failed:
                 sys.exit(f'Without a fault {failed} fails')
-            known[program] = [contents, time.monotonic() - start]
-        usual[program] = known[program][1]
+            known[program] = [contents(program), time.monotonic() - start]
+        usual[program] = known[program]
         USUAL.write_text(json.dumps(known))
     return usual
 
@@ -283,12 +282,12 @@ class Judge:
         self.usual = usual_durations()
 
     def patience(self, program):
-        return max(LEAST_PATIENCE, PATIENCE * self.usual[program])
+        return max(LEAST_PATIENCE, PATIENCE * self.usual[program][1])
 
     def batches(self, path):
         folder = path.split('/')[1]
         own = TESTED_BY.get(folder, folder)
-        rest = sorted(self.usual, key=self.usual.get)
+        rest = sorted(self.usual, key=lambda p: self.usual[p][1])
         yield [own]
         yield [p for p in rest if p in BROAD and p != own]
         yield [p for p in rest if p not in (own, *BROAD)]
@@ -296,12 +295,11 @@ class Judge:
     def verdict(self, fault):
         """The test that catches a planted fault, '' for none, None for one that doesn't compile."""
         for batch in self.batches(fault.path):
-            before = {p: built_at(p) for p in batch}
             status, _ = make(batch, CCACHE_READONLY='1')
             if status:
                 return None
-            # One that wasn't linked anew doesn't hold the fault.
-            for program in (p for p in batch if built_at(p) != before[p]):
+            # One that is as without a fault doesn't hold it.
+            for program in (p for p in batch if contents(p) != self.usual[p][0]):
                 caught = test(program, self.patience(program))
                 if caught:
                     return caught
