@@ -30,6 +30,8 @@ constexpr Test kAlignedLabels = [](const State& state, const Section& section) {
   return copiesAlignment(state, section.family(state));
 };
 
+constexpr Test kNone = [](const State&, const Section&) { return false; };
+
 constexpr int kEach = -1;
 
 struct Service {
@@ -46,7 +48,11 @@ constexpr Service kServices[] = {
     {kTools<&Form6::Text2>, kEach, kField<ToolField::TypedColour>, kGreyed},
     {kTools<&Form6::Text3>, kEach, kField<ToolField::Size>, kGreyed},
     {kTools<&Form6::Text4>, kEach, kField<ToolField::FontSize>, kGreyed},
+    {kTools<&Form6::Text5>, kEach, kRange<GeometryTool::Shift>, kGreyed},
+    {kTools<&Form6::Text6>, 0, kRange<GeometryTool::Space>, kGreyed},
+    {kTools<&Form6::Text6>, 1, kNone, kGreyed},
     {kTools<&Form6::Text9>, kEach, kScreens, kGreyed},
+    {kTools<&Form6::Text10>, kEach, kRange<GeometryTool::Grid>, kGreyed},
     {kTools<&Form6::Combo1>, kEach, kField<ToolField::Shape>, kGreyed},
     {kTools<&Form6::Combo2>, kEach, kField<ToolField::Style>, kGreyed},
     {kTools<&Form6::Combo4>, kEach, kField<ToolField::Gradient>, kGreyed},
@@ -98,6 +104,7 @@ QStringList servedKinds(const State& state, const Element& control) {
   return kinds;
 }
 
+// At least one word.
 QString listed(QStringList words) {
   const QString last = words.takeLast();
   return words.isEmpty() ? last : words.join(QStringLiteral(", ")) + QStringLiteral(" and ") + last;
@@ -134,7 +141,9 @@ QString toolTipOf(const State& state, const Element& control) {
     const QString word = kindWord(state, section->family(state));
     return about(tip, QStringLiteral("the ") + word, word + u's');
   }
-  const QString kinds = listed(servedKinds(state, control));
+  const QStringList served = servedKinds(state, control);
+  if (served.isEmpty()) return tip;
+  const QString kinds = listed(served);
   const QString general = about(tip, QStringLiteral("the element in hand"), kinds);
   if (!inHand) return QStringLiteral("%1\nIt serves %2; click one").arg(general, kinds);
   return QStringLiteral("%1\nIt serves %2, but not %3").arg(general, kinds, elementTitle(state, *inHand));

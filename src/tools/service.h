@@ -13,8 +13,8 @@ bool needsSection(const State& state, const Element& control);
 /// Whether that control does something for the elements of the Section; true for one that needs none.
 bool servesSection(const State& state, const Element& control, const Section& section);
 
-/// Whether typing into that field, or choosing there, reaches the element in hand. Any other control, and
-/// every command, always does what it does.
+/// Whether typing into that field, or choosing there, reaches the element in hand or a command that serves
+/// it. Any other control, and every command, always does what it does.
 bool servesWhatIsInHand(const State& state, const Element& control);
 
 /// What the control of a tool window does, for the element in hand if it does something for it, else why it
