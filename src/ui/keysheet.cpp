@@ -10,11 +10,13 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "ui/layouts.h"
+
 namespace veneerer {
 
 namespace {
 
-constexpr QSize kSheet(620, 660);  // with its frame it fits a screen of 1024 by 768
+constexpr QSize kSheet(620, 660);  // where the screen has that much room, device-independent pixels
 
 struct Gesture {
   const char* keys;
@@ -142,7 +144,7 @@ void showKeySheet(QWidget& window) {
     auto* column = new QVBoxLayout(dialog);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(makeList(window));
-    dialog->resize(kSheet);
+    dialog->resize(kSheet.boundedTo(roomForDialog(window).size()));
   }
   dialog->show();
   dialog->raise();

@@ -1,6 +1,7 @@
 #include "ui/layouts.h"
 
 #include <QAbstractButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSet>
 
@@ -9,6 +10,9 @@
 namespace veneerer {
 
 namespace {
+
+// What a dialog's frame takes, about; the real one is known only when it is too late. Pixels.
+constexpr QMargins kDialogFrame(6, 32, 6, 8);
 
 // Where a text could take its mnemonic: first letters of words before all others.
 QList<int> candidates(const QString& text) {
@@ -82,6 +86,10 @@ QLabel* makeLabel(const QString& text, QWidget* control) {
 void addField(QGridLayout* grid, int row, int column, const QString& label, QWidget* control) {
   grid->addWidget(makeLabel(label, control), row, column);
   grid->addWidget(control, row, column + 1);
+}
+
+QRect roomForDialog(const QWidget& owner) {
+  return owner.screen()->availableGeometry().marginsRemoved(kDialogFrame);
 }
 
 void setContent(QWidget& window, QLayout* content) {

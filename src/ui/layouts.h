@@ -24,6 +24,9 @@ L* compact(L* layout) {
   return layout;
 }
 
+/// Where the inside of a dialog of that window can lie with its frame on the window's screen.
+QRect roomForDialog(const QWidget& owner);
+
 /// Gives a window its content, which scrolls where the window has less room than it needs.
 void setContent(QWidget& window, QLayout* content);
 

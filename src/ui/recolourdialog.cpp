@@ -2,7 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QPointer>
-#include <QScreen>
+#include <algorithm>
 
 #include "canvas/description.h"
 #include "elements/printable.h"
@@ -61,10 +61,11 @@ QPushButton* makeButton(const char* text, const char* tip) {
 
 /// At the right side of the other window, where the panels are.
 void placeBeside(QWidget& dialog, const QWidget& owner) {
-  const QRect room = owner.screen()->availableGeometry();
+  const QRect room = roomForDialog(owner);
   QRect place(QPoint(), dialog.size().boundedTo(room.size()));
   place.moveCenter(owner.geometry().center());
   place.moveRight(std::min(owner.geometry().right(), room.right()));
+  place.moveTop(std::clamp(place.top(), room.top(), room.bottom() + 1 - place.height()));
   dialog.setGeometry(place);
 }
 
