@@ -1,6 +1,9 @@
 #include "editing/inspection.h"
 
 #include <algorithm>
+#include <cmath>
+#include <set>
+#include <span>
 
 #include "elements/kinds.h"
 #include "elements/numbers.h"
@@ -17,6 +20,10 @@ constexpr P kPassedOver[] = {P::StackOrder,     P::PictureAlign,   P::CaptionAli
                              P::HoverForeColor, P::HoverBackColor, P::MousePointer,  P::MouseIcon,
                              P::Enabled,        P::BorderStyle,    P::Stretch,       P::List,
                              P::Value};
+
+bool isAmong(std::span<const Property> properties, Property property) {
+  return std::ranges::find(properties, property) != properties.end();
+}
 
 bool isAcross(Property property) {
   return property == P::Left || property == P::Width;
@@ -48,11 +55,15 @@ std::optional<float> typedSingle(const QString& text) {
 
 }  // namespace
 
-std::vector<Property> inspectedProperties(const Element& element) {
+std::vector<Property> inspectedProperties(const std::vector<Element*>& elements) {
   std::vector<Property> properties;
-  for (const PropertyDefault& each : propertiesOf(element.kind()))
-    if (std::ranges::find(kPassedOver, each.property) == std::end(kPassedOver))
-      properties.push_back(each.property);
+  std::set<Kind> seen;
+  for (const Element* element : elements) {
+    if (!seen.insert(element->kind()).second) continue;
+    for (const PropertyDefault& each : propertiesOf(element->kind()))
+      if (!isAmong(kPassedOver, each.property) && !isAmong(properties, each.property))
+        properties.push_back(each.property);
+  }
   return properties;
 }
 

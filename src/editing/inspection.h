@@ -9,8 +9,9 @@
 
 namespace veneerer {
 
-/// The properties of an element of the canvas that an operator may want to see and set, in their order.
-std::vector<Property> inspectedProperties(const Element& element);
+/// The properties of elements of the canvas that an operator may want to see and set: those of the first one
+/// in their order, and behind them what only the others have.
+std::vector<Property> inspectedProperties(const std::vector<Element*>& elements);
 
 /// The value as a text: numbers in their plain form, a colour as #RRGGBB and a system colour as its number, a
 /// picture as its file's path.

@@ -116,7 +116,7 @@ void Inspector::showColours(const QModelIndex& index) {
   const Property property = model_.propertyAt(index.row());
   if (propertyType(property) != ValueType::Colour) return;
   auto* menu = new ColourMenu(
-      hands_, model_.elements().front()->as<Colour>(property),
+      hands_, std::get<Colour>(model_.valueOf(property)),
       [this, property](Colour colour) { model_.set(property, colour); }, this);
   menu->popup(QCursor::pos());
 }

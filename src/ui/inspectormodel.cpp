@@ -19,7 +19,7 @@ void InspectorModel::inspect(const std::vector<Element*>& elements) {
   if (elements == elements_) return refresh();
   beginResetModel();
   elements_ = elements;
-  properties_ = elements.empty() ? std::vector<Property>() : inspectedProperties(*elements.front());
+  properties_ = inspectedProperties(elements);
   endResetModel();
 }
 
@@ -41,23 +41,29 @@ QVariant InspectorModel::headerData(int section, Qt::Orientation orientation, in
   return QString::fromLatin1(titles[section]);
 }
 
+const Element& InspectorModel::holderOf(Property property) const {
+  return **std::ranges::find_if(elements_, [&](const Element* element) { return element->has(property); });
+}
+
 bool InspectorModel::isMixed(Property property) const {
+  const Value& first = valueOf(property);
   return std::ranges::any_of(elements_, [&](const Element* element) {
-    return element->has(property) && element->get(property) != elements_.front()->get(property);
+    return element->has(property) && element->get(property) != first;
   });
 }
 
 QString InspectorModel::textAt(const QModelIndex& index) const {
   const Property property = propertyAt(index.row());
   if (index.column() == Name) return propertyTitle(property);
-  const Element& element = *elements_.front();
+  const Element& element = holderOf(property);
   if (index.column() == Place) {
     const std::optional<RecordPlace> place = hands_.places().of(element, property);
     return place ? QStringLiteral("%1:%2").arg(place->file).arg(place->line) : QString();
   }
+  const QString pixels = pixelText(element, property, hands_.screen());
+  if (index.column() == Pixels && pixels.isEmpty()) return {};
   if (isMixed(property)) return QStringLiteral("(several)");
-  return index.column() == Text ? withinSkin(property, valueText(element.get(property)))
-                                : pixelText(element, property, hands_.screen());
+  return index.column() == Text ? withinSkin(property, valueText(element.get(property))) : pixels;
 }
 
 // The path of a picture inside the Skin is told from the Skin's folder on.
@@ -74,7 +80,7 @@ QVariant InspectorModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::ToolTipRole) return plainToolTip(textAt(index));
   const bool isColour = propertyType(property) == ValueType::Colour;
   if (role == Qt::DecorationRole && index.column() == Text && isColour && !isMixed(property))
-    return colourChip(elements_.front()->as<Colour>(property).toQColor(), kChip);
+    return colourChip(std::get<Colour>(valueOf(property)).toQColor(), kChip);
   return {};
 }
 
@@ -83,7 +89,7 @@ Qt::ItemFlags InspectorModel::flags(const QModelIndex& index) const {
   const Property property = propertyAt(index.row());
   const ValueType type = propertyType(property);
   const bool canBeTyped = type != ValueType::Picture && type != ValueType::Stored && type != ValueType::Texts;
-  const bool hasPixels = !pixelText(*elements_.front(), property, hands_.screen()).isEmpty();
+  const bool hasPixels = !pixelText(holderOf(property), property, hands_.screen()).isEmpty();
   if ((index.column() == Text && canBeTyped) || (index.column() == Pixels && hasPixels))
     flags |= Qt::ItemIsEditable;
   return flags;

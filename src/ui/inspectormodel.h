@@ -8,8 +8,8 @@
 
 namespace veneerer {
 
-/// One row for each property that the first of the elements has. A value that differs among them is told so;
-/// what is typed goes to all that have the property.
+/// One row for each property that any of the elements has. A value that differs among those is told so; what
+/// is typed goes to all that have the property.
 class InspectorModel : public QAbstractTableModel {
 public:
   enum Column { Name, Text, Pixels, Place };
@@ -22,6 +22,8 @@ public:
   void refresh();
   const std::vector<Element*>& elements() const { return elements_; }
   Property propertyAt(int row) const { return properties_[static_cast<std::size_t>(row)]; }
+  /// That of the first element that has the property, which one of them must.
+  const Value& valueOf(Property property) const { return holderOf(property).get(property); }
   /// Sets the property of all elements to that value.
   void set(Property property, const Value& value);
 
@@ -33,6 +35,7 @@ public:
   bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
 private:
+  const Element& holderOf(Property property) const;
   bool isMixed(Property property) const;
   QString textAt(const QModelIndex& index) const;
   QString withinSkin(Property property, const QString& text) const;

@@ -19,8 +19,8 @@ TEST_F(Inspection, ListsAllThatASkinStoresOfTheCanvas) {
   const RecordPlaces places = writtenPlaces(state(), coverFileName(QStringLiteral("any")));
   int found = 0;
   for (const Family* family : form1().families())
-    for (const Element* element : family->members()) {
-      const std::vector<Property> listed = inspectedProperties(*element);
+    for (Element* element : family->members()) {
+      const std::vector<Property> listed = inspectedProperties({element});
       for (const RecordPlace& place : places.of(*element)) {
         // The name of a picture's file is told as the picture.
         if (place.property == Property::Name) continue;

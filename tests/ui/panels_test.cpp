@@ -63,6 +63,7 @@ TEST_F(Panels, TheInspectorReadsAndSetsWhatIsInHand) {
 }
 
 TEST_F(Panels, TheInspectorSetsWhatIsSelectedTogether) {
+  designer->choose(*form6().Combo6, 11);
   Label& first = form1().Label16[3];
   Button& second = form1().lvButtons_H1[2];
   bringUp(Qt::Key_F7);
@@ -74,6 +75,15 @@ TEST_F(Panels, TheInspectorSetsWhatIsSelectedTogether) {
   EXPECT_EQ(first.width(), 900);
   EXPECT_EQ(second.width(), 900);
   EXPECT_EQ(state().globals.SectionNumber, 0) << "selecting is no click";
+  EXPECT_EQ(row("Fore Colour", InspectorModel::Pixels).data(), QString()) << "a colour has none";
+  PictureBox& picture = form1().Picture2[0];
+  designer->overlay().select({&picture, &first, &second});
+  model.setData(row("Font Size"), QStringLiteral("33"));
+  model.setData(row("Fore Colour"), QStringLiteral("#FF0000"));
+  for (const Element* each : std::initializer_list<Element*>{&first, &second}) {
+    EXPECT_EQ(each->as<float>(Property::FontSize), 33) << "the first of all has none";
+    EXPECT_EQ(each->as<Colour>(Property::ForeColor), Colour(0xFF));
+  }
 }
 
 TEST_F(Panels, TheOutlineFindsSelectsAndClicks) {
