@@ -7,7 +7,6 @@
 #include "designer/looktaking.h"
 #include "designer/picturesanew.h"
 #include "designer/refusalnotes.h"
-#include "editing/setting.h"
 #include "elements/numbers.h"
 #include "elements/printable.h"
 #include "elements/require.h"
@@ -311,11 +310,10 @@ void Designer::recolour(const Dress& dress) {
   for (const DressedColour& dressed : dress.colours()) dressed.element->set(dressed.property, dressed.colour);
 }
 
-void Designer::copyLook(const Element& from, const std::vector<Element*>& to) {
+void Designer::pasteLook(const CopiedLook& look, const std::vector<Element*>& to) {
   const History::Action action(parts_->history, QStringLiteral("Paste Style"));
   const RefusalNotes::Command command(parts_->refusals);
-  for (Element* element : to)
-    if (element != &from) veneerer::copyLook(from, *element);
+  for (Element* element : to) giveLook(look, *element);
 }
 
 void Designer::takeLook(const QString& skinName, LookPart part) {

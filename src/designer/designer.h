@@ -10,6 +10,7 @@
 #include "designer/takenlook.h"
 #include "editing/arranging.h"
 #include "editing/overlayselection.h"
+#include "editing/setting.h"
 #include "elements/controls.h"
 #include "elements/dress.h"
 #include "forms/state.h"
@@ -101,8 +102,8 @@ public:
   void setProperty(const std::vector<Element*>& elements, Property property, const Value& value);
   /// Gives the elements the colours of that dress, as one step.
   void recolour(const Dress& dress);
-  /// Gives these elements what they have in common of the look of that one.
-  void copyLook(const Element& from, const std::vector<Element*>& to);
+  /// Gives these elements what they can have of that look.
+  void pasteLook(const CopiedLook& look, const std::vector<Element*>& to);
   /// Gives the screen that is shown the look that it has in another Skin of the root, as one step; pictures
   /// are copied. See lookToTake. What stands against it is told in a box, and nothing has changed.
   void takeLook(const QString& skinName, LookPart part);

@@ -1,7 +1,5 @@
 #include "editing/setting.h"
 
-#include <algorithm>
-
 #include "elements/button.h"
 #include "elements/window.h"
 
@@ -42,14 +40,16 @@ void setProperty(Element& element, Property property, const Value& value) {
   button.setButtonShape(shape);
 }
 
-bool isLook(Property property) {
-  return std::ranges::find(kLook, property) != std::end(kLook);
+CopiedLook lookOf(const Element& element) {
+  CopiedLook look;
+  for (const Property property : kLook)
+    if (element.has(property)) look.emplace_back(property, element.get(property));
+  return look;
 }
 
-void copyLook(const Element& from, Element& to) {
-  for (const Property property : kLook)
-    if (from.has(property) && to.has(property) && !isOfPanels(to, property))
-      setProperty(to, property, from.get(property));
+void giveLook(const CopiedLook& look, Element& to) {
+  for (const auto& [property, value] : look)
+    if (to.has(property) && !isOfPanels(to, property)) setProperty(to, property, value);
 }
 
 }  // namespace veneerer

@@ -108,7 +108,7 @@ void Inspector::inspect() {
   if (elements.size() > 1) title += QStringLiteral(" and %1 more").arg(elements.size() - 1);
   title_->setText(title);
   copy_->setEnabled(!elements.empty());
-  paste_->setEnabled(!elements.empty() && styleFrom_);
+  paste_->setEnabled(!elements.empty() && !copied_.empty());
 }
 
 void Inspector::showColours(const QModelIndex& index) {
@@ -122,12 +122,12 @@ void Inspector::showColours(const QModelIndex& index) {
 }
 
 void Inspector::copyStyle() {
-  styleFrom_ = model_.elements().front();
+  copied_ = lookOf(*model_.elements().front());
   inspect();
 }
 
 void Inspector::pasteStyle() {
-  if (styleFrom_) hands_.copyLook(*styleFrom_, model_.elements());
+  hands_.pasteLook(copied_, model_.elements());
 }
 
 }  // namespace veneerer

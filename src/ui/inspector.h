@@ -29,7 +29,7 @@ private:
   QToolButton* copy_;
   QToolButton* paste_;
   QTimer refreshing_;
-  const Element* styleFrom_ = nullptr;  ///< whose look is to be given on
+  CopiedLook copied_;  ///< to be given on
 };
 
 }  // namespace veneerer

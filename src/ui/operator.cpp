@@ -91,8 +91,8 @@ void Operator::recolour(const Dress& dress) {
   act([&] { designer_.recolour(dress); });
 }
 
-void Operator::copyLook(const Element& from, const std::vector<Element*>& to) {
-  act([&] { designer_.copyLook(from, to); });
+void Operator::pasteLook(const CopiedLook& look, const std::vector<Element*>& to) {
+  act([&] { designer_.pasteLook(look, to); });
 }
 
 void Operator::takeLook(const QString& skinName, LookPart part) {

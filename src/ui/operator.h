@@ -53,7 +53,7 @@ public:
   /// Sets a property of all these elements.
   void set(const std::vector<Element*>& elements, Property property, const Value& value);
   void recolour(const Dress& dress);
-  void copyLook(const Element& from, const std::vector<Element*>& to);
+  void pasteLook(const CopiedLook& look, const std::vector<Element*>& to);
   void takeLook(const QString& skinName, LookPart part);
   void align(AlignTo line);
   void distribute(Along along);

@@ -77,10 +77,12 @@ TEST_F(Editing, ASizeKeepsTheShapeAndALookIsGivenOn) {
   EXPECT_EQ(told, (QList<Property>{Property::ButtonShape, Property::Width, Property::ButtonShape}));
   b.set(Property::FontName, QStringLiteral("DejaVu Serif"));
   b.set(Property::ForeColor, Colour(255));
-  copyLook(b, c);
-  copyLook(b, a);
+  const CopiedLook look = lookOf(b);
+  b.set(Property::ForeColor, Colour(7));
+  giveLook(look, c);
+  giveLook(look, a);
   EXPECT_EQ(c.fontName(), QStringLiteral("DejaVu Serif"));
-  EXPECT_EQ(a.foreColor(), Colour(255)) << "what they have in common";
+  EXPECT_EQ(a.foreColor(), Colour(255)) << "what they have in common, as it was when it was copied";
   EXPECT_EQ(c.caption(), QString());
 }
 

@@ -1,5 +1,6 @@
 // The panels of our own: the inspector, the outline, and the line that tells the element in hand.
 #include <QTableView>
+#include <QToolButton>
 #include <QTreeView>
 
 #include "ui/inspectormodel.h"
@@ -84,6 +85,24 @@ TEST_F(Panels, TheInspectorSetsWhatIsSelectedTogether) {
     EXPECT_EQ(each->as<float>(Property::FontSize), 33) << "the first of all has none";
     EXPECT_EQ(each->as<Colour>(Property::ForeColor), Colour(0xFF));
   }
+}
+
+TEST_F(Panels, ACopiedStyleIsTheOneOfThen) {
+  designer->choose(*form6().Combo6, 11);
+  Label& from = form1().Label16[3];
+  Label& to = form1().Label16[4];
+  bringUp(Qt::Key_F7);
+  const auto press = [&](const char* text) {
+    for (QToolButton* button : widget<QWidget>("inspector").findChildren<QToolButton*>())
+      if (button->text() == QLatin1String(text)) button->click();
+  };
+  from.set(Property::ForeColor, Colour(0x010203));
+  designer->overlay().select({&from});
+  press("Cop&y Style");
+  from.set(Property::ForeColor, Colour(0x0A0B0C));
+  designer->overlay().select({&to});
+  press("&Paste Style");
+  EXPECT_EQ(to.as<Colour>(Property::ForeColor), Colour(0x010203));
 }
 
 TEST_F(Panels, TheOutlineFindsSelectsAndClicks) {
