@@ -21,6 +21,7 @@
 #include "skin/skinloader.h"
 #include "skin/skinsaver.h"
 #include "skin/startup.h"
+#include "tools/colourtools.h"
 #include "tools/fontlist.h"
 #include "tools/toolspalette.h"
 
@@ -314,6 +315,12 @@ void Designer::pasteLook(const CopiedLook& look, const std::vector<Element*>& to
   const History::Action action(parts_->history, QStringLiteral("Paste Style"));
   const RefusalNotes::Command command(parts_->refusals);
   for (Element* element : to) giveLook(look, *element);
+}
+
+void Designer::giveColour(Element& swatch, Colour colour) {
+  const History::Action action(parts_->history, parts_->nameOf(swatch));
+  if (&swatch == &*state().form6.Picture1) takeHighlightColour(state(), colour);
+  if (&swatch == &*state().form6.Picture2) takeColour(state(), colour);
 }
 
 void Designer::takeLook(const QString& skinName, LookPart part) {

@@ -104,6 +104,8 @@ public:
   void recolour(const Dress& dress);
   /// Gives these elements what they can have of that look.
   void pasteLook(const CopiedLook& look, const std::vector<Element*>& to);
+  /// The click on one of the two swatches of Form6 that ask for a colour, its dialog answered with that one.
+  void giveColour(Element& swatch, Colour colour);
   /// Gives the screen that is shown the look that it has in another Skin of the root, as one step; pictures
   /// are copied. See lookToTake. What stands against it is told in a box, and nothing has changed.
   void takeLook(const QString& skinName, LookPart part);

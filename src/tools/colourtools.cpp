@@ -58,8 +58,11 @@ void typeColour(State& state) {
 }
 
 void pickColour(State& state, Dialogs& dialogs) {
+  if (state.globals.SectionNumber != 0) takeColour(state, chooseColour(dialogs));
+}
+
+void takeColour(State& state, Colour chosen) {
   if (state.globals.SectionNumber == 0) return;
-  const Colour chosen = chooseColour(dialogs);
   state.globals.CurrentColour = chosen;
   state.form6.Picture2->setBackColor(chosen);
   state.form6.Text2->setText(QString::number(chosen.number()));
@@ -67,8 +70,12 @@ void pickColour(State& state, Dialogs& dialogs) {
 }
 
 void pickHighlightColour(State& state, Dialogs& dialogs) {
-  state.globals.CurrentColour = chooseColour(dialogs);
-  state.form6.Picture1->setBackColor(state.globals.CurrentColour);
+  takeHighlightColour(state, chooseColour(dialogs));
+}
+
+void takeHighlightColour(State& state, Colour chosen) {
+  state.globals.CurrentColour = chosen;
+  state.form6.Picture1->setBackColor(chosen);
 }
 
 void showColour(State& state) {

@@ -14,8 +14,14 @@ void typeColour(State& state);
 /// The dialog opens on black, and cancelling it counts as choosing black.
 void pickColour(State& state, Dialogs& dialogs);
 
+/// What pickColour() does with a colour that was chosen otherwise.
+void takeColour(State& state, Colour chosen);
+
 /// Picture1 was clicked: the colour of the dialog becomes the key highlight colour.
 void pickHighlightColour(State& state, Dialogs& dialogs);
+
+/// What pickHighlightColour() does with a colour that was chosen otherwise.
+void takeHighlightColour(State& state, Colour chosen);
 
 /// An option of Option1 was clicked: Text2 and Picture2 show that colour of the element in hand; nothing else
 /// changes. The caller must keep the change of Text2 from counting as typing.

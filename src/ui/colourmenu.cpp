@@ -1,20 +1,15 @@
 #include "ui/colourmenu.h"
 
-#include <QGridLayout>
 #include <QPainter>
-#include <QToolButton>
 #include <QWidgetAction>
 
-#include "editing/coloursinuse.h"
-#include "editing/inspection.h"
+#include "ui/palettegrid.h"
 
 namespace veneerer {
 
 namespace {
 
-constexpr int kColumns = 8;
 constexpr std::size_t kMostColours = 48;
-constexpr int kChip = 20;  // device-independent pixels
 
 }  // namespace
 
@@ -47,26 +42,14 @@ ColourMenu::ColourMenu(Operator& hands, Colour initial, std::function<void(Colou
 }
 
 void ColourMenu::addPalette(const State& state) {
-  auto* chips = new QWidget;
-  auto* grid = new QGridLayout(chips);
-  grid->setSpacing(2);
-  const std::vector<ColourUse> uses = coloursInUse(state);
-  for (std::size_t i = 0; i < std::min(uses.size(), kMostColours); ++i) {
-    const Colour colour = uses[i].colour;
-    auto* chip = new QToolButton;
-    chip->setIcon(colourChip(colour.toQColor(), kChip));
-    chip->setIconSize(QSize(kChip, kChip));
-    chip->setAutoRaise(true);
-    chip->setToolTip(QStringLiteral("%1, %2 times").arg(valueText(colour)).arg(uses[i].count));
-    chip->setAccessibleName(valueText(colour));
-    connect(chip, &QToolButton::clicked, this, [this, colour] {
-      close();
-      chosen_(colour);
-    });
-    grid->addWidget(chip, int(i) / kColumns, int(i) % kColumns);
-  }
+  std::vector<ColourUse> uses = coloursInUse(state);
+  if (uses.empty()) return;
+  if (uses.size() > kMostColours) uses.erase(uses.begin() + kMostColours, uses.end());
   auto* action = new QWidgetAction(this);
-  action->setDefaultWidget(chips);
+  action->setDefaultWidget(new PaletteGrid(uses, [this](Colour colour) {
+    close();
+    chosen_(colour);
+  }));
   addAction(action);
 }
 

@@ -1,8 +1,10 @@
 #include "ui/inspector.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QStyledItemDelegate>
+#include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -36,6 +38,23 @@ private:
 
 }  // namespace
 
+/// Asks for a menu of a row: at the pointer, or below the row that the keys have led to.
+class PropertyTable : public QTableView {
+public:
+  std::function<void(const QModelIndex& row, const QPoint& at)> askedForMenu;
+
+  QPoint below(const QModelIndex& index) const {
+    return viewport()->mapToGlobal(visualRect(index).bottomLeft());
+  }
+
+protected:
+  void contextMenuEvent(QContextMenuEvent* event) override {
+    const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+    const QModelIndex row = isByKey ? currentIndex() : indexAt(event->pos());
+    if (row.isValid()) askedForMenu(row, isByKey ? below(row) : event->globalPos());
+  }
+};
+
 Inspector::Inspector(const Ui& ui)
     : hands_(ui.hands),
       watching_(ui.hands.state().board.watch([this](const Change& change) {
@@ -43,7 +62,7 @@ Inspector::Inspector(const Ui& ui)
       })),
       model_(ui.hands),
       title_(new QLabel),
-      table_(new QTableView),
+      table_(new PropertyTable),
       copy_(new QToolButton),
       paste_(new QToolButton) {
   setWindowTitle(QStringLiteral("Inspector"));
@@ -62,7 +81,6 @@ Inspector::Inspector(const Ui& ui)
   table_->verticalHeader()->hide();
   table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
   table_->horizontalHeader()->setSectionResizeMode(InspectorModel::Text, QHeaderView::Stretch);
-  table_->setContextMenuPolicy(Qt::CustomContextMenu);
   copy_->setText(QStringLiteral("Cop&y Style"));
   copy_->setToolTip(QStringLiteral("Remember the colours, the font and the style of this element"));
   paste_->setText(QStringLiteral("&Paste Style"));
@@ -80,10 +98,9 @@ Inspector::Inspector(const Ui& ui)
   connect(&hands_, &Operator::acted, this, &Inspector::inspect);
   connect(&hands_, &Operator::selected, this, &Inspector::inspect);
   connect(table_, &QTableView::clicked, this, [this](const QModelIndex& index) {
-    if (index.column() == InspectorModel::Name) showColours(index);
+    if (index.column() == InspectorModel::Name) showColours(index, table_->below(index));
   });
-  connect(table_, &QTableView::customContextMenuRequested, this,
-          [this](const QPoint& at) { showColours(table_->indexAt(at)); });
+  table_->askedForMenu = [this](const QModelIndex& index, const QPoint& at) { showColours(index, at); };
   connect(copy_, &QToolButton::clicked, this, &Inspector::copyStyle);
   connect(paste_, &QToolButton::clicked, this, &Inspector::pasteStyle);
   inspect();
@@ -111,14 +128,13 @@ void Inspector::inspect() {
   paste_->setEnabled(!elements.empty() && !copied_.empty());
 }
 
-void Inspector::showColours(const QModelIndex& index) {
-  if (!index.isValid()) return;
+void Inspector::showColours(const QModelIndex& index, const QPoint& at) {
   const Property property = model_.propertyAt(index.row());
   if (propertyType(property) != ValueType::Colour) return;
   auto* menu = new ColourMenu(
       hands_, std::get<Colour>(model_.valueOf(property)),
       [this, property](Colour colour) { model_.set(property, colour); }, this);
-  menu->popup(QCursor::pos());
+  menu->popup(at);
 }
 
 void Inspector::copyStyle() {

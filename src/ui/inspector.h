@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QLabel>
-#include <QTableView>
 #include <QToolButton>
 
 #include "ui/bindings.h"
@@ -10,13 +9,15 @@
 
 namespace veneerer {
 
+class PropertyTable;
+
 class Inspector : public QWidget {
 public:
   explicit Inspector(const Ui& ui);
 
 private:
   void inspect();
-  void showColours(const QModelIndex& index);
+  void showColours(const QModelIndex& index, const QPoint& at);
   void copyStyle();
   void pasteStyle();
   std::vector<Element*> inspected() const;
@@ -25,7 +26,7 @@ private:
   Attachment watching_;
   InspectorModel model_;
   QLabel* title_;
-  QTableView* table_;
+  PropertyTable* table_;
   QToolButton* copy_;
   QToolButton* paste_;
   QTimer refreshing_;

@@ -95,6 +95,10 @@ void Operator::pasteLook(const CopiedLook& look, const std::vector<Element*>& to
   act([&] { designer_.pasteLook(look, to); });
 }
 
+void Operator::giveColour(Element& swatch, Colour colour) {
+  act([&] { designer_.giveColour(swatch, colour); });
+}
+
 void Operator::takeLook(const QString& skinName, LookPart part) {
   act([&] { designer_.takeLook(skinName, part); });
 }

@@ -54,6 +54,7 @@ public:
   void set(const std::vector<Element*>& elements, Property property, const Value& value);
   void recolour(const Dress& dress);
   void pasteLook(const CopiedLook& look, const std::vector<Element*>& to);
+  void giveColour(Element& swatch, Colour colour);
   void takeLook(const QString& skinName, LookPart part);
   void align(AlignTo line);
   void distribute(Along along);

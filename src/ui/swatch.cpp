@@ -1,10 +1,12 @@
 #include "ui/swatch.h"
 
+#include <QContextMenuEvent>
 #include <QPainter>
 #include <QStyleOption>
 
 #include "canvas/sections.h"
 #include "elements/colour.h"
+#include "ui/colourmenu.h"
 #include "ui/frames.h"
 
 namespace veneerer {
@@ -26,7 +28,7 @@ void paintFocus(QPainter& painter, const QWidget& widget) {
 
 }  // namespace
 
-Swatch::Swatch(const Ui& ui, PictureBox& box) : box_(box) {
+Swatch::Swatch(const Ui& ui, PictureBox& box) : hands_(ui.hands), box_(box) {
   bindPainted(ui, box, *this);
 }
 
@@ -38,6 +40,28 @@ void Swatch::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), box_.backColor().toQColor());
   paintFrame(painter, *this);
+}
+
+void Swatch::contextMenuEvent(QContextMenuEvent* event) {
+  const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+  showColours(isByKey ? mapToGlobal(rect().bottomLeft()) : event->globalPos());
+}
+
+void Swatch::showColours(const QPoint& at) {
+  if (hands_.isActing()) return;
+  const auto give = [&hands = hands_, &box = box_](Colour colour) { hands.giveColour(box, colour); };
+  (new ColourMenu(hands_, box_.backColor(), give, this))->popup(at);
+}
+
+QToolButton* makeColourArrow(Swatch& swatch) {
+  auto* arrow = new QToolButton;
+  arrow->setArrowType(Qt::DownArrow);
+  arrow->setAutoRaise(true);
+  arrow->setToolTip(QStringLiteral("Choose among the colours of this Skin, or pick one from the canvas"));
+  arrow->setAccessibleName(QStringLiteral("Colours of this Skin"));
+  QObject::connect(arrow, &QToolButton::clicked, &swatch,
+                   [&swatch, arrow] { swatch.showColours(arrow->mapToGlobal(arrow->rect().bottomLeft())); });
+  return arrow;
 }
 
 Sample::Sample(const Ui& ui, Element& element) : hands_(ui.hands), element_(element) {

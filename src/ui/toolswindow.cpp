@@ -109,13 +109,23 @@ QLayout* colourInHandLayout(const Ui& ui, Form6& form) {
   auto* grid = new QGridLayout;
   grid->setSpacing(4);
   auto* swatch = new Swatch(ui, *form.Picture2);
-  grid->addWidget(makeLabel(QStringLiteral("Selected Colour:"), swatch), 0, 0, 1, 2);
+  grid->addWidget(makeLabel(QStringLiteral("Selected Colour:"), swatch), 0, 0, 1, 3);
   grid->addWidget(swatch, 1, 0);
+  grid->addWidget(makeColourArrow(*swatch), 1, 1);
   QLineEdit* text = makeField(ui, *form.Text2);
   text->setAccessibleName(QStringLiteral("Colour"));
   text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  grid->addWidget(text, 1, 1);
+  grid->addWidget(text, 1, 2);
   return grid;
+}
+
+QLayout* highlightLayout(const Ui& ui, Form6& form) {
+  auto* row = new QHBoxLayout;
+  auto* swatch = new Swatch(ui, *form.Picture1);
+  row->addWidget(makeLabel(QStringLiteral("Key Highlight Colour:"), swatch));
+  row->addWidget(swatch, 1);
+  row->addWidget(makeColourArrow(*swatch));
+  return row;
 }
 
 QGroupBox* colourFrame(const Ui& ui, Form6& form) {
@@ -123,7 +133,7 @@ QGroupBox* colourFrame(const Ui& ui, Form6& form) {
   for (int i = 0; i < 3; ++i) grid->addWidget(makeOption(ui, form.Option1[i]), i, 0);
   grid->addLayout(colourInHandLayout(ui, form), 0, 1, 3, 1, Qt::AlignVCenter);
   addField(grid, 3, 0, QStringLiteral("Gradient Style:"), makeCombo(ui, *form.Combo4));
-  addField(grid, 4, 0, QStringLiteral("Key Highlight Colour:"), new Swatch(ui, *form.Picture1));
+  grid->addLayout(highlightLayout(ui, form), 4, 0, 1, 2);
   addCommands(grid, 5, ui, {&form.Command2[0], &form.Command2[1]});
   grid->setColumnStretch(1, 1);
   return makeFrame(QStringLiteral("Colour Settings"), grid);

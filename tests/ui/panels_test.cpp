@@ -1,8 +1,11 @@
 // The panels of our own: the inspector, the outline, and the line that tells the element in hand.
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QTableView>
 #include <QToolButton>
 #include <QTreeView>
 
+#include "editing/coloursinuse.h"
 #include "ui/inspectormodel.h"
 #include "ui/outlinemodel.h"
 #include "ui/uifixture.h"
@@ -103,6 +106,41 @@ TEST_F(Panels, ACopiedStyleIsTheOneOfThen) {
   designer->overlay().select({&to});
   press("&Paste Style");
   EXPECT_EQ(to.as<Colour>(Property::ForeColor), Colour(0x010203));
+}
+
+TEST_F(Panels, ColoursOfTheSkinAreReachedByKeys) {
+  Button& button = form1().lvButtons_H1[2];
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(button));
+  const auto askFor = [&](QWidget& control) {
+    QContextMenuEvent ask(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(&control, &ask);
+    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  };
+  const auto press = [](Qt::Key key) {
+    QWidget* menu = QApplication::activePopupWidget();
+    QTest::keyClick(menu->focusWidget() ? menu->focusWidget() : menu, key);
+  };
+  const auto colourAt = [&](std::size_t place) { return coloursInUse(state()).at(place).colour; };
+  const Colour third = colourAt(2);
+  QMenu* menu = askFor(widget<QWidget>("Form6.Picture2"));
+  ASSERT_TRUE(menu);
+  for (const Qt::Key each : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return}) press(each);
+  EXPECT_FALSE(menu->isVisible());
+  EXPECT_EQ(form6().Picture2->backColor(), third);
+  EXPECT_EQ(button.foreColor(), third) << "as the click on it does with its dialog's colour";
+  QTest::qWait(1);
+
+  bringUp(Qt::Key_F7);
+  auto& table = viewIn<QTableView>("inspector");
+  const QModelIndex ground = row("Back Colour");
+  table.setCurrentIndex(ground);
+  const Colour second = colourAt(1);
+  menu = askFor(table);
+  ASSERT_TRUE(menu);
+  const QRect shown = table.visualRect(ground);
+  EXPECT_EQ(menu->y(), table.viewport()->mapToGlobal(shown.bottomLeft()).y()) << "below its row";
+  for (const Qt::Key each : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Return}) press(each);
+  EXPECT_EQ(button.backColor(), second);
 }
 
 TEST_F(Panels, TheOutlineFindsSelectsAndClicks) {
