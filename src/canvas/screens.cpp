@@ -69,6 +69,12 @@ bool isScreen(const State& state, const Element& element) {
          &element == &*form1.Picture23;
 }
 
+bool isOnShownScreen(const State& state, const Element& element) {
+  const Element* screen = &element;
+  while (screen && !isScreen(state, *screen)) screen = screen->container();
+  return !screen || screen->isVisible();
+}
+
 void showScreen(State& state, int entry) {
   if (entry < 0) return;
   Element& screen = screenOf(state, entry);

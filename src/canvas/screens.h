@@ -63,6 +63,9 @@ int shownEntry(const State& state);
 /// Whether the element is the panel of an entry.
 bool isScreen(const State& state, const Element& element);
 
+/// Whether the element stands on a screen that is shown, or on the frame; it may be hidden there itself.
+bool isOnShownScreen(const State& state, const Element& element);
+
 /// Shows the screen of an entry in front, alone but for the two that the Skin's properties keep shown. No row
 /// (-1) shows nothing new. The current Section stays.
 void showScreen(State& state, int entry);

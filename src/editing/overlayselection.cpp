@@ -9,8 +9,13 @@ bool OverlaySelection::contains(const Element& element) const {
 }
 
 void OverlaySelection::select(std::vector<Element*> elements) {
+  if (elements == elements_) return;
   elements_ = std::move(elements);
   tell();
+}
+
+void OverlaySelection::keepOnly(const std::function<bool(const Element&)>& passes) {
+  if (std::erase_if(elements_, [&](const Element* element) { return !passes(*element); }) > 0) tell();
 }
 
 void OverlaySelection::toggle(Element& element) {

@@ -17,6 +17,8 @@ public:
   bool contains(const Element& element) const;
 
   void select(std::vector<Element*> elements);
+  /// Leaves out what doesn't pass.
+  void keepOnly(const std::function<bool(const Element&)>& passes);
   /// Takes the element in behind the others, or out.
   void toggle(Element& element);
   void clear() { select({}); }

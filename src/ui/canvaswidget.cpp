@@ -208,9 +208,7 @@ QRect CanvasWidget::outlineOf(const Element* element) const {
 QList<QRect> CanvasWidget::selectedOutlines() const {
   QList<QRect> outlines;
   for (const Element* element : hands_.overlay().elements()) {
-    const Element* screen = element;
-    while (screen && !isScreen(state_, *screen)) screen = screen->container();
-    if (!screen || screen->isVisible())
+    if (isOnShownScreen(state_, *element))
       outlines.append(dirty_.pixelsOf(windowRect(*element)) & reach(rect()));
   }
   return outlines;
@@ -264,6 +262,7 @@ void CanvasWidget::mousePressEvent(QMouseEvent* event) {
   if (handle != Handle::None) return sizing_.begin(handle, *sizable(), scale_.twipsAt(event->position()));
   Element* element = elementAt(event->position());
   if (element && button == MouseButton::Left && hands_.overlay().isLocked(*element)) return;
+  if (!element && button == MouseButton::Left) hands_.overlay().clear();
   if (!element || button == MouseButton::None) return;
   const QPointF place = inside(*element, event->position());
   if (button == MouseButton::Left) hold(element);

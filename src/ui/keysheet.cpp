@@ -34,7 +34,7 @@ constexpr Gesture kCanvasKeys[] = {
 };
 
 constexpr Gesture kCanvasMouse[] = {
-    {"Click", "Take an element in hand"},
+    {"Click", "Take an element in hand; nothing is selected any more"},
     {"Drag", "Move an element"},
     {"Ctrl and drag", "Move an element, snapping to what lines up"},
     {"Drag a handle", "Size what is in hand; with Ctrl it snaps"},

@@ -3,6 +3,8 @@
 #include <QScopedValueRollback>
 #include <chrono>
 
+#include "canvas/screens.h"
+#include "canvas/sections.h"
 #include "records/coverfile.h"
 
 namespace veneerer {
@@ -15,6 +17,10 @@ Operator::Operator(Designer& designer) : designer_(designer) {
       state().board.watch(*state().globals.LastCoverIndex, [this](const Change&) { places_.reset(); });
   designer.overlay().setListener([this] { Q_EMIT selected(); });
   connect(&designer.history().stack(), &QUndoStack::indexChanged, this, &Operator::acted);
+  // Ahead of all windows, which show what is selected.
+  connect(this, &Operator::acted, this, [this] {
+    overlay().keepOnly([this](const Element& element) { return isOnShownScreen(state(), element); });
+  });
 }
 
 const RecordPlaces& Operator::places() {
@@ -40,11 +46,17 @@ void Operator::run(const std::function<void()>& command) {
 }
 
 void Operator::click(Element& element) {
-  act([&] { designer_.click(element); });
+  act([&] {
+    designer_.click(element);
+    if (currentElement(state()) == &element) overlay().clear();
+  });
 }
 
 void Operator::press(Element& element, float x, float y, MouseButton button) {
-  act([&] { designer_.press(element, x, y, button); });
+  act([&] {
+    if (button == MouseButton::Left) overlay().clear();
+    designer_.press(element, x, y, button);
+  });
 }
 
 void Operator::move(Element& element, float x, float y, MouseButton button) {

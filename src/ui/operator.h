@@ -32,8 +32,9 @@ public:
   /// Runs what changes nothing of the Skin but may take long: no action begins meanwhile.
   void run(const std::function<void()>& command);
 
+  /// What is taken in hand by it isn't to be mistaken for what is selected: nothing is selected any more.
   void click(Element& element);
-  /// x and y in twips in the element's own coordinates.
+  /// x and y in twips in the element's own coordinates. With the left button nothing is selected any more.
   void press(Element& element, float x, float y, MouseButton button);
   /// As press; the button is the one held down.
   void move(Element& element, float x, float y, MouseButton button);
@@ -67,6 +68,7 @@ public:
   void readAnew(const QSet<QString>& paths);
   /// Reads the record files of the Skin in hand again.
   void reload();
+  /// What leaves the sight with its screen leaves the selection as well.
   OverlaySelection& overlay() { return designer_.overlay(); }
   /// The next press on the canvas picks the colour that is seen there, and is no press.
   void pickColour(std::function<void(Colour)> picked) { Q_EMIT pickingColour(std::move(picked)); }

@@ -63,6 +63,30 @@ TEST_F(Overlay, CtrlListsWhatLiesBeneathAndMovesOnlyWhenDragged) {
   EXPECT_NE(button.left(), left);
 }
 
+TEST_F(Overlay, NothingElseStaysSelectedThanWhatIsTakenInHandAndSeen) {
+  Button& button = form1().lvButtons_H1[2];
+  const auto clickWithShift = [&] {
+    QTest::mouseClick(&canvas(), Qt::LeftButton, Qt::ShiftModifier, middle(button));
+  };
+  clickWithShift();
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(form1().lvButtons_H1[3]));
+  EXPECT_TRUE(selected().empty());
+  EXPECT_EQ(state().globals.ElementIndex, 3);
+  clickWithShift();
+  QTest::mouseClick(&widget<QWidget>("Form6.Label5"), Qt::LeftButton);
+  EXPECT_TRUE(selected().empty()) << "a sample is in hand now";
+  trigger("&Next Screen");
+  Element& panel = *form1().Picture1.find(form6().Combo6->listIndex());
+  Element& within = *form1().Label16[3].container();
+  ASSERT_NE(&panel, &within);
+  form1().Label16[3].setContainer(panel);
+  clickWithShift();
+  designer->overlay().toggle(form1().Label16[3]);
+  EXPECT_EQ(selected().size(), 2);
+  trigger("&Next Screen");
+  EXPECT_EQ(selected(), std::vector<Element*>{&button}) << "the frame is always in sight";
+}
+
 TEST_F(Overlay, WhatIsLockedIsntGrabbed) {
   Button& button = form1().lvButtons_H1[2];
   designer->overlay().lock(button, true);
