@@ -1,6 +1,7 @@
 #include "ui/canvaselement.h"
 
 #include "canvas/description.h"
+#include "canvas/screens.h"
 
 namespace veneerer {
 
@@ -12,7 +13,7 @@ Element* canvasElement(State& state, const QString& key) {
 void goToElement(Operator& hands, Element& element) {
   ComboBox& screens = *hands.state().form6.Combo6;
   const int entry = entryHolding(hands.state(), element);
-  if (entry >= 0 && entry != screens.listIndex()) hands.choose(screens, entry);
+  if (entry >= 0 && !isOnShownScreen(hands.state(), element)) hands.choose(screens, entry);
   hands.overlay().select({&element});
 }
 

@@ -208,6 +208,8 @@ void CanvasWindow::bringUp(const Panel& panel) {
     panel.dock->show();
   panel.dock->raise();
   panel.dock->activateWindow();
+  if (QWidget* content = panel.dock->widget(); content->focusProxy())
+    content->setFocus(Qt::ShortcutFocusReason);
 }
 
 void CanvasWindow::arrange() {

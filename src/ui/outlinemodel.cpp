@@ -1,6 +1,7 @@
 #include "ui/outlinemodel.h"
 
 #include <QPalette>
+#include <algorithm>
 
 #include "painting/hittest.h"
 
@@ -22,25 +23,37 @@ OutlineModel::OutlineModel(State& state) : state_(state) {
 void OutlineModel::search(const QString& query) {
   words_ = queryWords(query);
   beginResetModel();
-  filter();
+  screens_ = found(entries_);
   endResetModel();
 }
 
 void OutlineModel::readAnew() {
-  beginResetModel();
-  entries_ = outlineOf(state_);
-  filter();
-  endResetModel();
+  std::vector<OutlineEntry> read = outlineOf(state_);
+  std::vector<Screen> screens = found(read);
+  const bool hasSameRows =
+      screens == screens_ &&
+      std::ranges::equal(read, entries_, {}, &OutlineEntry::element, &OutlineEntry::element);
+  if (hasSameRows)
+    Q_EMIT layoutAboutToBeChanged();
+  else
+    beginResetModel();
+  entries_ = std::move(read);
+  screens_ = std::move(screens);
+  if (hasSameRows)
+    Q_EMIT layoutChanged();
+  else
+    endResetModel();
 }
 
-void OutlineModel::filter() {
-  screens_.clear();
-  for (std::size_t i = 0; i < entries_.size(); ++i) {
-    if (!matches(entries_[i], words_)) continue;
-    if (screens_.empty() || screens_.back().name != entries_[i].screen)
-      screens_.push_back({entries_[i].screen, {}});
-    screens_.back().entries.push_back(i);
+std::vector<OutlineModel::Screen> OutlineModel::found(const std::vector<OutlineEntry>& entries) const {
+  std::vector<Screen> screens;
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    if (!matches(entries[i], words_)) continue;
+    if (screens.empty() || screens.back().name != entries[i].screen)
+      screens.push_back({entries[i].screen, {}});
+    screens.back().entries.push_back(i);
   }
+  return screens;
 }
 
 const OutlineEntry& OutlineModel::entryAt(const QModelIndex& index) const {

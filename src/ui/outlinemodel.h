@@ -17,7 +17,7 @@ public:
 
   /// Shows what matches the query, all without one.
   void search(const QString& query);
-  /// Titles may have changed.
+  /// Titles may have changed. The rows stay what they are unless other elements are found.
   void readAnew();
 
   /// Null for a row that stands for a screen.
@@ -35,9 +35,10 @@ private:
   struct Screen {
     QString name;
     std::vector<std::size_t> entries;  ///< those that are found
+    bool operator==(const Screen&) const = default;
   };
 
-  void filter();
+  std::vector<Screen> found(const std::vector<OutlineEntry>& entries) const;
   const OutlineEntry& entryAt(const QModelIndex& index) const;
 
   State& state_;

@@ -1,9 +1,11 @@
 #include "ui/outlinepanel.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "canvas/sections.h"
+#include "ui/canvaselement.h"
 #include "ui/layouts.h"
 
 namespace veneerer {
@@ -12,6 +14,8 @@ namespace {
 
 // A burst of changes is read anew when it is over, milliseconds.
 constexpr int kRest = 300;
+
+constexpr int kHintStrength = 170;  // of 255
 
 bool isListed(Property property) {
   return property == Property::Caption || property == Property::Visible;
@@ -33,9 +37,11 @@ OutlinePanel::OutlinePanel(const Ui& ui)
   query_->setClearButtonEnabled(true);
   query_->setAccessibleName(QStringLiteral("Search"));
   query_->setToolTip(QStringLiteral("Show only elements that all these words are found in"));
+  setFocusProxy(query_);
+  makeHintReadable();
   tree_->setModel(&model_);
   tree_->setAccessibleName(QStringLiteral("Elements"));
-  tree_->setToolTip(QStringLiteral("Click an element to select it; Enter takes it in hand"));
+  tree_->setToolTip(QStringLiteral("Click an element to go there and select it; Enter takes it in hand"));
   tree_->setUniformRowHeights(true);
   tree_->setHeaderHidden(false);
   tree_->header()->setStretchLastSection(false);
@@ -59,7 +65,9 @@ OutlinePanel::OutlinePanel(const Ui& ui)
   });
   connect(query_, &QLineEdit::returnPressed, tree_, [this] { tree_->setFocus(); });
   connect(tree_, &QTreeView::clicked, this, &OutlinePanel::select);
-  connect(tree_, &QTreeView::activated, this, &OutlinePanel::click);
+  // On some desktops one click would activate a row.
+  connect(tree_, &QTreeView::doubleClicked, this, &OutlinePanel::click);
+  tree_->installEventFilter(this);
   connect(&hands_, &Operator::acted, this, &OutlinePanel::showInHand);
 }
 
@@ -69,13 +77,35 @@ void OutlinePanel::showEvent(QShowEvent* event) {
   showInHand();
 }
 
+void OutlinePanel::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) makeHintReadable();
+}
+
+// A dark theme may leave the colour of such a text black.
+void OutlinePanel::makeHintReadable() {
+  QColor ink = palette().color(QPalette::Text);
+  ink.setAlpha(kHintStrength);
+  QPalette own;
+  own.setColor(QPalette::PlaceholderText, ink);
+  query_->setPalette(own);
+}
+
+bool OutlinePanel::eventFilter(QObject*, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+  click(tree_->currentIndex());
+  return true;
+}
+
 void OutlinePanel::search(const QString& query) {
   model_.readAnew();
   if (!query.isEmpty()) tree_->expandAll();
 }
 
 void OutlinePanel::select() {
-  if (Element* element = model_.elementAt(tree_->currentIndex())) hands_.overlay().select({element});
+  if (Element* element = model_.elementAt(tree_->currentIndex())) goToElement(hands_, *element);
 }
 
 void OutlinePanel::click(const QModelIndex& index) {

@@ -147,6 +147,8 @@ TEST_F(Panels, TheOutlineFindsSelectsAndClicks) {
   bringUp(Qt::Key_F3);
   auto& tree = viewIn<QTreeView>("outline");
   auto& query = viewIn<QLineEdit>("outline");
+  widget<QWidget>("Form1").activateWindow();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return query.hasFocus(); })) << "one can type at once";
   QTest::keyClicks(&query, QStringLiteral("label16 3"));
   const auto& model = static_cast<const OutlineModel&>(*tree.model());
   const QModelIndex found = model.indexOf(form1().Label16[3]);
@@ -155,10 +157,23 @@ TEST_F(Panels, TheOutlineFindsSelectsAndClicks) {
   tree.setCurrentIndex(found);
   QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(found).center());
   EXPECT_EQ(designer->overlay().elements(), std::vector<Element*>{&form1().Label16[3]});
+  EXPECT_TRUE(form1().Label16[3].container()->isVisible()) << "its screen is shown";
   EXPECT_EQ(state().globals.SectionNumber, 0);
+  // What changes with the screen is read anew when it rests.
+  QTest::qWait(400);
+  EXPECT_EQ(model.elementAt(tree.currentIndex()), &form1().Label16[3]);
   QTest::keyClick(&tree, Qt::Key_Return);
   EXPECT_EQ(state().globals.ElementIndex, 3);
   EXPECT_GT(state().globals.SectionNumber, 0) << "Enter is the element's click";
+}
+
+// Some themes leave the colour of such texts black.
+TEST_F(Panels, TheOutlinesHintIsReadInADarkTheme) {
+  QPalette dark(QColor(42, 46, 50));
+  dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+  widget<QWidget>("outline").setPalette(dark);
+  const QPalette& shown = viewIn<QLineEdit>("outline").palette();
+  EXPECT_GT(shown.color(QPalette::PlaceholderText).lightness(), 200);
 }
 
 TEST_F(Panels, TheLineTellsTheElementInHandAndGoesThere) {
