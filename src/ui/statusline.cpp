@@ -11,6 +11,7 @@ namespace veneerer {
 namespace {
 
 constexpr int kReadingTime = 8000;  // milliseconds
+constexpr int kInset = 6;           // as in the line of the element in hand, pixels
 
 bool isNextAction(const QEvent& event) {
   switch (event.type()) {
@@ -28,6 +29,7 @@ bool isNextAction(const QEvent& event) {
 
 StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
+  setContentsMargins(kInset, 0, 0, 0);
   // However long the line is, the window needn't be as wide.
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   for (QTimer* timer : {&fresh_, &reading_}) timer->setSingleShot(true);
