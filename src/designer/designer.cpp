@@ -1,5 +1,7 @@
 #include "designer/designer.h"
 
+#include <algorithm>
+
 #include "canvas/canvasinput.h"
 #include "canvas/sections.h"
 #include "design/design.h"
@@ -36,6 +38,14 @@ std::unique_ptr<State> makeState() {
   applyBuiltInDesign(*state);
   for (Window* window : state->windows()) window->setVisible(false);
   return state;
+}
+
+/// Whether one of those elements holds it.
+bool standsWithin(const Element& element, const std::vector<Element*>& elements) {
+  const Element* container = element.container();
+  while (container && std::ranges::find(elements, container) == elements.end())
+    container = container->container();
+  return container != nullptr;
 }
 
 /// The steps of the remedies, by their kind.
@@ -247,12 +257,20 @@ void Designer::move(Element& element, float x, float y, MouseButton button) {
 }
 
 void Designer::nudge(Element& element, int dxPixels, int dyPixels) {
-  if (&element.window() != &parts_->state->form1) return;
+  nudge(std::vector<Element*>{&element}, dxPixels, dyPixels);
+}
+
+void Designer::nudge(const std::vector<Element*>& elements, int dxPixels, int dyPixels) {
+  if (elements.empty()) return;
   const Screen& screen = parts_->platform.screen;
-  const History::Action action(parts_->history, {}, &element);
-  parts_->canvas.press(element, 0, 0, MouseButton::Left);
-  parts_->canvas.move(element, static_cast<float>(dxPixels * screen.twipsPerPixelX()),
-                      static_cast<float>(dyPixels * screen.twipsPerPixelY()), MouseButton::Left);
+  const auto x = static_cast<float>(dxPixels * screen.twipsPerPixelX());
+  const auto y = static_cast<float>(dyPixels * screen.twipsPerPixelY());
+  const History::Action action(parts_->history, {}, elements.front());
+  for (Element* element : elements) {
+    if (&element->window() != &parts_->state->form1 || standsWithin(*element, elements)) continue;
+    parts_->canvas.press(*element, 0, 0, MouseButton::Left);
+    parts_->canvas.move(*element, x, y, MouseButton::Left);
+  }
 }
 
 void Designer::sizeInHand(std::optional<float> width, std::optional<float> height) {

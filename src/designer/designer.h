@@ -79,6 +79,8 @@ public:
   /// An arrow key moves an element of the canvas by so many pixels: a left press at its corner and a move.
   /// Nudges of one element one directly behind the other are one step.
   void nudge(Element& element, int dxPixels, int dyPixels);
+  /// The same for several at once, as one step. One that stands within another of them moves with that.
+  void nudge(const std::vector<Element*>& elements, int dxPixels, int dyPixels);
   /// A handle gives the element in hand its size, each in twips: what Form6 has fields for is typed there,
   /// the height ahead of the width. Does nothing where the fields don't serve its Section. Sizes one directly
   /// behind the other are one step.

@@ -309,14 +309,23 @@ void CanvasWidget::endSizing() {
   scheduleRepaint();
 }
 
+// As far as it is in sight.
+std::vector<Element*> CanvasWidget::nudged() const {
+  std::vector<Element*> elements = hands_.overlay().elements();
+  Element* inHand = currentElement(state_);
+  if (elements.empty() && !outlineOf(inHand).isNull()) elements.push_back(inHand);
+  std::erase_if(elements, [this](const Element* element) { return hands_.overlay().isLocked(*element); });
+  return elements;
+}
+
 void CanvasWidget::keyPressEvent(QKeyEvent* event) {
   const std::optional<QPoint> direction = directionOf(event->key());
   const Qt::KeyboardModifiers held = event->modifiers() & ~Qt::KeypadModifier;
-  Element* element = currentElement(state_);
-  const bool isNudge = direction && (held == Qt::NoModifier || held == Qt::ShiftModifier);
-  if (!isNudge || !element || grabbed_ || outlineOf(element).isNull()) return QWidget::keyPressEvent(event);
+  const bool isNudge = direction && (held == Qt::NoModifier || held == Qt::ShiftModifier) && !grabbed_;
+  const std::vector<Element*> elements = isNudge ? nudged() : std::vector<Element*>();
+  if (elements.empty()) return QWidget::keyPressEvent(event);
   const QPoint way = *direction * (held == Qt::ShiftModifier ? kLongNudge : kNudge);
-  hands_.nudge(*element, way.x(), way.y());
+  hands_.nudge(elements, way.x(), way.y());
 }
 
 // A key that is held down is one gesture.

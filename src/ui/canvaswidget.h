@@ -94,6 +94,7 @@ private:
   void paintOverlay(QPainter& painter, const QRect& exposed) const;
   Element* sizable() const;
   Handle handleUnder(QPointF place) const;
+  std::vector<Element*> nudged() const;
   void drag(QPointF place, bool snaps);
   void sizeTo(QPointF place, bool snaps);
   void endSizing();

@@ -24,8 +24,8 @@ struct Gesture {
 };
 
 constexpr Gesture kCanvasKeys[] = {
-    {"Arrow keys", "Move what is in hand by a pixel"},
-    {"Shift+Arrow keys", "Move what is in hand by ten pixels"},
+    {"Arrow keys", "Move what is selected, else what is in hand, by a pixel"},
+    {"Shift+Arrow keys", "Move it by ten pixels"},
     {"Enter", "Click what is selected, else what is in hand"},
     {"Escape", "Select nothing; pick no colour"},
     {"Menu", "List all that lies beneath the pointer"},

@@ -63,8 +63,8 @@ void Operator::move(Element& element, float x, float y, MouseButton button) {
   act([&] { designer_.move(element, x, y, button); });
 }
 
-void Operator::nudge(Element& element, int dxPixels, int dyPixels) {
-  designer_.nudge(element, dxPixels, dyPixels);
+void Operator::nudge(const std::vector<Element*>& elements, int dxPixels, int dyPixels) {
+  designer_.nudge(elements, dxPixels, dyPixels);
   Q_EMIT acted();
 }
 

@@ -40,8 +40,8 @@ public:
   void move(Element& element, float x, float y, MouseButton button);
   /// The button was released: what comes next is another gesture.
   void release() { designer_.history().settle(); }
-  /// An arrow key moves the element by so many pixels.
-  void nudge(Element& element, int dxPixels, int dyPixels);
+  /// An arrow key moves the elements by so many pixels.
+  void nudge(const std::vector<Element*>& elements, int dxPixels, int dyPixels);
   /// A handle gives the element in hand its size; twips.
   void sizeInHand(std::optional<float> width, std::optional<float> height);
   /// A handle gives the canvas window its size; twips.

@@ -7,6 +7,7 @@
 #include "canvas/screens.h"
 #include "designer/restoredstate.h"
 #include "designer/skinfixture.h"
+#include "painting/hittest.h"
 #include "panels/textureslots.h"
 
 namespace veneerer {
@@ -66,6 +67,15 @@ TEST_F(Undo, ANudgeIsAPressAndAMoveInOneStep) {
   EXPECT_EQ(history.stack().count(), 1);
   designer->nudge(form1().lvButtons_H1[3], 0, 1);
   EXPECT_EQ(history.stack().count(), 2) << "another element is another step";
+  history.settle();
+  Label& within = form1().Label16[3];
+  const float from = button.left();
+  const QPointF seen = windowRect(within).topLeft();
+  designer->nudge({within.container(), &within, &button}, 2, 0);
+  EXPECT_EQ(history.stack().count(), 3) << "several are one step";
+  EXPECT_EQ(button.left(), from + 30);
+  EXPECT_EQ(windowRect(within).topLeft() - seen, QPointF(30, 0))
+      << "what stands in another of them moves with that";
   Button& fixed = *form1().lvButtons_H20;
   const float place = fixed.left();
   designer->nudge(fixed, 5, 5);

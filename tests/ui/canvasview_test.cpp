@@ -179,10 +179,17 @@ TEST_F(View, TheArrowKeysNudgeWhatIsInHand) {
   for (int i = 0; i < 5; ++i) QTest::keyPress(&canvas(), Qt::Key_Left);
   QTest::keyRelease(&canvas(), Qt::Key_Left);
   EXPECT_EQ(steps(), before + 3) << "a key that is held is one step";
+  Button& other = form1().lvButtons_H1[3];
+  const QPointF places(button.left(), other.left());
+  designer->overlay().select({&button, &other});
+  QTest::keyClick(&canvas(), Qt::Key_Right);
+  EXPECT_EQ(QPointF(button.left(), other.left()) - places, QPointF(15, 15)) << "all that is selected";
+  EXPECT_EQ(steps(), before + 4);
+  designer->overlay().clear();
   form6().Combo6->select(5);
   button.container()->setVisible(false);
   QTest::keyClick(&canvas(), Qt::Key_Left);
-  EXPECT_EQ(steps(), before + 3) << "what can't be seen stays";
+  EXPECT_EQ(steps(), before + 4) << "what can't be seen stays";
 }
 
 TEST_F(View, HandlesTypeTheSizeOfWhatIsInHand) {
