@@ -23,9 +23,10 @@ public:
   void toggle(Element& element);
   void clear() { select({}); }
 
-  /// A locked element isn't grabbed by the mouse.
+  /// A locked element isn't grabbed by the mouse, and neither handles nor arrow keys reach it.
   bool isLocked(const Element& element) const { return locked_.contains(&element); }
   void lock(const Element& element, bool isLocked);
+  const QSet<const Element*>& locked() const { return locked_; }
 
   /// Who shows it; there is one at most.
   void setListener(std::function<void()> listener) { listener_ = std::move(listener); }

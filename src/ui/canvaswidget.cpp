@@ -214,11 +214,12 @@ QList<QRect> CanvasWidget::selectedOutlines() const {
   return outlines;
 }
 
-QList<QRect> CanvasWidget::badges() const {
+template <class Elements>
+QList<QRect> CanvasWidget::badges(const Elements& of, QRect (*place)(const QRect&)) const {
   QList<QRect> badges;
-  for (const Element* element : disk_.missing())
+  for (const Element* element : of)
     if (&element->window() == &state_.form1 && element->family() && isShown(*element))
-      badges.append(badgeRect(placeOf(*element)));
+      badges.append(place(placeOf(*element)));
   // A set has no order, and marks are compared.
   std::ranges::sort(badges, {}, [](const QRect& badge) { return std::pair(badge.y(), badge.x()); });
   return badges;
@@ -226,12 +227,14 @@ QList<QRect> CanvasWidget::badges() const {
 
 CanvasMarks CanvasWidget::marks() const {
   CanvasMarks made;
-  made.badges = badges();
+  made.badges = badges(disk_.missing(), badgeRect);
+  made.locks = badges(hands_.overlay().locked(), lockRect);
   made.selected = selectedOutlines();
   made.band = band_;
   const Element* element = outlined();
   made.outline = outlineOf(element);
-  if (pointed_ && pointed_ != element && !grabbed_) made.hover = outlineOf(pointed_);
+  const bool canBeTaken = pointed_ && !hands_.overlay().isLocked(*pointed_);
+  if (canBeTaken && pointed_ != element && !grabbed_) made.hover = outlineOf(pointed_);
   if (!grabbed_ && sizable() && !made.outline.isNull())
     for (const Handle handle : kHandles) made.handles.append(handleRect(handle, made.outline, rect()));
   const bool isChanging = isDragged_ || sizing_.isOn();
@@ -249,7 +252,8 @@ void CanvasWidget::paintOverlay(QPainter& painter, const QRect& exposed) const {
 // The element in hand when its size can be set.
 Element* CanvasWidget::sizable() const {
   Element* element = currentElement(state_, ToolField::Size);
-  return element && &element->window() == &state_.form1 && isShown(*element) ? element : nullptr;
+  const bool isSeen = element && &element->window() == &state_.form1 && isShown(*element);
+  return isSeen && !hands_.overlay().isLocked(*element) ? element : nullptr;
 }
 
 Handle CanvasWidget::handleUnder(QPointF place) const {

@@ -19,9 +19,9 @@ namespace veneerer {
 /// Paints what has changed, and turns the mouse into clicks, presses and moves of the elements under it. An
 /// element that takes a left press keeps the mouse until the button is released. An outline that isn't part
 /// of the Skin marks the element that is held, else the one in hand; handles on it feed the fields of its
-/// height and width, and the arrow keys nudge it. A thin one marks what a press would take. While an element
-/// is dragged or sized, lines show what it agrees with; with Ctrl held it snaps to them. A mock-up may lie
-/// over it all.
+/// height and width. The arrow keys nudge what is selected, else what is in hand. A thin outline marks what a
+/// press would take, a padlock what is locked. While an element is dragged or sized, lines show what it
+/// agrees with; with Ctrl held it snaps to them. A mock-up may lie over it all.
 class CanvasWidget : public QWidget {
   Q_OBJECT
 
@@ -89,7 +89,8 @@ private:
   const Element* outlined() const;
   QRect outlineOf(const Element* element) const;
   QList<QRect> selectedOutlines() const;
-  QList<QRect> badges() const;
+  template <class Elements>
+  QList<QRect> badges(const Elements& of, QRect (*place)(const QRect&)) const;
   CanvasMarks marks() const;
   void paintOverlay(QPainter& painter, const QRect& exposed) const;
   Element* sizable() const;

@@ -1,5 +1,7 @@
 #include "ui/editcommands.h"
 
+#include <algorithm>
+
 #include "canvas/sections.h"
 #include "editing/walking.h"
 
@@ -7,16 +9,40 @@ namespace veneerer {
 
 namespace {
 
-template <class F>
-void add(QMenu& menu, const char* text, const char* tip, Operator& hands, std::size_t least, F act) {
+template <class Can, class Act>
+void addWhere(QMenu& menu, const char* text, const char* tip, Operator& hands, Can can, Act act) {
   QAction* action = menu.addAction(QString::fromLatin1(text));
   action->setStatusTip(QString::fromLatin1(tip));
-  const auto enable = [action, &hands, least] {
-    action->setEnabled(hands.overlay().elements().size() >= least);
-  };
+  const auto enable = [action, can] { action->setEnabled(can()); };
   enable();
   QObject::connect(&hands, &Operator::selected, action, enable);
+  QObject::connect(&hands, &Operator::acted, action, enable);
   QObject::connect(action, &QAction::triggered, action, act);
+}
+
+template <class F>
+void add(QMenu& menu, const char* text, const char* tip, Operator& hands, std::size_t least, F act) {
+  addWhere(
+      menu, text, tip, hands, [&hands, least] { return hands.overlay().elements().size() >= least; }, act);
+}
+
+// What is selected, else what is in hand on the canvas.
+std::vector<Element*> chosen(Operator& hands) {
+  if (!hands.overlay().elements().empty()) return hands.overlay().elements();
+  Element* inHand = currentElement(hands.state());
+  const bool isOnCanvas = inHand && &inHand->window() == &hands.state().form1;
+  return isOnCanvas ? std::vector<Element*>{inHand} : std::vector<Element*>();
+}
+
+// Offered where it would change something.
+void addLock(QMenu& menu, const char* text, const char* tip, Operator& hands, bool locks) {
+  const auto can = [&hands, locks] {
+    return std::ranges::any_of(
+        chosen(hands), [&](const Element* element) { return hands.overlay().isLocked(*element) != locks; });
+  };
+  addWhere(menu, text, tip, hands, can, [&hands, locks] {
+    for (const Element* element : chosen(hands)) hands.overlay().lock(*element, locks);
+  });
 }
 
 void addAligning(QMenu& menu, Operator& hands) {
@@ -73,12 +99,10 @@ void addEditCommands(QMenu& menu, Operator& hands) {
   add(size, "&Width", kSize, hands, 2, [&hands] { hands.makeSameSize(Sides::Width); });
   add(size, "&Height", kSize, hands, 2, [&hands] { hands.makeSameSize(Sides::Height); });
   add(size, "&Both", kSize, hands, 2, [&hands] { hands.makeSameSize(Sides::Both); });
-  const auto lock = [&hands](bool isLocked) {
-    for (const Element* element : hands.overlay().elements()) hands.overlay().lock(*element, isLocked);
-  };
-  add(menu, "&Lock", "Keep what is selected from being grabbed by the mouse", hands, 1,
-      [lock] { lock(true); });
-  add(menu, "Unloc&k", "Let what is selected be grabbed again", hands, 1, [lock] { lock(false); });
+  addLock(menu, "&Lock", "Keep what is selected, else what is in hand, from being moved and sized", hands,
+          true);
+  addLock(menu, "Unloc&k", "Let what is selected, else what is in hand, be moved and sized again", hands,
+          false);
   addWalking(menu, hands);
   add(menu, "Select &Nothing", "Empty the selection on the overlay", hands, 1,
       [&hands] { hands.overlay().clear(); });

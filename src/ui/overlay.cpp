@@ -98,7 +98,7 @@ QRegion CanvasMarks::region() const {
   for (const QRect& each : selected) region += frame(each);
   region += reach(band);
   for (const QRect& handle : handles) region += reach(handle);
-  for (const QRect& badge : badges) region += reach(badge);
+  for (const QRect& badge : badges + locks) region += reach(badge);
   for (const QLine& line : lines) region += reach(boundsOf(line));
   for (const Way& way : ways) region += QRegion(reach(boundsOf(way.line))) + reach(labelRect(way));
   return region;
@@ -106,6 +106,7 @@ QRegion CanvasMarks::region() const {
 
 void CanvasMarks::paint(QPainter& painter) const {
   for (const QRect& badge : badges) paintBadge(painter, badge);
+  for (const QRect& lock : locks) paintLock(painter, lock);
   painter.setBrush(Qt::NoBrush);
   if (!hover.isNull()) {
     painter.setPen(QPen(kHoverColour, 1));

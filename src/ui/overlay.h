@@ -32,6 +32,7 @@ struct CanvasMarks {
   QList<QLine> lines;     ///< on which edges and centres agree
   QList<Way> ways;        ///< to the next neighbours
   QList<QRect> badges;    ///< of what misses its picture
+  QList<QRect> locks;     ///< of what is locked
 
   bool operator==(const CanvasMarks&) const = default;
 

@@ -1,6 +1,7 @@
 // Selecting on the overlay, with the real mouse.
 #include <QMenu>
 
+#include "ui/canvaswidget.h"
 #include "ui/uifixture.h"
 
 namespace veneerer {
@@ -87,11 +88,23 @@ TEST_F(Overlay, NothingElseStaysSelectedThanWhatIsTakenInHandAndSeen) {
   EXPECT_EQ(selected(), std::vector<Element*>{&button}) << "the frame is always in sight";
 }
 
-TEST_F(Overlay, WhatIsLockedIsntGrabbed) {
+TEST_F(Overlay, WhatIsLockedIsNeitherGrabbedNorMovedNorSized) {
   Button& button = form1().lvButtons_H1[2];
-  designer->overlay().lock(button, true);
   QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(button));
-  EXPECT_EQ(state().globals.SectionNumber, 0);
+  QTest::qWait(1);
+  const QRect outline = static_cast<CanvasWidget&>(canvas()).outline();
+  EXPECT_FALSE(menuEntry("Unloc&k").isEnabled());
+  trigger("&Lock");
+  EXPECT_FALSE(menuEntry("&Lock").isEnabled());
+  const QRectF before = windowRect(button);
+  QTest::keyClick(&canvas(), Qt::Key_Right);
+  drag(middle(button), QPoint(30, 0));
+  drag(handleRect(Handle::Bottom, outline, canvas().rect()).center(), QPoint(0, 30));
+  EXPECT_EQ(windowRect(button), before);
+  QTest::mouseClick(&canvas(), Qt::LeftButton, Qt::ShiftModifier, middle(button));
+  trigger("Unloc&k");
+  QTest::keyClick(&canvas(), Qt::Key_Right);
+  EXPECT_EQ(windowRect(button), before.translated(15, 0));
 }
 
 }  // namespace
