@@ -243,6 +243,16 @@ CanvasMarks CanvasWidget::marks() const {
   return made;
 }
 
+QColor CanvasWidget::colourAt(QPoint place) {
+  QImage pixel(1, 1, QImage::Format_RGB32);
+  QPainter painter(&pixel);
+  painter.translate(-place);
+  surface_.painter().setHovered(nullptr);
+  surface_.paint(painter, QRect(place, QSize(1, 1)));
+  surface_.painter().setHovered(pointed_);
+  return pixel.pixelColor(0, 0);
+}
+
 void CanvasWidget::paintOverlay(QPainter& painter, const QRect& exposed) const {
   paintGrid(painter, exposed, grid_, zoom());
   paintGuides(painter, exposed, guides_, zoom());

@@ -56,6 +56,9 @@ public:
   /// Where an element is shown, pixels of this widget.
   QRect placeOf(const Element& element) const;
 
+  /// The colour of the canvas at that place, without all that lies over it and as if nothing were pointed at.
+  QColor colourAt(QPoint place);
+
   /// The outline of the element in hand, pixels of this widget; null for none.
   QRect outline() const { return marks_.outline; }
 

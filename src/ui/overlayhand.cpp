@@ -163,10 +163,10 @@ void OverlayHand::listBeneath(QPoint place) {
 }
 
 void OverlayHand::pickAt(QPoint place) {
-  const QImage pixel = canvas_.grab(QRect(place, QSize(1, 1))).toImage();
+  const Colour colour = Colour::of(canvas_.colourAt(place));
   const auto picked = std::exchange(picked_, nullptr);
   endPicking();
-  if (!pixel.isNull()) picked(Colour::of(pixel.pixelColor(0, 0)));
+  picked(colour);
 }
 
 void OverlayHand::endPicking() {

@@ -1,6 +1,8 @@
 // Selecting on the overlay, with the real mouse.
 #include <QMenu>
+#include <QPainter>
 
+#include "painting/canvaspainter.h"
 #include "ui/canvaswidget.h"
 #include "ui/uifixture.h"
 
@@ -105,6 +107,24 @@ TEST_F(Overlay, WhatIsLockedIsNeitherGrabbedNorMovedNorSized) {
   trigger("Unloc&k");
   QTest::keyClick(&canvas(), Qt::Key_Right);
   EXPECT_EQ(windowRect(button), before.translated(15, 0));
+}
+
+TEST_F(Overlay, TheEyedropperSeesTheCanvasAlone) {
+  Button& button = form1().lvButtons_H1[2];
+  const QPoint edge = (windowRect(button).topLeft() / 15).toPoint() + QPoint(9, 0);
+  QImage painted(canvas().size(), QImage::Format_RGB32);
+  QPainter painter(&painted);
+  CanvasPainter().paint(painter, form1(), painted.rect(), 1.0 / 15, 1.0 / 15);
+  designer->overlay().select({&button});
+  QTest::mouseMove(&canvas(), edge);
+  QTest::qWait(1);
+  const QRgb seen = canvas().grab(QRect(edge, QSize(1, 1))).toImage().pixel(0, 0);
+  ASSERT_NE(seen, painted.pixel(edge)) << "the mark of the selection lies there";
+  std::optional<Colour> picked;
+  static_cast<CanvasWidget&>(canvas()).hands().pickColour([&](Colour colour) { picked = colour; });
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, edge);
+  EXPECT_EQ(picked, Colour::of(painted.pixelColor(edge)));
+  EXPECT_EQ(selected(), std::vector<Element*>{&button}) << "it is no press";
 }
 
 }  // namespace
