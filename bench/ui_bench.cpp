@@ -17,17 +17,28 @@
 
 #include "designer/designer.h"
 #include "painting/hittest.h"
+#include "recolouring/storedcolours.h"
 #include "support/scriptedplatform.h"
 #include "ui/designerwindows.h"
 
 namespace veneerer {
 namespace {
 
-// A started program with its windows on the screen.
-struct Program {
-  Program() {
+// A started program.
+struct Started {
+  Started() {
     world.platform.folder = ProgramFolder{QStringLiteral(VENEERER_SOURCE_DIR)};
     designer.startUp();
+  }
+
+  test::ScriptedPlatform world{ScriptedDialogs::Unexpected::Agree};
+  Designer designer{world.platform};
+  DesignerWindows windows{designer};
+};
+
+// With its windows on the screen.
+struct Program : Started {
+  Program() {
     settle();
     canvas = find(QStringLiteral("canvas"));
   }
@@ -45,9 +56,6 @@ struct Program {
     QApplication::sendEvent(canvas, &event);
   }
 
-  test::ScriptedPlatform world{ScriptedDialogs::Unexpected::Agree};
-  Designer designer{world.platform};
-  DesignerWindows windows{designer};
   QWidget* canvas = nullptr;
 };
 
@@ -112,6 +120,58 @@ void copyColoursOverAll(benchmark::State& run) {
   }
 }
 BENCHMARK(copyColoursOverAll)->Unit(benchmark::kMillisecond);
+
+// The colours of the whole Skin turned, taken back and brought again by turns, each with its repaint of the
+// screen that has the most to paint.
+void undoOrRedoARecolouring(benchmark::State& run) {
+  Program program;
+  State& state = program.designer.state();
+  state.form6.Combo6->select(static_cast<int>(run.range(0)));
+  program.designer.recolour(recoloured(storedColours(state), ColourMap{{}, {.hue = 90}}));
+  for (int i = 0; i < 100; ++i) Program::settle();
+  bool isUndone = false;
+  for (auto _ : run) {
+    if (isUndone)
+      program.designer.history().redo();
+    else
+      program.designer.history().undo();
+    isUndone = !isUndone;
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(undoOrRedoARecolouring)->Arg(0)->Arg(3)->Arg(13)->Unit(benchmark::kMillisecond);
+
+// Tells that the canvas has been painted.
+class FirstPaint : public QObject {
+public:
+  FirstPaint() { qApp->installEventFilter(this); }
+  bool isOver() const { return isOver_; }
+
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool isOfCanvas =
+        event->type() == QEvent::Paint && watched->objectName() == QStringLiteral("canvas");
+    isOver_ = isOver_ || isOfCanvas;
+    return false;
+  }
+
+private:
+  bool isOver_ = false;
+};
+
+// The state, the Skin and the windows are made in a process that runs already.
+void startToFirstPaint(benchmark::State& run) {
+  for (auto _ : run) {
+    const FirstPaint first;
+    auto program = std::make_unique<Started>();
+    while (!first.isOver()) QCoreApplication::processEvents();
+    run.PauseTiming();
+    program.reset();
+    run.ResumeTiming();
+  }
+}
+BENCHMARK(startToFirstPaint)->Unit(benchmark::kMillisecond);
 
 class PaintWatch : public QObject {
 public:
