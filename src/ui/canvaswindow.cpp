@@ -14,6 +14,7 @@
 #include "ui/arrangement.h"
 #include "ui/editcommands.h"
 #include "ui/exchangecommands.h"
+#include "ui/helpcommands.h"
 #include "ui/inhandline.h"
 #include "ui/keys.h"
 #include "ui/keysheet.h"
@@ -220,6 +221,8 @@ void CanvasWindow::arrange() {
 
 void CanvasWindow::addHelpMenu() {
   QMenu* menu = menuBar()->addMenu(QStringLiteral("&Help"));
+  addHelpCommands(*menu, *this);
+  menu->addSeparator();
   QAction* keys =
       addCommand(menu, QStringLiteral("&Keyboard and Mouse"), {QKeySequence(Qt::SHIFT | Qt::Key_F1)},
                  QStringLiteral("List all keys and gestures"));

@@ -68,6 +68,7 @@ QString faultOfName(const Place& place, const QString& name) {
 /// What the operator types; nothing on cancel.
 std::optional<QString> askName(const Place& place, const QString& title) {
   QInputDialog dialog(&place.owner);
+  dialog.setObjectName(QStringLiteral("nameOfSkin"));
   dialog.setWindowTitle(title);
   dialog.setLabelText(QStringLiteral("Name of the new Skin:"));
   dialog.setTextValue(freeName(place, place.skinName() + QStringLiteral(" copy")));

@@ -73,6 +73,7 @@ void collect(const QList<W*>& widgets, QSet<QChar>& taken) {
 
 QGroupBox* makeFrame(const QString& title, QLayout* content) {
   auto* frame = new QGroupBox(title);
+  frame->setObjectName(title);
   frame->setLayout(content);
   return frame;
 }

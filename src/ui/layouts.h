@@ -7,7 +7,7 @@
 
 namespace veneerer {
 
-/// A titled frame around a layout.
+/// A titled frame around a layout, named by its title.
 QGroupBox* makeFrame(const QString& title, QLayout* content);
 
 /// A label that leads to the control beside it.

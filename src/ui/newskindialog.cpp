@@ -53,6 +53,7 @@ NewSkinDialog::NewSkinDialog(const QString& name, FaultOfName faultOfName, QWidg
       font_(new QComboBox),
       notes_(new QLabel),
       buttons_(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel)) {
+  setObjectName(QStringLiteral("newSkin"));
   setWindowTitle(QStringLiteral("New Skin"));
   buttons_->button(QDialogButtonBox::Ok)->setText(QStringLiteral("&Create"));
   auto* row = new QHBoxLayout;

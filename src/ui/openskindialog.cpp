@@ -100,6 +100,7 @@ OpenSkinDialog::OpenSkinDialog(Glancer& glancer, const QStringList& skins, const
       list_(new QListView),
       about_(new QLabel),
       buttons_(new QDialogButtonBox(QDialogButtonBox::Open | QDialogButtonBox::Cancel)) {
+  setObjectName(QStringLiteral("openSkin"));
   setWindowTitle(QStringLiteral("Open Skin"));
   setUpList();
   about_->setTextFormat(Qt::PlainText);

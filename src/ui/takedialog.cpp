@@ -19,6 +19,7 @@ constexpr QSize kSize(420, 340);  // pixels
 class TakeDialog : public QDialog {
 public:
   TakeDialog(Operator& hands, QWidget& owner) : QDialog(&owner), hands_(hands) {
+    setObjectName(QStringLiteral("takeLook"));
     setWindowTitle(QStringLiteral("Take from Another Skin"));
     resize(kSize);
     auto* column = new QVBoxLayout(this);
