@@ -28,6 +28,8 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("veneerer"));
   // There is no display name: the toolkit would hang it behind the title of every window.
   setApplicationVersion(programVersion());
+  // By its entry a desktop finds the icon of the windows.
+  setDesktopFileName(QStringLiteral("org.veneerer.Veneerer"));
   // No window is open for a moment between the splash and the others.
   setQuitOnLastWindowClosed(false);
 }
