@@ -21,7 +21,7 @@ public:
   void open(const QString& page);
   /// The next word that is typed is searched for.
   void openSearch();
-  /// From now on it stands in front of that window, and closes with it.
+  /// From now on it stands in front of that window, and can be used while that one takes all input.
   void belongTo(QWidget& owner);
 
 private:
