@@ -84,6 +84,8 @@ private:
     reader_.setFormat(decoderOf(format));
     reader_.setDevice(&buffer_);
     size_ = reader_.size();
+    // The decoder knows no size where the first frame is cut off, and decodes what there is of it.
+    if (!size_.isValid() && format == PictureFormat::Gif) size_ = gifSize(bytes_);
   }
 
   QByteArray bytes_;
@@ -93,6 +95,14 @@ private:
   qint64 work_ = 0;
   bool isWithinBounds_ = false;
 };
+
+bool fits(QSize size, QSize within) {
+  return size.width() <= within.width() && size.height() <= within.height();
+}
+
+QSize sizeWithin(QSize size, QSize within) {
+  return size.scaled(within, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+}
 
 }  // namespace
 
@@ -111,9 +121,11 @@ QImage decodeExactly(const QByteArray& bytes) {
 QImage decodeThumbnail(const QString& path, QSize within) {
   Decoder decoder(path);
   const QSize size = decoder.size();
-  const bool isSmall = size.width() <= within.width() && size.height() <= within.height();
-  if (size.isEmpty() || isSmall) return decoder.read(QSize());
-  return decoder.read(size.scaled(within, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+  const QImage image = decoder.read(fits(size, within) ? QSize() : sizeWithin(size, within));
+  // The head of a damaged file may tell another size than its picture has, or none.
+  return fits(image.size(), within) ? image
+                                    : image.scaled(sizeWithin(image.size(), within), Qt::IgnoreAspectRatio,
+                                                   Qt::SmoothTransformation);
 }
 
 PictureCost costOfPicture(const QString& path) {

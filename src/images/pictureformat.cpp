@@ -40,6 +40,13 @@ const char* decoderOf(PictureFormat format) {
   return kDecoders[static_cast<int>(format)];
 }
 
+QSize gifSize(const QByteArray& gif) {
+  constexpr qsizetype kSignature = 6;  // bytes
+  if (gif.size() < kSignature + 4) return {};
+  const char* const sides = gif.constData() + kSignature;
+  return {qFromLittleEndian<quint16>(sides), qFromLittleEndian<quint16>(sides + 2)};
+}
+
 void dropPngExtras(QByteArray& png) {
   constexpr qsizetype kAroundData = 12;  // length, type and check sum of a chunk, bytes
   char* const bytes = png.data();

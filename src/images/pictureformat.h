@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSize>
 
 namespace veneerer {
 
@@ -16,6 +17,9 @@ PictureFormat formatOf(const QByteArray& head);
 
 /// The format's name in terms of the decoders; null for None.
 const char* decoderOf(PictureFormat format);
+
+/// The size that the head of a GIF file tells, pixels; invalid where the file ends ahead of it.
+QSize gifSize(const QByteArray& gif);
 
 /// Takes away all chunks of a PNG file but those that its pixels are made of: texts and colour profiles can
 /// be a thousand times as large as they are in the file. Anything odd stays for the decoder to refuse.

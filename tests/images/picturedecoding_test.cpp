@@ -79,6 +79,16 @@ TEST_F(Decoding, APictureOfTooManyPixelsIsRefusedHoweverItIsPacked) {
   EXPECT_EQ(cost.size, QSize(8000, 6200));
 }
 
+// The decoder itself knows no size of one, and yet gives all of its pixels.
+TEST_F(Decoding, AGifThatIsCutOffIsWeighedLikeAnyOther) {
+  const auto cut = [](quint16 width, quint16 height) { return test::blinkingGif(width, height).left(60); };
+  EXPECT_EQ(decoded(cut(300, 200)).size(), QSize(300, 200));
+  EXPECT_EQ(costOfPicture(write(cut(300, 200))).work, 60 + 60'000);
+  EXPECT_EQ(decodeThumbnail(write(cut(300, 200)), {40, 30}).size(), QSize(40, 26));
+  EXPECT_TRUE(decoded(cut(8000, 6300)).isNull());
+  EXPECT_TRUE(decoded(cut(300, 200).left(9)).isNull());
+}
+
 TEST_F(Decoding, TheCostCountsBytesPixelsAndScans) {
   const auto work = [&](const QByteArray& bytes) { return costOfPicture(write(bytes)).work - bytes.size(); };
   EXPECT_EQ(work(test::blinkingGif(30, 20)), 600);
