@@ -1,6 +1,7 @@
 #include "recolouring/turnedbitmap.h"
 
 #include <QtEndian>
+#include <algorithm>
 #include <array>
 #include <bit>
 
@@ -13,6 +14,8 @@ constexpr qsizetype kFileHeader = 14;
 constexpr qsizetype kPixelsAt = 10;
 constexpr qsizetype kOldHeader = 12;
 constexpr qsizetype kHeader = 40;
+constexpr qsizetype kMasks = 12;
+constexpr std::array<qsizetype, 5> kHeaders = {kOldHeader, kHeader, 64, 108, 124};
 
 // How pixels are packed.
 constexpr quint32 kPlain = 0;
@@ -34,8 +37,15 @@ struct BitmapHead {
     packing = isOld ? kPlain : numberAt<quint32>(bytes, 30);
     colours = isOld ? 0 : numberAt<quint32>(bytes, 46);
     pixels = numberAt<quint32>(bytes, kPixelsAt);
+    hasPlace = pixels >= end();
+    // A decoder goes on behind the head where the file tells a place within.
+    if (!hasPlace) pixels = end() + (hasMasks() && size == kHeader ? kMasks : 0);
   }
 
+  /// Whether what is told stands where it is expected.
+  bool isKnown() const { return std::ranges::find(kHeaders, size) != kHeaders.end(); }
+  /// Where the head ends: behind it stand masks or the palette.
+  qsizetype end() const { return kFileHeader + size; }
   bool hasMasks() const { return packing == kByMasks || packing == kByMasksWithAlpha; }
   /// Bytes of a row, which ends with a whole group of four.
   qsizetype row() const { return (width * bits + 31) / 32 * 4; }
@@ -48,15 +58,15 @@ struct BitmapHead {
   quint32 packing;
   qsizetype colours;  ///< of the palette, 0 for as many as there may be
   qsizetype pixels;   ///< where they begin
+  bool hasPlace;      ///< the file tells it
 };
 
 bool turnPalette(QByteArray& bytes, const BitmapHead& head, PixelTurner& turner) {
   const qsizetype entry = head.isOld ? 3 : 4;
-  const qsizetype from = kFileHeader + head.size;
   const qsizetype most = qsizetype{1} << head.bits;
   const qsizetype told = head.colours == 0 ? most : std::min(head.colours, most);
-  const qsizetype room = std::max<qsizetype>(0, head.pixels - from) / entry;
-  return turner.turnEntries(bytes, from, std::min(told, room), entry, PixelTurner::Order::BlueFirst);
+  const qsizetype room = head.hasPlace ? (head.pixels - head.end()) / entry : told;
+  return turner.turnEntries(bytes, head.end(), std::min(told, room), entry, PixelTurner::Order::BlueFirst);
 }
 
 /// Calls for every row that the file has in full with the place where it begins.
@@ -126,6 +136,7 @@ std::optional<QByteArray> turnedBitmap(const QByteArray& bitmap, PixelTurner& tu
   QByteArray made = bitmap;
   const BitmapHead head(made);
   bool isOther = false;
+  if (!head.isKnown()) return QByteArray();
   if (head.bits <= 8)
     isOther = turnPalette(made, head, turner);
   else if (head.packing != kPlain && !head.hasMasks())

@@ -9,7 +9,7 @@
 namespace veneerer {
 
 /// The same file but for the colours of its palette or its pixels. Nothing where no colour changes; empty
-/// where its pixels are packed in a way that has no palette.
+/// where its head is of no known form, or its pixels are packed in a way that has no palette.
 std::optional<QByteArray> turnedBitmap(const QByteArray& bitmap, PixelTurner& turner, const Step& step);
 
 }  // namespace veneerer

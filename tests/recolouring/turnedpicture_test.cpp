@@ -148,6 +148,23 @@ TEST_F(TurnedPictures, OfABitmapOfSixteenBitsTheOtherBitsStay) {
   EXPECT_EQ(turned.bytes->mid(56), bytes.mid(56));
 }
 
+// A decoder goes on behind the head, so its bytes are no colours either.
+TEST_F(TurnedPictures, OfABitmapThatTellsAWrongPlaceTheHeadStays) {
+  for (const QImage::Format format : {QImage::Format_Indexed8, QImage::Format_RGB888}) {
+    colourful(format).save(path("a.bmp"));
+    QByteArray bytes = test::bytesOf(path("a.bmp"));
+    const QImage before(path("a.bmp"));
+    qToLittleEndian(quint32{20}, bytes.data() + 10);
+    const TurnedPicture turned = turnBytes(bytes);
+    ASSERT_TRUE(turned.bytes) << format;
+    EXPECT_EQ(turned.bytes->left(54), bytes.left(54));
+    EXPECT_EQ(decoded(*turned.bytes).convertToFormat(QImage::Format_ARGB32), expected(before)) << format;
+  }
+  QByteArray odd = test::bytesOf(path("a.bmp"));
+  odd[14] = 41;
+  EXPECT_FALSE(turnBytes(odd).bytes) << "a head of no known form";
+}
+
 TEST_F(TurnedPictures, AJpegKeepsItsQualityAndItsSampling) {
   cImage pixels;
   pixels.CopyPicture(colourful(QImage::Format_RGB32).scaled(640, 480));
