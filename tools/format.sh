@@ -7,4 +7,4 @@ source tools/setup.sh
 need_packages clang-format
 options=(-i)
 [[ "${1:-}" == --check ]] && options=(--dry-run --Werror)
-find src tests bench -name '*.h' -print0 -o -name '*.cpp' -print0 | xargs -0 clang-format "${options[@]}"
+find src tests bench fuzz -name '*.h' -print0 -o -name '*.cpp' -print0 | xargs -0 clang-format "${options[@]}"

@@ -1,0 +1,58 @@
+#include "fuzz/recordworld.h"
+
+#include <QTemporaryDir>
+
+#include "design/design.h"
+#include "elements/printable.h"
+#include "elements/require.h"
+#include "fuzz/smallpictures.h"
+#include "records/recorderror.h"
+#include "skin/lists.h"
+#include "support/files.h"
+#include "support/hostilepictures.h"
+
+namespace veneerer::fuzz {
+
+namespace {
+
+struct Folder {
+  Folder() {
+    test::writeBytes(top.filePath(QStringLiteral("images/a.png")), test::flatPng({9, 4}));
+    test::writeBytes(top.filePath(QStringLiteral("images/b.gif")), test::blinkingGif(2, 2));
+  }
+  QTemporaryDir top;
+};
+
+QString folderPath() {
+  static const Folder made;
+  return made.top.path();
+}
+
+}  // namespace
+
+RecordWorld::RecordWorld() : skin_{SkinFolder(folderPath()), {}, {}, PictureTrials(1024 * 1024)} {
+  applyBuiltInDesign(skin_.state);
+  fillFirstLists(skin_.state);
+  fillOtherLists(skin_.state);
+}
+
+bool RecordWorld::reads(const Layout& layout, const QByteArray& bytes) {
+  Loading load = loading();
+  try {
+    readRecords(layout, bytes, load);
+    return true;
+  } catch (const RecordError& error) {
+    require(error.message() == printable(error.message()), "a failure's message is printable");
+    require(error.message().size() <= 1000 && error.report().size() <= 20'000,
+            "a failure quotes no endless text");
+    require(error.line() >= 0, "a failure has a line");
+    return false;
+  }
+}
+
+Findings RecordWorld::check(const Layout& layout, const QByteArray& bytes) {
+  test::writeBytes(skin_.folder.file(layout.fileName()), bytes);
+  return checkFile(skin_, layout.fileName(), layout, FindingKind::Error);
+}
+
+}  // namespace veneerer::fuzz

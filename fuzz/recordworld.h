@@ -1,0 +1,28 @@
+// Elements that files are read into, outside of any designer.
+#pragma once
+
+#include "problems/filecheck.h"
+#include "records/layoutreader.h"
+
+namespace veneerer::fuzz {
+
+/// A Skin's folder with two pictures, and elements as the program has them before it loads.
+class RecordWorld {
+public:
+  RecordWorld();
+
+  const SkinFolder& folder() const { return skin_.folder; }
+  State& state() { return skin_.state; }
+  Loading loading() { return {skin_.state, skin_.folder, skin_.screen}; }
+
+  /// Reads the bytes as a load does. Requires the failure, if there is one, to be told in full. True when the
+  /// load goes on.
+  bool reads(const Layout& layout, const QByteArray& bytes);
+  /// What a check finds in a file of these bytes.
+  Findings check(const Layout& layout, const QByteArray& bytes);
+
+private:
+  CheckedSkin skin_;
+};
+
+}  // namespace veneerer::fuzz
