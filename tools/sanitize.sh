@@ -1,10 +1,38 @@
 #!/usr/bin/env bash
 # Runs all tests under AddressSanitizer and UBSan, in any order. Arguments go to the test programs.
+#   tools/sanitize.sh thread [ARGUMENT...]    ThreadSanitizer, over the tests of what uses a second thread
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh
 
 need_packages "${BUILD_PACKAGES[@]}" clang libclang-rt-dev
+
+# Of each program the tests that let a second thread work: decoding, the rescale, glances at Skins, and all
+# that the windows give away.
+readonly THREADED=(
+  "images PictureTest.*:Decoding.*:*Cache*"
+  "tools *Rescale*:*ImageStep*"
+  "gallery *"
+  "ui *Fetch*:*Background*:*Glance*:*OpenSkin*:*Compare*:*Export*:*Recolour*:*Outlook*:*Exchange*:*Follow*"
+)
+
+# run_threaded FOLDER FILTER ARGUMENT...
+run_threaded() {
+  local folder=$1 filter=$2
+  shift 2
+  "build/tsan/tests/test_$folder" --gtest_filter="$filter" --gtest_brief=1 "$@"
+}
+
+if [[ ${1:-} == thread ]]; then
+  shift
+  programs=("${THREADED[@]%% *}")
+  build tsan "${programs[@]/#/test_}"
+  export QT_QPA_PLATFORM=offscreen
+  export TSAN_OPTIONS=suppressions=$PWD/tools/tsan.supp:print_suppressions=0:second_deadlock_stack=1
+  for each in "${THREADED[@]}"; do run_threaded "${each%% *}" "${each#* }" "$@"; done
+  exit
+fi
+
 build asan
 export ASAN_OPTIONS=detect_leaks=1
 export LSAN_OPTIONS=suppressions=$PWD/tools/lsan.supp:print_suppressions=0
