@@ -4,6 +4,7 @@
 Usage: coverage_table.py SOURCES [FOLDER...] <SUMMARY, as llvm-cov export writes it
 """
 import json
+import os
 import sys
 from collections import defaultdict
 
@@ -11,8 +12,9 @@ from collections import defaultdict
 def main(sources, *wanted):
     lines, reached = defaultdict(int), defaultdict(int)
     for file in json.load(sys.stdin)['data'][0]['files']:
-        folder = file['filename'].removeprefix(sources).split('/')[0]
-        if not file['filename'].startswith(sources) or folder == 'ui' or wanted and folder not in wanted:
+        path = os.path.normpath(file['filename'])
+        folder = path.removeprefix(sources).split('/')[0]
+        if not path.startswith(sources) or folder == 'ui' or wanted and folder not in wanted:
             continue
         for name in (folder, 'all'):
             lines[name] += file['summary']['lines']['count']
