@@ -42,7 +42,7 @@ protected:
 
 TEST_F(Pictures, OfAllButtonsAreAsInTheManual) {
   ASSERT_EQ(run({"buttons", "--to", path("buttons.png")}), 0);
-  compare(QImage(path("buttons.png")), "docs/images/buttons.png");
+  compare(QImage(path("buttons.png")), "docs/manual/images/buttons.png");
 }
 
 TEST_F(Pictures, OfTheBuiltInDesignsScreensAreAsEver) {
