@@ -122,10 +122,11 @@ QList<std::pair<QString, QString>> membersOf(const QString& body) {
 bool isData(const QString& member) {
   static const QRegularExpression other(
       R"(^(friend|using|enum|class|struct \w+ ?[:{;]|template|static const|Q_))");
-  const QString head = member.section('{', 0, 0).section('=', 0, 0);
+  static const QRegularExpression arguments("<[^<>]*>");  // of a template, the innermost
   static const QRegularExpression call(R"(\w\()");
-  return !other.match(member).hasMatch() &&
-         !call.match(QString(head).remove(QRegularExpression("<.*>"))).hasMatch();
+  QString head = member.section('{', 0, 0).section('=', 0, 0);
+  while (head.contains(arguments)) head.remove(arguments);
+  return !other.match(member).hasMatch() && !call.match(head).hasMatch();
 }
 
 // A reader finds what a class offers first and what it is made of last.
