@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "canvas/screens.h"
+#include "editing/setting.h"
 #include "elements/require.h"
 #include "painting/canvassize.h"
 #include "painting/hittest.h"
@@ -215,7 +216,7 @@ void Hand::recolour() {
 
 void Hand::copyLook() {
   const Element& from = member(world_.state().form1);
-  designer_.copyLook(from, severalMembers());
+  designer_.pasteLook(lookOf(from), severalMembers());
 }
 
 void Hand::arrange() {
