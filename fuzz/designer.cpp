@@ -27,7 +27,7 @@ void requireSame(const test::RestoredState& one, const test::RestoredState& othe
 
 // The list of cover files follows the disk.
 test::RestoredState restored(World& world) {
-  return test::RestoredState(world.state(), &*world.state().form4.File1);
+  return test::RestoredState(world.state(), {&*world.state().form4.File1});
 }
 
 void undoesAndRedoesAll(World& world, const test::RestoredState& first) {

@@ -142,9 +142,9 @@ TEST_F(Undo, ALoadAndASaveAreTheCleanPlace) {
 TEST_F(Undo, OpeningASkinIsOneStepAndItsListIsNone) {
   makeSkin(QStringLiteral("U"));
   const ComboBox& skins = *form4().Combo3;
-  const test::RestoredState before(state(), &skins);
+  const test::RestoredState before(state(), {&skins});
   designer->openSkin(QStringLiteral("T"));
-  const test::RestoredState opened(state(), &skins);
+  const test::RestoredState opened(state(), {&skins});
   EXPECT_EQ(skins.list(), (QStringList{"S", "T", "U"}));
   EXPECT_EQ(skins.text(), u"T");
   EXPECT_NE(before.difference(opened), "");
@@ -153,11 +153,11 @@ TEST_F(Undo, OpeningASkinIsOneStepAndItsListIsNone) {
   EXPECT_EQ(steps.undoText(), u"Skin T");
   EXPECT_TRUE(steps.isClean());
   designer->history().undo();
-  EXPECT_EQ(before.difference(test::RestoredState(state(), &skins)), "");
+  EXPECT_EQ(before.difference(test::RestoredState(state(), {&skins})), "");
   EXPECT_EQ(skins.text(), u"S");
   EXPECT_EQ(skins.list(), (QStringList{"S", "T", "U"})) << "the list follows the disk";
   designer->history().redo();
-  EXPECT_EQ(opened.difference(test::RestoredState(state(), &skins)), "");
+  EXPECT_EQ(opened.difference(test::RestoredState(state(), {&skins})), "");
 }
 
 TEST_F(Undo, APictureIsReadAnew) {

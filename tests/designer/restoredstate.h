@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDir>
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -14,8 +15,8 @@ namespace veneerer::test {
 
 class RestoredState {
 public:
-  /// Without that element, when one is given.
-  explicit RestoredState(State& state, const Element* without = nullptr) : without_(without) {
+  /// Without those elements.
+  explicit RestoredState(State& state, const std::vector<const Element*>& without = {}) : without_(without) {
     std::vector<Window*> windows = state.windows();
     windows.insert(windows.end(), {&state.names, &state.globals});
     for (const Window* window : windows) {
@@ -38,13 +39,13 @@ public:
 
 private:
   void add(const State& state, const Element& element) {
-    if (&element == without_) return;
+    if (std::ranges::count(without_, &element) > 0) return;
     for (const PropertyDefault& each : propertiesOf(element.kind()))
       if (isRestored(state, element, each.property)) slots_.push_back({&element, each.property});
     if (!element.children().empty()) containers_.push_back(&element);
   }
 
-  const Element* without_;
+  std::vector<const Element*> without_;
   std::vector<std::pair<const Element*, Property>> slots_;
   std::vector<const Element*> containers_;
   std::vector<Value> values_;

@@ -182,8 +182,8 @@ protected:
     QTest::qWait(20);
   }
 
-  /// The list of cover files follows the disk.
-  test::RestoredState restored() { return test::RestoredState(state(), &*form4().File1); }
+  /// The lists of cover files and of Skins follow the disk.
+  test::RestoredState restored() { return test::RestoredState(state(), {&*form4().File1, &*form4().Combo3}); }
 
   std::mt19937 random{static_cast<unsigned>(given("VENEERER_MONKEY_SEED", 71))};
 
