@@ -18,7 +18,7 @@ class Help : public QObject {
 public:
   explicit Help(QWidget& main) : QObject(&main), main_(main) { qApp->installEventFilter(this); }
 
-  void openContents() { window().open(kManualIndex); }
+  void openContents() { window().openPage(kManualIndex); }
   void openSearch() { window().openSearch(); }
   void openHere() { openFor(QApplication::focusWidget()); }
 
@@ -30,7 +30,7 @@ protected:
   }
 
 private:
-  void openFor(const QWidget* widget) { window().open(helpPage(widget)); }
+  void openFor(const QWidget* widget) { window().openPage(helpPage(widget)); }
 
   HelpWindow& window() {
     QWidget* owner = QApplication::activeModalWidget();

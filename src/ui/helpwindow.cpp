@@ -147,7 +147,7 @@ void HelpWindow::pageChanged() {
     if ((*row)->data(0, kPage).toString() == browser_->page()) list_->setCurrentItem(*row);
 }
 
-void HelpWindow::open(const QString& page) {
+void HelpWindow::openPage(const QString& page) {
   browser_->showPage(page);
   browser_->setFocus();
   come();

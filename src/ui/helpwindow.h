@@ -18,7 +18,7 @@ public:
   explicit HelpWindow(QWidget* owner);
 
   /// Shows that page, and brings the window to the front.
-  void open(const QString& page);
+  void openPage(const QString& page);
   /// The next word that is typed is searched for.
   void openSearch();
   /// From now on it stands in front of that window, and can be used while that one takes all input.

@@ -124,7 +124,7 @@ TEST_F(Help, PicturesAreNoWiderThanTheView) {
   auto& browser = *help.findChild<HelpBrowser*>();
   for (const int width : {1100, 620}) {
     help.resize(width, 600);
-    help.open("workbench");
+    help.openPage("workbench");
     QTest::qWait(20);
     EXPECT_EQ(browser.horizontalScrollBar()->maximum(), 0) << width;
   }
