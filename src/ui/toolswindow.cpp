@@ -109,13 +109,13 @@ QLayout* colourInHandLayout(const Ui& ui, Form6& form) {
   auto* grid = new QGridLayout;
   grid->setSpacing(4);
   auto* swatch = new Swatch(ui, *form.Picture2);
-  grid->addWidget(makeLabel(QStringLiteral("Selected Colour:"), swatch), 0, 0, 1, 3);
+  grid->addWidget(makeLabel(QStringLiteral("Selected Colour:"), swatch), 0, 0, 1, 2);
   grid->addWidget(swatch, 1, 0);
   grid->addWidget(makeColourArrow(*swatch), 1, 1);
   QLineEdit* text = makeField(ui, *form.Text2);
   text->setAccessibleName(QStringLiteral("Colour"));
   text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  grid->addWidget(text, 1, 2);
+  grid->addWidget(text, 2, 0, 1, 2);
   return grid;
 }
 
