@@ -33,7 +33,7 @@ TEST_F(BackgroundWork, LeavesTheWindowsAliveAndHoldsBackTheirClosing) {
     while (!isAnswered) std::this_thread::yield();
   });
   EXPECT_TRUE(isStillOpen);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); })) << "it closes afterwards";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }, 60'000)) << "it closes afterwards";
 }
 
 TEST_F(BackgroundWork, ThrowsWhatTheWorkThrows) {

@@ -149,7 +149,7 @@ TEST_F(Bindings, OptionsReleaseEachOtherWhoeverSelectsThem) {
 
 TEST_F(Bindings, AListChoosesByAClickAndByTheKeys) {
   auto& fonts = widget<QListView>("Form6.List1");
-  ASSERT_TRUE(QTest::qWaitFor([this] { return form6().List1->list().size() > 2; }, 5000))
+  ASSERT_TRUE(QTest::qWaitFor([this] { return form6().List1->list().size() > 2; }, 60'000))
       << "the fonts of the screen";
   designer->click(form1().Label4[1]);
   const QModelIndex second = fonts.model()->index(1, 0);
@@ -171,7 +171,7 @@ TEST_F(Bindings, ADoubleClickOnACoverFileSparesTheQuestion) {
   EXPECT_TRUE(world.dialogs.messages.isEmpty());
   QTest::mouseClick(files.viewport(), Qt::LeftButton, {}, QPoint(second.x(), 3));
   QTest::keyClick(&files, Qt::Key_Down);
-  ASSERT_TRUE(QTest::qWaitFor([this] { return !world.dialogs.messages.isEmpty(); }, 5000));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !world.dialogs.messages.isEmpty(); }, 60'000));
   EXPECT_EQ(world.dialogs.messages.first().title.toStdString(), "Load Cover File");
 }
 

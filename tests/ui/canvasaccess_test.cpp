@@ -54,7 +54,7 @@ TEST_F(CanvasAccess, APressIsAClickOnWhatIsSeen) {
 TEST_F(CanvasAccess, TellsWhatTheKeysHaveLedTo) {
   canvas().window()->activateWindow();
   canvas().setFocus();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return canvas().hasFocus(); }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return canvas().hasFocus(); }, 60'000));
   QTest::keyClick(&canvas(), Qt::Key_Right, Qt::AltModifier);
   ASSERT_EQ(designer->overlay().elements().size(), 1);
   Element* first = designer->overlay().elements().front();

@@ -90,7 +90,7 @@ TEST_F(Compare, ListsWhatAnotherSkinHasOtherwiseAndShowsThePictures) {
   const QModelIndex row = rowOf(Column::File, "images/Menu.bmp");
   ASSERT_TRUE(row.isValid());
   clickRow(row);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return showsPictures(); }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return showsPictures(); }, 60'000));
   clickRow(rowOf(Column::Property, "Font Size"));
   EXPECT_FALSE(showsPictures());
   EXPECT_EQ(before.difference(test::RestoredState(state())), "");

@@ -132,7 +132,7 @@ TEST_F(PictureDialog, ShowsThePictureInSmall) {
     ASSERT_TRUE(preview);
     preview->showFile(at("elsewhere/b.bmp"));
     const auto picture = [&] { return preview->findChild<QLabel*>()->pixmap(); };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !picture().isNull(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !picture().isNull(); }, 60'000));
     shown = picture().size();
     preview->showFile(at("elsewhere"));
     EXPECT_TRUE(picture().isNull());

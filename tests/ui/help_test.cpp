@@ -25,7 +25,7 @@ protected:
   static void pressHelp(QWidget& widget) {
     widget.window()->activateWindow();
     widget.setFocus();
-    if (QTest::qWaitFor([&] { return widget.hasFocus(); })) QTest::keyClick(&widget, Qt::Key_F1);
+    if (QTest::qWaitFor([&] { return widget.hasFocus(); }, 60'000)) QTest::keyClick(&widget, Qt::Key_F1);
   }
   HelpWindow& window() {
     trigger("&Contents");
@@ -106,7 +106,7 @@ TEST_F(Help, ASearchListsPagesAndMarksTheWords) {
   HelpWindow& help = window();
   const int all = list(help).topLevelItemCount();
   trigger("&Search...");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return words(help).hasFocus(); }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return words(help).hasFocus(); }, 60'000));
   QTest::keyClicks(&words(help), "PixelsToTwipsAndBack");
   EXPECT_EQ(list(help).topLevelItem(0)->text(0), "Nothing is found");
   words(help).clear();

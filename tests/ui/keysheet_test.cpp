@@ -94,7 +94,7 @@ TEST_F(Keys, AKeyLeadsBackToTheCanvas) {
   window().activateWindow();
   auto& field = widget<QLineEdit>("Form6.Text1");
   field.setFocus();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return field.hasFocus(); }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return field.hasFocus(); }, 60'000));
   QTest::keyClick(&field, Qt::Key_E, Qt::ControlModifier);
   EXPECT_TRUE(canvas().hasFocus());
 }

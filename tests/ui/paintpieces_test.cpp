@@ -83,7 +83,7 @@ TEST_F(PiecewiseCanvas, OfASlowSkinIsCompleteInTheEnd) {
     }
   ASSERT_FALSE(shown().isNull());
   ASSERT_EQ(shown().size(), whole().size());
-  EXPECT_TRUE(QTest::qWaitFor([&] { return test::largestDifference(shown(), whole()) <= 8; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return test::largestDifference(shown(), whole()) <= 8; }, 60'000));
 }
 
 TEST_F(PiecewiseCanvas, IsScaledSmoothlyByAndBy) {
@@ -96,7 +96,7 @@ TEST_F(PiecewiseCanvas, IsScaledSmoothlyByAndBy) {
     cover.setPicture(Picture::drawn(grain(2000)));
   }
   QTest::qWait(1);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return test::largestDifference(shown(), whole()) <= 8; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return test::largestDifference(shown(), whole()) <= 8; }, 60'000));
 }
 
 }  // namespace

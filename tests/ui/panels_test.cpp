@@ -74,7 +74,7 @@ TEST_F(Panels, TheInspectorSetsWhatIsSelectedTogether) {
   designer->overlay().select({&first, &second});
   QAbstractItemModel& model = *viewIn<QTableView>("inspector").model();
   second.setWidth(first.width() + 15);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return row("Width").data() == QStringLiteral("(several)"); }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return row("Width").data() == QStringLiteral("(several)"); }, 60'000));
   model.setData(row("Width"), QStringLiteral("900"));
   EXPECT_EQ(first.width(), 900);
   EXPECT_EQ(second.width(), 900);
@@ -148,7 +148,7 @@ TEST_F(Panels, TheOutlineFindsSelectsAndClicks) {
   auto& tree = viewIn<QTreeView>("outline");
   auto& query = viewIn<QLineEdit>("outline");
   widget<QWidget>("Form1").activateWindow();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return query.hasFocus(); })) << "one can type at once";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return query.hasFocus(); }, 60'000)) << "one can type at once";
   QTest::keyClicks(&query, QStringLiteral("label16 3"));
   const auto& model = static_cast<const OutlineModel&>(*tree.model());
   const QModelIndex found = model.indexOf(form1().Label16[3]);
@@ -184,11 +184,11 @@ TEST_F(Panels, TheLineTellsTheElementInHandAndGoesThere) {
   const auto tells = [&](const char* text) {
     return line.findChild<QLabel*>()->accessibleName().contains(QLatin1String(text));
   };
-  EXPECT_TRUE(QTest::qWaitFor([&] { return tells("Label16(3)"); }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return tells("Label16(3)"); }, 60'000));
   EXPECT_FALSE(goThere->isHidden());
   goThere->click();
   EXPECT_TRUE(form1().Label16[3].container()->isVisible());
-  EXPECT_TRUE(QTest::qWaitFor([&] { return goThere->isHidden(); }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return goThere->isHidden(); }, 60'000));
 }
 
 }  // namespace

@@ -45,7 +45,7 @@ TEST_F(Fetching, ALargePictureIsPaintedWhenItIsThere) {
   Paints paints(canvas(), picture);
   cover.setPicture(picture);
   EXPECT_TRUE(picture.shown(kLarge).isNull());
-  EXPECT_TRUE(QTest::qWaitFor([&] { return paints.painted.contains(middle(cover)); }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return paints.painted.contains(middle(cover)); }, 60'000));
   EXPECT_EQ(canvas().grab().toImage().pixelColor(middle(cover)), QColor(Qt::black));
 }
 

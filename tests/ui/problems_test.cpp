@@ -69,7 +69,7 @@ TEST_F(Problems, AFieldTellsAtOnceWhatWouldNotComeBack) {
   auto& field = widget<QLineEdit>("Form6.Text1");
   field.window()->activateWindow();
   field.setFocus();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return field.hasFocus(); }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return field.hasFocus(); }, 60'000));
   field.selectAll();
   QTest::keyClicks(&field, "Stop");
   EXPECT_EQ(note(), "");

@@ -72,7 +72,7 @@ TEST_F(Windows, TheCanvasHasTheKeysAtTheEndOfTheStart) {
   const auto nameOf = [](const QWidget* one) {
     return one ? one->objectName().toStdString() : std::string();
   };
-  EXPECT_TRUE(QTest::qWaitFor([&] { return nameOf(QApplication::activeWindow()) == "Form1"; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return nameOf(QApplication::activeWindow()) == "Form1"; }, 60'000));
   EXPECT_EQ(nameOf(QApplication::focusWidget()), "canvas");
 }
 
@@ -131,10 +131,10 @@ TEST_F(Windows, ThumbnailsFollowTheirPicturesAndBearBrokenOnes) {
   const auto shown = [&] { return thumbnail.grab().toImage(); };
   const QPoint centre = thumbnail.rect().center();
   form5().Image1[3].setPicture(state().pictures.load(path("images/green.png")));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return shown().pixelColor(centre) == QColor(Qt::green); }, 5000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown().pixelColor(centre) == QColor(Qt::green); }, 60'000));
   EXPECT_NE(shown().pixelColor(centre.x(), 4), QColor(Qt::green)) << "it keeps its proportions";
   form5().Image1[3].setPicture(state().pictures.load(path("images/bad.png")));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return shown().pixelColor(centre) != QColor(Qt::green); }, 5000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown().pixelColor(centre) != QColor(Qt::green); }, 60'000));
 }
 
 TEST_F(Windows, ThumbnailsAreReadInADarkThemeAndTellFocusFromHover) {
@@ -153,7 +153,7 @@ TEST_F(Windows, ThumbnailsAreReadInADarkThemeAndTellFocusFromHover) {
   thumbnail.setAttribute(Qt::WA_UnderMouse, false);
   thumbnail.window()->activateWindow();
   thumbnail.setFocus();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return thumbnail.hasFocus(); }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return thumbnail.hasFocus(); }, 60'000));
   const QImage focused = thumbnail.grab().toImage();
   EXPECT_TRUE(plain != hovered && plain != focused && hovered != focused);
 }
@@ -200,7 +200,7 @@ TEST_F(Windows, TheMenuUndoesAndTellsWhat) {
   EXPECT_EQ(undo->text(), QStringLiteral("&Undo Skin Resolution"));
   EXPECT_TRUE(canvasWindow.isWindowModified());
   field.window()->activateWindow();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return field.hasFocus(); }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return field.hasFocus(); }, 60'000));
   QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(form4().Text1[0].text(), before) << "the whole burst, not a letter";
   EXPECT_EQ(field.text(), before);
