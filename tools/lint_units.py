@@ -31,11 +31,12 @@ def options_of(command):
     return tuple(words[start:end]) + ('-Wno-unknown-warning-option',)
 
 
-def units_of(commands, patterns):
+def units_of(commands, patterns, build):
     by_options = {}
+    made = os.path.abspath(build) + os.sep
     for command in sorted(commands, key=lambda c: c['file']):
         path = command['file']
-        if '/src/' in path and '_autogen/' not in path and any(p.search(path) for p in patterns):
+        if '/src/' in path and not path.startswith(made) and any(p.search(path) for p in patterns):
             by_options.setdefault(options_of(command['command']), []).append(path)
     for options, sources in by_options.items():
         for i in range(0, len(sources), UNIT):
@@ -60,7 +61,7 @@ def analyse(folder, options, sources):
 def main(build, *expressions):
     with open(os.path.join(build, 'compile_commands.json'), encoding='utf-8') as file:
         commands = json.load(file)
-    units = list(units_of(commands, [re.compile(e) for e in expressions or ['']]))
+    units = list(units_of(commands, [re.compile(e) for e in expressions or ['']], build))
     if not units:
         sys.exit('No source matches.')
     # Beside the settings of the analysis, which are looked for from the source's folder upwards.

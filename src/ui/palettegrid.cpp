@@ -56,7 +56,7 @@ int stepOf(int key) {
 
 }  // namespace
 
-PaletteGrid::PaletteGrid(const std::vector<ColourUse>& uses, std::function<void(Colour)> chosen) {
+PaletteGrid::PaletteGrid(const std::vector<ColourUse>& uses, const std::function<void(Colour)>& chosen) {
   auto* grid = new QGridLayout(this);
   grid->setSpacing(2);
   for (const ColourUse& use : uses) {

@@ -14,7 +14,7 @@ namespace veneerer {
 class PaletteGrid : public QWidget {
 public:
   /// At least one colour.
-  PaletteGrid(const std::vector<ColourUse>& uses, std::function<void(Colour)> chosen);
+  PaletteGrid(const std::vector<ColourUse>& uses, const std::function<void(Colour)>& chosen);
 
 protected:
   bool eventFilter(QObject* chip, QEvent* event) override;
