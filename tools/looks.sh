@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # Draws every look in many sizes and random colours: the check must have nothing to say, and a load and save must
-# change no byte. usage: tools/looks.sh [SKINTOOL [TRIPLES [SEED]]]; without TRIPLES, the look's colours and 3 more.
+# change no byte. usage: [SIZES="640x480 1080x1920"] tools/looks.sh [SKINTOOL [TRIPLES [SEED]]]; without TRIPLES, the
+# look's colours and 3 more.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 tool=${1:-build/release/src/skintool}
 triples=${2:-3}
 seed=${3:-1}
-sizes="640x480 800x600 1024x768 1080x1920 1920x1080 2560x1080 3840x2160"
+sizes=${SIZES:-640x480 800x600 1024x768 1080x1920 1920x1080 2560x1080 3840x2160}
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 export tool work
