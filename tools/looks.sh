@@ -31,7 +31,8 @@ wishes() {
 try() {
   local options folder
   IFS='|' read -ra options <<<"$1"
-  folder=$(mktemp -d "$work/XXXXXX")
+  # Ended from outside, there is no folder any more: nothing must be written elsewhere.
+  folder=$(mktemp -d "$work/XXXXXX") || exit 255
   "$tool" new "$folder/skin" "${options[@]}" 2>/dev/null || echo "not drawn" >"$folder/findings"
   "$tool" check --design "$folder/skin" >>"$folder/findings" || true
   cp -r "$folder/skin" "$folder/before"
