@@ -31,7 +31,7 @@ void paintSlats(QPainter& painter, const QRectF& area, const QColor& ink) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(ink);
   for (double x = area.left(); x < area.right(); x += 4)
-    painter.drawRect(QRectF(x, area.top(), 1, area.height()));
+    painter.fillRect(QRectF(x, area.top(), 1, area.height()), ink);
   for (int i = 0; i < 5; ++i) {
     const double left = area.left() + area.width() * (0.15 + 0.2 * i);
     const double width = area.width() * (0.03 + 0.015 * (i % 3));
