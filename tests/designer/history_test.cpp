@@ -16,9 +16,7 @@ namespace {
 class Undo : public test::SkinFixture {
 protected:
   void SetUp() override {
-    test::copyShippedSkin(QStringLiteral("Black_and_Blue_gif_V8.0(800x600)"), root.path(),
-                          QStringLiteral("S"));
-    test::copyShippedSkin(QStringLiteral("Copper_Lounge(1024x768)"), root.path(), QStringLiteral("T"));
+    test::copyTwoShippedSkins(root.path());
     start();
   }
 };

@@ -63,4 +63,10 @@ inline void copyShippedSkin(const QString& shipped, const QString& root, const Q
   }
 }
 
+/// The Skins S and T of that root, which differ in size and in nearly everything else.
+inline void copyTwoShippedSkins(const QString& root) {
+  copyShippedSkin(QStringLiteral("Black_and_Blue_gif_V8.0(800x600)"), root, QStringLiteral("S"));
+  copyShippedSkin(QStringLiteral("Copper_Lounge(1024x768)"), root, QStringLiteral("T"));
+}
+
 }  // namespace veneerer::test

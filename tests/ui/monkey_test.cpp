@@ -30,9 +30,7 @@ int given(const char* variable, int otherwise) {
 class Monkey : public test::UiFixture {
 protected:
   void SetUp() override {
-    test::copyShippedSkin(QStringLiteral("Black_and_Blue_gif_V8.0(800x600)"), root.path(),
-                          QStringLiteral("S"));
-    test::copyShippedSkin(QStringLiteral("Copper_Lounge(1024x768)"), root.path(), QStringLiteral("T"));
+    test::copyTwoShippedSkins(root.path());
     UiFixture::SetUp();
     QApplication::setDoubleClickInterval(2);
     // Menus and boxes would wait for ever.
