@@ -15,7 +15,7 @@ folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 mkdir "$folder/pictures"
 cp -r Skins images "$folder"
-build/release/tests/manualpictures "$folder" "$folder/pictures"
+build/release/tests/manualpictures manual "$folder" "$folder/pictures"
 build/release/src/skintool buttons --to "$folder/pictures/buttons.png"
 
 # A palette makes them a third as large; nothing of when they were made is left in them.
