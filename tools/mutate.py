@@ -254,8 +254,8 @@ def test(program, seconds=None):
 
 
 def programs():
-    folders = sorted(p.name for p in (TREE / 'tests').iterdir() if any(p.glob('*.cpp')))
-    return [f for f in folders if f not in NEVER and f != 'support']
+    folders = sorted(p.name for p in (TREE / 'tests').iterdir() if any(p.glob('*_test.cpp')))
+    return [f for f in folders if f not in NEVER]
 
 
 def binary(program):
