@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh
 
-need_packages "${BUILD_PACKAGES[@]}" clang-tidy python3
+need_packages "${BUILD_PACKAGES[@]}" clang clang-tidy python3
 # A configuration of its own, because precompiled headers are in GCC's format.
 cmake --preset release -B build/lint -DVENEERER_PCH=OFF -DVENEERER_TESTS=OFF >/dev/null
 python3 tools/lint_units.py build/lint "$@"

@@ -3,11 +3,14 @@
 
 Most of the analysis of one source goes into the headers of the libraries, so sources with the same options are
 put into units that include several of them. Two sources of a unit may have names of their own that are alike; a
-unit that doesn't compile is halved until it does.
+unit that doesn't compile is halved until it does. What nothing was found in isn't analysed again until any of it
+changes, its headers, the checks or the program that analyses.
 
 Usage: lint_units.py BUILD_FOLDER [REGEX...]     sources whose path matches any of the expressions
 Needs compile_commands.json in BUILD_FOLDER. Prints the findings; the status is 1 when there are any.
 """
+import functools
+import hashlib
 import json
 import os
 import re
@@ -16,6 +19,7 @@ import subprocess
 import sys
 import tempfile
 from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
 
 UNIT = 12  # sources; more would rather collide than save
 BROKEN = re.compile(r'\[clang-diagnostic-error\]')
@@ -43,6 +47,37 @@ def units_of(commands, patterns, build):
             yield options, sources[i:i + UNIT]
 
 
+CLEAN = Path(os.environ.get('XDG_CACHE_HOME') or Path.home() / '.cache', 'veneerer', 'lint')
+
+
+@functools.cache
+def settings():
+    """What the findings depend on beside the sources."""
+    version = subprocess.run(['clang-tidy', '--version'], capture_output=True, check=True).stdout
+    return version + Path('.clang-tidy').read_bytes()
+
+
+def mark_of(options, text):
+    """The file that is there when nothing was found in the text; None where the compiler doesn't get that far."""
+    # Comments are kept, since one may silence a check. Where the sources lie is of no account.
+    run = subprocess.run(['clang++', *options, '-E', '-C', '-P', '-x', 'c++', '-'], input=text.encode(),
+                         capture_output=True)
+    if run.returncode:
+        return None
+    return CLEAN / hashlib.sha256(settings() + run.stdout).hexdigest()
+
+
+def findings_in(folder, options, sources):
+    mark = mark_of(options, ''.join(f'#include "{source}"\n' for source in sources))
+    if mark and mark.exists():
+        return ''
+    found = analyse(folder, options, sources)
+    if mark and not found.strip():
+        CLEAN.mkdir(parents=True, exist_ok=True)
+        mark.touch()
+    return found
+
+
 def analyse(folder, options, sources):
     """The findings in the sources, as text."""
     with tempfile.NamedTemporaryFile('w', suffix='.cpp', dir=folder) as unit:
@@ -66,7 +101,7 @@ def main(build, *expressions):
         sys.exit('No source matches.')
     # Beside the settings of the analysis, which are looked for from the source's folder upwards.
     with tempfile.TemporaryDirectory(dir=build) as folder, ThreadPoolExecutor(os.cpu_count()) as pool:
-        findings = [text for text in pool.map(lambda unit: analyse(folder, *unit), units) if text.strip()]
+        findings = [text for text in pool.map(lambda unit: findings_in(folder, *unit), units) if text.strip()]
     print(''.join(findings), end='')
     sys.exit(bool(findings))
 
