@@ -32,7 +32,7 @@ SURVIVORS = HOME / 'survivors.json'
 REPORT = HOME / 'report.txt'
 USUAL = HOME / 'usual.json'
 
-LEFT_OUT = re.compile(r'src/(design|ui|looks/each)/|src/main\.cpp$|src/forms/(controltips|fieldlabels)')
+LEFT_OUT = re.compile(r'src/(design|ui|looks/each)/|/main\.cpp$|src/forms/(controltips|fieldlabels)')
 # Folders that have no test program of their own, and whose tests know them best.
 TESTED_BY = {'forms': 'elements', 'history': 'designer', 'panels': 'designer'}
 # The next ones to be asked; those that see most of the system.
