@@ -30,8 +30,21 @@ export UBSAN_OPTIONS=print_stacktrace=1
 # Files of the runs had better never touch a disk.
 TMPDIR=$(mktemp -d -p "$([[ -w /dev/shm ]] && echo /dev/shm || echo /tmp)")
 export TMPDIR
-trap 'rm -rf "$TMPDIR"' EXIT
+running=
+trap '[[ -z $running ]] || kill "$running" 2>/dev/null; rm -rf "$TMPDIR"' EXIT
+trap 'exit 130' INT TERM
 status=0
+
+# outcome STATUS LOG: of a fuzzer, in words.
+outcome() {
+  if grep -q 'Test unit written' "$2"; then
+    echo "FOUND something"
+  elif (($1)); then
+    echo "ENDED with status $1, which is no finding"
+  else
+    echo "nothing found"
+  fi
+}
 
 # fuzz TARGET: tells how many inputs were run, and the finding if there is one.
 fuzz() {
@@ -43,11 +56,14 @@ fuzz() {
     -print_final_stats=1
     -artifact_prefix="$findings/$target-" -max_len="$most_bytes")
   [[ -s $seeds.dict ]] && options+=(-dict="$seeds.dict")
-  local found=0
-  "$programs/fuzz_$target" "${options[@]}" "$corpus" "$seeds" >"$log" 2>&1 || found=1
+  local ended=0
+  "$programs/fuzz_$target" "${options[@]}" "$corpus" "$seeds" >"$log" 2>&1 &
+  running=$!
+  wait "$running" || ended=$?
+  running=
   echo "$target: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") inputs," \
-    "$(find "$corpus" -type f | wc -l) kept, $((found)) findings"
-  ((found)) || return 0
+    "$(find "$corpus" -type f | wc -l) kept, $(outcome "$ended" "$log")"
+  ((ended)) || return 0
   status=1
   grep -E '^(==|SUMMARY|internal error|.*runtime error|Test unit written)' "$log" | head -n 8
   echo "All of it stands in $log"
