@@ -9,6 +9,7 @@
 #include "designer/skinfixture.h"
 #include "painting/hittest.h"
 #include "panels/textureslots.h"
+#include "support/shippedskins.h"
 
 namespace veneerer {
 namespace {

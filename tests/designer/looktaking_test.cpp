@@ -3,6 +3,7 @@
 #include "designer/restoredstate.h"
 #include "designer/skinfixture.h"
 #include "support/pictures.h"
+#include "support/shippedskins.h"
 
 namespace veneerer {
 namespace {

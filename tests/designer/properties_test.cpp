@@ -1,4 +1,4 @@
-// The skin-wide choices; most of them are told by tests/cases.
+// What the textures of Form5 reach; the choices of Form4 are told by choices_test.cpp.
 #include <gtest/gtest.h>
 
 #include "designer/skinfixture.h"
@@ -10,15 +10,6 @@ class Properties : public test::SkinFixture {
 protected:
   Properties() { start(); }
 };
-
-TEST_F(Properties, AJumpToALetterIsOneOfFiveThings) {
-  for (int row = 0; row < 5; ++row) {
-    form4().Combo2->select(row);
-    const Element* const choices[] = {&form1().lvButtons_H3[1], &form1().Picture13[0], &form1().Picture13[1],
-                                      &form1().lvButtons_H38[26], &form1().lvButtons_H57[1]};
-    for (int i = 0; i < 5; ++i) EXPECT_EQ(choices[i]->isVisible(), i == row) << i << ' ' << row;
-  }
-}
 
 TEST_F(Properties, TexturesReachTheCanvasAndTheNames) {
   const QString picture = root.path() + "/back.bmp";

@@ -9,6 +9,7 @@
 #include "laws/law.h"
 #include "records/layoutreader.h"
 #include "skin/catalogue.h"
+#include "support/shippedskins.h"
 
 namespace veneerer {
 namespace {

@@ -2,6 +2,7 @@
 #include "designer/restoredstate.h"
 #include "designer/skinfixture.h"
 #include "laws/law.h"
+#include "support/shippedskins.h"
 
 namespace veneerer {
 namespace {

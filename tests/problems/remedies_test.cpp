@@ -6,6 +6,7 @@
 #include "panels/textureslots.h"
 #include "problems/problemswatch.h"
 #include "support/pictures.h"
+#include "support/shippedskins.h"
 
 namespace veneerer {
 namespace {

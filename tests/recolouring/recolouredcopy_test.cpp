@@ -10,6 +10,7 @@
 #include "exchange/skincopy.h"
 #include "recolouring/storedcolours.h"
 #include "support/pictures.h"
+#include "support/shippedskins.h"
 
 namespace veneerer {
 namespace {

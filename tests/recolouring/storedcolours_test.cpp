@@ -13,6 +13,7 @@
 #include "records/coverfile.h"
 #include "records/layoutwriter.h"
 #include "skin/skinsaver.h"
+#include "support/shippedskins.h"
 
 namespace veneerer {
 namespace {

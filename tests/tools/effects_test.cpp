@@ -5,70 +5,20 @@
 // numbers, and the elements of the canvas, or samples of Form6, that change, with their properties. A Section
 // stands twice, as "22:0" and "22:27", where another element in hand changes others. "The one in hand" is the
 // one clicked last.
+#include "support/effects.h"
+
 #include <QMap>
-#include <map>
-#include <set>
 
 #include "canvas/sections.h"
-#include "support/files.h"
 #include "tools/colourtools.h"
 #include "toolsfixture.h"
 
 namespace veneerer {
 
-namespace {
-
-using Changed = std::set<std::pair<const Element*, Property>>;
-
-/// As "(3)", "(0-5)" or "(0-5, 7)"; nothing for a single control.
-QString runs(QList<int> numbers) {
-  if (numbers == QList<int>{-1}) return {};
-  QStringList told;
-  std::ranges::sort(numbers);
-  for (qsizetype i = 0; i < numbers.size();) {
-    qsizetype last = i;
-    while (last + 1 < numbers.size() && numbers[last + 1] == numbers[last] + 1) ++last;
-    told << (i == last ? QString::number(numbers[i])
-                       : QStringLiteral("%1-%2").arg(numbers[i]).arg(numbers[last]));
-    i = last + 1;
-  }
-  return u'(' + told.join(", ") + u')';
-}
-
-/// The properties of one element.
-QString properties(Changed::const_iterator& at, Changed::const_iterator end) {
-  QStringList names;
-  for (const Element* element = at->first; at != end && at->first == element; ++at)
-    names << QString(propertyName(at->second));
-  return names.join(' ');
-}
-
-QString effect(const Changed& changed) {
-  QMap<QString, QMap<QString, QList<int>>> members;  // by the family and by what changes of them
-  for (auto at = changed.begin(); at != changed.end();) {
-    const Element& element = *at->first;
-    members[element.family()->name()][properties(at, changed.end())] << element.index();
-  }
-  QStringList told;
-  for (auto family = members.begin(); family != members.end(); ++family)
-    for (auto each = family->begin(); each != family->end(); ++each)
-      told << family.key() + runs(*each) + u' ' + each.key();
-  return told.join("; ");
-}
-
-}  // namespace
-
 class EffectsTest : public ToolsTest {
 protected:
-  using Acts = QList<std::pair<QString, std::function<void()>>>;
-
-  EffectsTest() {
-    state.board.recordWith([this](const Change& change) {
-      if (&change.element.window() == &form1 || isSample(change.element))
-        changes_.push_back({&change.element, change.property, change.oldValue});
-    });
-    for (const Section& section : sections()) all_.push_back(&section);
-  }
+  using Act = test::Effects::Act;
+  using Acts = QList<std::pair<QString, Act>>;
 
   Acts fields() {
     Acts acts;
@@ -85,7 +35,7 @@ protected:
   Acts colours() {
     Acts acts;
     for (int option = 0; option < 3; ++option) {
-      const auto add = [&](const Element& control, const std::function<void()>& act) {
+      const auto add = [&](const Element& control, const Act& act) {
         acts << std::pair(QStringLiteral("%1 with Option1(%2)").arg(control.key()).arg(option), [=, this] {
           choose(form6.Option1[option]);
           act();
@@ -115,20 +65,8 @@ protected:
     return acts;
   }
 
-  /// What the act changes, which is then as it was before.
-  QString effectOf(const std::function<void()>& act) {
-    changes_.clear();
-    act();
-    const std::vector<Stored> changes = std::exchange(changes_, {});
-    Changed changed;
-    for (const Stored& stored : changes) changed.emplace(stored.element, stored.property);
-    for (auto stored = changes.rbegin(); stored != changes.rend(); ++stored)
-      stored->element->restore(stored->property, stored->value);
-    return told(changed);
-  }
-
   /// The paragraph of a control.
-  QString paragraph(const QString& name, const std::function<void()>& act) {
+  QString paragraph(const QString& name, const Act& act) {
     QMap<QString, QStringList> sectionsOf;  // by the effect
     QStringList effects;                    // in the order of the Sections
     const auto add = [&](const QString& section, const QString& effect) {
@@ -136,11 +74,11 @@ protected:
       if (!sectionsOf.contains(effect)) effects << effect;
       sectionsOf[effect] << section;
     };
-    for (const Section* section : all_) {
-      const int last = static_cast<int>(section->family(state).members().size()) - 1;
-      const QString ofFirst = effectInHand(*section, 0, act);
-      const QString ofLast = effectInHand(*section, last, act);
-      const QString number = QString::number(section->number);
+    for (const Section& section : sections()) {
+      const int last = static_cast<int>(section.family(state).members().size()) - 1;
+      const QString ofFirst = effectInHand(section, 0, act);
+      const QString ofLast = effectInHand(section, last, act);
+      const QString number = QString::number(section.number);
       if (ofFirst == ofLast) {
         add(number, ofFirst);
       } else {
@@ -155,24 +93,6 @@ protected:
   }
 
 private:
-  struct Stored {
-    Element* element;
-    Property property;
-    Value value;
-  };
-
-  QString told(const Changed& changed) {
-    if (changed.empty()) return {};
-    if (changed.begin()->first == changed.rbegin()->first &&
-        changed.begin()->first == currentElement(state)) {
-      auto at = changed.begin();
-      return "the one in hand " + properties(at, changed.end());
-    }
-    QString& known = known_[changed];
-    if (known.isEmpty()) known = effect(changed);
-    return known;
-  }
-
   bool isSample(const Element& element) const {
     const Family* family = element.family();
     return family == &form6.Label5 || family == &form6.Label6 || family == &form6.lvButtons_H5;
@@ -184,11 +104,17 @@ private:
     option.select();
   }
 
-  QString effectInHand(const Section& section, int index, const std::function<void()>& act) {
+  QString effectInHand(const Section& section, int index, const Act& act) {
     current(0);
     fillFields();
     current(section.number, index);
-    return effectOf(act);
+    const test::Effects::Changed changed = effects_.of(
+        act, [this](const Element& element) { return &element.window() == &form1 || isSample(element); });
+    if (changed.empty()) return {};
+    auto first = changed.begin();
+    if (first->first != changed.rbegin()->first || first->first != currentElement(state))
+      return effects_.told(changed);
+    return "the one in hand " + test::Effects::properties(first, changed.end());
   }
 
   // With what no element of the canvas has. No Section is in hand, so nothing takes it.
@@ -201,21 +127,14 @@ private:
     form6.List1->select(1);
   }
 
-  std::vector<Stored> changes_;
-  std::map<Changed, QString> known_;  ///< the words for what was told before
-  std::vector<const Section*> all_;
+  test::Effects effects_{state};
 };
 
 TEST_F(EffectsTest, OfEachControlAreThoseOfTheSystem) {
   const Acts acts = fields() + colours() + commands();
   QString told;
   for (const auto& [name, act] : acts) told += paragraph(name, act) + '\n';
-  const QString expected = test::bytesOf(VENEERER_SOURCE_DIR "/tests/tools/effects.txt");
-  const QStringList isTold = told.split("\n\n");
-  const QStringList isExpected = expected.split("\n\n");
-  ASSERT_EQ(isTold.size(), isExpected.size());
-  for (qsizetype i = 0; i < isTold.size(); ++i)
-    EXPECT_EQ(isTold[i].toStdString(), isExpected[i].toStdString());
+  test::expectParagraphs(told, VENEERER_SOURCE_DIR "/tests/tools/effects.txt");
 }
 
 }  // namespace veneerer

@@ -6,6 +6,7 @@
 
 #include "canvas/description.h"
 #include "designer/restoredstate.h"
+#include "support/shippedskins.h"
 #include "ui/comparisonmodel.h"
 #include "ui/modal.h"
 #include "ui/smallpicture.h"

@@ -12,6 +12,7 @@
 #include <random>
 
 #include "designer/restoredstate.h"
+#include "support/shippedskins.h"
 #include "ui/uifixture.h"
 
 namespace veneerer {

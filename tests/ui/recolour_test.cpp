@@ -13,6 +13,7 @@
 #include "designer/restoredstate.h"
 #include "recolouring/storedcolours.h"
 #include "skin/skinsaver.h"
+#include "support/shippedskins.h"
 #include "ui/modal.h"
 #include "ui/uifixture.h"
 
