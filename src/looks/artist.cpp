@@ -283,7 +283,6 @@ QImage Artist::menuFace(QSize size, Icon icon, const QStringList& caption, const
 QImage Artist::captionFace(QSize size, const QStringList& caption, double points, const QColor& ink) const {
   QImage image = clearImage(size);
   QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
   const QRectF all = QRectF(image.rect()).adjusted(size.width() * 0.07, 2, -size.width() * 0.07, -2);
   drawLines(painter, all, caption, {plan_.font, points * plan_.textScale * 96 / 72, Qt::AlignHCenter}, ink);
   return image;

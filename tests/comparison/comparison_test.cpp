@@ -5,8 +5,10 @@
 #include <cstring>
 #include <random>
 
+#include "comparison/recordtext.h"
 #include "designer/skinfixture.h"
 #include "records/recorderror.h"
+#include "skin/catalogue.h"
 #include "skin/recordplaces.h"
 #include "skin/skinsaver.h"
 
@@ -120,6 +122,33 @@ TEST_F(Comparison, NamesExactlyTheLinesThatASaveChanges) {
     EXPECT_EQ(differingLines(before, after), QSet<QString>()) << "that is what a save writes";
     EXPECT_TRUE(unsaved().isEmpty());
   }
+}
+
+// A line of each value that a save writes is about an element that stands there.
+TEST_F(Comparison, KnowsWhatEachLineIsAbout) {
+  QMultiHash<QString, QString> holders;  // by file and line
+  const auto about = [](const QString& key, Property property) { return key + ' ' + propertyName(property); };
+  const auto place = [](const QString& file, int line) {
+    return QStringLiteral("%1:%2").arg(file).arg(line);
+  };
+  const RecordPlaces places = writtenPlaces(state());
+  std::vector<Window*> windows = state().windows();
+  windows.insert(windows.end(), {&state().names, &state().globals});
+  for (Window* window : windows)
+    for (Family* family : window->families())
+      for (Element* element : family->members())
+        for (const RecordPlace& at : places.of(*element))
+          holders.insert(place(at.file, at.line), about(element->key(), at.property));
+  for (const SaveEntry& entry : saveOrder()) {
+    const Layout layout = entry.layout(state());
+    for (const auto& [line, subject] : writtenText(layout).subjects) {
+      const QString at = place(savedName(entry, layout), line);
+      if (!subject.property) continue;
+      EXPECT_TRUE(holders.contains(at, about(subject.element, *subject.property))) << at.toStdString();
+      holders.remove(at);
+    }
+  }
+  EXPECT_EQ(holders.keys(), QStringList());
 }
 
 TEST_F(Comparison, TellsElementPropertyAndBothTexts) {
