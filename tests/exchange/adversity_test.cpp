@@ -1,8 +1,5 @@
 // A world that doesn't keep still and isn't roomy: a disk that fills, files that change between the look and
 // the read, names in all scripts, folders of ten thousand files, paths as long as they can be.
-#include <sys/resource.h>
-
-#include <csignal>
 #include <functional>
 
 #include "designer/skinfixture.h"
@@ -10,31 +7,12 @@
 #include "exchange/skinpacking.h"
 #include "exchange/skinunpacking.h"
 #include "records/recorderror.h"
+#include "support/fulldisk.h"
 
 namespace veneerer {
 namespace {
 
 using test::Files;
-
-/// While it lives no file grows beyond so many bytes: a write begins and isn't done.
-class FullDisk {
-public:
-  explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit now{bytes, before_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &now);
-  }
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-  rlimit before_{};
-  void (*handler_)(int);
-};
 
 class Adversity : public test::SkinFixture {
 protected:
@@ -74,7 +52,7 @@ TEST_F(Adversity, ADiskThatFillsSpoilsNothingAndLeavesNothing) {
   for (const auto& work : works)
     for (const rlim_t bytes : {0, 1, 700, 8000}) {
       {
-        const FullDisk full(bytes);
+        const test::FullDisk full(bytes);
         EXPECT_TRUE(fails(work)) << bytes;
       }
       EXPECT_TRUE(all() == before) << bytes;

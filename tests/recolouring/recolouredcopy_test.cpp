@@ -9,6 +9,7 @@
 #include "designer/skinfixture.h"
 #include "exchange/skincopy.h"
 #include "recolouring/storedcolours.h"
+#include "support/fulldisk.h"
 #include "support/pictures.h"
 #include "support/shippedskins.h"
 
@@ -163,6 +164,11 @@ TEST_F(RecolouredCopies, NothingIsLeftOfOneThatFailsOrIsGivenUp) {
     EXPECT_THROW(copy("whole", all), ExchangeError) << failing;
     world.disk.failAt(0);
     ASSERT_EQ(everything(), QStringList()) << failing;
+  }
+  for (const rlim_t room : {0, 1, 300}) {
+    const test::FullDisk full(room);
+    EXPECT_THROW(copy("whole", all), ExchangeError) << room;
+    ASSERT_EQ(everything(), QStringList()) << room;
   }
   for (int last = 1; last <= steps; last += 7) {
     int done = 0;

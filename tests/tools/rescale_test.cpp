@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <set>
 
+#include "support/fulldisk.h"
 #include "tools/rescalefactors.h"
 #include "tools/rescaletables.h"
 #include "toolsfixture.h"
@@ -231,6 +232,23 @@ TEST_F(RescaleTest, WhatFailsStaysAsItWasAndTheOthersGoOn) {
   for (const char* reason : {"; can't be decoded: \\broken.bmp", "pixels: \\flat.bmp",
                              "; outside the Skin's folder: \\..\\outside.bmp"})
     EXPECT_TRUE(note.contains(QLatin1String(reason))) << reason << note.toStdString();
+}
+
+TEST_F(RescaleTest, OnAFullDiskNoPictureIsSpoilt) {
+  state.names.ImageName[3].setValue(QStringLiteral("\\one.bmp"));
+  form1.Picture1[3].place(0, 0, 300, 300);
+  paint("/one.bmp");
+  const QByteArray before = bytes(file("/one.bmp"));
+  int told = 0;
+  for (const rlim_t room : {0, 1, 300}) {
+    {
+      const test::FullDisk full(room);
+      rescale("1024", "768");
+    }
+    EXPECT_EQ(bytes(file("/one.bmp")), before) << room;
+    EXPECT_EQ(QDir(skin()).entryList(QDir::Files | QDir::Hidden), QStringList{"one.bmp"}) << room;
+    EXPECT_EQ(state.notes.texts().filter("can't be written").size(), ++told) << room;
+  }
 }
 
 TEST_F(RescaleTest, AFileThatCannotBeWrittenStaysWhole) {
