@@ -65,6 +65,19 @@ protected:
     return QStringLiteral("%1, index %2").arg(effect, globals.SectionNumber ? index : "kept");
   }
 
+  /// What stands on it and in its tool tip afterwards.
+  QString wordsOf(Element& element, const test::Effects::Act& act) {
+    QString words = "none";
+    effects.of(
+        [&] {
+          act();
+          if (element.kind() == Kind::Label) words = '"' + cast<Label>(element).caption() + '"';
+          if (!element.toolTipText().isEmpty()) words += " tip \"" + element.toolTipText() + '"';
+        },
+        [](const Element&) { return true; });
+    return words;
+  }
+
   QString press(Element& element, MouseButton button) {
     const qsizetype asked = world.dialogs.filters.size();
     const QString effect = effectOn(element, [&] { input.press(element, 1, 1, button); });
@@ -99,6 +112,12 @@ protected:
 
 TEST_F(Mouse, DoesToEachFamilyWhatItStandsFor) {
   QString told = paragraph("a click", [this](Element& element) { return click(element); });
+  told += paragraph("the words of a click", [this](Element& element) {
+    return wordsOf(element, [&] { state.board.click(element); });
+  });
+  told += paragraph("the words of a press", [this](Element& element) {
+    return wordsOf(element, [&] { input.press(element, 1, 1, MouseButton::Left); });
+  });
   told += paragraph("a press of the left button",
                     [this](Element& element) { return press(element, MouseButton::Left); });
   told += paragraph("a press of the right button",
