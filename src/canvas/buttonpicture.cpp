@@ -1,5 +1,6 @@
 #include "canvas/buttonpicture.h"
 
+#include "canvas/texts.h"
 #include "platform/skinfolder.h"
 
 namespace veneerer {
@@ -26,7 +27,8 @@ void choosePicture(State& state, const Platform& platform, Element& element) {
   }
   const Picture picture = state.pictures.load(path);
   if (decodeAside(platform, picture).isNull()) {
-    platform.dialogs.inform(QStringLiteral("Image"), QStringLiteral("The image can't be read: ") + path);
+    platform.dialogs.inform(CanvasTexts::tr("Image"),
+                            CanvasTexts::tr("The image can't be read: %1").arg(path));
     return;
   }
   give(state, element, picture, u'\\' + bareFileName(path));

@@ -4,6 +4,7 @@
 
 #include "canvas/screens.h"
 #include "canvas/sections.h"
+#include "canvas/texts.h"
 #include "elements/numbers.h"
 #include "elements/printable.h"
 
@@ -22,7 +23,7 @@ QString placeText(const QString& left, const QString& top, const QString& width,
 
 QString inTwips(const Element& e) {
   return placeText(singleText(e.left()), singleText(e.top()), singleText(e.width()), singleText(e.height()),
-                   QStringLiteral("twips"));
+                   CanvasTexts::tr("twips"));
 }
 
 // Of a record file any number may come, far beyond an int.
@@ -39,7 +40,7 @@ QString inPixels(const Element& e, const Screen& screen) {
 
 QString sectionText(const State& state, const Element& element) {
   const int number = element.family() ? sectionOf(state, *element.family()) : 0;
-  return number == 0 ? QStringLiteral("no Section") : QStringLiteral("Section %1").arg(number);
+  return number == 0 ? CanvasTexts::tr("no Section") : CanvasTexts::tr("Section %1").arg(number);
 }
 
 }  // namespace
@@ -49,7 +50,7 @@ QString shortName(const Element& element) {
 }
 
 QString elementTitle(const State& state, const Element& element) {
-  if (!element.family()) return QStringLiteral("the canvas");
+  if (!element.family()) return CanvasTexts::tr("the canvas");
   if (const int entry = entryOf(state, element); entry >= 0) return screenTitle(entry);
   if (!element.has(Property::Caption)) return shortName(element);
   // The mark of a new line is for the canvas alone.
@@ -74,11 +75,12 @@ QString fontText(const Element& element) {
   if (!element.has(Property::FontName)) return {};
   QStringList words{excerpt(element.as<QString>(Property::FontName), kLongestTitle),
                     singleText(element.as<float>(Property::FontSize))};
-  for (const auto& [flag, word] : {std::pair(Property::FontBold, "bold"),
-                                   {Property::FontItalic, "italic"},
-                                   {Property::FontUnderline, "underlined"},
-                                   {Property::FontStrikethrough, "struck through"}})
-    if (element.as<bool>(flag)) words.append(QString::fromLatin1(word));
+  for (const auto& [flag, word] :
+       {std::pair(Property::FontBold, QT_TRANSLATE_NOOP("Canvas", "bold")),
+        {Property::FontItalic, QT_TRANSLATE_NOOP("Canvas", "italic")},
+        {Property::FontUnderline, QT_TRANSLATE_NOOP("Canvas", "underlined")},
+        {Property::FontStrikethrough, QT_TRANSLATE_NOOP("Canvas", "struck through")}})
+    if (element.as<bool>(flag)) words.append(CanvasTexts::tr(word));
   return words.join(u' ');
 }
 
@@ -90,14 +92,14 @@ int entryHolding(const State& state, const Element& element) {
 
 QString screenName(const State& state, const Element& element) {
   const int entry = entryHolding(state, element);
-  return entry >= 0 ? screenTitle(entry) : QStringLiteral("Frame");
+  return entry >= 0 ? screenTitle(entry) : CanvasTexts::tr("Frame");
 }
 
 QString describe(const State& state, const Element& element, const Screen& screen) {
   QString where = screenName(state, element);
   const Element* holder = element.container();
   if (holder && holder->family() && entryOf(state, *holder) < 0)
-    where += QStringLiteral(", in %1").arg(shortName(*holder));
+    where = CanvasTexts::tr("%1, in %2").arg(where, shortName(*holder));
   return QStringList{shortName(element), sectionText(state, element), where, inTwips(element),
                      inPixels(element, screen)}
       .join(kGap);

@@ -1,5 +1,6 @@
 #include "comparison/differencewords.h"
 
+#include "comparison/texts.h"
 #include "elements/printable.h"
 
 namespace veneerer {
@@ -12,7 +13,7 @@ constexpr int kMostShown = 260;
 QString nameOf(LineEnd end) {
   switch (end) {
     case LineEnd::None:
-      return QStringLiteral("no line end");
+      return ComparisonTexts::tr("no line end");
     case LineEnd::Return:
       return QStringLiteral("CR");
     case LineEnd::Feed:
@@ -37,7 +38,7 @@ QString unquoted(const QString& line) {
 }  // namespace
 
 QString lineWords(const std::optional<TextLine>& line, const std::optional<TextLine>& other) {
-  if (!line) return QStringLiteral("(no line)");
+  if (!line) return ComparisonTexts::tr("(no line)");
   const QString text = line->text.trimmed();
   const bool isPlain = !text.isEmpty() && (!other || text != other->text.trimmed());
   if (isPlain) return excerpt(text, kMostShown);

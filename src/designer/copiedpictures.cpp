@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include "designer/texts.h"
 #include "files/plainfile.h"
 #include "records/writefiles.h"
 
@@ -52,7 +53,7 @@ private:
       madeFolder_ = true;
     }
     if (!QFileInfo(folder_).isDir() || !skin_.contains(folder_))
-      refuse(images_, QStringLiteral("it is no folder of the Skin"));
+      refuse(images_, DesignerTexts::tr("it is no folder of the Skin"));
   }
 
   // References are found without regard to case, so a name in other letters isn't free.

@@ -9,6 +9,7 @@
 #include "designer/looktaking.h"
 #include "designer/picturesanew.h"
 #include "designer/refusalnotes.h"
+#include "designer/texts.h"
 #include "elements/numbers.h"
 #include "elements/printable.h"
 #include "elements/require.h"
@@ -49,9 +50,18 @@ bool standsWithin(const Element& element, const std::vector<Element*>& elements)
 }
 
 /// The steps of the remedies, by their kind.
-constexpr const char* kRemedyNames[] = {"Use Another Picture", "Copy Picture into the Skin (its file stays)",
-                                        "Mend Caption",        "Set Shape to 0",
-                                        "Set Resolution",      "Copy Twin (its file stays)"};
+constexpr const char* kRemedyNames[] = {
+    QT_TRANSLATE_NOOP("Designer", "Use Another Picture"),
+    QT_TRANSLATE_NOOP("Designer", "Copy Picture into the Skin (its file stays)"),
+    QT_TRANSLATE_NOOP("Designer", "Mend Caption"),
+    QT_TRANSLATE_NOOP("Designer", "Set Shape to 0"),
+    QT_TRANSLATE_NOOP("Designer", "Set Resolution"),
+    QT_TRANSLATE_NOOP("Designer", "Copy Twin (its file stays)")};
+
+/// The name of a step that has written files as well, which no undo brings back.
+QString writing(const QString& name) {
+  return DesignerTexts::tr("%1 (its files stay)").arg(name);
+}
 
 }  // namespace
 
@@ -86,7 +96,7 @@ struct Designer::Parts {
     const bool isFirst = !isLoaded();
     const QString before = loadedSkin;
     {
-      const History::Action action(history, QStringLiteral("Skin ") + shownText(name));
+      const History::Action action(history, DesignerTexts::tr("Skin %1").arg(shownText(name)));
       load();
       hasLoaded();
       if (before != loadedSkin) state->globals.SkinBefore->setText(before);
@@ -98,7 +108,7 @@ struct Designer::Parts {
   /// The Skin in hand isn't lost for one that can't be read.
   void stay(const QString& refusal) {
     state->form4.Combo3->setText(loadedSkin);
-    platform.dialogs.inform(programTitle(), QStringLiteral("Nothing is loaded. ") + refusal);
+    platform.dialogs.inform(programTitle(), DesignerTexts::tr("Nothing is loaded. %1").arg(refusal));
   }
 
   void hasLoaded() {
@@ -121,7 +131,7 @@ struct Designer::Parts {
     if (!writeOrTell(platform.dialogs, QStringLiteral("Save Skin"), saveAll)) return;
     history.markClean();
     writeOrTell(platform.dialogs, QStringLiteral("Save Cover File"), saveCovers,
-                QStringLiteral("The record files are saved, the cover layout isn't. "));
+                DesignerTexts::tr("The record files are saved, the cover layout isn't. "));
     // Behind the question of the covers, whose answer would end it at once.
     sayWritten(state->notes, skin.path(), written);
   }
@@ -132,11 +142,10 @@ struct Designer::Parts {
            &element == &*state->form2.Command1;
   }
 
-  /// Some commands write files as well, which no undo brings back.
   QString nameOf(const Element& element) const {
     const QString name = actionName(*state, element);
     const bool writes = &element == &*state->form6.Command10 || &element == &*state->form5.Command1;
-    return writes ? name + QStringLiteral(" (its files stay)") : name;
+    return writes ? writing(name) : name;
   }
 
   void click(Element& element) {
@@ -325,12 +334,12 @@ void Designer::setProperty(const std::vector<Element*>& elements, Property prope
 }
 
 void Designer::recolour(const Dress& dress) {
-  const History::Action action(parts_->history, QStringLiteral("Recolour"));
+  const History::Action action(parts_->history, DesignerTexts::tr("Recolour"));
   for (const DressedColour& dressed : dress.colours()) dressed.element->set(dressed.property, dressed.colour);
 }
 
 void Designer::pasteLook(const CopiedLook& look, const std::vector<Element*>& to) {
-  const History::Action action(parts_->history, QStringLiteral("Paste Style"));
+  const History::Action action(parts_->history, DesignerTexts::tr("Paste Style"));
   const RefusalNotes::Command command(parts_->refusals);
   for (Element* element : to) giveLook(look, *element);
 }
@@ -344,38 +353,38 @@ void Designer::giveColour(Element& swatch, Colour colour) {
 void Designer::takeLook(const QString& skinName, LookPart part) {
   const std::optional<LookAtHand> found = fetchLook(*parts_->state, parts_->platform, skinName, part);
   if (!found) return;
-  const QString files = found->copied.names.isEmpty() ? QString() : QStringLiteral(" (its files stay)");
-  const History::Action action(parts_->history, QStringLiteral("Look of ") + shownText(skinName) + files);
+  const QString name = DesignerTexts::tr("Look of %1").arg(shownText(skinName));
+  const History::Action action(parts_->history, found->copied.names.isEmpty() ? name : writing(name));
   const RefusalNotes::Command command(parts_->refusals);
   giveLook(*parts_->state, skinFolder(), skinName, *found);
 }
 
 void Designer::align(AlignTo line) {
-  const History::Action action(parts_->history, QStringLiteral("Align"));
+  const History::Action action(parts_->history, DesignerTexts::tr("Align"));
   alignElements(parts_->overlay.elements(), line);
 }
 
 void Designer::distribute(Along along) {
-  const History::Action action(parts_->history, QStringLiteral("Distribute"));
+  const History::Action action(parts_->history, DesignerTexts::tr("Distribute"));
   distributeElements(parts_->overlay.elements(), along);
 }
 
 void Designer::makeSameSize(Sides sides) {
-  const History::Action action(parts_->history, QStringLiteral("Same Size"));
+  const History::Action action(parts_->history, DesignerTexts::tr("Same Size"));
   veneerer::makeSameSize(parts_->overlay.elements(), sides);
 }
 
 void Designer::apply(const Remedy& remedy) {
   const History::Action action(parts_->history,
-                               QString::fromLatin1(kRemedyNames[static_cast<std::size_t>(remedy.kind)]));
+                               DesignerTexts::tr(kRemedyNames[static_cast<std::size_t>(remedy.kind)]));
   const RefusalNotes::Command command(parts_->refusals);
   try {
     applyRemedy(*parts_->state, parts_->platform.disk, skinFolder(), remedy);
   } catch (const RecordError& error) {
-    return parts_->platform.dialogs.inform(QStringLiteral("Problems"),
-                                           QStringLiteral("Nothing is changed. ") + error.message());
+    return parts_->platform.dialogs.inform(DesignerTexts::tr("Problems"),
+                                           DesignerTexts::tr("Nothing is changed. %1").arg(error.message()));
   }
-  if (remedy.writes()) parts_->state->notes.say(QStringLiteral("%1 is written.").arg(remedy.target));
+  if (remedy.writes()) parts_->state->notes.say(DesignerTexts::tr("%1 is written.").arg(remedy.target));
 }
 
 bool Designer::takesPicture(Element& element, const QString& path) {

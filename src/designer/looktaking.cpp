@@ -4,6 +4,7 @@
 
 #include "canvas/screens.h"
 #include "designer/otherskin.h"
+#include "designer/texts.h"
 #include "editing/setting.h"
 #include "forms/currentskin.h"
 #include "records/recorderror.h"
@@ -49,15 +50,15 @@ std::optional<LookAtHand> fetchLook(State& state, const Platform& platform, cons
     LookAtHand found;
     if (entry >= 0) found.look = lookOf(state, platform, skinName, entry, part);
     if (found.look.isEmpty()) {
-      state.notes.say(entry < 0 ? QStringLiteral("No screen is shown whose look could be taken.")
-                                : QStringLiteral("%1 looks the same in %2.").arg(screen, skinName));
+      state.notes.say(entry < 0 ? DesignerTexts::tr("No screen is shown whose look could be taken.")
+                                : DesignerTexts::tr("%1 looks the same in %2.").arg(screen, skinName));
       return std::nullopt;
     }
     found.copied = copied(found.look, platform, currentSkinFolder(state, platform.folder));
     return found;
   } catch (const RecordError& error) {
-    platform.dialogs.inform(QStringLiteral("Take from Another Skin"),
-                            QStringLiteral("Nothing is taken. ") + error.message());
+    platform.dialogs.inform(DesignerTexts::tr("Take from Another Skin"),
+                            DesignerTexts::tr("Nothing is taken. %1").arg(error.message()));
     return std::nullopt;
   }
 }
@@ -68,13 +69,13 @@ void giveLook(State& state, const SkinFolder& skin, const QString& skinName, con
     give(state, skin, taken, found.copied.references.value(taken.path));
   for (const TakenValue& taken : found.look.shapes) setProperty(*taken.element, taken.property, taken.value);
   const qsizetype count = elementsOf(found.look);
-  const QString files = found.copied.names.isEmpty() ? QString()
-                                                     : QStringLiteral("; copied into the Skin: ") +
-                                                           found.copied.names.join(QStringLiteral(", "));
-  state.notes.say(
-      QStringLiteral("The look of %1 is taken from %2%3.")
-          .arg(count == 1 ? QStringLiteral("1 element") : QStringLiteral("%1 elements").arg(count), skinName,
-               files));
+  const QString elements =
+      count == 1 ? DesignerTexts::tr("1 element") : DesignerTexts::tr("%1 elements").arg(count);
+  const QStringList& files = found.copied.names;
+  state.notes.say(files.isEmpty()
+                      ? DesignerTexts::tr("The look of %1 is taken from %2.").arg(elements, skinName)
+                      : DesignerTexts::tr("The look of %1 is taken from %2; copied into the Skin: %3.")
+                            .arg(elements, skinName, files.join(QStringLiteral(", "))));
 }
 
 }  // namespace veneerer

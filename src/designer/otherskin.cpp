@@ -1,6 +1,7 @@
 #include "designer/otherskin.h"
 
 #include "designer/designer.h"
+#include "designer/texts.h"
 #include "platform/scripteddialogs.h"
 #include "records/recorderror.h"
 
@@ -34,7 +35,7 @@ struct OtherSkin::World {
 
 OtherSkin::OtherSkin(const Platform& platform, const QString& name) {
   if (!SkinFolder(platform.folder, name).exists())
-    throw RecordError(name, 0, {}, {}, QStringLiteral("there is no such Skin"));
+    throw RecordError(name, 0, {}, {}, DesignerTexts::tr("there is no such Skin"));
   world_ = std::make_unique<World>(platform, name);
   world_->dialogs.answers.enqueue(true);
   world_->designer.startUp();

@@ -5,6 +5,7 @@
 #include <set>
 #include <span>
 
+#include "editing/texts.h"
 #include "elements/kinds.h"
 #include "elements/numbers.h"
 
@@ -53,6 +54,14 @@ std::optional<float> typedSingle(const QString& text) {
   return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
+// As valueText() tells it, or in English.
+std::optional<Value> typedTruth(const QString& text) {
+  const auto is = [&](const QString& word) { return text.compare(word, Qt::CaseInsensitive) == 0; };
+  if (is(valueText(true)) || is(QStringLiteral("yes"))) return true;
+  if (is(valueText(false)) || is(QStringLiteral("no"))) return false;
+  return std::nullopt;
+}
+
 }  // namespace
 
 std::vector<Property> inspectedProperties(const std::vector<Element*>& elements) {
@@ -69,14 +78,14 @@ std::vector<Property> inspectedProperties(const std::vector<Element*>& elements)
 
 QString valueText(const Value& value) {
   if (const auto* truth = std::get_if<bool>(&value))
-    return *truth ? QStringLiteral("Yes") : QStringLiteral("No");
+    return *truth ? EditingTexts::tr("Yes") : EditingTexts::tr("No");
   if (const auto* whole = std::get_if<std::int32_t>(&value)) return QString::number(*whole);
   if (const auto* single = std::get_if<float>(&value)) return singleText(*single);
   if (const auto* text = std::get_if<QString>(&value)) return *text;
   if (const auto* list = std::get_if<QStringList>(&value)) return list->join(u'|');
   if (const auto* stored = std::get_if<StoredValue>(&value)) return stored->text();
   if (const auto* picture = std::get_if<Picture>(&value))
-    return picture->isDrawn() ? QStringLiteral("(drawn)") : picture->path();
+    return picture->isDrawn() ? EditingTexts::tr("(drawn)") : picture->path();
   const Colour colour = std::get<Colour>(value);
   return colour.plain() == colour ? colour.toQColor().name().toUpper() : QString::number(colour.number());
 }
@@ -85,9 +94,7 @@ std::optional<Value> typedValue(Property property, const QString& text) {
   const QString bare = text.trimmed();
   switch (propertyType(property)) {
     case ValueType::Truth:
-      if (bare.compare(u"yes", Qt::CaseInsensitive) == 0) return true;
-      if (bare.compare(u"no", Qt::CaseInsensitive) == 0) return false;
-      return std::nullopt;
+      return typedTruth(bare);
     case ValueType::Whole: {
       bool isNumber = false;
       const int number = bare.toInt(&isNumber);

@@ -1,6 +1,7 @@
 #include "elements/controls.h"
 
 #include "elements/family.h"
+#include "elements/texts.h"
 
 namespace veneerer {
 
@@ -19,7 +20,7 @@ void RowList::addRow(const QString& row) {
 
 QString RowList::rangeFault(Property property, const Value& value) const {
   if (property != Property::ListIndex || hasRow(std::get<std::int32_t>(value))) return {};
-  return QStringLiteral("the list has no row %1").arg(std::get<std::int32_t>(value));
+  return ElementTexts::tr("the list has no row %1").arg(std::get<std::int32_t>(value));
 }
 
 bool RowList::isEvent(Property property) const {
@@ -38,7 +39,7 @@ QString CheckBox::rangeFault(Property property, const Value& value) const {
   if (property != Property::Value) return {};
   const int number = std::get<std::int32_t>(value);
   if (number >= 0 && number <= 2) return {};
-  return QStringLiteral("a check box takes 0, 1 or 2, not %1").arg(number);
+  return ElementTexts::tr("a check box takes 0, 1 or 2, not %1").arg(number);
 }
 
 void OptionButton::select() {

@@ -1,5 +1,7 @@
 #include "elements/label.h"
 
+#include "elements/texts.h"
+
 namespace veneerer {
 
 FontChoice Label::font() const {
@@ -24,7 +26,7 @@ QString Label::rangeFault(Property property, const Value& value) const {
   if (property != Property::Alignment) return {};
   const int alignment = std::get<std::int32_t>(value);
   if (alignment >= 0 && alignment <= 2) return {};
-  return QStringLiteral("an alignment is 0, 1 or 2, not %1").arg(alignment);
+  return ElementTexts::tr("an alignment is 0, 1 or 2, not %1").arg(alignment);
 }
 
 }  // namespace veneerer

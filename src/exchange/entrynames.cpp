@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "elements/printable.h"
+#include "exchange/texts.h"
 
 namespace veneerer {
 
@@ -29,21 +30,21 @@ bool isDrive(const QString& part) {
 }
 
 QString faultOfPart(const QString& part) {
-  if (part.isEmpty()) return QStringLiteral("a part of the name is empty");
-  if (part == u"..") return QStringLiteral("the name leads out of its folder");
-  if (part == u".") return QStringLiteral("a part of the name is a point");
-  if (isDrive(part)) return QStringLiteral("the name begins with a drive");
+  if (part.isEmpty()) return ExchangeTexts::tr("a part of the name is empty");
+  if (part == u"..") return ExchangeTexts::tr("the name leads out of its folder");
+  if (part == u".") return ExchangeTexts::tr("a part of the name is a point");
+  if (isDrive(part)) return ExchangeTexts::tr("the name begins with a drive");
   if (QFile::encodeName(part).size() > kMostPartBytes)
-    return QStringLiteral("the name is too long for a file");
+    return ExchangeTexts::tr("the name is too long for a file");
   return {};
 }
 
 QString faultOfName(const QString& entry) {
-  if (!isAllPrintable(entry)) return QStringLiteral("the name holds a character that isn't printable");
+  if (!isAllPrintable(entry)) return ExchangeTexts::tr("the name holds a character that isn't printable");
   if (entry.startsWith(u'/') || entry.startsWith(u'\\'))
-    return QStringLiteral("the name is an absolute path");
+    return ExchangeTexts::tr("the name is an absolute path");
   if (QFile::encodeName(entry).size() > kMostNameBytes)
-    return QStringLiteral("the name is too long for a file");
+    return ExchangeTexts::tr("the name is too long for a file");
   return {};
 }
 
@@ -72,11 +73,11 @@ QString EntryNames::add(const QString& entry, EntryPlace& place) {
 QString EntryNames::addTop(const QStringList& parts, bool isFolder) {
   const QString& top = parts.first();
   if (parts.size() == 1 && !isFolder)
-    return QStringLiteral("a file lies at the top, beside the Skin's folder");
-  if (top.startsWith(u'.')) return QStringLiteral("a Skin's name doesn't begin with a point");
+    return ExchangeTexts::tr("a file lies at the top, beside the Skin's folder");
+  if (top.startsWith(u'.')) return ExchangeTexts::tr("a Skin's name doesn't begin with a point");
   if (skin_.isEmpty()) skin_ = top;
   return top == skin_ ? QString()
-                      : QStringLiteral("there is a second folder at the top, beside %1").arg(skin_);
+                      : ExchangeTexts::tr("there is a second folder at the top, beside %1").arg(skin_);
 }
 
 QString EntryNames::addFolders(const QStringList& parts) {
@@ -84,20 +85,20 @@ QString EntryNames::addFolders(const QStringList& parts) {
   for (const QString& part : parts) {
     name += name.isEmpty() ? part : u'/' + part;
     const QString key = folded(name);
-    if (files_.contains(key)) return QStringLiteral("there is a file of its folder's name");
+    if (files_.contains(key)) return ExchangeTexts::tr("there is a file of its folder's name");
     const auto known = folders_.constFind(key);
     if (known == folders_.constEnd())
       folders_.insert(key, name);
     else if (*known != name)
-      return QStringLiteral("its folder's name differs from %1 in case alone").arg(*known);
+      return ExchangeTexts::tr("its folder's name differs from %1 in case alone").arg(*known);
   }
   return {};
 }
 
 QString EntryNames::addFile(const QString& name) {
   const QString key = folded(name);
-  if (folders_.contains(key)) return QStringLiteral("there is a folder of this name");
-  if (files_.contains(key)) return QStringLiteral("there is a second file of this name, but for case");
+  if (folders_.contains(key)) return ExchangeTexts::tr("there is a folder of this name");
+  if (files_.contains(key)) return ExchangeTexts::tr("there is a second file of this name, but for case");
   files_.insert(key);
   return {};
 }

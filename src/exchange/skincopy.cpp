@@ -5,6 +5,7 @@
 #include <QSet>
 
 #include "exchange/contents.h"
+#include "exchange/texts.h"
 #include "files/newfolder.h"
 #include "skin/skinsaver.h"
 
@@ -21,7 +22,7 @@ QString realPath(const QString& path) {
 
 void refuseWithin(const QString& from, const QString& to) {
   if ((realPath(to) + u'/').startsWith(realPath(from) + u'/'))
-    throw ExchangeError(QStringLiteral("%1: the copy would lie within the Skin").arg(to));
+    throw ExchangeError(ExchangeTexts::tr("%1: the copy would lie within the Skin").arg(to));
 }
 
 class SkinCopy {
@@ -84,7 +85,8 @@ QList<LeftOut> copySkin(State& state, Disk& disk, const QString& from, const QSt
     NewFolder folder(disk, to);
     SkinCopy(folder, goOn, composedRecords(state, changes.dress), tree, changes).run();
   } catch (const ReplaceError& error) {
-    throw ExchangeError(QStringLiteral("%1: no copy is made: %2").arg(to, QString::fromUtf8(error.what())));
+    throw ExchangeError(
+        ExchangeTexts::tr("%1: no copy is made: %2").arg(to, QString::fromUtf8(error.what())));
   }
   return tree.leftOut;
 }

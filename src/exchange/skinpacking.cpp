@@ -5,6 +5,7 @@
 
 #include "exchange/contents.h"
 #include "exchange/entrynames.h"
+#include "exchange/texts.h"
 #include "exchange/zipwriter.h"
 #include "files/leftovers.h"
 
@@ -47,8 +48,8 @@ private:
   }
   void refuseWhatIsThere() const {
     if (place_.exists() && !place_.isFile())
-      require(QStringLiteral("there is something under this name that is no file"));
-    if (place_.exists() && !place_.isWritable()) require(QStringLiteral("the file may not be written"));
+      require(ExchangeTexts::tr("there is something under this name that is no file"));
+    if (place_.exists() && !place_.isWritable()) require(ExchangeTexts::tr("the file may not be written"));
   }
 
   Disk& disk_;
@@ -70,7 +71,7 @@ public:
     EntryNames names;
     EntryPlace place;
     const auto take = [&](const QString& name) {
-      const QString fault = name.contains(u'\\') ? QStringLiteral("the name holds a backslash")
+      const QString fault = name.contains(u'\\') ? ExchangeTexts::tr("the name holds a backslash")
                                                  : names.add(entryOf(name), place);
       if (!fault.isEmpty()) throw notPacked(archive_, entryOf(name), fault);
     };

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "exchange/entrynames.h"
+#include "exchange/texts.h"
 #include "exchange/zipreader.h"
 #include "files/leftovers.h"
 #include "files/newfolder.h"
@@ -20,21 +21,21 @@ public:
   /// Why there are too many files, empty so long as there aren't.
   QString addFile() {
     if (++files_ <= limits_.files) return {};
-    return QStringLiteral("the archive holds more than %1 files").arg(limits_.files);
+    return ExchangeTexts::tr("the archive holds more than %1 files").arg(limits_.files);
   }
   QString addFolders(qsizetype folders) const {
     if (folders <= limits_.files) return {};
-    return QStringLiteral("the archive holds more than %1 folders").arg(limits_.files);
+    return ExchangeTexts::tr("the archive holds more than %1 folders").arg(limits_.files);
   }
   // An archive may name one folder time after time.
   QString addEntries(std::size_t entries) const {
     if (entries <= 2 * static_cast<std::size_t>(limits_.files)) return {};
-    return QStringLiteral("the archive holds more than %1 entries").arg(2 * limits_.files);
+    return ExchangeTexts::tr("the archive holds more than %1 entries").arg(2 * limits_.files);
   }
   QString addBytes(qint64 bytes) {
     bytes_ += bytes;
     if (bytes_ <= limits_.bytes) return {};
-    return QStringLiteral("the archive's files take more than %1 MiB")
+    return ExchangeTexts::tr("the archive's files take more than %1 MiB")
         .arg(static_cast<double>(limits_.bytes) / (1024 * 1024));
   }
 
@@ -53,16 +54,16 @@ public:
   QString run() {
     lookAhead();
     if (names_.skin().isEmpty())
-      throw ExchangeError(QStringLiteral("%1: the archive holds no Skin").arg(archive_));
+      throw ExchangeError(ExchangeTexts::tr("%1: the archive holds no Skin").arg(archive_));
     const QString skin = root_ + u'/' + names_.skin();
     if (QFileInfo::exists(skin) || QFileInfo(skin).isSymLink())
       throw ExchangeError(
-          QStringLiteral("%1: %2: a Skin of this name is there already").arg(archive_, names_.skin()));
+          ExchangeTexts::tr("%1: %2: a Skin of this name is there already").arg(archive_, names_.skin()));
     try {
       write(skin);
     } catch (const ReplaceError& error) {
       throw ExchangeError(
-          QStringLiteral("%1: nothing is unpacked: %2").arg(archive_, QString::fromUtf8(error.what())));
+          ExchangeTexts::tr("%1: nothing is unpacked: %2").arg(archive_, QString::fromUtf8(error.what())));
     }
     return names_.skin();
   }
@@ -97,7 +98,7 @@ private:
       if (!place.isFolder) require(allowance.addFile());
       zip_.refuseOdd(place.isFolder);
       readCounted(allowance, [&](const QByteArray&) {
-        if (place.isFolder) require(QStringLiteral("the folder holds bytes like a file"));
+        if (place.isFolder) require(ExchangeTexts::tr("the folder holds bytes like a file"));
       });
       places_.push_back(place);
       require(allowance.addEntries(places_.size()));

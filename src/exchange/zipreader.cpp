@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include "elements/printable.h"
+#include "exchange/texts.h"
 
 namespace veneerer {
 
@@ -28,7 +29,7 @@ ZipReader::ZipReader(const QString& archive) : archive_(archive), zip_(archive) 
   // Names that aren't marked as UTF-8 mostly are all the same.
   zip_.setFileNameCodec("UTF-8");
   if (!zip_.open(QuaZip::mdUnzip))
-    throw ExchangeError(QStringLiteral("%1: the file is no zip archive, or damaged").arg(archive_));
+    throw ExchangeError(ExchangeTexts::tr("%1: the file is no zip archive, or damaged").arg(archive_));
 }
 
 bool ZipReader::first() {
@@ -49,20 +50,20 @@ ExchangeError ZipReader::fault(const QString& reason) const {
 }
 
 ExchangeError ZipReader::damaged() const {
-  return ExchangeError(QStringLiteral("%1: the archive is damaged").arg(archive_));
+  return ExchangeError(ExchangeTexts::tr("%1: the archive is damaged").arg(archive_));
 }
 
 void ZipReader::refuseOdd(bool isFolder) const {
-  if (info_.isSymbolicLink()) throw fault(QStringLiteral("the entry is a link"));
-  if (!isOfKind(info_, isFolder)) throw fault(QStringLiteral("the entry is no plain file and no folder"));
-  if (info_.isEncrypted()) throw fault(QStringLiteral("the entry is encrypted"));
+  if (info_.isSymbolicLink()) throw fault(ExchangeTexts::tr("the entry is a link"));
+  if (!isOfKind(info_, isFolder)) throw fault(ExchangeTexts::tr("the entry is no plain file and no folder"));
+  if (info_.isEncrypted()) throw fault(ExchangeTexts::tr("the entry is encrypted"));
   if (info_.method != kStored && info_.method != kDeflated)
-    throw fault(QStringLiteral("the entry is packed in a way that can't be read"));
+    throw fault(ExchangeTexts::tr("the entry is packed in a way that can't be read"));
 }
 
 void ZipReader::read(const Take& take) {
   QuaZipFile entry(&zip_);
-  if (!entry.open(QIODevice::ReadOnly)) throw fault(QStringLiteral("the entry is damaged"));
+  if (!entry.open(QIODevice::ReadOnly)) throw fault(ExchangeTexts::tr("the entry is damaged"));
   quint64 total = 0;
   for (QByteArray bytes = entry.read(kPiece); !bytes.isEmpty(); bytes = entry.read(kPiece)) {
     total += static_cast<quint64>(bytes.size());
@@ -71,7 +72,7 @@ void ZipReader::read(const Take& take) {
   // The check sum is compared as the entry is closed, and only of one that has as many bytes as it says.
   const bool isWhole = entry.getZipError() == 0 && total == info_.uncompressedSize;
   entry.close();
-  if (!isWhole || entry.getZipError() != 0) throw fault(QStringLiteral("the entry is damaged"));
+  if (!isWhole || entry.getZipError() != 0) throw fault(ExchangeTexts::tr("the entry is damaged"));
 }
 
 }  // namespace veneerer

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <algorithm>
 
+#include "exchange/texts.h"
 #include "files/plainfile.h"
 
 namespace veneerer {
@@ -38,7 +39,7 @@ ZipWriter::ZipWriter(Disk& disk, const QString& path) : device_(disk, path), zip
 
 void ZipWriter::requireFine(bool isFine) const {
   if (!device_.fault().isEmpty()) throw ZipFault(device_.fault());
-  if (!isFine || zip_.getZipError() != 0) throw ZipFault(QStringLiteral("it can't be packed"));
+  if (!isFine || zip_.getZipError() != 0) throw ZipFault(ExchangeTexts::tr("it can't be packed"));
 }
 
 void ZipWriter::addFolder(const QString& name, const QString& path) {
@@ -56,7 +57,7 @@ void ZipWriter::addFile(const QString& name, const TreeFile& file, const std::fu
   for (QByteArray bytes = reader.next(); !bytes.isEmpty(); bytes = reader.next()) {
     step();
     total += bytes.size();
-    if (total > file.bytes) throw ZipFault(QStringLiteral("the file grows while it is packed"));
+    if (total > file.bytes) throw ZipFault(ExchangeTexts::tr("the file grows while it is packed"));
     requireFine(entry.write(bytes) == bytes.size());
   }
   if (!reader.fault().isEmpty()) throw ZipFault(reader.fault());

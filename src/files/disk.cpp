@@ -11,6 +11,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "files/texts.h"
+
 namespace veneerer {
 
 namespace {
@@ -69,7 +71,7 @@ private:
 constexpr qsizetype kChunk = 1024 * 1024;  // bytes
 
 QString noFile() {
-  return QStringLiteral("there is something under this name that is no file");
+  return FileTexts::tr("there is something under this name that is no file");
 }
 
 /// Why not all bytes could be copied, empty when they were.
@@ -78,7 +80,7 @@ QString pour(const Descriptor& from, const Descriptor& to, qint64 mostBytes) {
     QByteArray bytes(kChunk, Qt::Uninitialized);
     if (!from.read(bytes)) return systemReason();
     total += bytes.size();
-    if (total > mostBytes) return QStringLiteral("the file is too large");
+    if (total > mostBytes) return FileTexts::tr("the file is too large");
     if (!to.writeAll(bytes)) return systemReason();
     if (bytes.size() < kChunk) return {};
   }
@@ -181,7 +183,7 @@ QString Disk::remove(const QString& path) {
 QString Disk::makeFolder(const QString& path) {
   errno = 0;
   if (QDir().mkpath(path)) return {};
-  return errno != 0 ? systemReason() : QStringLiteral("the folder can't be made");
+  return errno != 0 ? systemReason() : FileTexts::tr("the folder can't be made");
 }
 
 QString Disk::makeNewFolder(const QString& path) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "files/leftovers.h"
+#include "files/texts.h"
 
 namespace veneerer {
 
@@ -48,18 +49,18 @@ private:
 
   QString reasonAgainst(const QFileInfo& entry) const {
     if (entry.isSymLink()) return reasonAgainstLink(entry);
-    if (!entry.exists()) return QStringLiteral("a name that can't be read");
+    if (!entry.exists()) return FileTexts::tr("a name that can't be read");
     if (entry.isDir())
       return entry.isReadable() && entry.isExecutable() ? QString()
-                                                        : QStringLiteral("a folder that may not be read");
-    return entry.isFile() ? QString() : QStringLiteral("no file");
+                                                        : FileTexts::tr("a folder that may not be read");
+    return entry.isFile() ? QString() : FileTexts::tr("no file");
   }
 
   QString reasonAgainstLink(const QFileInfo& link) const {
     const QString target = link.canonicalFilePath();
-    if (target.isEmpty()) return QStringLiteral("a link that leads nowhere");
-    if (!target.startsWith(root_)) return QStringLiteral("a link that leads out of the folder");
-    return link.isFile() ? QString() : QStringLiteral("a link to what is no file");
+    if (target.isEmpty()) return FileTexts::tr("a link that leads nowhere");
+    if (!target.startsWith(root_)) return FileTexts::tr("a link that leads out of the folder");
+    return link.isFile() ? QString() : FileTexts::tr("a link to what is no file");
   }
 
   QString root_;  ///< ends in a slash

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "files/texts.h"
+
 namespace veneerer {
 
 namespace {
@@ -36,7 +38,7 @@ NewFolder::NewFolder(Disk& disk, const QString& path)
     : disk_(disk), path_(QDir::cleanPath(QFileInfo(path).absoluteFilePath())) {
   const QFileInfo place(path_);
   if (place.exists() || place.isSymLink())
-    throw ReplaceError({path, QStringLiteral("something of this name is there already")});
+    throw ReplaceError({path, FileTexts::tr("something of this name is there already")});
   try {
     makeMissing(place.path());
     removeAbandonedBeside(disk_, place.path());

@@ -11,6 +11,8 @@
 #include <cstring>
 #include <optional>
 
+#include "files/texts.h"
+
 namespace veneerer {
 
 namespace {
@@ -25,7 +27,7 @@ FileContent refused(const QString& reason) {
 }
 
 QString systemReason(int error) {
-  return QStringLiteral("the file can't be read: ") + QString::fromLocal8Bit(std::strerror(error));
+  return FileTexts::tr("the file can't be read: %1").arg(QString::fromLocal8Bit(std::strerror(error)));
 }
 
 bool isLink(const QByteArray& path) {
@@ -59,9 +61,9 @@ public:
 
   /// Why the file couldn't be opened.
   FileContent failure() const {
-    if (error_ == ENXIO) return refused(QStringLiteral("there is something under this name that is no file"));
+    if (error_ == ENXIO) return refused(FileTexts::tr("there is something under this name that is no file"));
     if (error_ != ENOENT && error_ != ENOTDIR) return refused(systemReason(error_));
-    if (isLink(path_)) return refused(QStringLiteral("the file is a link that leads nowhere"));
+    if (isLink(path_)) return refused(FileTexts::tr("the file is a link that leads nowhere"));
     return {};
   }
 
@@ -104,7 +106,7 @@ private:
 };
 
 FileContent tooLarge() {
-  return refused(QStringLiteral("the file is too large"));
+  return refused(FileTexts::tr("the file is too large"));
 }
 
 FileContent contentOf(const OpenFile& file, qint64 mostBytes) {
@@ -124,17 +126,17 @@ FileContent lookedAt(const OpenFile& file, qint64 mostBytes) {
 std::optional<FileContent> taken(const QString& folder, const QString& path, qint64 mostBytes, Take take) {
   const OpenFile file(path);
   if (!file.isOpen()) return file.failure();
-  if (!file.isPlain()) return refused(QStringLiteral("there is something under this name that is no file"));
+  if (!file.isPlain()) return refused(FileTexts::tr("there is something under this name that is no file"));
   const Whereabouts whereabouts = folder.isEmpty() ? Whereabouts::Inside : file.whereabouts(folder);
   if (whereabouts == Whereabouts::Outside)
-    return refused(QStringLiteral("the file lies outside the Skin's folder"));
+    return refused(FileTexts::tr("the file lies outside the Skin's folder"));
   return whereabouts == Whereabouts::Inside ? std::optional(take(file, mostBytes)) : std::nullopt;
 }
 
 FileContent readChecked(const QString& folder, const QString& path, qint64 mostBytes, Take take) {
   for (int attempt = 0; attempt < kMostAttempts; ++attempt)
     if (const std::optional<FileContent> content = taken(folder, path, mostBytes, take)) return *content;
-  return refused(QStringLiteral("the file is replaced again and again while it is read"));
+  return refused(FileTexts::tr("the file is replaced again and again while it is read"));
 }
 
 }  // namespace
@@ -165,9 +167,9 @@ struct PlainFileReader::Opened {
 PlainFileReader::PlainFileReader(const QString& path) : opened_(std::make_unique<Opened>(path)) {
   const OpenFile& file = opened_->file;
   if (!file.isOpen()) fault_ = file.failure().reason;
-  if (!file.isOpen() && fault_.isEmpty()) fault_ = QStringLiteral("the file isn't there");
+  if (!file.isOpen() && fault_.isEmpty()) fault_ = FileTexts::tr("the file isn't there");
   if (file.isOpen() && !file.isPlain())
-    fault_ = QStringLiteral("there is something under this name that is no file");
+    fault_ = FileTexts::tr("there is something under this name that is no file");
 }
 
 PlainFileReader::~PlainFileReader() = default;

@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include "files/texts.h"
+
 namespace veneerer {
 
 namespace {
@@ -12,7 +14,7 @@ namespace {
 constexpr qsizetype kMostNameBytes = 255;
 
 QString folderIsGone(const QString& folder) {
-  return QStringLiteral("the folder %1 is gone").arg(folder);
+  return FileTexts::tr("the folder %1 is gone").arg(folder);
 }
 
 }  // namespace
@@ -33,7 +35,7 @@ FileReplacement::FileReplacement(Disk& disk, const QString& folder, std::vector<
 QString FileReplacement::addTarget(NewFile file) {
   const QFileInfo named(QDir(folder_).filePath(file.name));
   const bool exists = named.exists();
-  if (named.isSymLink() && !exists) return QStringLiteral("the file is a link that leads nowhere");
+  if (named.isSymLink() && !exists) return FileTexts::tr("the file is a link that leads nowhere");
   const QString place = QFileInfo(named.path()).canonicalFilePath();
   if (!QFileInfo(place).isDir()) return folderIsGone(named.path());
   const QString path = exists ? named.canonicalFilePath() : QDir(place).filePath(named.fileName());
@@ -46,13 +48,13 @@ QString FileReplacement::addTarget(NewFile file) {
 QString FileReplacement::faultOf(const Target& target) const {
   const QFileInfo info(target.path);
   if (!target.path.startsWith(folder_.endsWith(u'/') ? folder_ : folder_ + u'/'))
-    return QStringLiteral("the file lies outside the folder %1 and isn't written").arg(folder_);
+    return FileTexts::tr("the file lies outside the folder %1 and isn't written").arg(folder_);
   if (QFile::encodeName(info.fileName()).size() > kMostNameBytes)
-    return QStringLiteral("the name is too long for a file");
+    return FileTexts::tr("the name is too long for a file");
   if (target.exists && !info.isFile())
-    return QStringLiteral("there is something under this name that is no file");
-  if (target.exists && !info.isWritable()) return QStringLiteral("the file may not be written");
-  if (!target.exists && target.isInPlace) return QStringLiteral("the folder takes no new files");
+    return FileTexts::tr("there is something under this name that is no file");
+  if (target.exists && !info.isWritable()) return FileTexts::tr("the file may not be written");
+  if (!target.exists && target.isInPlace) return FileTexts::tr("the folder takes no new files");
   return {};
 }
 

@@ -1,6 +1,7 @@
 #include "forms/fieldlabels.h"
 
 #include "elements/window.h"
+#include "forms/texts.h"
 
 namespace veneerer {
 
@@ -11,6 +12,7 @@ struct FieldLabel {
   const char* text;
 };
 
+// Most of them are the system's own and stay as they are.
 constexpr FieldLabel kLabels[] = {
     {u"Combo1", "Number of tracks shown"},
     {u"Combo2", "Jump To Letter"},
@@ -25,8 +27,8 @@ constexpr FieldLabel kLabels[] = {
     {u"Combo11", "Genre Nav"},
     {u"Combo12", "Other Albums"},
     {u"Text1", "Skin Resolution"},
-    {u"Text2", "File name"},
-    {u"File1", "Cover files"},
+    {u"Text2", QT_TRANSLATE_NOOP("Forms", "File name")},
+    {u"File1", QT_TRANSLATE_NOOP("Forms", "Cover files")},
 };
 
 }  // namespace
@@ -34,7 +36,7 @@ constexpr FieldLabel kLabels[] = {
 QString fieldLabel(const Family& family) {
   if (family.window().name() != u"Form4") return {};
   for (const FieldLabel& label : kLabels)
-    if (family.name() == label.family) return QString::fromLatin1(label.text);
+    if (family.name() == label.family) return FormTexts::tr(label.text);
   return {};
 }
 

@@ -6,6 +6,8 @@
 #include <QTextDocument>
 #include <algorithm>
 
+#include "help/texts.h"
+
 namespace veneerer {
 
 namespace {
@@ -52,6 +54,12 @@ QString plainText(const QString& markdown) {
 
 }  // namespace
 
+QString manualFile(const QString& name, const QString& folder) {
+  //: The folder of the manual's pages in the language of the translation
+  const QString own = folder + u'/' + HelpTexts::tr("en") + u'/' + name;
+  return QFile::exists(own) ? own : folder + u'/' + name;
+}
+
 Manual::Manual(QString folder) : folder_(std::move(folder)) {
   static const QRegularExpression line(QStringLiteral(R"(^(?:## (.+)|- \[([^\]]+)\]\(([^)]+)\.md\).*)$)"),
                                        QRegularExpression::MultilineOption);
@@ -66,11 +74,11 @@ Manual::Manual(QString folder) : folder_(std::move(folder)) {
 
 QString Manual::title(const QString& page) const {
   const auto entry = std::ranges::find(contents_, page, &ManualEntry::page);
-  return entry == contents_.end() ? QStringLiteral("Contents") : entry->title;
+  return entry == contents_.end() ? HelpTexts::tr("Contents") : entry->title;
 }
 
 QString Manual::text(const QString& page) const {
-  QFile file(folder_ + u'/' + page + QStringLiteral(".md"));
+  QFile file(manualFile(page + QStringLiteral(".md"), folder_));
   return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 

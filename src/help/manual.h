@@ -21,6 +21,13 @@ struct ManualHit {
   QString excerpt;  ///< plain text of one line around the first find
 };
 
+/// The manual as it is part of the program.
+inline const QString kManualFolder = QStringLiteral(":/manual");
+
+/// The path of a page or a picture of the manual: of the one in the language of the texts, which lies in a
+/// folder of its name, where there is one, else of the English one.
+QString manualFile(const QString& name, const QString& folder = kManualFolder);
+
 /// The page that lists all others.
 inline const QString kManualIndex = QStringLiteral("index");
 
@@ -28,7 +35,7 @@ class Manual {
 public:
   /// The pages in that folder, by default those that are part of the program. Of them the index alone is read
   /// at once.
-  explicit Manual(QString folder = QStringLiteral(":/manual"));
+  explicit Manual(QString folder = kManualFolder);
 
   /// In the order of the index.
   const QList<ManualEntry>& contents() const { return contents_; }

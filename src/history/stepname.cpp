@@ -5,6 +5,7 @@
 #include "canvas/description.h"
 #include "elements/controls.h"
 #include "forms/fieldlabels.h"
+#include "history/texts.h"
 
 namespace veneerer {
 
@@ -19,12 +20,13 @@ struct Group {
 
 // Properties that are changed together and have one name.
 const Group kGroups[] = {
-    {"Place", {P::Left, P::Top}},
-    {"Size", {P::Width, P::Height}},
-    {"Place and Size", {P::Left, P::Top, P::Width, P::Height}},
-    {"Font", {P::FontName, P::FontSize, P::FontBold, P::FontItalic, P::FontUnderline, P::FontStrikethrough}},
-    {"Shape", {P::ButtonShape, P::Width, P::Height}},
-    {"Picture", {P::Picture, P::Name, P::ButtonShape, P::PictureSize}},
+    {QT_TRANSLATE_NOOP("History", "Place"), {P::Left, P::Top}},
+    {QT_TRANSLATE_NOOP("History", "Size"), {P::Width, P::Height}},
+    {QT_TRANSLATE_NOOP("History", "Place and Size"), {P::Left, P::Top, P::Width, P::Height}},
+    {QT_TRANSLATE_NOOP("History", "Font"),
+     {P::FontName, P::FontSize, P::FontBold, P::FontItalic, P::FontUnderline, P::FontStrikethrough}},
+    {QT_TRANSLATE_NOOP("History", "Shape"), {P::ButtonShape, P::Width, P::Height}},
+    {QT_TRANSLATE_NOOP("History", "Picture"), {P::Picture, P::Name, P::ButtonShape, P::PictureSize}},
 };
 
 template <class T>
@@ -37,8 +39,8 @@ QString nameOf(const std::vector<Property>& properties) {
   for (const Group& group : kGroups)
     if (std::ranges::all_of(properties,
                             [&](Property p) { return std::ranges::count(group.properties, p) > 0; }))
-      return QString::fromLatin1(group.name);
-  return QStringLiteral("Properties");
+      return HistoryTexts::tr(group.name);
+  return HistoryTexts::tr("Properties");
 }
 
 // What shows on the canvas counts; a panel only tells of it.
@@ -60,10 +62,10 @@ QString stepName(const State& state, const Changes& changes) {
   };
   gather(true);
   if (elements.empty()) gather(false);
-  if (elements.empty()) return QStringLiteral("Stacking");
+  if (elements.empty()) return HistoryTexts::tr("Stacking");
   const QString what = elements.size() == 1 ? elementTitle(state, *elements.front())
-                                            : QStringLiteral("%1 elements").arg(elements.size());
-  return QStringLiteral("%1 of %2").arg(nameOf(properties), what);
+                                            : HistoryTexts::tr("%1 elements").arg(elements.size());
+  return HistoryTexts::tr("%1 of %2").arg(nameOf(properties), what);
 }
 
 QString actionName(const State& state, const Element& control) {

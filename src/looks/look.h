@@ -82,7 +82,7 @@ struct Colours {
 
 struct Look {
   const char* name;
-  const char* what;     ///< one sentence for who chooses
+  const char* what;     ///< one sentence for who chooses, in English
   const char* shipped;  ///< the Skin that comes with the program, null for none
   Arrangement arrangement;
   Motif motif;

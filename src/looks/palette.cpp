@@ -4,6 +4,7 @@
 #include <cmath>
 #include <vector>
 
+#include "looks/texts.h"
 #include "painting/buttonface.h"
 
 namespace veneerer::looks {
@@ -114,18 +115,21 @@ private:
   void mixGround() {
     side_ = sideOf(given_.ground, given_.text);
     const QColor ground = setOff(given_.ground, side_.pole, side_.away, kGroundContrast);
-    if (ground != given_.ground) tellMoved("ground", given_.ground, ground, "no text could be read on it");
+    if (ground != given_.ground)
+      tellMoved(LookTexts::tr("The ground colour %1 becomes %2: no text could be read on it."), given_.ground,
+                ground);
     const double depth = look_.motif == Motif::Plain ? 0 : side_.isLight() ? 0.28 : 0.35;
     screen_ = surfaceOf(ground, mix(ground, side_.away, depth), given_.accent, side_);
     const std::vector<QColor> grounds = screen_.grounds();
     text_ = legible(given_.text, grounds, kSafe);
-    if (text_ != given_.text) tellMoved("text", given_.text, text_, "it could not be read on the ground");
+    if (text_ != given_.text)
+      tellMoved(LookTexts::tr("The text colour %1 becomes %2: it could not be read on the ground."),
+                given_.text, text_);
     scheme_.theme.screen = inksOn(screen_, text_, given_.accent);
   }
 
-  void tellMoved(const char* which, const QColor& from, const QColor& to, const char* why) {
-    scheme_.notes << QStringLiteral("The %1 colour %2 becomes %3: %4.")
-                         .arg(QString::fromLatin1(which), hex(from), hex(to), QString::fromLatin1(why));
+  void tellMoved(const QString& note, const QColor& from, const QColor& to) {
+    scheme_.notes << note.arg(hex(from), hex(to));
   }
 
   /// The colour of a thing of that tone before it is fitted to its letters.

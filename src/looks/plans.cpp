@@ -5,6 +5,8 @@
 #include <cmath>
 #include <optional>
 
+#include "looks/texts.h"
+
 namespace veneerer::looks {
 
 namespace {
@@ -147,10 +149,10 @@ QString faultOfSize(QSize size) {
   const int w = size.width();
   const int h = size.height();
   if (w < kLeastWidth || h < kLeastHeight || w > kMostPixels || h > kMostPixels)
-    return QStringLiteral("a Skin has from 640 x 480 to 3840 x 3840 pixels");
+    return LookTexts::tr("a Skin has from 640 x 480 to 3840 x 3840 pixels");
   // Screens of 2560 or 3440 pixels across are sold as 21:9 as well.
   if ((w + 1) * 16 <= h * 9 || w * 10 > h * 24)
-    return QStringLiteral("a Skin's proportions are from 9:16 to 21:9");
+    return LookTexts::tr("a Skin's proportions are from 9:16 to 21:9");
   return {};
 }
 

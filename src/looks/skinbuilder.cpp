@@ -15,6 +15,7 @@
 #include "looks/palette.h"
 #include "looks/pictures.h"
 #include "looks/plans.h"
+#include "looks/texts.h"
 #include "painting/buttonlayout.h"
 #include "painting/pixels.h"
 #include "painting/textlayouts.h"
@@ -409,7 +410,7 @@ QStringList makeSkin(Disk& disk, const QString& to, const Wish& wish, const GoOn
     for (const NewFile& file : made.files) folder.create(file.name, file.bytes);
     folder.putInPlace();
   } catch (const ReplaceError& error) {
-    throw ExchangeError(QStringLiteral("%1: no Skin is made: %2").arg(to, QString::fromUtf8(error.what())));
+    throw ExchangeError(LookTexts::tr("%1: no Skin is made: %2").arg(to, QString::fromUtf8(error.what())));
   }
   return made.notes;
 }

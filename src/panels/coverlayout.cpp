@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "forms/currentskin.h"
+#include "panels/texts.h"
 #include "records/coverfile.h"
 #include "records/layoutreader.h"
 #include "records/layoutwriter.h"
@@ -88,7 +89,7 @@ QString CoverLayouts::nameToWrite(const SkinFolder& target) const {
   const QString name = coverFileName(state_.form4.Text2->text());
   if (name.isEmpty())
     platform_.dialogs.inform(
-        title, QStringLiteral(
+        title, PanelTexts::tr(
                    "In File Controls/Settings, type a plain file name that ends in .cov for the cover layout "
                    "first."));
   else if (QFileInfo::exists(target.file(name)) &&

@@ -6,6 +6,7 @@
 #include "elements/colour.h"
 #include "forms/currentskin.h"
 #include "images/pictureencoding.h"
+#include "panels/texts.h"
 #include "platform/skinfolder.h"
 #include "records/writefiles.h"
 
@@ -56,7 +57,7 @@ Piece composePiece(const QImage& backdrop, PictureBox& panel, const char* name, 
   platform.runAside([&] { bytes = encodePart(backdrop, part, beyond); });
   if (bytes.isEmpty())
     throw RecordError(fixed, 0, panel.key(), {},
-                      QStringLiteral("the panel has no size that a picture can have"));
+                      PanelTexts::tr("the panel has no size that a picture can have"));
   return {panel, kImages + (existing.isEmpty() ? fixed : bareFileName(existing)), bytes};
 }
 
@@ -94,7 +95,7 @@ void grabPlayerAndMenu(State& state, const Platform& platform) {
   const QString title = QStringLiteral("Texture Viewer");
   const QImage backdrop = decodeAside(platform, state.form1.picture());
   if (backdrop.isNull()) {
-    platform.dialogs.inform(title, QStringLiteral("The album view has no picture to grab from."));
+    platform.dialogs.inform(title, PanelTexts::tr("The album view has no picture to grab from."));
     return;
   }
   try {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "elements/numbers.h"
+#include "panels/texts.h"
 
 namespace veneerer {
 
@@ -212,7 +213,7 @@ void SkinProperties::sizeWindow(Axis axis) {
   if (const auto twips = PixelsToTwips(screen_, pixels, axis))
     state_.form1.set(sizeOn(axis), static_cast<float>(*twips));
   else
-    state_.notes.say(QStringLiteral("A canvas of so many pixels is too large; it keeps its size."));
+    state_.notes.say(PanelTexts::tr("A canvas of so many pixels is too large; it keeps its size."));
 }
 
 }  // namespace veneerer

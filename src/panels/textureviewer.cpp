@@ -3,6 +3,7 @@
 #include "elements/numbers.h"
 #include "forms/currentskin.h"
 #include "panels/grab.h"
+#include "panels/texts.h"
 #include "panels/textureslots.h"
 
 namespace veneerer {
@@ -27,7 +28,7 @@ Picture TextureViewer::ask(const QString& filter, QString& name) const {
   if (decodeAside(platform_, picture).isNull()) {
     platform_.dialogs.inform(
         QStringLiteral("Texture Viewer"),
-        QStringLiteral("\"%1\" is no picture that can be shown.").arg(bareFileName(path)));
+        PanelTexts::tr("\"%1\" is no picture that can be shown.").arg(bareFileName(path)));
     return {};
   }
   name = u'\\' + bareFileName(path);

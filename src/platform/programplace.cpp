@@ -7,6 +7,7 @@
 #include "files/foldertree.h"
 #include "files/newfolder.h"
 #include "platform/skinfolder.h"
+#include "platform/texts.h"
 
 namespace veneerer {
 
@@ -48,7 +49,7 @@ FoundPlace userPlace(const ProgramPlaces& places, Disk& disk) {
     copyShared(*shared, places.user, disk);
   } catch (const ReplaceError& error) {
     const WriteFault& fault = error.fault();
-    found.fault = QStringLiteral("The Skins that come with the program can't be copied to %1: %2: %3.")
+    found.fault = PlatformTexts::tr("The Skins that come with the program can't be copied to %1: %2: %3.")
                       .arg(places.user, fault.name, fault.reason);
   }
   return found;

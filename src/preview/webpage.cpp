@@ -9,6 +9,7 @@
 #include "preview/eachscreen.h"
 #include "preview/screenlinks.h"
 #include "preview/screenpicture.h"
+#include "preview/texts.h"
 #include "preview/webpageparts.h"
 
 namespace veneerer {
@@ -41,20 +42,23 @@ QString policy() {
 
 QString head(const QString& title) {
   return QStringLiteral(
-             "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+             "<!DOCTYPE html>\n<html lang=\"%4\">\n<head>\n<meta charset=\"utf-8\">\n"
              "<meta http-equiv=\"Content-Security-Policy\" content=\"%1\">\n"
              "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
              "<title>%2</title>\n<style>%3</style>\n</head>\n<body>\n")
-      .arg(policy(), title, QString::fromLatin1(kPageStyle));
+      .arg(policy(), title, QString::fromLatin1(kPageStyle),
+           //: The code of the language that the page is in
+           PreviewTexts::tr("en"));
 }
 
 QString contents(const QString& title) {
-  QString text = QStringLiteral("<header>\n<h1>%1</h1>\n<nav aria-label=\"All screens\">\n<ul>\n").arg(title);
+  QString text = QStringLiteral("<header>\n<h1>%1</h1>\n<nav aria-label=\"%2\">\n<ul>\n")
+                     .arg(title, html(PreviewTexts::tr("All screens")));
   for (int entry = 0; entry < kScreens; ++entry)
     text += QStringLiteral("<li>%1</li>\n").arg(linkTo(entry, screenTitle(entry)));
-  return text + QStringLiteral(
-                    "</ul>\n</nav>\n<p>The left and right arrow keys leaf through the screens; the "
-                    "buttons of the menu lead to theirs.</p>\n</header>\n<main>\n");
+  return text + QStringLiteral("</ul>\n</nav>\n<p>%1</p>\n</header>\n<main>\n")
+                    .arg(html(PreviewTexts::tr("The left and right arrow keys leaf through the screens; the "
+                                               "buttons of the menu lead to theirs.")));
 }
 
 QString percent(double part) {
@@ -86,7 +90,7 @@ QByteArray pictureTag(int entry, const QImage& image) {
       QStringLiteral("<img width=\"%1\" height=\"%2\" alt=\"%3\" src=\"data:image/png;base64,")
           .arg(size.width())
           .arg(size.height())
-          .arg(html(screenTitle(entry) + QStringLiteral(" as the jukebox shows it")));
+          .arg(html(PreviewTexts::tr("%1 as the jukebox shows it").arg(screenTitle(entry))));
   return tag.toUtf8() + pngOf(image).toBase64() + "\">\n";
 }
 
@@ -102,9 +106,11 @@ QByteArray sectionTag(int entry, const QImage& image, const std::vector<ScreenLi
   text += pictureTag(entry, image);
   for (const ScreenLink& link : links) text += area(link).toUtf8();
   return text + QStringLiteral(
-                    "</div>\n<nav aria-label=\"Neighbours\"><ul><li>Previous: %1</li>"
-                    "<li>Next: %2</li></ul></nav>\n</section>\n")
-                    .arg(linkTo(before, screenTitle(before)), linkTo(behind, screenTitle(behind)))
+                    "</div>\n<nav aria-label=\"%1\"><ul><li>%2</li>"
+                    "<li>%3</li></ul></nav>\n</section>\n")
+                    .arg(html(PreviewTexts::tr("Neighbours")),
+                         PreviewTexts::tr("Previous: %1").arg(linkTo(before, screenTitle(before))),
+                         PreviewTexts::tr("Next: %1").arg(linkTo(behind, screenTitle(behind))))
                     .toUtf8();
 }
 

@@ -4,6 +4,7 @@
 
 #include "files/plainfile.h"
 #include "problems/shownreferences.h"
+#include "problems/texts.h"
 #include "records/layoutreader.h"
 #include "records/writefiles.h"
 
@@ -15,12 +16,12 @@ namespace {
 constexpr qint64 kMostPictureBytes = 256LL * 1024 * 1024;
 
 void copyPicture(Disk& disk, const SkinFolder& folder, const Remedy& remedy) {
-  if (!folder.exists()) throw WriteRefused({remedy.target, QStringLiteral("the Skin's folder is gone")});
+  if (!folder.exists()) throw WriteRefused({remedy.target, ProblemTexts::tr("the Skin's folder is gone")});
   if (QFileInfo::exists(folder.file(remedy.target)))
-    throw WriteRefused({remedy.target, QStringLiteral("a file of this name is there by now")});
+    throw WriteRefused({remedy.target, ProblemTexts::tr("a file of this name is there by now")});
   const FileContent picture = readPlainFile(remedy.source, kMostPictureBytes);
   if (!picture.isRead())
-    throw WriteRefused({remedy.target, QStringLiteral("the picture to be copied can't be read")});
+    throw WriteRefused({remedy.target, ProblemTexts::tr("the picture to be copied can't be read")});
   const QString images = QFileInfo(folder.file(remedy.target)).path();
   if (const QString reason = disk.makeFolder(images); !reason.isEmpty())
     throw WriteRefused({remedy.target, reason});

@@ -3,12 +3,11 @@
 #include "elements/printable.h"
 #include "problems/rawvalues.h"
 #include "problems/textdamage.h"
+#include "problems/texts.h"
 
 namespace veneerer {
 
 namespace {
-
-const QString kWhat = QStringLiteral("caption");
 
 /// The low quotation mark, which is in the code page and drawn like a comma.
 constexpr QChar kLikeComma(0x201A);
@@ -19,8 +18,9 @@ struct Replacement {
 };
 
 constexpr Replacement kReplacements[] = {
-    {kLikeComma, "Replace the caption by \"%1\": a low quotation mark looks like the comma"},
-    {u';', "Replace the caption by \"%1\""},
+    {kLikeComma, QT_TRANSLATE_NOOP(
+                     "Problems", "Replace the caption by \"%1\": a low quotation mark looks like the comma")},
+    {u';', QT_TRANSLATE_NOOP("Problems", "Replace the caption by \"%1\"")},
 };
 
 QString mended(QString caption, QChar forComma) {
@@ -35,14 +35,15 @@ QString mended(QString caption, QChar forComma) {
 Remedies captionRemedies(const Element& element) {
   const QString& caption = element.as<QString>(Property::Caption);
   Remedies remedies;
-  if (lineDamage(kWhat, caption).isEmpty()) return remedies;
+  const QString what = ProblemTexts::tr("caption");
+  if (lineDamage(what, caption).isEmpty()) return remedies;
   const bool hasComma = caption.contains(u',');
   for (const auto& [forComma, why] : kReplacements) {
     if (!hasComma && forComma == kLikeComma) continue;
     const QString better = mended(caption, forComma);
-    if (textDamage(kWhat, better).isEmpty())
+    if (textDamage(what, better).isEmpty())
       remedies.append({RemedyKind::MendCaption,
-                       QString::fromLatin1(why).arg(excerpt(better)),
+                       ProblemTexts::tr(why).arg(excerpt(better)),
                        {{element.key(), Property::Caption, better}}});
   }
   return remedies;

@@ -7,6 +7,7 @@
 #include "painting/canvassize.h"
 #include "problems/filecheck.h"
 #include "problems/strayfiles.h"
+#include "problems/texts.h"
 #include "problems/wholeskin.h"
 #include "records/coverfile.h"
 #include "records/layoutreader.h"
@@ -33,7 +34,7 @@ public:
 
   CheckedFiles run() {
     for (const SaveEntry& entry : saveOrder()) checkEntry(entry);
-    if (!hasRecords_) warn(QString(), QStringLiteral("no record file is here"));
+    if (!hasRecords_) warn(QString(), ProblemTexts::tr("no record file is here"));
     checkCovers();
     checkCanvasSize();
     tellUntriedPictures();
@@ -78,7 +79,7 @@ private:
       check(name, layout, isFile(name));
     }
     if (unchecked > 0)
-      warn(QString(), QStringLiteral("there are too many cover files: %1 not checked").arg(unchecked));
+      warn(QString(), ProblemTexts::tr("there are too many cover files: %1 not checked").arg(unchecked));
   }
 
   void checkEntry(const SaveEntry& entry) {
@@ -106,7 +107,7 @@ private:
   void checkCanvasSize() {
     const CanvasSize size = canvasSize(skin_.state.form1, skin_.screen);
     if (!size.isCut) return;
-    const QString text = QStringLiteral("of so large a canvas only %1 x %2 pixels are drawn");
+    const QString text = ProblemTexts::tr("of so large a canvas only %1 x %2 pixels are drawn");
     warn(QStringLiteral("resolution.ini"), text.arg(size.pixels.width()).arg(size.pixels.height()));
   }
 
@@ -121,7 +122,7 @@ private:
   void tellUntriedPictures() {
     if (const int untried = skin_.pictures.untried())
       warn(QString(),
-           QStringLiteral("all images together take too long to decode: %1 not tried").arg(untried));
+           ProblemTexts::tr("all images together take too long to decode: %1 not tried").arg(untried));
   }
 
   CheckedSkin skin_;

@@ -7,6 +7,7 @@
 #include "problems/captionremedies.h"
 #include "problems/savedtexts.h"
 #include "problems/screenplace.h"
+#include "problems/texts.h"
 
 namespace veneerer {
 
@@ -36,11 +37,11 @@ Findings ElementJudge::shapeDamage(const Element& element) const {
   if (element.kind() != Kind::Button) return {};
   const auto& button = cast<Button>(element);
   if (!button.isCustomShaped() || !button.picture().isNull()) return {};
-  Finding finding =
-      found(FindingKind::Warning, element, Property::ButtonShape,
-            QStringLiteral("the shape comes from a picture, and there is none: the next load sets it to 0"));
+  Finding finding = found(
+      FindingKind::Warning, element, Property::ButtonShape,
+      ProblemTexts::tr("the shape comes from a picture, and there is none: the next load sets it to 0"));
   finding.remedies = {{RemedyKind::DropShape,
-                       QStringLiteral("Set the shape to 0, a rectangle"),
+                       ProblemTexts::tr("Set the shape to 0, a rectangle"),
                        {{element.key(), Property::ButtonShape, 0}}}};
   return {finding};
 }

@@ -2,6 +2,7 @@
 
 #include "problems/referencedamage.h"
 #include "problems/rowdamage.h"
+#include "problems/texts.h"
 #include "records/layoutreader.h"
 #include "records/recorderror.h"
 
@@ -35,8 +36,8 @@ Finding risky(const QString& name, const RawValue& value, const QString& text) {
   return finding;
 }
 
-QString counted(const char* text, int count, const Layout& layout) {
-  return QString::fromLatin1(text).arg(count).arg(layout.lineCount());
+QString counted(const QString& text, int count, const Layout& layout) {
+  return text.arg(count).arg(layout.lineCount());
 }
 
 QString damageOf(const RawValue& value, CheckedSkin& skin) {
@@ -70,15 +71,16 @@ Findings checkFile(CheckedSkin& skin, const QString& name, const Layout& layout,
     if (!content) return {};
     bytes = *content;
     const int lines = lineCount(bytes);
-    if (lines > layout.lineCount()) warn(0, counted("has %1 lines where the format has %2", lines, layout));
+    if (lines > layout.lineCount())
+      warn(0, counted(ProblemTexts::tr("has %1 lines where the format has %2"), lines, layout));
     readRecords(layout, bytes, loading, Failures::AllFatal);
     if (loading.lines.size() < layout.size())
-      warn(0, counted("stops before an optional block, at %1 of %2 lines", lines, layout));
+      warn(0, counted(ProblemTexts::tr("stops before an optional block, at %1 of %2 lines"), lines, layout));
   } catch (const RecordError& error) {
     findings.append(failed(skin.state, name, error, failure));
   }
   skin.places[name].add(layout, name, loading.lines, RecordPlaces::Side::Read);
-  if (bytes.startsWith(kByteOrderMark)) warn(1, QStringLiteral("a byte order mark counts as text"));
+  if (bytes.startsWith(kByteOrderMark)) warn(1, ProblemTexts::tr("a byte order mark counts as text"));
   return findings << valueFindings(skin, name, rawValues(layout, loading.lines, bytes));
 }
 

@@ -7,6 +7,7 @@
 #include "painting/buttonface.h"
 #include "problems/contrast.h"
 #include "problems/screenplace.h"
+#include "problems/texts.h"
 
 namespace veneerer {
 
@@ -19,7 +20,7 @@ PixelScale scaleOf(const Screen& screen) {
 }
 
 QString captionOf(const Element& element) {
-  return QStringLiteral("the caption \"%1\"").arg(excerpt(element.as<QString>(Property::Caption)));
+  return excerpt(element.as<QString>(Property::Caption));
 }
 
 QString number(double value) {
@@ -56,8 +57,10 @@ QList<Hint> Hints::atOnce(const Element& element) {
   hints << outside(element);
   if (tell(Property::Left, hidden(element))) return hints;
   const QRectF place = pixelPlace(element, scale_);
-  tell(Property::Width, small(element, place.width(), "wide"));
-  tell(Property::Height, small(element, place.height(), "high"));
+  tell(Property::Width,
+       small(element, place.width(), ProblemTexts::tr("the button is %1 pixels wide, a finger needs %2")));
+  tell(Property::Height,
+       small(element, place.height(), ProblemTexts::tr("the button is %1 pixels high, a finger needs %2")));
   tell(Property::Caption, unfit(element));
   tell(Property::FontName, fontMissing(element));
   tell(Property::Picture, pictureFar(element));
@@ -75,20 +78,19 @@ QList<Hint> Hints::outside(const Element& element) const {
   const QRectF outer = pixelPlace(container, scale_);
   const QRectF widened = outer.adjusted(-kRounding, -kRounding, kRounding, kRounding);
   if (widened.contains(inner)) return {};
-  const QString how = inner.intersects(outer) ? QStringLiteral("partly") : QStringLiteral("wholly");
-  return {{sideOutside(inner, widened), QStringLiteral("it lies %1 outside %2").arg(how, container.key())}};
+  const QString text = inner.intersects(outer) ? ProblemTexts::tr("it lies partly outside %1")
+                                               : ProblemTexts::tr("it lies wholly outside %1");
+  return {{sideOutside(inner, widened), text.arg(container.key())}};
 }
 
 QString Hints::hidden(const Element& element) const {
   const Element* hider = hiderOf(state_, element, scale_);
-  return hider ? QStringLiteral("%1 hides all of it").arg(hider->key()) : QString();
+  return hider ? ProblemTexts::tr("%1 hides all of it").arg(hider->key()) : QString();
 }
 
-QString Hints::small(const Element& element, double side, const char* way) const {
+QString Hints::small(const Element& element, double side, const QString& text) const {
   if (element.kind() != Kind::Button || side > touch_ - kRounding) return {};
-  return QStringLiteral("the button is %1 pixels %2, a finger needs %3")
-      .arg(number(side), QLatin1String(way))
-      .arg(touch_);
+  return text.arg(number(side)).arg(touch_);
 }
 
 QString Hints::unfit(const Element& element) {
@@ -99,17 +101,18 @@ QString Hints::unfit(const Element& element) {
   const bool isWide = caption->size.width() > caption->room.width() + kSlack;
   const bool isHigh = caption->size.height() > caption->room.height() + kSlack;
   if (!isWide && !isHigh) return {};
-  return QStringLiteral("%1 doesn't fit: it needs %2 %3 of %4")
-      .arg(captionOf(element), number(isWide ? caption->size.width() : caption->size.height()),
-           isWide ? QStringLiteral("pixels across") : QStringLiteral("pixels down"),
-           number(isWide ? caption->room.width() : caption->room.height()));
+  const QString text =
+      isWide ? ProblemTexts::tr("the caption \"%1\" doesn't fit: it needs %2 pixels across of %3")
+             : ProblemTexts::tr("the caption \"%1\" doesn't fit: it needs %2 pixels down of %3");
+  return text.arg(captionOf(element), number(isWide ? caption->size.width() : caption->size.height()),
+                  number(isWide ? caption->room.width() : caption->room.height()));
 }
 
 QString Hints::fontMissing(const Element& element) {
   const bool isText = element.kind() == Kind::Label || element.kind() == Kind::Button;
   const QString name = isText ? element.as<QString>(Property::FontName) : QString();
   if (name.isEmpty() || fonts_.has(name)) return {};
-  return QStringLiteral("this machine has no font \"%1\"").arg(excerpt(name));
+  return ProblemTexts::tr("this machine has no font \"%1\"").arg(excerpt(name));
 }
 
 // A small picture beside a caption is shown in a size of its own.
@@ -127,7 +130,7 @@ QString Hints::pictureFar(const Element& element) {
   const QSizeF shown = pixelPlace(element, scale_).size();
   if (own.isEmpty() || (!isFar(own.width(), shown.width()) && !isFar(own.height(), shown.height())))
     return {};
-  return QStringLiteral("its picture is %1 pixels, the element %2").arg(sides(own), sides(shown));
+  return ProblemTexts::tr("its picture is %1 pixels, the element %2").arg(sides(own), sides(shown));
 }
 
 QString Hints::faint(const Element& element) {
@@ -135,7 +138,7 @@ QString Hints::faint(const Element& element) {
   if (!caption) return {};
   const std::optional<double> contrast = contrasts_.of(*caption);
   if (!contrast || *contrast >= caption->least) return {};
-  return QStringLiteral("%1 has a contrast of %2 to what lies beneath, %3 is the least")
+  return ProblemTexts::tr("the caption \"%1\" has a contrast of %2 to what lies beneath, %3 is the least")
       .arg(captionOf(element), contrastText(*contrast), number(caption->least));
 }
 

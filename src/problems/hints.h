@@ -42,7 +42,7 @@ public:
 private:
   QList<Hint> outside(const Element& element) const;
   QString hidden(const Element& element) const;
-  QString small(const Element& element, double side, const char* way) const;
+  QString small(const Element& element, double side, const QString& text) const;
   QString unfit(const Element& element);
   QString fontMissing(const Element& element);
   QString pictureFar(const Element& element);

@@ -6,6 +6,7 @@
 
 #include "elements/printable.h"
 #include "problems/rawvalues.h"
+#include "problems/texts.h"
 #include "records/coverfile.h"
 #include "records/layoutreader.h"
 #include "records/layoutwriter.h"
@@ -45,9 +46,11 @@ bool isReloaded(MakeLayout layout) {
 }
 
 QString fileDamage(const Layout& layout, bool isReloaded, const std::optional<QByteArray>& bytes) {
-  if (!bytes) return QStringLiteral("isn't in this Skin: what it would hold is still as in the Skin before");
+  if (!bytes)
+    return ProblemTexts::tr("isn't in this Skin: what it would hold is still as in the Skin before");
   if (isReloaded || holdsWhatIsShown(layout, *bytes)) return {};
-  return QStringLiteral("isn't read when the Skin is changed: what it holds is still as in the Skin before");
+  return ProblemTexts::tr(
+      "isn't read when the Skin is changed: what it holds is still as in the Skin before");
 }
 
 Findings fileFindings(State& state, const SkinFolder& folder) {
@@ -74,8 +77,8 @@ Findings coverFindings(State& state, const SkinFolder& folder) {
   if (names.isEmpty() || isShown) return {};
   return {
       {FindingKind::Warning, names.first(), 0,
-       QStringLiteral("no cover file is read when the Skin is changed: the covers are still as in the Skin "
-                      "before")}};
+       ProblemTexts::tr("no cover file is read when the Skin is changed: the covers are still as in the Skin "
+                        "before")}};
 }
 
 bool isOfAnotherSkin(const SkinFolder& folder, const QString& path) {
@@ -97,7 +100,7 @@ Findings pictureFindings(const State& state, const SkinFolder& folder) {
         findings.append({FindingKind::Warning,
                          {},
                          0,
-                         QStringLiteral("%1 shows a picture of another Skin: %2")
+                         ProblemTexts::tr("%1 shows a picture of another Skin: %2")
                              .arg(element->key(), excerpt(path, kLongestReference)),
                          element->key(),
                          Property::Picture});

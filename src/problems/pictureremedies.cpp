@@ -5,6 +5,7 @@
 
 #include "elements/printable.h"
 #include "problems/textdamage.h"
+#include "problems/texts.h"
 
 namespace veneerer {
 
@@ -21,17 +22,15 @@ QString relativeReference(const SkinFolder& folder, const QString& path) {
   return textDamage(QString(), reference).isEmpty() ? reference : QString();
 }
 
-Remedy use(const ImageSlot& slot, const QString& reference, const char* text) {
-  return {RemedyKind::UsePicture,
-          QString::fromLatin1(text).arg(excerpt(reference, kLongestReference)),
-          {named(slot, reference)}};
+Remedy use(const ImageSlot& slot, const QString& reference, const QString& text) {
+  return {RemedyKind::UsePicture, text.arg(excerpt(reference, kLongestReference)), {named(slot, reference)}};
 }
 
 Remedy copy(const SkinPictures& pictures, const ImageSlot& slot, const QString& path) {
   const QString target = pictures.freeName(path);
   const QString reference = referenceTo(target);
   return {RemedyKind::CopyPicture,
-          QStringLiteral("Copy %1 into the Skin: writes %2")
+          ProblemTexts::tr("Copy %1 into the Skin: writes %2")
               .arg(excerpt(path, kLongestReference), excerpt(reference, kLongestReference)),
           {named(slot, reference)},
           path,
@@ -51,17 +50,17 @@ QString pictureMeant(const SkinFolder& folder, const QString& reference, const Q
 Remedies pictureRemedies(const SkinFolder& folder, SkinPictures& pictures, PictureTrials& trials,
                          const ImageSlot& slot, const QString& shown) {
   Remedies remedies;
-  const auto add = [&](const QString& reference, const char* text) {
+  const auto add = [&](const QString& reference, const QString& text) {
     const bool isNew = !reference.isEmpty() && reference != slot.text();
     if (isNew && trials.of(folder.resolve(reference)) != PictureTrial::Broken)
       remedies.append(use(slot, reference, text));
   };
   const QString meant = pictureMeant(folder, slot.text(), shown);
   const bool isInside = !meant.isEmpty() && folder.contains(meant);
-  if (isInside) add(relativeReference(folder, meant), "Use the name that a load finds: %1");
+  if (isInside) add(relativeReference(folder, meant), ProblemTexts::tr("Use the name that a load finds: %1"));
   if (!meant.isEmpty() && !isInside) remedies.append(copy(pictures, slot, meant));
   if (!isInside && folder.resolve(slot.text()).isEmpty())
-    add(pictures.likeliest(slot.text()), "Found as %1: use it");
+    add(pictures.likeliest(slot.text()), ProblemTexts::tr("Found as %1: use it"));
   return remedies;
 }
 

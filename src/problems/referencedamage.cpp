@@ -4,6 +4,7 @@
 
 #include "elements/printable.h"
 #include "problems/textdamage.h"
+#include "problems/texts.h"
 
 namespace veneerer {
 
@@ -25,12 +26,13 @@ QString unnameableFile(const SkinFolder& folder, const QString& reference) {
 }
 
 QString missing(const SkinFolder& folder, const QString& reference) {
-  if (const QString damage = utf8Damage(QStringLiteral("image reference"), reference); !damage.isEmpty())
+  if (const QString damage = utf8Damage(ProblemTexts::tr("image reference"), reference); !damage.isEmpty())
     return damage;
-  const QString said = QStringLiteral("the image \"%1\" is missing").arg(excerpt(reference, kLongestPath));
+  const QString shown = excerpt(reference, kLongestPath);
   const QString file = unnameableFile(folder, reference);
-  if (file.isEmpty()) return said;
-  return said + QStringLiteral(": code page 1252 can't hold the name of \"%1\"").arg(excerpt(file));
+  if (file.isEmpty()) return ProblemTexts::tr("the image \"%1\" is missing").arg(shown);
+  return ProblemTexts::tr("the image \"%1\" is missing: code page 1252 can't hold the name of \"%2\"")
+      .arg(shown, excerpt(file));
 }
 
 }  // namespace
@@ -41,12 +43,15 @@ QString referenceDamage(const SkinFolder& folder, PictureTrials& pictures, const
   // The grab of the player's picture leaves such a name.
   const bool isFullPath = found.isEmpty() && reference.startsWith(u'/') && QFileInfo(reference).isFile();
   const QString path = isFullPath ? reference : found;
-  const QString said = QStringLiteral("the image \"%1\" ").arg(excerpt(reference, kLongestPath));
+  const QString shown = excerpt(reference, kLongestPath);
   if (path.isEmpty()) return missing(folder, reference);
-  if (!folder.contains(path)) return said + QStringLiteral("lies outside the Skin's folder");
-  if (pictures.of(path) == PictureTrial::Broken) return said + QStringLiteral("can't be decoded");
+  if (!folder.contains(path))
+    return ProblemTexts::tr("the image \"%1\" lies outside the Skin's folder").arg(shown);
+  if (pictures.of(path) == PictureTrial::Broken)
+    return ProblemTexts::tr("the image \"%1\" can't be decoded").arg(shown);
   if (isFullPath)
-    return said + QStringLiteral("is named by its full path, which doesn't travel with the Skin");
+    return ProblemTexts::tr("the image \"%1\" is named by its full path, which doesn't travel with the Skin")
+        .arg(shown);
   return {};
 }
 

@@ -6,6 +6,7 @@
 #include "elements/numbers.h"
 #include "elements/printable.h"
 #include "problems/textdamage.h"
+#include "problems/texts.h"
 
 namespace veneerer {
 
@@ -38,14 +39,14 @@ Sort sortOf(const Row& row) {
 QString nameOf(const Row& row) {
   switch (sortOf(row)) {
     case Sort::Dropped:
-      return QStringLiteral("label line");
+      return ProblemTexts::tr("label line");
     case Sort::Reference:
-      return QStringLiteral("image reference");
+      return ProblemTexts::tr("image reference");
     case Sort::Text:
-      return row.field()->from.property == Property::FontName ? QStringLiteral("font name")
-                                                              : QStringLiteral("caption");
+      return row.field()->from.property == Property::FontName ? ProblemTexts::tr("font name")
+                                                              : ProblemTexts::tr("caption");
     case Sort::Number:
-      return isFontSize(row) ? QStringLiteral("font size") : QStringLiteral("number");
+      return isFontSize(row) ? ProblemTexts::tr("font size") : ProblemTexts::tr("number");
   }
   return {};
 }
@@ -86,14 +87,14 @@ QString numberDamage(const RawValue& raw) {
   if (!number && !isSize) return {};
   const QString back = writtenNumber(*raw.row, number ? *number : leadingNumber(raw.text));
   if (back.isEmpty() || back == text) return {};
-  return QStringLiteral("the %1 \"%2\" comes back as \"%3\"").arg(nameOf(*raw.row), excerpt(text), back);
+  return ProblemTexts::tr("the %1 \"%2\" comes back as \"%3\"").arg(nameOf(*raw.row), excerpt(text), back);
 }
 
 /// A text in quotes is read without them; a save writes it so.
 QString quotesDamage(const QString& what, const RawValue& raw) {
-  const QString lost = QStringLiteral("the %1 %2 loses its quotes").arg(what, excerpt(raw.text.trimmed()));
+  const QString lost = ProblemTexts::tr("the %1 %2 loses its quotes").arg(what, excerpt(raw.text.trimmed()));
   const QString later = textDamage(what, valueText(raw.value));
-  return later.isEmpty() ? lost : lost + QStringLiteral("; then ") + later;
+  return later.isEmpty() ? lost : ProblemTexts::tr("%1; then %2").arg(lost, later);
 }
 
 /// Blanks at the start are part of what a caption shows; no other text misses them.
@@ -124,7 +125,7 @@ QString rowDamage(const RawValue& raw) {
   const QString text = shownText(raw);
   const bool isText = sort == Sort::Text || sort == Sort::Reference || holdsText(raw);
   if (isText && withoutLeadingBlanks(text).startsWith(u'"')) return quotesDamage(what, raw);
-  if (!raw.endsLine) return lineDamage(sort == Sort::Number ? QStringLiteral("line") : what, raw.text);
+  if (!raw.endsLine) return lineDamage(sort == Sort::Number ? ProblemTexts::tr("line") : what, raw.text);
   if (sort == Sort::Dropped) return lineDamage(what, raw.text);
   if (sort == Sort::Text)
     return firstOf({utf8Damage(what, text), undefinedByteDamage(what, text), textDamage(what, text)});

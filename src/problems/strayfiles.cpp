@@ -5,6 +5,7 @@
 
 #include "files/plainfile.h"
 #include "problems/rawvalues.h"
+#include "problems/texts.h"
 
 namespace veneerer {
 
@@ -20,8 +21,8 @@ bool endsIn(const QString& name, const char* extension) {
 QString neverRead(const QString& name, const QSet<QString>& names) {
   const auto meant = std::ranges::find_if(
       names, [&](const QString& known) { return known.compare(name, Qt::CaseInsensitive) == 0; });
-  return meant == names.end() ? QStringLiteral("is no record file that is ever read")
-                              : QStringLiteral("is never read: the name is spelt %1").arg(*meant);
+  return meant == names.end() ? ProblemTexts::tr("is no record file that is ever read")
+                              : ProblemTexts::tr("is never read: the name is spelt %1").arg(*meant);
 }
 
 }  // namespace
@@ -43,7 +44,7 @@ Findings strayFiles(const SkinFolder& folder, const QSet<QString>& names) {
     if (endsIn(name, ".ini"))
       warn(name, neverRead(name, names));
     else if (readsLikeCover(folder.file(name)))
-      warn(name, QStringLiteral("reads like a cover file, but only names that end in .cov are listed"));
+      warn(name, ProblemTexts::tr("reads like a cover file, but only names that end in .cov are listed"));
   }
   return findings;
 }

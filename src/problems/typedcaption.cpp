@@ -3,6 +3,7 @@
 #include "elements/printable.h"
 #include "problems/rawvalues.h"
 #include "problems/textdamage.h"
+#include "problems/texts.h"
 #include "records/codepage.h"
 
 namespace veneerer {
@@ -11,11 +12,11 @@ namespace {
 
 QString reason(const QString& caption, const QString& back) {
   const QString start = withoutLeadingBlanks(caption);
-  if (start.startsWith(u'"')) return QStringLiteral("a double quote at the start isn't part of the text");
-  if (caption.contains(u',')) return QStringLiteral("a comma ends the text, and its rest spoils the file");
-  if (asSaved(caption) != caption) return QStringLiteral("the file can't hold every character of it");
-  if (start == back) return QStringLiteral("blanks at the start are dropped");
-  return QStringLiteral("it is read as a value of another kind");
+  if (start.startsWith(u'"')) return ProblemTexts::tr("a double quote at the start isn't part of the text");
+  if (caption.contains(u',')) return ProblemTexts::tr("a comma ends the text, and its rest spoils the file");
+  if (asSaved(caption) != caption) return ProblemTexts::tr("the file can't hold every character of it");
+  if (start == back) return ProblemTexts::tr("blanks at the start are dropped");
+  return ProblemTexts::tr("it is read as a value of another kind");
 }
 
 }  // namespace
@@ -24,9 +25,10 @@ QString typedCaptionDamage(const QString& caption) {
   if (textDamage(QString(), caption).isEmpty()) return {};
   const RecordValue value = RecordReader(toCodePage(caption) + "\r\n").readValue();
   if (std::holds_alternative<OddValue>(value))
-    return QStringLiteral("After a save no load would take this text.");
+    return ProblemTexts::tr("After a save no load would take this text.");
   const QString back = valueText(value);
-  return QStringLiteral("After a save \"%1\" would come back: %2.").arg(excerpt(back), reason(caption, back));
+  return ProblemTexts::tr("After a save \"%1\" would come back: %2.")
+      .arg(excerpt(back), reason(caption, back));
 }
 
 }  // namespace veneerer

@@ -5,6 +5,7 @@
 #include <QSet>
 
 #include "problems/strayfiles.h"
+#include "problems/texts.h"
 
 namespace veneerer {
 
@@ -54,7 +55,7 @@ Findings unnamedFiles(const State& state, const SkinFolder& folder) {
   names.sort();
   Findings findings;
   for (const QString& name : std::as_const(names))
-    findings.append({FindingKind::Hint, name, 0, QStringLiteral("nothing in the Skin names this file")});
+    findings.append({FindingKind::Hint, name, 0, ProblemTexts::tr("nothing in the Skin names this file")});
   return findings;
 }
 

@@ -8,6 +8,7 @@
 #include "painting/canvassize.h"
 #include "problems/leftbehind.h"
 #include "problems/rawvalues.h"
+#include "problems/texts.h"
 #include "records/coverfile.h"
 #include "records/layoutreader.h"
 #include "records/recorderror.h"
@@ -67,12 +68,12 @@ Findings resolutionFindings(const State& state, const Screen& screen) {
     return RemedyChange{state.form4.Text1[axis].key(), Property::Text, QString::number(pixels)};
   };
   const Remedy remedy{RemedyKind::SetResolution,
-                      QStringLiteral("Set the resolution to %1").arg(sizeText(canvas)),
+                      ProblemTexts::tr("Set the resolution to %1").arg(sizeText(canvas)),
                       {set(0, canvas.width()), set(1, canvas.height())}};
   return {{FindingKind::Warning,
            kResolution,
            kResolutionLine,
-           QStringLiteral("the resolution is %1, the canvas %2 pixels")
+           ProblemTexts::tr("the resolution is %1, the canvas %2 pixels")
                .arg(sizeText(resolution), sizeText(canvas)),
            state.form4.Text1[0].key(),
            Property::Text,
@@ -99,9 +100,10 @@ Findings coverFindings(const State& state, const SkinFolder& folder, const Scree
   Findings findings;
   for (const QString& name : folder.coverFiles())
     if (name != inHand)
-      findings.append({FindingKind::Hint, name, 0,
-                       QStringLiteral("its covers are placed for %1 pixels: no rescale changes a cover file")
-                           .arg(sizeText(saved))});
+      findings.append(
+          {FindingKind::Hint, name, 0,
+           ProblemTexts::tr("its covers are placed for %1 pixels: no rescale changes a cover file")
+               .arg(sizeText(saved))});
   return findings;
 }
 
@@ -111,14 +113,14 @@ std::optional<Finding> twinFinding(const SkinFolder& folder, const QString& read
   const bool areThere = QFileInfo(folder.file(read)).isFile() && QFileInfo(folder.file(written)).isFile();
   if (!areThere || bytesOf(folder, read) == bytesOf(folder, written)) return std::nullopt;
   const Remedy remedy{RemedyKind::CopyTwin,
-                      QStringLiteral("Copy %1 over it: writes %2").arg(written, read),
+                      ProblemTexts::tr("Copy %1 over it: writes %2").arg(written, read),
                       {},
                       folder.file(written),
                       read};
   return Finding{FindingKind::Warning,
                  read,
                  0,
-                 QStringLiteral("differs from %1, which a save writes and no load reads").arg(written),
+                 ProblemTexts::tr("differs from %1, which a save writes and no load reads").arg(written),
                  {},
                  {},
                  {remedy}};

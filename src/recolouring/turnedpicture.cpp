@@ -7,6 +7,7 @@
 #include "images/picturedecoding.h"
 #include "images/pictureformat.h"
 #include "recolouring/pixelturner.h"
+#include "recolouring/texts.h"
 #include "recolouring/turnedbitmap.h"
 #include "recolouring/turnedgif.h"
 #include "recolouring/turnedjpeg.h"
@@ -42,16 +43,18 @@ std::optional<QByteArray> turnedBytes(PictureFormat format, const QByteArray& by
 TurnedPicture turnedPicture(const QString& path, const ColourTurn& turn, const Step& step) {
   const PictureFormat format = formatOf(headOfFile(path, kPictureHead));
   if (format == PictureFormat::None)
-    return {{}, isNamedAsPicture(path) ? QStringLiteral("it is no picture that can be read") : QString()};
-  if (format == PictureFormat::Icon) return {{}, QStringLiteral("icons aren't turned")};
+    return {{},
+            isNamedAsPicture(path) ? RecolouringTexts::tr("it is no picture that can be read") : QString()};
+  if (format == PictureFormat::Icon) return {{}, RecolouringTexts::tr("icons aren't turned")};
   const FileContent content = readPlainFile(path, kMostPictureBytes);
   if (!content.isRead()) return {{}, content.reason};
   QImage image = decodeExactly(content.bytes);
-  if (image.isNull()) return {{}, QStringLiteral("it can't be decoded")};
+  if (image.isNull()) return {{}, RecolouringTexts::tr("it can't be decoded")};
   step();
   PixelTurner turner(turn);
   std::optional<QByteArray> made = turnedBytes(format, content.bytes, std::move(image), turner, step);
-  if (made && made->isEmpty()) return {{}, QStringLiteral("its format can't hold the picture any more")};
+  if (made && made->isEmpty())
+    return {{}, RecolouringTexts::tr("its format can't hold the picture any more")};
   return {std::move(made), {}};
 }
 

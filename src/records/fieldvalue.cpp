@@ -6,6 +6,7 @@
 
 #include "elements/numbers.h"
 #include "elements/printable.h"
+#include "records/texts.h"
 
 namespace veneerer {
 
@@ -17,7 +18,7 @@ QString asText(const RecordValue& value) {
   if (const auto* truth = std::get_if<bool>(&value))
     return *truth ? QStringLiteral("True") : QStringLiteral("False");
   if (const auto* odd = std::get_if<OddValue>(&value))
-    throw BadValue{QStringLiteral("%1 is a value that no field takes").arg(excerpt(odd->text))};
+    throw BadValue{RecordTexts::tr("%1 is a value that no field takes").arg(excerpt(odd->text))};
   return {};
 }
 
@@ -26,7 +27,7 @@ double asNumber(const RecordValue& value) {
   if (const auto* number = std::get_if<double>(&value)) return *number;
   if (const auto* truth = std::get_if<bool>(&value)) return *truth ? -1 : 0;
   const QString text = excerpt(asText(value));
-  throw BadValue{QStringLiteral("a number is due here, but \"%1\" stands in its place").arg(text)};
+  throw BadValue{RecordTexts::tr("a number is due here, but \"%1\" stands in its place").arg(text)};
 }
 
 float asSingle(double number) {

@@ -8,6 +8,7 @@
 #include "records/likelycause.h"
 #include "records/linewalk.h"
 #include "records/recorderror.h"
+#include "records/texts.h"
 
 namespace veneerer {
 
@@ -16,7 +17,7 @@ namespace {
 QString elementOf(const Row& row) {
   if (const Field* field = row.field()) return field->into.element->key();
   if (const Counter* counter = row.counter()) return QString::fromLatin1(counter->name);
-  return row.reference() ? QStringLiteral("image reference") : QStringLiteral("label line");
+  return row.reference() ? RecordTexts::tr("image reference") : RecordTexts::tr("label line");
 }
 
 QString fieldOf(const Row& row) {
@@ -52,12 +53,12 @@ private:
     const int line = reader_.line();
     isBehindEnd_ = reader_.atEnd();
     try {
-      if (isBehindEnd_) throw BadValue{QStringLiteral("the file ends where a value is due")};
+      if (isBehindEnd_) throw BadValue{RecordTexts::tr("the file ends where a value is due")};
       std::visit([this](const auto& content) { take(content); }, row.content);
       return true;
     } catch (const OutOfRange&) {
       const QString number = excerpt(reader_.lastText().trimmed());
-      return fail(row, line, QStringLiteral("the number %1 is out of the field's range").arg(number));
+      return fail(row, line, RecordTexts::tr("the number %1 is out of the field's range").arg(number));
     } catch (const BadValue& bad) {
       return fail(row, line, bad.what);
     }
@@ -156,7 +157,7 @@ std::optional<QByteArray> recordFileIfThere(const QString& path) {
 QByteArray recordFileBytes(const QString& path) {
   if (const std::optional<QByteArray> bytes = recordFileIfThere(path)) return *bytes;
   const QFileInfo info(path);
-  throw RecordError(info.fileName(), 0, {}, {}, QStringLiteral("the file isn't there"), {info.path()});
+  throw RecordError(info.fileName(), 0, {}, {}, RecordTexts::tr("the file isn't there"), {info.path()});
 }
 
 QString readRecordFile(const Layout& layout, const QString& path, Loading& loading) {

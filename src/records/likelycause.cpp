@@ -7,6 +7,7 @@
 #include "elements/printable.h"
 #include "records/recordreader.h"
 #include "records/recordvalue.h"
+#include "records/texts.h"
 
 namespace veneerer {
 
@@ -44,34 +45,41 @@ QString textOfLine(const QByteArray& bytes, int line) {
   return excerpt(text);
 }
 
-QString counted(int count, const char* thing) {
-  constexpr const char* kWords[] = {"no", "one", "two", "three", "four", "five", "six"};
-  const QString number = count < static_cast<int>(std::size(kWords)) ? QString::fromLatin1(kWords[count])
-                                                                     : QString::number(count);
-  return number + u' ' + QString::fromLatin1(thing) + (count == 1 ? QString() : QStringLiteral("s"));
+// From two on.
+QString numberWord(int number) {
+  constexpr const char* kWords[] = {
+      QT_TRANSLATE_NOOP("Records", "two"), QT_TRANSLATE_NOOP("Records", "three"),
+      QT_TRANSLATE_NOOP("Records", "four"), QT_TRANSLATE_NOOP("Records", "five"),
+      QT_TRANSLATE_NOOP("Records", "six")};
+  const auto at = static_cast<std::size_t>(number - 2);
+  return at < std::size(kWords) ? RecordTexts::tr(kWords[at]) : QString::number(number);
 }
 
 bool isNumber(const Row& row) {
   return row.counter() || (row.field() && row.field()->kind != ValueKind::Text);
 }
 
-const char* nameOf(const Row& row) {
-  if (row.literal()) return row.literal()->captionOf ? "the caption in the label line" : "the label line";
-  if (row.reference()) return "the image's name";
-  if (isNumber(row)) return "the number";
+QString nameOf(const Row& row) {
+  if (row.literal())
+    return row.literal()->captionOf ? RecordTexts::tr("the caption in the label line")
+                                    : RecordTexts::tr("the label line");
+  if (row.reference()) return RecordTexts::tr("the image's name");
+  if (isNumber(row)) return RecordTexts::tr("the number");
   const Property property = row.field()->into.property;
-  if (property == Property::Caption) return "the caption";
-  return property == Property::FontName ? "the font's name" : "the text";
+  if (property == Property::Caption) return RecordTexts::tr("the caption");
+  return property == Property::FontName ? RecordTexts::tr("the font's name") : RecordTexts::tr("the text");
 }
 
 /// "the caption on line 4, two lines up (Rock, Pop)".
 QString placeOf(const Placed& placed, const Stumble& stumble) {
   const int above = stumble.lines.back() - placed.line;
-  const QString distance = above > 0 ? QStringLiteral(", %1 up").arg(counted(above, "line")) : QString();
-  return QStringLiteral("%1 on line %2%3 (%4)")
-      .arg(QString::fromLatin1(nameOf(*placed.row)))
-      .arg(placed.line)
-      .arg(distance, textOfLine(stumble.bytes, placed.line));
+  const QString number = QString::number(placed.line);
+  const QString text = textOfLine(stumble.bytes, placed.line);
+  if (above == 0) return RecordTexts::tr("%1 on line %2 (%3)").arg(nameOf(*placed.row), number, text);
+  if (above == 1)
+    return RecordTexts::tr("%1 on line %2, one line up (%3)").arg(nameOf(*placed.row), number, text);
+  return RecordTexts::tr("%1 on line %2, %3 lines up (%4)")
+      .arg(nameOf(*placed.row), number, numberWord(above), text);
 }
 
 /// Each value has a line of its own, unless a comma ended one or a quote ran on.
@@ -82,9 +90,9 @@ QString oddLine(const Stumble& stumble) {
   if (odd == rows.end()) return {};
   const QString place = placeOf(*odd, stumble);
   if (std::next(odd)->line > odd->line)
-    return QStringLiteral("a double quote opens in %1 and takes in the lines behind it").arg(place);
-  if (isNumber(*odd->row)) return QStringLiteral("a comma in %1; a number takes a full stop").arg(place);
-  return QStringLiteral("a comma in %1, which ends the value and shifts all behind it").arg(place);
+    return RecordTexts::tr("a double quote opens in %1 and takes in the lines behind it").arg(place);
+  if (isNumber(*odd->row)) return RecordTexts::tr("a comma in %1; a number takes a full stop").arg(place);
+  return RecordTexts::tr("a comma in %1, which ends the value and shifts all behind it").arg(place);
 }
 
 /// The rows read so far and some behind them, each of which would have a line of its own.
@@ -125,6 +133,15 @@ std::optional<int> shiftOf(const Placed& placed, const QStringList& lines) {
   return std::nullopt;
 }
 
+/// How many lines there are too many, or too few where it is below 0, between "%1" and "%2".
+QString shiftText(int shift) {
+  if (shift == 1) return RecordTexts::tr("one line too many between line %1 and line %2");
+  if (shift == -1) return RecordTexts::tr("one missing line between line %1 and line %2");
+  const QString text = shift > 0 ? RecordTexts::tr("%3 lines too many between line %1 and line %2")
+                                 : RecordTexts::tr("%3 missing lines between line %1 and line %2");
+  return QString(text).replace(QStringLiteral("%3"), numberWord(std::abs(shift)));
+}
+
 /// Texts and images among the numbers tell where the list has slipped: between the last one that stands in
 /// its place and the first one that doesn't.
 QString shiftedList(const Stumble& stumble) {
@@ -136,17 +153,13 @@ QString shiftedList(const Stumble& stumble) {
     if (suits(*placed.row, line)) continue;
     const std::optional<int> shift = shiftOf(placed, lines);
     if (!shift) continue;
-    return QStringLiteral("%1 between line %2 and line %3")
-        .arg(*shift > 0 ? counted(*shift, "line") + QStringLiteral(" too many")
-                        : counted(-*shift, "missing line"))
-        .arg(last)
-        .arg(placed.line);
+    return shiftText(*shift).arg(last).arg(placed.line);
   }
   return {};
 }
 
 QString cutOff(const Stumble& stumble) {
-  return QStringLiteral("the file is cut off: it has %1 of %2 lines")
+  return RecordTexts::tr("the file is cut off: it has %1 of %2 lines")
       .arg(lineCount(stumble.bytes))
       .arg(stumble.layout.lineCount());
 }
@@ -155,7 +168,7 @@ QString cutOff(const Stumble& stumble) {
 
 QString likelyCause(const Stumble& stumble) {
   if (stumble.bytes.startsWith(kByteOrderMark) && stumble.lines.back() == 1)
-    return QStringLiteral("a byte order mark at the file's start, which counts as text");
+    return RecordTexts::tr("a byte order mark at the file's start, which counts as text");
   const QString odd = oddLine(stumble);
   if (!odd.isEmpty()) return odd;
   return stumble.isAtEnd ? cutOff(stumble) : shiftedList(stumble);

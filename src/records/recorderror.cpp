@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include "elements/printable.h"
+#include "records/texts.h"
 
 namespace veneerer {
 
@@ -42,18 +43,18 @@ QString RecordError::report() const {
     const char* name;
     QString value;
   } facts[] = {
-      {"File", file_},
-      {"Line", line_ > 0 ? QString::number(line_) : QString()},
-      {"Element", element_},
-      {"Field", field_},
-      {"Found", trace_.value},
-      {"Skin", trace_.folder},
-      {"Likely cause", trace_.cause},
+      {QT_TRANSLATE_NOOP("Records", "File"), file_},
+      {QT_TRANSLATE_NOOP("Records", "Line"), line_ > 0 ? QString::number(line_) : QString()},
+      {QT_TRANSLATE_NOOP("Records", "Element"), element_},
+      {QT_TRANSLATE_NOOP("Records", "Field"), field_},
+      {QT_TRANSLATE_NOOP("Records", "Found"), trace_.value},
+      {QT_TRANSLATE_NOOP("Records", "Skin"), trace_.folder},
+      {QT_TRANSLATE_NOOP("Records", "Likely cause"), trace_.cause},
   };
   QStringList lines{shownText(message()), QString()};
   for (const auto& fact : facts)
     if (!fact.value.isEmpty())
-      lines.append(QString::fromLatin1(fact.name) + QStringLiteral(": ") + shownText(fact.value));
+      lines.append(RecordTexts::tr(fact.name) + QStringLiteral(": ") + shownText(fact.value));
   return lines.join(u'\n');
 }
 

@@ -6,6 +6,7 @@
 
 #include "files/plainfile.h"
 #include "records/layoutreader.h"
+#include "records/texts.h"
 
 namespace veneerer {
 
@@ -24,7 +25,7 @@ void refuseLarge(const QString& folder, const std::vector<NewFile>& files) {
   for (const NewFile& file : files)
     if (QFileInfo(QDir(folder).filePath(file.name)).size() > kMostRecordBytes)
       throw WriteRefused(
-          {file.name, QStringLiteral("a file of this name is there and too large for a record file")});
+          {file.name, RecordTexts::tr("a file of this name is there and too large for a record file")});
 }
 
 }  // namespace
@@ -38,9 +39,9 @@ WrittenFiles writeRecordFiles(Disk& disk, const QString& folder, std::vector<New
 
 void sayWritten(Notes& notes, const QString& folder, const WrittenFiles& written) {
   const QString files =
-      written.all == 1 ? QStringLiteral("1 file") : QStringLiteral("%1 files").arg(written.all);
-  const QString changed = written.changed == 0 ? QStringLiteral("none") : QString::number(written.changed);
-  notes.say(QStringLiteral("Saved in %1: %2, %3 changed.").arg(QFileInfo(folder).fileName(), files, changed),
+      written.all == 1 ? RecordTexts::tr("1 file") : RecordTexts::tr("%1 files").arg(written.all);
+  const QString changed = written.changed == 0 ? RecordTexts::tr("none") : QString::number(written.changed);
+  notes.say(RecordTexts::tr("Saved in %1: %2, %3 changed.").arg(QFileInfo(folder).fileName(), files, changed),
             NoteKind::Saved);
 }
 
@@ -51,7 +52,7 @@ void writeFiles(Disk& disk, const QString& folder, std::vector<NewFile> files) {
     replacement.run();
   } catch (const ReplaceError& error) {
     throw RecordError(error.fault().name, 0, {}, {},
-                      QStringLiteral("the file can't be written: ") + error.fault().reason, {folder});
+                      RecordTexts::tr("the file can't be written: %1").arg(error.fault().reason), {folder});
   }
 }
 

@@ -8,6 +8,7 @@
 #include "files/replacefiles.h"
 #include "platform/platform.h"
 #include "records/recorderror.h"
+#include "records/texts.h"
 
 namespace veneerer {
 
@@ -37,6 +38,6 @@ void sayWritten(Notes& notes, const QString& folder, const WrittenFiles& written
 /// Runs a command that writes. False when it was refused: a box of that title has told why, behind that
 /// sentence.
 bool writeOrTell(Dialogs& dialogs, const QString& title, const std::function<void()>& command,
-                 const QString& lead = QStringLiteral("Nothing is written. "));
+                 const QString& lead = RecordTexts::tr("Nothing is written. "));
 
 }  // namespace veneerer

@@ -5,6 +5,7 @@
 #include "platform/program.h"
 #include "records/layoutreader.h"
 #include "records/recorderror.h"
+#include "skin/texts.h"
 
 namespace veneerer {
 
@@ -62,7 +63,7 @@ void SkinLoader::tellWhatNoSaveCanWrite(const SkinFolder& skin) {
     if (isLoaded(entry)) continue;
     const QString name = savedName(entry, entry.layout(state_));
     const QString fault = faultInside(skin.path(), skin.file(name), kMostRecordBytes);
-    if (!fault.isEmpty()) state_.notes.say(QStringLiteral("No save can write %1: %2.").arg(name, fault));
+    if (!fault.isEmpty()) state_.notes.say(SkinTexts::tr("No save can write %1: %2.").arg(name, fault));
   }
 }
 

@@ -4,6 +4,7 @@
 #include "images/cimage.h"
 #include "images/cjpeg.h"
 #include "images/picture.h"
+#include "tools/texts.h"
 
 namespace veneerer {
 
@@ -20,7 +21,7 @@ JpegResult encode(const cImage& image) {
 }
 
 QString cannotBeWritten(const WriteFault& fault) {
-  return QStringLiteral("can't be written (%1)").arg(fault.reason);
+  return ToolTexts::tr("can't be written (%1)").arg(fault.reason);
 }
 
 QString replaceFile(const ImageJob& job, const QByteArray& bytes, Disk& disk) {
@@ -39,10 +40,10 @@ QString resample(const ImageJob& job, QSize size, Disk& disk) {
   PictureStore store;
   const Picture picture = store.load(job.path);
   cImage source;
-  if (!source.CopyPicture(picture.image())) return QStringLiteral("can't be decoded");
+  if (!source.CopyPicture(picture.image())) return ToolTexts::tr("can't be decoded");
   const cImage target = source.stretched(size);
   if (target.isEmpty())
-    return QStringLiteral("can't have %1 by %2 pixels").arg(size.width()).arg(size.height());
+    return ToolTexts::tr("can't have %1 by %2 pixels").arg(size.width()).arg(size.height());
   const JpegResult jpeg = encode(target);
   return jpeg.isOk() ? replaceFile(job, jpeg.bytes, disk) : jpeg.error;
 }

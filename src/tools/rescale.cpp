@@ -15,6 +15,7 @@
 #include "platform/skinfolder.h"
 #include "tools/rescalefactors.h"
 #include "tools/rescaletables.h"
+#include "tools/texts.h"
 
 namespace veneerer {
 
@@ -23,10 +24,10 @@ namespace {
 // How long the progress may stand still, milliseconds.
 constexpr int kPatience = 40;
 
-constexpr char kLeftAlone[] =
+constexpr const char* kLeftAlone = QT_TRANSLATE_NOOP(
+    "Tools",
     "Not rescaled are: the resolution, the cover files but the layout in hand, the pictures of the screens "
-    "from "
-    "\"No Search Results Found\" on, the fonts of buttons.";
+    "from \"No Search Results Found\" on, the fonts of buttons.");
 
 /// One sentence: how many images were resized, and for each reason those that weren't.
 QString outcome(const std::vector<ImageJob>& jobs, const QStringList& failures) {
@@ -34,15 +35,15 @@ QString outcome(const std::vector<ImageJob>& jobs, const QStringList& failures) 
   for (qsizetype i = 0; i < failures.size(); ++i)
     if (!failures[i].isEmpty()) others[failures[i]].append(jobs[static_cast<std::size_t>(i)].reference);
   QString note =
-      QStringLiteral("%1 of %2 images were resized").arg(failures.count(QString())).arg(failures.size());
+      ToolTexts::tr("%1 of %2 images were resized").arg(failures.count(QString())).arg(failures.size());
   for (auto it = others.cbegin(); it != others.cend(); ++it)
     note += QStringLiteral("; ") + it.key() + QStringLiteral(": ") + it->join(QStringLiteral(", "));
   return note + u'.';
 }
 
 QString work(const ImageJob& job, bool isOurs, Disk& disk) {
-  if (job.path.isEmpty()) return QStringLiteral("missing");
-  return isOurs ? resampleFile(job, disk) : QStringLiteral("outside the Skin's folder");
+  if (job.path.isEmpty()) return ToolTexts::tr("missing");
+  return isOurs ? resampleFile(job, disk) : ToolTexts::tr("outside the Skin's folder");
 }
 
 }  // namespace
@@ -53,11 +54,11 @@ void Rescale::run() {
   try {
     scaleElements();
   } catch (const ScaleFault& fault) {
-    inform(QStringLiteral("Nothing is rescaled: %1.").arg(QString::fromLatin1(fault.what())));
+    inform(ToolTexts::tr("Nothing is rescaled: %1.").arg(ToolTexts::tr(fault.what())));
     return;
   }
   if (state_.form6.Check2->isTicked()) resampleImages();
-  state_.notes.say(QString::fromLatin1(kLeftAlone));
+  state_.notes.say(ToolTexts::tr(kLeftAlone));
 }
 
 // An ordinary change of the canvas window's size moves nothing; only here does one scale the elements.

@@ -25,9 +25,9 @@ int pixelsFor(const State& state, const Screen& screen, double factor, Axis axis
 
 float wantedSide(const TextBox& field, const Screen& screen, Axis axis) {
   const double pixels = std::nearbyint(leadingNumber(field.text()));
-  if (pixels <= 0) throw ScaleFault("width and height must be above 0 pixels");
+  if (pixels <= 0) throw ScaleFault(QT_TRANSLATE_NOOP("Tools", "width and height must be above 0 pixels"));
   const auto twips = PixelsToTwips(screen, pixels, axis);
-  if (!twips) throw ScaleFault("the new size is beyond 32 bits");
+  if (!twips) throw ScaleFault(QT_TRANSLATE_NOOP("Tools", "the new size is beyond 32 bits"));
   return static_cast<float>(*twips);
 }
 

@@ -44,7 +44,8 @@ void scaleElement(Element& element, float factorX, float factorY, float fontFact
 // The toolkit of the design counts a screen's pixels in 16 bits, by way of its twips.
 std::int16_t screenPixels(int pixels, double twipsPerPixel) {
   const std::optional<std::int32_t> whole = toWhole(pixels * twipsPerPixel / twipsPerPixel);
-  if (!whole || *whole < INT16_MIN || *whole > INT16_MAX) throw ScaleFault("the screen is too large");
+  if (!whole || *whole < INT16_MIN || *whole > INT16_MAX)
+    throw ScaleFault(QT_TRANSLATE_NOOP("Tools", "the screen is too large"));
   return static_cast<std::int16_t>(*whole);
 }
 
@@ -59,21 +60,22 @@ float screenFactorY(const Screen& screen) {
 }
 
 float ratio(float size, std::int32_t remembered) {
-  if (remembered == 0) throw ScaleFault("a window of no size can't be scaled");
+  if (remembered == 0) throw ScaleFault(QT_TRANSLATE_NOOP("Tools", "a window of no size can't be scaled"));
   const float factor = size / static_cast<float>(remembered);
-  if (!std::isfinite(factor)) throw ScaleFault("the scale is beyond a Single");
+  if (!std::isfinite(factor)) throw ScaleFault(QT_TRANSLATE_NOOP("Tools", "the scale is beyond a Single"));
   return factor;
 }
 
 std::int32_t wholeTwips(float twips) {
   const std::optional<std::int32_t> whole = toWhole(twips);
-  if (!whole) throw ScaleFault("the window's size is beyond 32 bits");
+  if (!whole) throw ScaleFault(QT_TRANSLATE_NOOP("Tools", "the window's size is beyond 32 bits"));
   return *whole;
 }
 
 void requireSide(float now, float screenFactor, float wanted) {
-  if (wholeTwips(now * screenFactor) <= 0) throw ScaleFault("a window of no size can't be scaled");
-  if (wholeTwips(wanted) <= 0) throw ScaleFault("the new size must be above 0");
+  if (wholeTwips(now * screenFactor) <= 0)
+    throw ScaleFault(QT_TRANSLATE_NOOP("Tools", "a window of no size can't be scaled"));
+  if (wholeTwips(wanted) <= 0) throw ScaleFault(QT_TRANSLATE_NOOP("Tools", "the new size must be above 0"));
 }
 
 }  // namespace

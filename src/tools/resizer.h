@@ -11,7 +11,8 @@
 namespace veneerer {
 
 /// The factors of a scaling can't be computed: the remembered size of the window is 0, or a number is beyond
-/// its range. It ends the program like any other run-time error of its kind.
+/// its range. It ends the program like any other run-time error of its kind. Its text is in English;
+/// ToolTexts has the translation.
 class ScaleFault : public std::domain_error {
 public:
   using std::domain_error::domain_error;

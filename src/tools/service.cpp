@@ -1,6 +1,7 @@
 #include "tools/service.h"
 
 #include <algorithm>
+#include <set>
 
 #include "canvas/description.h"
 #include "canvas/familyref.h"
@@ -8,6 +9,7 @@
 #include "tools/fonttools.h"
 #include "tools/geometrytables.h"
 #include "tools/geometrytools.h"
+#include "tools/texts.h"
 
 namespace veneerer {
 
@@ -82,32 +84,43 @@ const Service* serviceOf(const State& state, const Element& control) {
   return found == std::end(kServices) ? nullptr : found;
 }
 
-// What the operator calls the members of a family.
-QString kindWord(const State& state, const Family& family) {
-  if (&family == &state.form1.Picture1) return QStringLiteral("screen");
+/// What the operator calls the members of a family.
+struct Words {
+  const char* one;
+  const char* all;
+};
+
+constexpr Words kButtons{QT_TRANSLATE_NOOP("Tools", "the button"), QT_TRANSLATE_NOOP("Tools", "buttons")};
+constexpr Words kLabels{QT_TRANSLATE_NOOP("Tools", "the label"), QT_TRANSLATE_NOOP("Tools", "labels")};
+constexpr Words kPictures{QT_TRANSLATE_NOOP("Tools", "the picture"), QT_TRANSLATE_NOOP("Tools", "pictures")};
+constexpr Words kScreenWords{QT_TRANSLATE_NOOP("Tools", "the screen"), QT_TRANSLATE_NOOP("Tools", "screens")};
+
+const Words* wordsOf(const State& state, const Family& family) {
+  if (&family == &state.form1.Picture1) return &kScreenWords;
   switch (family.members().front()->kind()) {
     case Kind::Button:
-      return QStringLiteral("button");
+      return &kButtons;
     case Kind::Label:
-      return QStringLiteral("label");
+      return &kLabels;
     default:
-      return QStringLiteral("picture");
+      return &kPictures;
   }
 }
 
 QStringList servedKinds(const State& state, const Element& control) {
-  QStringList kinds;
+  std::set<const Words*> served;
   for (const Section& section : sections())
-    if (servesSection(state, control, section)) kinds.append(kindWord(state, section.family(state)) + u's');
+    if (servesSection(state, control, section)) served.insert(wordsOf(state, section.family(state)));
+  QStringList kinds;
+  for (const Words* words : served) kinds.append(ToolTexts::tr(words->all));
   kinds.sort();
-  kinds.removeDuplicates();
   return kinds;
 }
 
 // At least one word.
 QString listed(QStringList words) {
   const QString last = words.takeLast();
-  return words.isEmpty() ? last : words.join(QStringLiteral(", ")) + QStringLiteral(" and ") + last;
+  return words.isEmpty() ? last : ToolTexts::tr("%1 and %2").arg(words.join(QStringLiteral(", ")), last);
 }
 
 QString about(const QString& tip, const QString& one, const QString& many) {
@@ -138,15 +151,15 @@ QString toolTipOf(const State& state, const Element& control) {
   const Section* section = findSection(state.globals.SectionNumber);
   const Element* inHand = currentElement(state);
   if (section && inHand && servesSection(state, control, *section)) {
-    const QString word = kindWord(state, section->family(state));
-    return about(tip, QStringLiteral("the ") + word, word + u's');
+    const Words& words = *wordsOf(state, section->family(state));
+    return about(tip, ToolTexts::tr(words.one), ToolTexts::tr(words.all));
   }
   const QStringList served = servedKinds(state, control);
   if (served.isEmpty()) return tip;
   const QString kinds = listed(served);
-  const QString general = about(tip, QStringLiteral("the element in hand"), kinds);
-  if (!inHand) return QStringLiteral("%1\nIt serves %2; click one").arg(general, kinds);
-  return QStringLiteral("%1\nIt serves %2, but not %3").arg(general, kinds, elementTitle(state, *inHand));
+  const QString general = about(tip, ToolTexts::tr("the element in hand"), kinds);
+  if (!inHand) return ToolTexts::tr("%1\nIt serves %2; click one").arg(general, kinds);
+  return ToolTexts::tr("%1\nIt serves %2, but not %3").arg(general, kinds, elementTitle(state, *inHand));
 }
 
 }  // namespace veneerer

@@ -8,6 +8,7 @@
 #include "designer/skinfixture.h"
 #include "records/coverfile.h"
 #include "skin/recordplaces.h"
+#include "support/translated.h"
 
 namespace veneerer {
 namespace {
@@ -30,6 +31,15 @@ TEST_F(Inspection, ListsAllThatASkinStoresOfTheCanvas) {
       }
     }
   EXPECT_GT(found, 5000);
+}
+
+TEST_F(Inspection, ATruthIsTypedAsItIsToldOrInEnglish) {
+  const test::Translated german({{"Yes", "Ja"}, {"No", "Nein"}});
+  EXPECT_EQ(valueText(true), QStringLiteral("Ja"));
+  EXPECT_EQ(typedValue(Property::Visible, QStringLiteral(" ja ")), Value(true));
+  EXPECT_EQ(typedValue(Property::Visible, QStringLiteral("NEIN")), Value(false));
+  EXPECT_EQ(typedValue(Property::Visible, QStringLiteral("no")), Value(false));
+  EXPECT_EQ(typedValue(Property::Visible, QStringLiteral("oui")), std::nullopt);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 
 #include "support/files.h"
+#include "support/translated.h"
 
 namespace veneerer {
 namespace {
@@ -121,6 +122,16 @@ TEST_F(ManualSearch, NamesPagesAsTheContentsDo) {
   EXPECT_EQ(manual.title("index"), "Contents");
   EXPECT_EQ(manual.contents()[2].group, "Two");
   EXPECT_EQ(manual.text("nowhere"), "");
+}
+
+TEST_F(ManualSearch, TakesWhatThereIsInTheLanguageOfTheTexts) {
+  test::writeBytes(folder.filePath("de/keys.md"), "# Tasten\n\nNadel\n");
+  EXPECT_EQ(Manual(folder.path()).search("Nadel").size(), 0);
+  const test::Translated german({{"en", "de"}});
+  Manual manual(folder.path());
+  EXPECT_TRUE(manual.text("keys").startsWith("# Tasten"));
+  EXPECT_EQ(manual.search("Nadel").size(), 1);
+  EXPECT_EQ(manual.search("whole").size(), 1) << "all other pages stay English";
 }
 
 }  // namespace

@@ -5,7 +5,7 @@ namespace veneerer::looks {
 // The colours of the built-in design, with the grooves of a record behind everything.
 const Look kBlackAndBlue = {
     .name = "Black and Blue",
-    .what = "Black with blue light, the menu at the left",
+    .what = QT_TRANSLATE_NOOP("Looks", "Black with blue light, the menu at the left"),
     .shipped = "Black_and_Blue_gif_V8.0(800x600)",
     .arrangement = Arrangement::MenuLeft,
     .motif = Motif::Rings,

@@ -5,7 +5,8 @@ namespace veneerer::looks {
 // For those who see little: two colours, thick edges, nothing behind the texts.
 const Look kClearView = {
     .name = "Clear View",
-    .what = "The highest contrast, thick edges and nothing behind the texts, for the hard of seeing",
+    .what = QT_TRANSLATE_NOOP(
+        "Looks", "The highest contrast, thick edges and nothing behind the texts, for the hard of seeing"),
     .shipped = nullptr,
     .arrangement = Arrangement::MenuRight,
     .motif = Motif::Plain,

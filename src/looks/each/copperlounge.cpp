@@ -5,7 +5,7 @@ namespace veneerer::looks {
 // Warm and dark, with buttons that slope like the fins of an old car.
 const Look kCopperLounge = {
     .name = "Copper Lounge",
-    .what = "Warm copper with sloping buttons, the menu at the foot",
+    .what = QT_TRANSLATE_NOOP("Looks", "Warm copper with sloping buttons, the menu at the foot"),
     .shipped = "Copper_Lounge(1024x768)",
     .arrangement = Arrangement::MenuFoot,
     .motif = Motif::Slats,

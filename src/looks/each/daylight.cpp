@@ -5,7 +5,7 @@ namespace veneerer::looks {
 // For a bright room: a light ground between coloured bars.
 const Look kDaylight = {
     .name = "Daylight",
-    .what = "A light ground with coloured bars, the menu at the right",
+    .what = QT_TRANSLATE_NOOP("Looks", "A light ground with coloured bars, the menu at the right"),
     .shipped = "Daylight_Wide(1920x1080)",
     .arrangement = Arrangement::MenuRight,
     .motif = Motif::Bubbles,

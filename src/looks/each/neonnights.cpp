@@ -5,7 +5,7 @@ namespace veneerer::looks {
 // Tubes of light over a dark street.
 const Look kNeonNights = {
     .name = "Neon Nights",
-    .what = "Glowing lines on the night, outlined buttons, the menu at the foot",
+    .what = QT_TRANSLATE_NOOP("Looks", "Glowing lines on the night, outlined buttons, the menu at the foot"),
     .shipped = nullptr,
     .arrangement = Arrangement::MenuFoot,
     .motif = Motif::Grid,

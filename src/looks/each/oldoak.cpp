@@ -5,7 +5,8 @@ namespace veneerer::looks {
 // The cabinet of an old jukebox: planks, brass and cream paper.
 const Look kOldOak = {
     .name = "Old Oak",
-    .what = "Planks of wood with brass keys and paper fields, the menu at the left",
+    .what =
+        QT_TRANSLATE_NOOP("Looks", "Planks of wood with brass keys and paper fields, the menu at the left"),
     .shipped = nullptr,
     .arrangement = Arrangement::MenuLeft,
     .motif = Motif::Grain,

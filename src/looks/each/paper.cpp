@@ -5,7 +5,7 @@ namespace veneerer::looks {
 // Flat and quiet: no gradient, no gloss, one strong colour for what is to be touched next.
 const Look kPaper = {
     .name = "Paper",
-    .what = "Flat and light, one strong colour, the menu on top",
+    .what = QT_TRANSLATE_NOOP("Looks", "Flat and light, one strong colour, the menu on top"),
     .shipped = nullptr,
     .arrangement = Arrangement::MenuTop,
     .motif = Motif::Bands,

@@ -5,7 +5,8 @@ namespace veneerer::looks {
 // Made for screens that stand upright; on others it keeps its menu at the foot.
 const Look kTower = {
     .name = "Tower",
-    .what = "For upright screens: flowing curves, rounded buttons, the menu under the thumbs",
+    .what = QT_TRANSLATE_NOOP(
+        "Looks", "For upright screens: flowing curves, rounded buttons, the menu under the thumbs"),
     .shipped = nullptr,
     .arrangement = Arrangement::MenuFoot,
     .motif = Motif::Waves,
