@@ -8,6 +8,7 @@
 #include "elements/printable.h"
 #include "platform/program.h"
 #include "records/recorderror.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -15,8 +16,8 @@ namespace {
 
 // Other buttons of a box end it.
 void addCopyButton(QMessageBox& box, const QString& text) {
-  QPushButton* copy = box.addButton(QStringLiteral("&Copy"), QMessageBox::ActionRole);
-  copy->setToolTip(QStringLiteral("Put this text on the clipboard"));
+  QPushButton* copy = box.addButton(UiTexts::tr("&Copy"), QMessageBox::ActionRole);
+  copy->setToolTip(UiTexts::tr("Put this text on the clipboard"));
   copy->disconnect();
   QObject::connect(copy, &QPushButton::clicked, copy,
                    [text] { QGuiApplication::clipboard()->setText(text); });
@@ -52,8 +53,7 @@ void Application::fail(const QString& message, const QString& report) {
   QMessageBox box(QMessageBox::Critical, programTitle(), QString(), QMessageBox::Ok, activeWindow());
   box.setTextFormat(Qt::PlainText);
   box.setText(report);
-  box.setInformativeText(
-      QStringLiteral("The program ends. Files that were written before stay as they are."));
+  box.setInformativeText(UiTexts::tr("The program ends. Files that were written before stay as they are."));
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   addCopyButton(box, report);
   box.exec();

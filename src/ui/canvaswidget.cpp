@@ -81,7 +81,7 @@ CanvasWidget::CanvasWidget(const Ui& ui)
   setObjectName(QStringLiteral("canvas"));
   // Ahead of the name, which assistive tools hear of at once.
   exposeCanvases();
-  setAccessibleName(QStringLiteral("Canvas"));
+  setAccessibleName(tr("Canvas"));
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);

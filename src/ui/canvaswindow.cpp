@@ -26,6 +26,7 @@
 #include "ui/savednote.h"
 #include "ui/skindrop.h"
 #include "ui/takedialog.h"
+#include "ui/texts.h"
 #include "ui/tryit.h"
 #include "ui/viewcommands.h"
 
@@ -54,6 +55,11 @@ void makeCommand(QAction& action, const QList<QKeySequence>& keys, const QString
   // The keys work in every window of the program.
   action.setShortcutContext(Qt::ApplicationShortcut);
   action.setStatusTip(tip);
+}
+
+QString withStep(const QString& command, const QString& step) {
+  //: "Undo Move": a command and the name of the step that it is about
+  return step.isEmpty() ? command : UiTexts::tr("%1 %2").arg(command, plainMenuText(step));
 }
 
 }  // namespace
@@ -90,7 +96,7 @@ QAction* CanvasWindow::addCommand(QMenu* menu, const QString& text, const QList<
 }
 
 void CanvasWindow::addInHandLine() {
-  auto* bar = new QToolBar(QStringLiteral("In hand"));
+  auto* bar = new QToolBar(tr("In hand"));
   bar->setMovable(false);
   bar->toggleViewAction()->setVisible(false);
   bar->addWidget(new InHandLine(ui_));
@@ -98,24 +104,24 @@ void CanvasWindow::addInHandLine() {
 }
 
 void CanvasWindow::addFileMenu() {
-  QMenu* menu = menuBar()->addMenu(QStringLiteral("&File"));
-  QAction* open = addCommand(menu, QStringLiteral("&Open Skin..."), {QKeySequence::Open},
-                             QStringLiteral("Choose another Skin; Undo leads back"));
+  QMenu* menu = menuBar()->addMenu(UiTexts::tr(kMenus[0]));
+  QAction* open =
+      addCommand(menu, tr("&Open Skin..."), {QKeySequence::Open}, tr("Choose another Skin; Undo leads back"));
   makeOpenCommand(*open, ui_);
-  QAction* save = addCommand(menu, QStringLiteral("&Save Skin"), {QKeySequence::Save},
-                             QStringLiteral("Write the record files of the Skin"));
+  QAction* save =
+      addCommand(menu, tr("&Save Skin"), {QKeySequence::Save}, tr("Write the record files of the Skin"));
   connect(save, &QAction::triggered, this, [this] { ui_.hands.click(*state_.form4.Command4); });
   addExchangeCommands(*menu, ui_.hands, *this);
   menu->addSeparator();
   addPreviewCommands(*menu, ui_);
   menu->addSeparator();
-  QAction* quit = addCommand(menu, QStringLiteral("&Quit"), {QKeySequence::Quit},
-                             QStringLiteral("End the program; nothing is saved"));
+  QAction* quit =
+      addCommand(menu, tr("&Quit"), {QKeySequence::Quit}, tr("End the program; nothing is saved"));
   connect(quit, &QAction::triggered, this, &QWidget::close);
 }
 
 void CanvasWindow::addEditMenu() {
-  QMenu* menu = menuBar()->addMenu(QStringLiteral("&Edit"));
+  QMenu* menu = menuBar()->addMenu(UiTexts::tr(kMenus[1]));
   History& history = ui_.hands.history();
   QUndoStack& steps = history.stack();
   const auto add = [&](const QString& text, const QList<QKeySequence>& keys, const QString& tip, bool can,
@@ -123,15 +129,15 @@ void CanvasWindow::addEditMenu() {
     QAction* action = addCommand(menu, text, keys, tip);
     action->setEnabled(can);
     connect(&steps, textChanged, action,
-            [action, text](const QString& step) { action->setText(text + u' ' + plainMenuText(step)); });
+            [action, text](const QString& step) { action->setText(withStep(text, step)); });
     connect(&steps, canChanged, action, &QAction::setEnabled);
     return action;
   };
-  QAction* undo = add(QStringLiteral("&Undo"), kUndoKeys, QStringLiteral("Take the last step back"),
-                      steps.canUndo(), &QUndoStack::undoTextChanged, &QUndoStack::canUndoChanged);
+  QAction* undo = add(tr("&Undo"), kUndoKeys, tr("Take the last step back"), steps.canUndo(),
+                      &QUndoStack::undoTextChanged, &QUndoStack::canUndoChanged);
   connect(undo, &QAction::triggered, this, [&history] { history.undo(); });
-  QAction* redo = add(QStringLiteral("&Redo"), kRedoKeys, QStringLiteral("Do that step again"),
-                      steps.canRedo(), &QUndoStack::redoTextChanged, &QUndoStack::canRedoChanged);
+  QAction* redo = add(tr("&Redo"), kRedoKeys, tr("Do that step again"), steps.canRedo(),
+                      &QUndoStack::redoTextChanged, &QUndoStack::canRedoChanged);
   connect(redo, &QAction::triggered, this, [&history] { history.redo(); });
   addEditCommands(*menu, ui_.hands);
   menu->addSeparator();
@@ -142,22 +148,22 @@ void CanvasWindow::addEditMenu() {
 }
 
 void CanvasWindow::addViewMenu() {
-  QMenu* menu = menuBar()->addMenu(QStringLiteral("&View"));
-  addScreenMenu(menu->addMenu(QStringLiteral("&Screen")));
+  QMenu* menu = menuBar()->addMenu(UiTexts::tr(kMenus[2]));
+  addScreenMenu(menu->addMenu(tr("&Screen")));
   menu->addSeparator();
-  QAction* next = addCommand(menu, QStringLiteral("&Next Screen"), {QKeySequence(u"Ctrl+PgDown"_qs)},
-                             QStringLiteral("Show the screen behind this one in the list"));
+  QAction* next = addCommand(menu, tr("&Next Screen"), {QKeySequence(u"Ctrl+PgDown"_qs)},
+                             tr("Show the screen behind this one in the list"));
   connect(next, &QAction::triggered, this, [this] { showScreen(1); });
-  QAction* previous = addCommand(menu, QStringLiteral("&Previous Screen"), {QKeySequence(u"Ctrl+PgUp"_qs)},
-                                 QStringLiteral("Show the screen ahead of this one in the list"));
+  QAction* previous = addCommand(menu, tr("&Previous Screen"), {QKeySequence(u"Ctrl+PgUp"_qs)},
+                                 tr("Show the screen ahead of this one in the list"));
   connect(previous, &QAction::triggered, this, [this] { showScreen(-1); });
   menu->addSeparator();
-  QAction* tryIt = addCommand(menu, QStringLiteral("Tr&y It"), {QKeySequence(kTryItKey)},
-                              QStringLiteral("See the Skin in full screen and press its menus' buttons"));
+  QAction* tryIt = addCommand(menu, tr("Tr&y It"), {QKeySequence(kTryItKey)},
+                              tr("See the Skin in full screen and press its menus' buttons"));
   connect(tryIt, &QAction::triggered, this, [this] { tryOut(ui_, this); });
   menu->addSeparator();
   addViewCommands(*menu, *view_);
-  addMockUpCommands(*menu->addMenu(QStringLiteral("&Mock-up")), view_->canvas(), ui_.hands);
+  addMockUpCommands(*menu->addMenu(tr("&Mock-up")), view_->canvas(), ui_.hands);
 }
 
 void CanvasWindow::addScreenMenu(QMenu* menu) {
@@ -165,7 +171,7 @@ void CanvasWindow::addScreenMenu(QMenu* menu) {
   for (int i = 0; i < static_cast<int>(kScreenEntries.size()); ++i) {
     const QStringView text = kScreenEntries[static_cast<std::size_t>(i)];
     QAction* entry = menu->addAction(plainMenuText(text.toString()));
-    entry->setStatusTip(QStringLiteral("Show this screen"));
+    entry->setStatusTip(tr("Show this screen"));
     entry->setCheckable(true);
     oneOfThem->addAction(entry);
     connect(entry, &QAction::triggered, this, [this, i] { ui_.hands.choose(*state_.form6.Combo6, i); });
@@ -180,16 +186,15 @@ void CanvasWindow::showScreen(int step) {
 }
 
 void CanvasWindow::addWindowMenu() {
-  panelMenu_ = menuBar()->addMenu(QStringLiteral("&Window"));
+  panelMenu_ = menuBar()->addMenu(UiTexts::tr(kMenus[3]));
   panelMenu_->addSeparator();
-  QAction* canvas = addCommand(panelMenu_, QStringLiteral("&Canvas"), {QKeySequence(Qt::CTRL | Qt::Key_E)},
-                               QStringLiteral("Give the keys to the canvas"));
+  QAction* canvas = addCommand(panelMenu_, tr("&Canvas"), {QKeySequence(Qt::CTRL | Qt::Key_E)},
+                               tr("Give the keys to the canvas"));
   connect(canvas, &QAction::triggered, this, [this] {
     activateWindow();
     view_->canvas().setFocus(Qt::ShortcutFocusReason);
   });
-  QAction* first = addCommand(panelMenu_, QStringLiteral("&Arrange"), {},
-                              QStringLiteral("Put all panels back beside the canvas"));
+  QAction* first = addCommand(panelMenu_, tr("&Arrange"), {}, tr("Put all panels back beside the canvas"));
   connect(first, &QAction::triggered, this, &CanvasWindow::arrange);
 }
 
@@ -197,7 +202,7 @@ void CanvasWindow::add(const Panel& panel) {
   panels_.append(panel);
   auto* action = new QAction(panel.menuText, panelMenu_);
   panelMenu_->insertAction(panelMenu_->actions().at(panels_.size() - 1), action);
-  makeCommand(*action, {panel.keys}, QStringLiteral("Bring this panel to the front"));
+  makeCommand(*action, {panel.keys}, tr("Bring this panel to the front"));
   connect(action, &QAction::triggered, this, [this, panel] { bringUp(panel); });
   addDockWidget(Qt::RightDockWidgetArea, panel.dock);
 }
@@ -220,20 +225,19 @@ void CanvasWindow::arrange() {
 }
 
 void CanvasWindow::addHelpMenu() {
-  QMenu* menu = menuBar()->addMenu(QStringLiteral("&Help"));
+  QMenu* menu = menuBar()->addMenu(UiTexts::tr(kMenus[4]));
   addHelpCommands(*menu, *this);
   menu->addSeparator();
-  QAction* keys =
-      addCommand(menu, QStringLiteral("&Keyboard and Mouse"), {QKeySequence(Qt::SHIFT | Qt::Key_F1)},
-                 QStringLiteral("List all keys and gestures"));
+  QAction* keys = addCommand(menu, tr("&Keyboard and Mouse"), {QKeySequence(Qt::SHIFT | Qt::Key_F1)},
+                             tr("List all keys and gestures"));
   connect(keys, &QAction::triggered, this, [this] { showKeySheet(*this); });
-  connect(menu->addAction(QStringLiteral("&About")), &QAction::triggered, this, &CanvasWindow::about);
+  connect(menu->addAction(tr("&About")), &QAction::triggered, this, &CanvasWindow::about);
 }
 
 void CanvasWindow::about() {
   const Splash& splash = state_.frmSplash;
   QMessageBox box(this);
-  box.setWindowTitle(QStringLiteral("About"));
+  box.setWindowTitle(tr("About"));
   box.setTextFormat(Qt::PlainText);
   box.setText(splash.lblProductName->caption() + u'\n' + splash.lblPlatform->caption() + u'\n' +
               splash.lblVersion->caption());

@@ -7,6 +7,7 @@
 #include "editing/inspection.h"
 #include "ui/colourmenu.h"
 #include "ui/plaintext.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -38,7 +39,7 @@ void showMade(QTreeWidgetItem& row, const ColourMap& map) {
 /// "Fore Colour of Artist (3), History Screen"
 QString placeText(const State& state, const ColourPlace& place) {
   const bool isOnCanvas = &place.element->window() == &state.form1;
-  return QStringLiteral("%1 of %2, %3")
+  return UiTexts::tr("%1 of %2, %3")
       .arg(propertyTitle(place.property), elementTitle(state, *place.element),
            isOnCanvas ? screenName(state, *place.element) : place.element->window().caption());
 }
@@ -58,7 +59,7 @@ QString whereText(const State& state, const std::vector<const ColourPlace*>& pla
     lines << placeText(state, *place);
   }
   const qsizetype more = std::ssize(places) - lines.size();
-  if (more > 0) lines << QStringLiteral("and %1 more").arg(more);
+  if (more > 0) lines << UiTexts::tr("and %1 more").arg(more);
   return lines.join(QStringLiteral("; "));
 }
 
@@ -66,7 +67,7 @@ QString whereText(const State& state, const std::vector<const ColourPlace*>& pla
 
 ColourList::ColourList(const veneerer::State& skin) : skin_(skin) {
   setColumnCount(Columns);
-  setHeaderLabels({QStringLiteral("Colour"), QStringLiteral("Uses"), QStringLiteral("Becomes")});
+  setHeaderLabels({tr("Colour"), tr("Uses"), tr("Becomes")});
   setRootIsDecorated(false);
   setUniformRowHeights(true);
   setAllColumnsShowFocus(true);

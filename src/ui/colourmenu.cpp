@@ -4,6 +4,7 @@
 #include <QWidgetAction>
 
 #include "ui/palettegrid.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -26,15 +27,15 @@ QPixmap colourChip(const QColor& colour, int size) {
 ColourMenu::ColourMenu(Operator& hands, Colour initial, std::function<void(Colour)> chosen, QWidget* parent)
     : QMenu(parent), chosen_(std::move(chosen)) {
   setAttribute(Qt::WA_DeleteOnClose);
-  addSection(QStringLiteral("Colours of this Skin"));
+  addSection(UiTexts::tr("Colours of this Skin"));
   addPalette(hands.state());
   addSeparator();
   // Behind the menu: it takes the mouse as long as it is open.
   connect(
-      addAction(QStringLiteral("&Pick from the Canvas")), &QAction::triggered, &hands,
+      addAction(UiTexts::tr("&Pick from the Canvas")), &QAction::triggered, &hands,
       [&hands, act = chosen_] { hands.pickColour(act); }, Qt::QueuedConnection);
   connect(
-      addAction(QStringLiteral("&Choose...")), &QAction::triggered, &hands,
+      addAction(UiTexts::tr("&Choose...")), &QAction::triggered, &hands,
       [&hands, initial, act = chosen_] {
         if (const auto colour = hands.dialogs().chooseColour(initial.plain())) act(*colour);
       },

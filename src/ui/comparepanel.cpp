@@ -9,20 +9,19 @@
 #include "records/recorderror.h"
 #include "ui/canvaselement.h"
 #include "ui/layouts.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
 namespace {
 
-QString counted(qsizetype count, const char* one, const char* many) {
-  return QString::number(count) + u' ' + QString::fromLatin1(count == 1 ? one : many);
-}
-
 QString countedIn(const Differences& differences) {
   QSet<QString> files;
   for (const Difference& difference : differences) files.insert(difference.file);
-  return QStringLiteral("%1 in %2")
-      .arg(counted(differences.size(), "difference", "differences"), counted(files.size(), "file", "files"));
+  const QString found = differences.size() == 1 ? UiTexts::tr("1 difference")
+                                                : UiTexts::tr("%1 differences").arg(differences.size());
+  return files.size() == 1 ? UiTexts::tr("%1 in 1 file").arg(found)
+                           : UiTexts::tr("%1 in %2 files").arg(found).arg(files.size());
 }
 
 QString nameOf(const SkinFolder& folder) {
@@ -39,10 +38,10 @@ ComparePanel::ComparePanel(const Ui& ui)
       rows_(new QTreeView),
       told_(new QLabel),
       pictures_(new QWidget),
-      before_(new SmallPicture(ui, QStringLiteral("The picture on the first side"))),
-      after_(new SmallPicture(ui, QStringLiteral("The picture on the second side"))),
+      before_(new SmallPicture(ui, UiTexts::tr("The picture on the first side"))),
+      after_(new SmallPicture(ui, UiTexts::tr("The picture on the second side"))),
       folders_{SkinFolder(QString()), SkinFolder(QString())} {
-  setWindowTitle(QStringLiteral("Compare"));
+  setWindowTitle(UiTexts::tr("Compare"));
   auto* column = compact(new QVBoxLayout(this));
   addTop(column);
   addRows(column);
@@ -55,11 +54,11 @@ ComparePanel::ComparePanel(const Ui& ui)
 }
 
 void ComparePanel::addTop(QVBoxLayout* column) {
-  other_->setAccessibleName(QStringLiteral("Compare with"));
-  other_->setToolTip(QStringLiteral("What the Skin in hand is compared with"));
+  other_->setAccessibleName(UiTexts::tr("Compare with"));
+  other_->setToolTip(UiTexts::tr("What the Skin in hand is compared with"));
   other_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  compare_->setText(QStringLiteral("&Compare"));
-  compare_->setToolTip(QStringLiteral("List what differs; nothing is changed"));
+  compare_->setText(UiTexts::tr("&Compare"));
+  compare_->setToolTip(UiTexts::tr("List what differs; nothing is changed"));
   connect(compare_, &QPushButton::clicked, this, &ComparePanel::compare);
   auto* row = new QHBoxLayout;
   row->addWidget(other_, 1);
@@ -72,8 +71,8 @@ void ComparePanel::addRows(QVBoxLayout* column) {
   rows_->setRootIsDecorated(false);
   rows_->setUniformRowHeights(true);
   rows_->setAllColumnsShowFocus(true);
-  rows_->setAccessibleName(QStringLiteral("Differences"));
-  rows_->setToolTip(QStringLiteral("Click a difference to go to its screen and select its element"));
+  rows_->setAccessibleName(UiTexts::tr("Differences"));
+  rows_->setToolTip(UiTexts::tr("Click a difference to go to its screen and select its element"));
   rows_->header()->setDefaultSectionSize(fontMetrics().horizontalAdvance(QStringLiteral("TRACK 10 (10)  ")));
   connect(rows_, &QTreeView::clicked, this, &ComparePanel::goTo);
   connect(rows_, &QTreeView::activated, this, &ComparePanel::goTo);
@@ -101,7 +100,7 @@ void ComparePanel::listSkins() {
   const QString chosen = otherSkin();
   const QString inHand = hands_.skinFolder().path().section(u'/', -1);
   other_->clear();
-  other_->addItem(QStringLiteral("The disk: what a save would change"));
+  other_->addItem(UiTexts::tr("The disk: what a save would change"));
   for (const QString& skin : SkinsRoot(hands_.platform().folder).skins())
     if (skin != inHand) other_->addItem(shownText(skin), skin);
   if (!chosen.isEmpty()) other_->setCurrentIndex(std::max(0, other_->findData(chosen)));
@@ -112,14 +111,14 @@ void ComparePanel::compare() {
   clear();
   folders_[0] = hands_.skinFolder();
   folders_[1] = otherSkin().isEmpty() ? folders_[0] : SkinFolder(hands_.platform().folder, otherSkin());
-  const QString first = otherSkin().isEmpty() ? QStringLiteral("On the Disk") : nameOf(folders_[0]);
-  const QString second = otherSkin().isEmpty() ? QStringLiteral("After a Save") : nameOf(folders_[1]);
+  const QString first = otherSkin().isEmpty() ? UiTexts::tr("On the Disk") : nameOf(folders_[0]);
+  const QString second = otherSkin().isEmpty() ? UiTexts::tr("After a Save") : nameOf(folders_[1]);
   try {
     const Differences found = differences();
     model_.show(found, first, second);
     tell(found);
   } catch (const RecordError& error) {
-    told_->setText(QStringLiteral("Nothing is compared. ") + error.message());
+    told_->setText(UiTexts::tr("Nothing is compared. %1").arg(error.message()));
   }
 }
 
@@ -141,11 +140,11 @@ Differences ComparePanel::differences() {
 void ComparePanel::tell(const Differences& differences) {
   if (otherSkin().isEmpty())
     return told_->setText(differences.isEmpty()
-                              ? QStringLiteral("A save would change nothing.")
-                              : QStringLiteral("A save would change it: %1.").arg(countedIn(differences)));
+                              ? UiTexts::tr("A save would change nothing.")
+                              : UiTexts::tr("A save would change it: %1.").arg(countedIn(differences)));
   const QString unsaved =
-      hands_.history().isModified() ? QStringLiteral(" What isn't saved isn't compared.") : QString();
-  told_->setText((differences.isEmpty() ? QStringLiteral("Nothing differs") : countedIn(differences)) + u'.' +
+      hands_.history().isModified() ? UiTexts::tr(" What isn't saved isn't compared.") : QString();
+  told_->setText((differences.isEmpty() ? UiTexts::tr("Nothing differs") : countedIn(differences)) + u'.' +
                  unsaved);
 }
 
@@ -165,7 +164,7 @@ void ComparePanel::showPictures(const Difference& difference) {
 }
 
 void ComparePanel::clear() {
-  model_.show({}, QStringLiteral("Before"), QStringLiteral("After"));
+  model_.show({}, UiTexts::tr("Before"), UiTexts::tr("After"));
   told_->clear();
   pictures_->hide();
 }

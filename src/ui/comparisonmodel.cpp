@@ -6,6 +6,7 @@
 #include "comparison/differencewords.h"
 #include "elements/printable.h"
 #include "ui/plaintext.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -33,11 +34,11 @@ QString sideText(const Difference& difference, int column) {
       return lineWords(sideOf(difference, column),
                        sideOf(difference, isBefore ? ComparisonModel::After : ComparisonModel::Before));
     case Told::Content:
-      return QStringLiteral("(differs)");
+      return UiTexts::tr("(differs)");
     case Told::OnlyInFirst:
     case Told::OnlyInSecond:
-      return isBefore == (difference.kind == Told::OnlyInFirst) ? QStringLiteral("(the file is there)")
-                                                                : QStringLiteral("(no such file)");
+      return isBefore == (difference.kind == Told::OnlyInFirst) ? UiTexts::tr("(the file is there)")
+                                                                : UiTexts::tr("(no such file)");
     case Told::Further:
       break;
   }
@@ -61,8 +62,9 @@ int ComparisonModel::rowCount(const QModelIndex& parent) const {
 QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (role != Qt::DisplayRole || orientation != Qt::Horizontal) return {};
   if (section == Before || section == After) return sides_[section - Before];
-  const char* const titles[] = {"Element", "Property", "", "", "File", "Line"};
-  return QString::fromLatin1(titles[section]);
+  const QString titles[] = {UiTexts::tr("Element"), UiTexts::tr("Property"), {}, {},
+                            UiTexts::tr("File"),    UiTexts::tr("Line")};
+  return titles[section];
 }
 
 QVariant ComparisonModel::data(const QModelIndex& index, int role) const {
@@ -89,9 +91,9 @@ QString ComparisonModel::text(const Difference& difference, int column) const {
 }
 
 QString ComparisonModel::subject(const Difference& difference) const {
-  if (difference.kind == Told::Further) return QStringLiteral("(more isn't told, there is too much)");
-  if (difference.kind != Told::Line) return QStringLiteral("(file)");
-  if (difference.element.isEmpty()) return QStringLiteral("(text)");
+  if (difference.kind == Told::Further) return UiTexts::tr("(more isn't told, there is too much)");
+  if (difference.kind != Told::Line) return UiTexts::tr("(file)");
+  if (difference.element.isEmpty()) return UiTexts::tr("(text)");
   const veneerer::Element* element = state_.find(difference.element);
   return element && element->family() ? elementTitle(state_, *element) : difference.element;
 }

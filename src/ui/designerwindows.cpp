@@ -13,6 +13,7 @@
 #include "ui/reloadbutton.h"
 #include "ui/screenspanel.h"
 #include "ui/settingswindow.h"
+#include "ui/texts.h"
 #include "ui/texturewindow.h"
 #include "ui/toolswindow.h"
 
@@ -45,19 +46,19 @@ DesignerWindows::DesignerWindows(Designer& designer)
     chooser_.move(splash_.geometry().topRight() + QPoint(8, 0));
   });
   bindCanvas(state);
-  addPanel(state.form6, new ToolsWindow(ui_), "&Tools", Qt::Key_F6);
-  addPanel(state.form4, new SettingsWindow(ui_), "&File Controls/Settings", Qt::Key_F4);
-  addPanel(state.form5, new TextureWindow(ui_), "Texture &Viewer", Qt::Key_F5);
-  addPanel(state.form2, new ButtonSettingsWindow(ui_), "&Button Settings", Qt::Key_F2);
-  addPanel("inspector", new Inspector(ui_), "&Inspector", Qt::Key_F7);
-  addPanel("outline", new OutlinePanel(ui_), "&Outline", Qt::Key_F3);
+  addPanel(state.form6, new ToolsWindow(ui_), QStringLiteral("&Tools"), Qt::Key_F6);
+  addPanel(state.form4, new SettingsWindow(ui_), QStringLiteral("&File Controls/Settings"), Qt::Key_F4);
+  addPanel(state.form5, new TextureWindow(ui_), QStringLiteral("Texture &Viewer"), Qt::Key_F5);
+  addPanel(state.form2, new ButtonSettingsWindow(ui_), QStringLiteral("&Button Settings"), Qt::Key_F2);
+  addPanel("inspector", new Inspector(ui_), UiTexts::tr("&Inspector"), Qt::Key_F7);
+  addPanel("outline", new OutlinePanel(ui_), UiTexts::tr("&Outline"), Qt::Key_F3);
   auto* problems = new ProblemsPanel(ui_);
-  addPanel("problems", problems, "&Problems", Qt::Key_F9);
+  addPanel("problems", problems, UiTexts::tr("&Problems"), Qt::Key_F9);
   canvas_.statusBar()->insertPermanentWidget(1, new ReloadButton(hands_, disk_));
   canvas_.statusBar()->insertPermanentWidget(1, new ProblemsCount(*problems));
   addHistory();
-  addPanel("screens", new ScreensPanel(ui_), "&Screens", Qt::Key_F12);
-  addPanel("compare", new ComparePanel(ui_), "Co&mpare", Qt::Key_F10);
+  addPanel("screens", new ScreensPanel(ui_), UiTexts::tr("&Screens"), Qt::Key_F12);
+  addPanel("compare", new ComparePanel(ui_), UiTexts::tr("Co&mpare"), Qt::Key_F10);
 }
 
 void DesignerWindows::bindCanvas(State& state) {
@@ -75,30 +76,30 @@ WindowBinding* DesignerWindows::bind(Window& element, QWidget& widget, OnClose o
   return new WindowBinding(element, widget, onClose);
 }
 
-void DesignerWindows::addPanel(Window& element, QWidget* content, const char* menuText, Qt::Key key) {
+void DesignerWindows::addPanel(Window& element, QWidget* content, const QString& menuText, Qt::Key key) {
   auto* dock = new QDockWidget(&canvas_);
   dock->setWidget(content);
   dock->hide();
   bind(element, *dock, OnClose::Hide);
-  canvas_.add({dock, &element, QString::fromLatin1(menuText), QKeySequence(key)});
+  canvas_.add({dock, &element, menuText, QKeySequence(key)});
 }
 
 // They aren't on the operator's mind until they are asked for.
-void DesignerWindows::addPanel(const char* name, QWidget* content, const char* menuText, Qt::Key key) {
+void DesignerWindows::addPanel(const char* name, QWidget* content, const QString& menuText, Qt::Key key) {
   auto* dock = new QDockWidget(content->windowTitle(), &canvas_);
   dock->setWidget(content);
   dock->setObjectName(QString::fromLatin1(name));
   dock->hide();
-  canvas_.add({dock, nullptr, QString::fromLatin1(menuText), QKeySequence(key)});
+  canvas_.add({dock, nullptr, menuText, QKeySequence(key)});
 }
 
 void DesignerWindows::addHistory() {
   auto* steps = new QUndoView(&hands_.history().stack());
-  steps->setWindowTitle(QStringLiteral("History"));
-  steps->setEmptyLabel(QStringLiteral("As it was loaded"));
+  steps->setWindowTitle(UiTexts::tr("History"));
+  steps->setEmptyLabel(UiTexts::tr("As it was loaded"));
   steps->setAccessibleName(steps->windowTitle());
-  steps->setToolTip(QStringLiteral("Click a step to go back or forward to it"));
-  addPanel("history", steps, "&History", Qt::Key_F8);
+  steps->setToolTip(UiTexts::tr("Click a step to go back or forward to it"));
+  addPanel("history", steps, UiTexts::tr("&History"), Qt::Key_F8);
 }
 
 }  // namespace veneerer

@@ -17,8 +17,8 @@ public:
 private:
   WindowBinding* bind(Window& element, QWidget& widget, OnClose onClose);
   void bindCanvas(State& state);
-  void addPanel(Window& element, QWidget* content, const char* menuText, Qt::Key key);
-  void addPanel(const char* name, QWidget* content, const char* menuText, Qt::Key key);
+  void addPanel(Window& element, QWidget* content, const QString& menuText, Qt::Key key);
+  void addPanel(const char* name, QWidget* content, const QString& menuText, Qt::Key key);
   void addHistory();
 
   Operator hands_;

@@ -21,8 +21,8 @@ float sized(double twips, double way, double twipsPerPixel) {
 EdgeHandle::EdgeHandle(Handle handle, Operator& hands, CanvasView& view)
     : QWidget(view.viewport()), handle_(handle), hands_(hands), view_(view) {
   setCursor(cursorOf(handle));
-  setToolTip(QStringLiteral("Drag to size the canvas window"));
-  setAccessibleName(QStringLiteral("Size of the canvas window"));
+  setToolTip(tr("Drag to size the canvas window"));
+  setAccessibleName(tr("Size of the canvas window"));
 }
 
 void EdgeHandle::paintEvent(QPaintEvent*) {

@@ -4,15 +4,16 @@
 
 #include "canvas/sections.h"
 #include "editing/walking.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
 namespace {
 
 template <class Can, class Act>
-void addWhere(QMenu& menu, const char* text, const char* tip, Operator& hands, Can can, Act act) {
-  QAction* action = menu.addAction(QString::fromLatin1(text));
-  action->setStatusTip(QString::fromLatin1(tip));
+void addWhere(QMenu& menu, const QString& text, const QString& tip, Operator& hands, Can can, Act act) {
+  QAction* action = menu.addAction(text);
+  action->setStatusTip(tip);
   const auto enable = [action, can] { action->setEnabled(can()); };
   enable();
   QObject::connect(&hands, &Operator::selected, action, enable);
@@ -21,7 +22,7 @@ void addWhere(QMenu& menu, const char* text, const char* tip, Operator& hands, C
 }
 
 template <class F>
-void add(QMenu& menu, const char* text, const char* tip, Operator& hands, std::size_t least, F act) {
+void add(QMenu& menu, const QString& text, const QString& tip, Operator& hands, std::size_t least, F act) {
   addWhere(
       menu, text, tip, hands, [&hands, least] { return hands.overlay().elements().size() >= least; }, act);
 }
@@ -35,7 +36,7 @@ std::vector<Element*> chosen(Operator& hands) {
 }
 
 // Offered where it would change something.
-void addLock(QMenu& menu, const char* text, const char* tip, Operator& hands, bool locks) {
+void addLock(QMenu& menu, const QString& text, const QString& tip, Operator& hands, bool locks) {
   const auto can = [&hands, locks] {
     return std::ranges::any_of(
         chosen(hands), [&](const Element* element) { return hands.overlay().isLocked(*element) != locks; });
@@ -50,14 +51,14 @@ void addAligning(QMenu& menu, Operator& hands) {
     const char* text;
     AlignTo edge;
   };
-  for (const Entry& entry : {Entry{"&Left", AlignTo::Left},
-                             {"&Right", AlignTo::Right},
-                             {"&Top", AlignTo::Top},
-                             {"&Bottom", AlignTo::Bottom},
-                             {"&Centre", AlignTo::Centre},
-                             {"&Middle", AlignTo::Middle}})
-    add(menu, entry.text, "Move what is selected into line with the first of it", hands, 2,
-        [&hands, edge = entry.edge] { hands.align(edge); });
+  for (const Entry& entry : {Entry{QT_TRANSLATE_NOOP("Ui", "&Left"), AlignTo::Left},
+                             {QT_TRANSLATE_NOOP("Ui", "&Right"), AlignTo::Right},
+                             {QT_TRANSLATE_NOOP("Ui", "&Top"), AlignTo::Top},
+                             {QT_TRANSLATE_NOOP("Ui", "&Bottom"), AlignTo::Bottom},
+                             {QT_TRANSLATE_NOOP("Ui", "&Centre"), AlignTo::Centre},
+                             {QT_TRANSLATE_NOOP("Ui", "&Middle"), AlignTo::Middle}})
+    add(menu, UiTexts::tr(entry.text), UiTexts::tr("Move what is selected into line with the first of it"),
+        hands, 2, [&hands, edge = entry.edge] { hands.align(edge); });
 }
 
 // From what is selected on the overlay, else from what is in hand.
@@ -75,11 +76,14 @@ void addWalking(QMenu& menu, Operator& hands) {
     int step;
   };
   for (const Entry& entry :
-       {Entry{"Select Ne&xt", "Select the next element of the screen; Enter on the canvas clicks it",
+       {Entry{QT_TRANSLATE_NOOP("Ui", "Select Ne&xt"),
+              QT_TRANSLATE_NOOP("Ui", "Select the next element of the screen; Enter on the canvas clicks it"),
               QKeySequence(Qt::ALT | Qt::Key_Right), 1},
-        {"Select Pre&vious", "Select the element of the screen ahead; Enter on the canvas clicks it",
+        {QT_TRANSLATE_NOOP("Ui", "Select Pre&vious"),
+         QT_TRANSLATE_NOOP("Ui", "Select the element of the screen ahead; Enter on the canvas clicks it"),
          QKeySequence(Qt::ALT | Qt::Key_Left), -1}}) {
-    add(menu, entry.text, entry.tip, hands, 0, [&hands, step = entry.step] { selectNeighbour(hands, step); });
+    add(menu, UiTexts::tr(entry.text), UiTexts::tr(entry.tip), hands, 0,
+        [&hands, step = entry.step] { selectNeighbour(hands, step); });
     menu.actions().last()->setShortcut(entry.keys);
     menu.actions().last()->setShortcutContext(Qt::ApplicationShortcut);
   }
@@ -89,22 +93,23 @@ void addWalking(QMenu& menu, Operator& hands) {
 
 void addEditCommands(QMenu& menu, Operator& hands) {
   menu.addSeparator();
-  addAligning(*menu.addMenu(QStringLiteral("&Align")), hands);
-  QMenu& distribute = *menu.addMenu(QStringLiteral("&Distribute"));
-  constexpr char kGaps[] = "Make the gaps of what is selected equal";
-  add(distribute, "&Across", kGaps, hands, 3, [&hands] { hands.distribute(Along::Across); });
-  add(distribute, "&Down", kGaps, hands, 3, [&hands] { hands.distribute(Along::Down); });
-  QMenu& size = *menu.addMenu(QStringLiteral("&Same Size"));
-  constexpr char kSize[] = "Give what is selected the size of the first of it";
-  add(size, "&Width", kSize, hands, 2, [&hands] { hands.makeSameSize(Sides::Width); });
-  add(size, "&Height", kSize, hands, 2, [&hands] { hands.makeSameSize(Sides::Height); });
-  add(size, "&Both", kSize, hands, 2, [&hands] { hands.makeSameSize(Sides::Both); });
-  addLock(menu, "&Lock", "Keep what is selected, else what is in hand, from being moved and sized", hands,
+  addAligning(*menu.addMenu(UiTexts::tr("&Align")), hands);
+  QMenu& distribute = *menu.addMenu(UiTexts::tr("&Distribute"));
+  const QString gaps = UiTexts::tr("Make the gaps of what is selected equal");
+  add(distribute, UiTexts::tr("&Across"), gaps, hands, 3, [&hands] { hands.distribute(Along::Across); });
+  add(distribute, UiTexts::tr("&Down"), gaps, hands, 3, [&hands] { hands.distribute(Along::Down); });
+  QMenu& size = *menu.addMenu(UiTexts::tr("&Same Size"));
+  const QString like = UiTexts::tr("Give what is selected the size of the first of it");
+  add(size, UiTexts::tr("&Width"), like, hands, 2, [&hands] { hands.makeSameSize(Sides::Width); });
+  add(size, UiTexts::tr("&Height"), like, hands, 2, [&hands] { hands.makeSameSize(Sides::Height); });
+  add(size, UiTexts::tr("&Both"), like, hands, 2, [&hands] { hands.makeSameSize(Sides::Both); });
+  addLock(menu, UiTexts::tr("&Lock"),
+          UiTexts::tr("Keep what is selected, else what is in hand, from being moved and sized"), hands,
           true);
-  addLock(menu, "Unloc&k", "Let what is selected, else what is in hand, be moved and sized again", hands,
-          false);
+  addLock(menu, UiTexts::tr("Unloc&k"),
+          UiTexts::tr("Let what is selected, else what is in hand, be moved and sized again"), hands, false);
   addWalking(menu, hands);
-  add(menu, "Select &Nothing", "Empty the selection on the overlay", hands, 1,
+  add(menu, UiTexts::tr("Select &Nothing"), UiTexts::tr("Empty the selection on the overlay"), hands, 1,
       [&hands] { hands.overlay().clear(); });
 }
 

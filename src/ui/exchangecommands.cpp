@@ -11,15 +11,18 @@
 #include "exchange/skinunpacking.h"
 #include "ui/newskindialog.h"
 #include "ui/targetdialog.h"
+#include "ui/texts.h"
 #include "ui/workwindow.h"
 
 namespace veneerer {
 
 namespace {
 
-const QString kArchives = QStringLiteral("Zip Archives (*.zip)");
-
 constexpr int kDialogWidth = 420;  // pixels
+
+QString archives() {
+  return UiTexts::tr("Zip Archives (*.zip)");
+}
 
 /// Where a command runs.
 struct Place {
@@ -41,7 +44,7 @@ bool run(const Place& place, const QString& title, const std::function<void(cons
     });
     return true;
   } catch (const GivenUp&) {
-    place.say(QStringLiteral("Cancelled; nothing is left of it."));
+    place.say(UiTexts::tr("Cancelled; nothing is left of it."));
   } catch (const ExchangeError& error) {
     window.reset();
     place.hands.dialogs().inform(title, QString::fromUtf8(error.what()));
@@ -59,9 +62,9 @@ QString freeName(const Place& place, const QString& name) {
 /// Why no Skin can have that name, empty when one can.
 QString faultOfName(const Place& place, const QString& name) {
   if (name.isEmpty() || name.startsWith(u'.') || name.contains(u'/') || name.contains(u'\\'))
-    return QStringLiteral("A Skin's name has no slash in it and doesn't begin with a point.");
+    return UiTexts::tr("A Skin's name has no slash in it and doesn't begin with a point.");
   if (QFileInfo::exists(place.root() + u'/' + name))
-    return shownText(QStringLiteral("%1: a Skin of this name is there already.").arg(name));
+    return shownText(UiTexts::tr("%1: a Skin of this name is there already.").arg(name));
   return {};
 }
 
@@ -70,8 +73,8 @@ std::optional<QString> askName(const Place& place, const QString& title) {
   QInputDialog dialog(&place.owner);
   dialog.setObjectName(QStringLiteral("nameOfSkin"));
   dialog.setWindowTitle(title);
-  dialog.setLabelText(QStringLiteral("Name of the new Skin:"));
-  dialog.setTextValue(freeName(place, place.skinName() + QStringLiteral(" copy")));
+  dialog.setLabelText(UiTexts::tr("Name of the new Skin:"));
+  dialog.setTextValue(freeName(place, UiTexts::tr("%1 copy").arg(place.skinName())));
   dialog.resize(kDialogWidth, dialog.sizeHint().height());
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.textValue().trimmed();
@@ -79,14 +82,14 @@ std::optional<QString> askName(const Place& place, const QString& title) {
 
 void copyAsNew(const Place& place) {
   copyAsNewSkin(
-      place.hands, place.owner, QStringLiteral("Copy as New Skin"),
+      place.hands, place.owner, UiTexts::tr("Copy as New Skin"),
       [&](const QString& folder, const GoOn& goOn) {
         return leftOutNote(copySkin(place.hands.state(), place.hands.disk(), place.skin(), folder, goOn));
       });
 }
 
 void newSkin(const Place& place) {
-  const QString title = QStringLiteral("New Skin");
+  const QString title = UiTexts::tr("New Skin");
   NewSkinDialog dialog(
       freeName(place, title), [&place](const QString& name) { return faultOfName(place, name); },
       &place.owner);
@@ -99,14 +102,14 @@ void newSkin(const Place& place) {
   });
   if (!isDone) return;
   place.hands.openSkin(name);
-  notes.prepend(QStringLiteral("%1 is a new Skin, and in hand.").arg(name));
+  notes.prepend(UiTexts::tr("%1 is a new Skin, and in hand.").arg(name));
   place.say(notes.join(u' '));
 }
 
 void exportSkin(const Place& place) {
-  const QString title = QStringLiteral("Export Skin");
+  const QString title = UiTexts::tr("Export Skin");
   const QString file = chooseTarget(
-      {title, kArchives, QStringLiteral("zip"), place.skinName() + QStringLiteral(".zip")}, &place.owner);
+      {title, archives(), QStringLiteral("zip"), place.skinName() + QStringLiteral(".zip")}, &place.owner);
   if (file.isEmpty()) return;
   QList<LeftOut> leftOut;
   const bool isDone = run(place, title, [&](const GoOn& goOn) {
@@ -114,14 +117,16 @@ void exportSkin(const Place& place) {
   });
   if (!isDone) return;
   const QString unsaved =
-      place.hands.history().isModified() ? QStringLiteral(" What isn't saved isn't in it.") : QString();
-  place.say(QStringLiteral("%1 holds the Skin.").arg(file) + unsaved + leftOutNote(leftOut));
+      place.hands.history().isModified() ? UiTexts::tr(" What isn't saved isn't in it.") : QString();
+  place.say(UiTexts::tr("%1 holds the Skin.").arg(file) + unsaved + leftOutNote(leftOut));
 }
 
-const QString kImport = QStringLiteral("Import Skin");
+QString importTitle() {
+  return UiTexts::tr("Import Skin");
+}
 
 void importSkin(const Place& place) {
-  const QString file = QFileDialog::getOpenFileName(&place.owner, kImport, QDir::homePath(), kArchives,
+  const QString file = QFileDialog::getOpenFileName(&place.owner, importTitle(), QDir::homePath(), archives(),
                                                     nullptr, QFileDialog::ReadOnly);
   if (!file.isEmpty()) importArchive(place.hands, place.owner, file);
 }
@@ -130,7 +135,7 @@ void importSkin(const Place& place) {
 
 QString leftOutNote(const QList<LeftOut>& leftOut) {
   if (leftOut.isEmpty()) return {};
-  return QStringLiteral(" Left out: %1 of it, the first is %2, %3.")
+  return UiTexts::tr(" Left out: %1 of it, the first is %2, %3.")
       .arg(leftOut.size())
       .arg(leftOut.first().name, leftOut.first().reason);
 }
@@ -150,19 +155,19 @@ bool copyAsNewSkin(Operator& hands, QWidget& owner, const QString& title,
       run(place, title, [&](const GoOn& goOn) { note = make(place.root() + u'/' + *name, goOn); });
   if (!isDone) return false;
   hands.goOnWithCopy(*name);
-  place.say(QStringLiteral("%1 is a new Skin, and in hand.").arg(*name) + note);
+  place.say(UiTexts::tr("%1 is a new Skin, and in hand.").arg(*name) + note);
   return true;
 }
 
 void importArchive(Operator& hands, QWidget& owner, const QString& file) {
   const Place place{hands, owner};
   QString name;
-  const bool isDone = run(place, kImport, [&](const GoOn& goOn) {
+  const bool isDone = run(place, importTitle(), [&](const GoOn& goOn) {
     name = unpackSkin(place.hands.disk(), file, place.root(), goOn);
   });
   if (!isDone) return;
   place.hands.listSkins();
-  place.say(QStringLiteral("%1 is among the Skins now.").arg(name));
+  place.say(UiTexts::tr("%1 is among the Skins now.").arg(name));
 }
 
 void addExchangeCommands(QMenu& menu, Operator& hands, QWidget& owner) {
@@ -173,12 +178,16 @@ void addExchangeCommands(QMenu& menu, Operator& hands, QWidget& owner) {
   };
   menu.addSeparator();
   for (const Entry& entry :
-       {Entry{"New S&kin...", "Draw a whole new Skin of a look, a size and three colours", newSkin},
-        {"Copy as &New Skin...", "Make a new Skin of this one as it is now, and go on with that", copyAsNew},
-        {"&Export...", "Pack the Skin as it was saved into one file", exportSkin},
-        {"&Import...", "Put the Skin of such a file among the others", importSkin}}) {
-    QAction* action = menu.addAction(QString::fromLatin1(entry.text));
-    action->setStatusTip(QString::fromLatin1(entry.tip));
+       {Entry{QT_TRANSLATE_NOOP("Ui", "New S&kin..."),
+              QT_TRANSLATE_NOOP("Ui", "Draw a whole new Skin of a look, a size and three colours"), newSkin},
+        {QT_TRANSLATE_NOOP("Ui", "Copy as &New Skin..."),
+         QT_TRANSLATE_NOOP("Ui", "Make a new Skin of this one as it is now, and go on with that"), copyAsNew},
+        {QT_TRANSLATE_NOOP("Ui", "&Export..."),
+         QT_TRANSLATE_NOOP("Ui", "Pack the Skin as it was saved into one file"), exportSkin},
+        {QT_TRANSLATE_NOOP("Ui", "&Import..."),
+         QT_TRANSLATE_NOOP("Ui", "Put the Skin of such a file among the others"), importSkin}}) {
+    QAction* action = menu.addAction(UiTexts::tr(entry.text));
+    action->setStatusTip(UiTexts::tr(entry.tip));
     QObject::connect(action, &QAction::triggered, &owner,
                      [place = Place{hands, owner}, act = entry.act] { act(place); });
   }

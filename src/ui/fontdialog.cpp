@@ -7,6 +7,7 @@
 
 #include "elements/printable.h"
 #include "tools/fontlist.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -55,9 +56,8 @@ void tellOfMissingFamily(QFontDialog& dialog, const QString& family) {
   if (!grid || QFontDatabase::hasFamily(family)) return;
   auto* line = new QLabel;
   line->setTextFormat(Qt::PlainText);
-  line->setText(
-      QStringLiteral("This machine has no \"%1\". The label keeps it unless you choose another font.")
-          .arg(excerpt(family)));
+  line->setText(UiTexts::tr("This machine has no \"%1\". The label keeps it unless you choose another font.")
+                    .arg(excerpt(family)));
   line->setWordWrap(true);
   grid->addWidget(line, grid->rowCount(), 0, 1, -1);
 }

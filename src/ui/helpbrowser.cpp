@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QTextTable>
 
+#include "help/manual.h"
+
 namespace veneerer {
 
 namespace {
@@ -75,7 +77,9 @@ void HelpBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType type
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
-  const QVariant loaded = QTextBrowser::loadResource(type, name);
+  // A page of any language links to others, and to pictures, as if all were English.
+  const QUrl own(QStringLiteral("qrc") + manualFile(name.toString().mid(kFolder.size())));
+  const QVariant loaded = QTextBrowser::loadResource(type, name.toString().startsWith(kFolder) ? own : name);
   if (type == QTextDocument::MarkdownResource) pictures_.clear();
   if (type != QTextDocument::ImageResource) return loaded;
   return fitted(*pictures_.insert(name, QImage::fromData(loaded.toByteArray())));

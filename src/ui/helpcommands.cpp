@@ -7,6 +7,7 @@
 
 #include "ui/helptopics.h"
 #include "ui/helpwindow.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -74,14 +75,21 @@ void addHelpCommands(QMenu& menu, QWidget& window) {
     void (Help::*act)();
   };
   auto* help = new Help(window);
-  for (const Entry& entry :
-       {Entry{"&Contents", "Open the manual at its list of all pages", {}, &Help::openContents},
-        {"&Help Here", "Open the manual at the page about what has the focus", Qt::Key_F1, &Help::openHere},
-        {"&Search...", "Look for words in all pages of the manual", {}, &Help::openSearch}}) {
-    QAction* action = menu.addAction(QString::fromLatin1(entry.text));
+  for (const Entry& entry : {Entry{QT_TRANSLATE_NOOP("Ui", "&Contents"),
+                                   QT_TRANSLATE_NOOP("Ui", "Open the manual at its list of all pages"),
+                                   {},
+                                   &Help::openContents},
+                             {QT_TRANSLATE_NOOP("Ui", "&Help Here"),
+                              QT_TRANSLATE_NOOP("Ui", "Open the manual at the page about what has the focus"),
+                              Qt::Key_F1, &Help::openHere},
+                             {QT_TRANSLATE_NOOP("Ui", "&Search..."),
+                              QT_TRANSLATE_NOOP("Ui", "Look for words in all pages of the manual"),
+                              {},
+                              &Help::openSearch}}) {
+    QAction* action = menu.addAction(UiTexts::tr(entry.text));
     action->setShortcut(entry.keys);
     action->setShortcutContext(Qt::ApplicationShortcut);
-    action->setStatusTip(QString::fromLatin1(entry.tip));
+    action->setStatusTip(UiTexts::tr(entry.tip));
     QObject::connect(action, &QAction::triggered, help, entry.act);
   }
 }

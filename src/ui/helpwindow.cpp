@@ -22,10 +22,10 @@ QTreeWidgetItem* addPage(const QString& title, const QString& page) {
   return row;
 }
 
-QToolButton* makeButton(const char* text, const char* tip) {
+QToolButton* makeButton(const QString& text, const QString& tip) {
   auto* button = new QToolButton;
-  button->setText(QString::fromLatin1(text));
-  button->setToolTip(QString::fromLatin1(tip));
+  button->setText(text);
+  button->setToolTip(tip);
   button->setFocusPolicy(Qt::TabFocus);
   return button;
 }
@@ -45,14 +45,14 @@ HelpWindow::HelpWindow(QWidget* owner)
 
 QLayout* HelpWindow::makeSide() {
   words_->setObjectName(QStringLiteral("words"));
-  words_->setPlaceholderText(QStringLiteral("Search"));
-  words_->setAccessibleName(QStringLiteral("Search"));
-  words_->setToolTip(QStringLiteral("List the pages that all these words are found in"));
+  words_->setPlaceholderText(tr("Search"));
+  words_->setAccessibleName(tr("Search"));
+  words_->setToolTip(tr("List the pages that all these words are found in"));
   words_->setClearButtonEnabled(true);
   words_->setFixedWidth(kSideWidth);
   list_->setObjectName(QStringLiteral("contents"));
-  list_->setAccessibleName(QStringLiteral("Contents"));
-  list_->setToolTip(QStringLiteral("The pages of the manual; a click or Enter opens one"));
+  list_->setAccessibleName(tr("Contents"));
+  list_->setToolTip(tr("The pages of the manual; a click or Enter opens one"));
   list_->header()->hide();
   list_->setRootIsDecorated(false);
   list_->setItemsExpandable(false);
@@ -69,8 +69,8 @@ QLayout* HelpWindow::makeSide() {
 }
 
 QLayout* HelpWindow::makePage() {
-  browser_->setAccessibleName(QStringLiteral("Page"));
-  browser_->setToolTip(QStringLiteral("A page of the manual; Tab goes from link to link, Enter follows one"));
+  browser_->setAccessibleName(tr("Page"));
+  browser_->setToolTip(tr("A page of the manual; Tab goes from link to link, Enter follows one"));
   auto* column = new QVBoxLayout;
   column->addLayout(makeWays());
   column->addWidget(browser_, 1);
@@ -78,9 +78,9 @@ QLayout* HelpWindow::makePage() {
 }
 
 QLayout* HelpWindow::makeWays() {
-  QToolButton* back = makeButton("&Back", "Go to the page before (Alt+Left)");
-  QToolButton* forward = makeButton("&Forward", "Go to the page that Back came from (Alt+Right)");
-  QToolButton* contents = makeButton("&Contents", "Go to the list of all pages");
+  QToolButton* back = makeButton(tr("&Back"), tr("Go to the page before (Alt+Left)"));
+  QToolButton* forward = makeButton(tr("&Forward"), tr("Go to the page that Back came from (Alt+Right)"));
+  QToolButton* contents = makeButton(tr("&Contents"), tr("Go to the list of all pages"));
   back->setEnabled(false);
   forward->setEnabled(false);
   connect(back, &QToolButton::clicked, browser_, &QTextBrowser::backward);
@@ -119,7 +119,7 @@ void HelpWindow::listHits(const QString& words) {
     excerpt->setForeground(0, palette().brush(QPalette::PlaceholderText));
     row->addChild(excerpt);
   }
-  if (hits.isEmpty()) list_->addTopLevelItem(new QTreeWidgetItem({QStringLiteral("Nothing is found")}));
+  if (hits.isEmpty()) list_->addTopLevelItem(new QTreeWidgetItem({tr("Nothing is found")}));
   list_->expandAll();
 }
 
@@ -140,7 +140,7 @@ void HelpWindow::choose(const QTreeWidgetItem* row) {
 
 // What is shown is marked in the contents; found pages keep the row that was chosen.
 void HelpWindow::pageChanged() {
-  setWindowTitle(QStringLiteral("Manual: ") + manual_.title(browser_->page()));
+  setWindowTitle(tr("Manual: %1").arg(manual_.title(browser_->page())));
   if (!words_->text().isEmpty()) return;
   list_->setCurrentItem(nullptr);
   for (QTreeWidgetItemIterator row(list_); *row; ++row)

@@ -10,6 +10,7 @@
 #include "editing/inspection.h"
 #include "painting/hittest.h"
 #include "ui/colourmenu.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -30,7 +31,7 @@ QStringList placesOf(const RecordPlaces& places, const Element& element) {
   for (auto it = files.begin(); it != files.end(); ++it)
     texts.append(it->first == it->second
                      ? QStringLiteral("%1 %2").arg(it.key()).arg(it->first)
-                     : QStringLiteral("%1 %2 to %3").arg(it.key()).arg(it->first).arg(it->second));
+                     : UiTexts::tr("%1 %2 to %3").arg(it.key()).arg(it->first).arg(it->second));
   return texts;
 }
 
@@ -48,8 +49,8 @@ InHandLine::InHandLine(const Ui& ui)
     : hands_(ui.hands),
       watching_(ui.hands.state().board.watch([this](const Change&) { telling_.start(); })),
       what_(new ElidedLine),
-      elsewhere_(new QLabel(QStringLiteral("on another screen"))),
-      goThere_(new QPushButton(QStringLiteral("&Go there"))) {
+      elsewhere_(new QLabel(UiTexts::tr("on another screen"))),
+      goThere_(new QPushButton(UiTexts::tr("&Go there"))) {
   setObjectName(QStringLiteral("inHandLine"));
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(6, 2, 6, 2);
@@ -62,7 +63,7 @@ InHandLine::InHandLine(const Ui& ui)
   row->addWidget(goThere_);
   // What comes and goes in the line doesn't move the canvas.
   setFixedHeight(goThere_->sizeHint().height() + 4);
-  goThere_->setToolTip(QStringLiteral("Show the screen of the element in hand"));
+  goThere_->setToolTip(UiTexts::tr("Show the screen of the element in hand"));
   telling_.setSingleShot(true);
   telling_.setInterval(0);
   telling_.callOnTimeout(this, &InHandLine::tell);
@@ -80,9 +81,9 @@ void InHandLine::tell() {
   const Element* element = currentElement(state);
   const bool isOnCanvas = element && &element->window() == &state.form1;
   const QString text =
-      element ? textOf(hands_, *element) : QStringLiteral("Click an element to take it in hand");
+      element ? textOf(hands_, *element) : UiTexts::tr("Click an element to take it in hand");
   what_->setLine(text);
-  what_->setAccessibleName(QStringLiteral("In hand: ") + text);
+  what_->setAccessibleName(UiTexts::tr("In hand: %1").arg(text));
   showColours(element);
   const int entry = isOnCanvas ? entryHolding(state, *element) : -1;
   const bool isElsewhere = entry >= 0 && !isShown(screenOf(state, entry));

@@ -13,6 +13,7 @@
 #include "ui/colourmenu.h"
 #include "ui/fieldnote.h"
 #include "ui/layouts.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -65,13 +66,13 @@ Inspector::Inspector(const Ui& ui)
       table_(new PropertyTable),
       copy_(new QToolButton),
       paste_(new QToolButton) {
-  setWindowTitle(QStringLiteral("Inspector"));
+  setWindowTitle(UiTexts::tr("Inspector"));
   title_->setTextFormat(Qt::PlainText);
   title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   table_->setModel(&model_);
   table_->setItemDelegate(new CaptionDelegate(model_, this));
-  table_->setAccessibleName(QStringLiteral("Properties"));
-  table_->setToolTip(QStringLiteral("Type a value to set it; click a colour's name to choose a colour"));
+  table_->setAccessibleName(UiTexts::tr("Properties"));
+  table_->setToolTip(UiTexts::tr("Type a value to set it; click a colour's name to choose a colour"));
   table_->setSelectionMode(QAbstractItemView::SingleSelection);
   // The tabulator leads out of the table; within a value it goes to the next one.
   table_->setTabKeyNavigation(false);
@@ -81,10 +82,10 @@ Inspector::Inspector(const Ui& ui)
   table_->verticalHeader()->hide();
   table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
   table_->horizontalHeader()->setSectionResizeMode(InspectorModel::Text, QHeaderView::Stretch);
-  copy_->setText(QStringLiteral("Cop&y Style"));
-  copy_->setToolTip(QStringLiteral("Remember the colours, the font and the style of this element"));
-  paste_->setText(QStringLiteral("&Paste Style"));
-  paste_->setToolTip(QStringLiteral("Give what is selected the style that was copied"));
+  copy_->setText(UiTexts::tr("Cop&y Style"));
+  copy_->setToolTip(UiTexts::tr("Remember the colours, the font and the style of this element"));
+  paste_->setText(UiTexts::tr("&Paste Style"));
+  paste_->setToolTip(UiTexts::tr("Give what is selected the style that was copied"));
   auto* row = new QHBoxLayout;
   row->addWidget(title_, 1);
   row->addWidget(copy_);
@@ -120,9 +121,10 @@ void Inspector::inspect() {
   if (isOther)
     for (const int column : {InspectorModel::Name, InspectorModel::Pixels, InspectorModel::Place})
       table_->resizeColumnToContents(column);
-  QString title = QStringLiteral("Click an element to see its properties");
+  QString title = UiTexts::tr("Click an element to see its properties");
   if (!elements.empty()) title = elementTitle(hands_.state(), *elements.front());
-  if (elements.size() > 1) title += QStringLiteral(" and %1 more").arg(elements.size() - 1);
+  if (elements.size() > 1)
+    title = UiTexts::tr("%1 and %2 more").arg(title, QString::number(elements.size() - 1));
   title_->setText(title);
   copy_->setEnabled(!elements.empty());
   paste_->setEnabled(!elements.empty() && !copied_.empty());

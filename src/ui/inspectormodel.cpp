@@ -6,6 +6,7 @@
 #include "elements/printable.h"
 #include "ui/colourmenu.h"
 #include "ui/plaintext.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -37,8 +38,9 @@ int InspectorModel::rowCount(const QModelIndex& parent) const {
 
 QVariant InspectorModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (role != Qt::DisplayRole || orientation != Qt::Horizontal) return {};
-  const char* const titles[] = {"Property", "Value", "Pixels", "Line"};
-  return QString::fromLatin1(titles[section]);
+  const QString titles[] = {UiTexts::tr("Property"), UiTexts::tr("Value"), UiTexts::tr("Pixels"),
+                            UiTexts::tr("Line")};
+  return titles[section];
 }
 
 const Element& InspectorModel::holderOf(Property property) const {
@@ -62,7 +64,7 @@ QString InspectorModel::textAt(const QModelIndex& index) const {
   }
   const QString pixels = pixelText(element, property, hands_.screen());
   if (index.column() == Pixels && pixels.isEmpty()) return {};
-  if (isMixed(property)) return QStringLiteral("(several)");
+  if (isMixed(property)) return UiTexts::tr("(several)");
   return index.column() == Text ? withinSkin(property, valueText(element.get(property))) : pixels;
 }
 

@@ -14,7 +14,9 @@ inline const QList<QKeySequence> kRedoKeys{QKeySequence(Qt::CTRL | Qt::SHIFT | Q
 // Opens the window in which a Skin is tried, and closes it.
 inline constexpr Qt::Key kTryItKey = Qt::Key_F11;
 
-// The letters of the menus in the menu bar; a panel's mnemonics keep clear of them.
-inline constexpr char16_t kMenuLetters[] = u"FEVWH";
+// The menus in the menu bar. A panel's mnemonics keep clear of theirs.
+inline constexpr const char* kMenus[] = {QT_TRANSLATE_NOOP("Ui", "&File"), QT_TRANSLATE_NOOP("Ui", "&Edit"),
+                                         QT_TRANSLATE_NOOP("Ui", "&View"), QT_TRANSLATE_NOOP("Ui", "&Window"),
+                                         QT_TRANSLATE_NOOP("Ui", "&Help")};
 
 }  // namespace veneerer

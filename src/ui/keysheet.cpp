@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "ui/layouts.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -24,32 +25,40 @@ struct Gesture {
 };
 
 constexpr Gesture kCanvasKeys[] = {
-    {"Arrow keys", "Move what is selected, else what is in hand, by a pixel"},
-    {"Shift+Arrow keys", "Move it by ten pixels"},
-    {"Enter", "Click what is selected, else what is in hand"},
-    {"Escape", "Select nothing; pick no colour"},
-    {"Menu", "List all that lies beneath the pointer"},
-    {"Tab, Shift+Tab", "Go to the next control, or back"},
-    {"Alt and a letter", "Go to the control or menu with that letter underlined"},
+    {QT_TRANSLATE_NOOP("Ui", "Arrow keys"),
+     QT_TRANSLATE_NOOP("Ui", "Move what is selected, else what is in hand, by a pixel")},
+    {QT_TRANSLATE_NOOP("Ui", "Shift+Arrow keys"), QT_TRANSLATE_NOOP("Ui", "Move it by ten pixels")},
+    {QT_TRANSLATE_NOOP("Ui", "Enter"),
+     QT_TRANSLATE_NOOP("Ui", "Click what is selected, else what is in hand")},
+    {QT_TRANSLATE_NOOP("Ui", "Escape"), QT_TRANSLATE_NOOP("Ui", "Select nothing; pick no colour")},
+    {QT_TRANSLATE_NOOP("Ui", "Menu"), QT_TRANSLATE_NOOP("Ui", "List all that lies beneath the pointer")},
+    {QT_TRANSLATE_NOOP("Ui", "Tab, Shift+Tab"), QT_TRANSLATE_NOOP("Ui", "Go to the next control, or back")},
+    {QT_TRANSLATE_NOOP("Ui", "Alt and a letter"),
+     QT_TRANSLATE_NOOP("Ui", "Go to the control or menu with that letter underlined")},
 };
 
 constexpr Gesture kCanvasMouse[] = {
-    {"Click", "Take an element in hand; nothing is selected any more"},
-    {"Drag", "Move an element"},
-    {"Ctrl and drag", "Move an element, snapping to what lines up"},
-    {"Drag a handle", "Size what is in hand; with Ctrl it snaps"},
-    {"Right press", "Choose a button's picture"},
-    {"Shift and click", "Select an element, or no longer"},
-    {"Shift and drag", "Select what lies in the band"},
-    {"Ctrl and click", "List all that lies beneath, hidden elements too"},
+    {QT_TRANSLATE_NOOP("Ui", "Click"),
+     QT_TRANSLATE_NOOP("Ui", "Take an element in hand; nothing is selected any more")},
+    {QT_TRANSLATE_NOOP("Ui", "Drag"), QT_TRANSLATE_NOOP("Ui", "Move an element")},
+    {QT_TRANSLATE_NOOP("Ui", "Ctrl and drag"),
+     QT_TRANSLATE_NOOP("Ui", "Move an element, snapping to what lines up")},
+    {QT_TRANSLATE_NOOP("Ui", "Drag a handle"),
+     QT_TRANSLATE_NOOP("Ui", "Size what is in hand; with Ctrl it snaps")},
+    {QT_TRANSLATE_NOOP("Ui", "Right press"), QT_TRANSLATE_NOOP("Ui", "Choose a button's picture")},
+    {QT_TRANSLATE_NOOP("Ui", "Shift and click"), QT_TRANSLATE_NOOP("Ui", "Select an element, or no longer")},
+    {QT_TRANSLATE_NOOP("Ui", "Shift and drag"), QT_TRANSLATE_NOOP("Ui", "Select what lies in the band")},
+    {QT_TRANSLATE_NOOP("Ui", "Ctrl and click"),
+     QT_TRANSLATE_NOOP("Ui", "List all that lies beneath, hidden elements too")},
 };
 
 constexpr Gesture kViewMouse[] = {
-    {"Ctrl and wheel", "Zoom at the pointer"},
-    {"Wheel, Shift and wheel", "Scroll down, across"},
-    {"Space or middle button, and drag", "Pan"},
-    {"Drag from a ruler", "Lay out a guide; off the view it is taken away"},
-    {"Drag the canvas's edge", "Size the canvas window"},
+    {QT_TRANSLATE_NOOP("Ui", "Ctrl and wheel"), QT_TRANSLATE_NOOP("Ui", "Zoom at the pointer")},
+    {QT_TRANSLATE_NOOP("Ui", "Wheel, Shift and wheel"), QT_TRANSLATE_NOOP("Ui", "Scroll down, across")},
+    {QT_TRANSLATE_NOOP("Ui", "Space or middle button, and drag"), QT_TRANSLATE_NOOP("Ui", "Pan")},
+    {QT_TRANSLATE_NOOP("Ui", "Drag from a ruler"),
+     QT_TRANSLATE_NOOP("Ui", "Lay out a guide; off the view it is taken away")},
+    {QT_TRANSLATE_NOOP("Ui", "Drag the canvas's edge"), QT_TRANSLATE_NOOP("Ui", "Size the canvas window")},
 };
 
 QString plainText(const QAction& action) {
@@ -83,10 +92,12 @@ private:
       if (action->menu()) add(group, action->menu()->actions());
       if (action->shortcuts().isEmpty() || listed_.contains(action)) continue;
       listed_.insert(action);
+      //: Between the keys of one command
+      const QString separator = UiTexts::tr(" or ");
       QStringList keys;
       for (const QKeySequence& each : action->shortcuts())
         keys.append(each.toString(QKeySequence::NativeText));
-      auto* row = new QTreeWidgetItem(&group, {plainText(*action), keys.join(QStringLiteral(" or "))});
+      auto* row = new QTreeWidgetItem(&group, {plainText(*action), keys.join(separator)});
       row->setToolTip(0, action->statusTip());
     }
   }
@@ -101,28 +112,28 @@ void listShortcuts(QTreeWidget& sheet, const QWidget& window) {
     if (const auto* bar = qobject_cast<const QMenuBar*>(main->menuWidget()))
       for (const QAction* menu : bar->actions())
         if (menu->menu()) lister.list(plainText(*menu), menu->menu()->actions());
-  lister.list(QStringLiteral("Elsewhere"), window.findChildren<QAction*>());
+  lister.list(UiTexts::tr("Elsewhere"), window.findChildren<QAction*>());
 }
 
 template <std::size_t N>
-void listGestures(QTreeWidget& sheet, const char* title, const Gesture (&gestures)[N]) {
-  QTreeWidgetItem* group = addGroup(sheet, QString::fromLatin1(title));
+void listGestures(QTreeWidget& sheet, const QString& title, const Gesture (&gestures)[N]) {
+  QTreeWidgetItem* group = addGroup(sheet, title);
   for (const Gesture& gesture : gestures)
-    new QTreeWidgetItem(group, {QString::fromLatin1(gesture.what), QString::fromLatin1(gesture.keys)});
+    new QTreeWidgetItem(group, {UiTexts::tr(gesture.what), UiTexts::tr(gesture.keys)});
 }
 
 QTreeWidget* makeList(const QWidget& window) {
   auto* sheet = new QTreeWidget;
-  sheet->setHeaderLabels({QStringLiteral("What"), QStringLiteral("How")});
-  sheet->setAccessibleName(QStringLiteral("Keyboard and Mouse"));
-  sheet->setToolTip(QStringLiteral("All keys and gestures; Escape closes this window"));
+  sheet->setHeaderLabels({UiTexts::tr("What"), UiTexts::tr("How")});
+  sheet->setAccessibleName(UiTexts::tr("Keyboard and Mouse"));
+  sheet->setToolTip(UiTexts::tr("All keys and gestures; Escape closes this window"));
   sheet->setUniformRowHeights(true);
   sheet->setRootIsDecorated(false);
   sheet->setItemsExpandable(false);
   listShortcuts(*sheet, window);
-  listGestures(*sheet, "Keys on the Canvas", kCanvasKeys);
-  listGestures(*sheet, "Mouse on the Canvas", kCanvasMouse);
-  listGestures(*sheet, "Mouse on the View", kViewMouse);
+  listGestures(*sheet, UiTexts::tr("Keys on the Canvas"), kCanvasKeys);
+  listGestures(*sheet, UiTexts::tr("Mouse on the Canvas"), kCanvasMouse);
+  listGestures(*sheet, UiTexts::tr("Mouse on the View"), kViewMouse);
   sheet->expandAll();
   sheet->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   sheet->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
@@ -140,7 +151,7 @@ void showKeySheet(QWidget& window) {
     dialog = new QDialog(&window);
     dialog->setObjectName(name);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(QStringLiteral("Keyboard and Mouse"));
+    dialog->setWindowTitle(UiTexts::tr("Keyboard and Mouse"));
     auto* column = new QVBoxLayout(dialog);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(makeList(window));

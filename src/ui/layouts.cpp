@@ -6,6 +6,7 @@
 #include <QSet>
 
 #include "ui/keys.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -71,9 +72,9 @@ void collect(const QList<W*>& widgets, QSet<QChar>& taken) {
 
 }  // namespace
 
-QGroupBox* makeFrame(const QString& title, QLayout* content) {
+QGroupBox* makeFrame(const QString& title, QLayout* content, const QString& name) {
   auto* frame = new QGroupBox(title);
-  frame->setObjectName(title);
+  frame->setObjectName(name.isEmpty() ? title : name);
   frame->setLayout(content);
   return frame;
 }
@@ -105,7 +106,7 @@ void assignMnemonics(QWidget& window) {
   QList<QLabel*> labels = window.findChildren<QLabel*>();
   labels.removeIf([](const QLabel* label) { return !label->buddy(); });
   QSet<QChar> taken;
-  for (const QChar letter : QStringView(kMenuLetters)) taken.insert(letter);
+  for (const char* menu : kMenus) taken.insert(mnemonicOf(UiTexts::tr(menu)));
   collect(labels, taken);
   collect(buttons, taken);
   assignTo(labels, taken);

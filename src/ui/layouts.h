@@ -7,8 +7,8 @@
 
 namespace veneerer {
 
-/// A titled frame around a layout, named by its title.
-QGroupBox* makeFrame(const QString& title, QLayout* content);
+/// A titled frame around a layout, named by its title, or by that name where the title is translated.
+QGroupBox* makeFrame(const QString& title, QLayout* content, const QString& name = {});
 
 /// A label that leads to the control beside it.
 QLabel* makeLabel(const QString& text, QWidget* control);

@@ -3,6 +3,8 @@
 #include <QActionGroup>
 #include <QFileInfo>
 
+#include "ui/texts.h"
+
 namespace veneerer {
 
 namespace {
@@ -23,8 +25,8 @@ void choosePicture(CanvasWidget& canvas, Operator& hands) {
   const QImage picture = hands.decoded(path);
   if (picture.isNull())
     return hands.dialogs().inform(
-        QStringLiteral("Mock-up"),
-        QStringLiteral("\"%1\" is no picture that can be shown.").arg(QFileInfo(path).fileName()));
+        UiTexts::tr("Mock-up"),
+        UiTexts::tr("\"%1\" is no picture that can be shown.").arg(QFileInfo(path).fileName()));
   // The form in which blending is quickest.
   change(canvas, [&](MockUp& mockUp) {
     mockUp.picture = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
@@ -32,12 +34,12 @@ void choosePicture(CanvasWidget& canvas, Operator& hands) {
 }
 
 template <class F>
-QAction* addChoice(QMenu& menu, QActionGroup& group, const QString& text, const char* tip, bool isChosen,
+QAction* addChoice(QMenu& menu, QActionGroup& group, const QString& text, const QString& tip, bool isChosen,
                    F choose) {
   QAction* action = group.addAction(menu.addAction(text));
   action->setCheckable(true);
   action->setChecked(isChosen);
-  action->setStatusTip(QString::fromLatin1(tip));
+  action->setStatusTip(tip);
   QObject::connect(action, &QAction::triggered, action, choose);
   return action;
 }
@@ -45,8 +47,8 @@ QAction* addChoice(QMenu& menu, QActionGroup& group, const QString& text, const 
 void addStrengths(QMenu& menu, CanvasWidget& canvas) {
   auto* group = new QActionGroup(&menu);
   for (const int strength : kStrengths)
-    addChoice(menu, *group, QStringLiteral("%1 %").arg(strength), "How much of what lies on top is seen",
-              strength == canvas.mockUp().strength,
+    addChoice(menu, *group, QStringLiteral("%1 %").arg(strength),
+              UiTexts::tr("How much of what lies on top is seen"), strength == canvas.mockUp().strength,
               [&canvas, strength] { change(canvas, [&](MockUp& mockUp) { mockUp.strength = strength; }); });
 }
 
@@ -55,21 +57,23 @@ void addSides(QMenu& menu, CanvasWidget& canvas) {
   const auto lay = [&canvas](bool isUnder) {
     change(canvas, [&](MockUp& mockUp) { mockUp.isUnder = isUnder; });
   };
-  addChoice(menu, *group, QStringLiteral("&Over the Screen"), "Show the mock-up see-through over the screen",
-            !canvas.mockUp().isUnder, [lay] { lay(false); });
-  addChoice(menu, *group, QStringLiteral("&Under the Screen"), "Show the screen see-through over the mock-up",
-            canvas.mockUp().isUnder, [lay] { lay(true); });
+  addChoice(menu, *group, UiTexts::tr("&Over the Screen"),
+            UiTexts::tr("Show the mock-up see-through over the screen"), !canvas.mockUp().isUnder,
+            [lay] { lay(false); });
+  addChoice(menu, *group, UiTexts::tr("&Under the Screen"),
+            UiTexts::tr("Show the screen see-through over the mock-up"), canvas.mockUp().isUnder,
+            [lay] { lay(true); });
 }
 
 }  // namespace
 
 void addMockUpCommands(QMenu& menu, CanvasWidget& canvas, Operator& hands) {
-  QAction* choose = menu.addAction(QStringLiteral("&Choose Picture..."));
-  choose->setStatusTip(QStringLiteral("Lay a picture over the canvas to compare with; it is never saved"));
-  addStrengths(*menu.addMenu(QStringLiteral("&Strength")), canvas);
+  QAction* choose = menu.addAction(UiTexts::tr("&Choose Picture..."));
+  choose->setStatusTip(UiTexts::tr("Lay a picture over the canvas to compare with; it is never saved"));
+  addStrengths(*menu.addMenu(UiTexts::tr("&Strength")), canvas);
   addSides(menu, canvas);
-  QAction* remove = menu.addAction(QStringLiteral("&Remove"));
-  remove->setStatusTip(QStringLiteral("Take the mock-up away"));
+  QAction* remove = menu.addAction(UiTexts::tr("&Remove"));
+  remove->setStatusTip(UiTexts::tr("Take the mock-up away"));
   const auto enable = [remove, &canvas] { remove->setEnabled(!canvas.mockUp().picture.isNull()); };
   enable();
   QObject::connect(choose, &QAction::triggered, choose, [enable, &canvas, &hands] {

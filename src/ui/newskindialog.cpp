@@ -6,8 +6,10 @@
 
 #include "looks/looks.h"
 #include "looks/plans.h"
+#include "looks/texts.h"
 #include "ui/colourmenu.h"
 #include "ui/layouts.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -24,21 +26,25 @@ constexpr const char* kFonts[] = {"Arial", "Times New Roman", "Courier New", "De
 
 struct ColourField {
   const char* caption;
+  const char* name;  ///< of the button as an object
   const char* title;
   const char* tip;
 };
 constexpr ColourField kFields[] = {
-    {"&Accent", "Accent", "Lines, light, and what is to be touched next"},
-    {"&Ground", "Ground", "What everything stands on"},
-    {"&Text", "Text", "The letters; moved where they couldn't be read on the ground"}};
+    {QT_TRANSLATE_NOOP("Ui", "&Accent"), "Accent", QT_TRANSLATE_NOOP("Ui", "Accent"),
+     QT_TRANSLATE_NOOP("Ui", "Lines, light, and what is to be touched next")},
+    {QT_TRANSLATE_NOOP("Ui", "&Ground"), "Ground", QT_TRANSLATE_NOOP("Ui", "Ground"),
+     QT_TRANSLATE_NOOP("Ui", "What everything stands on")},
+    {QT_TRANSLATE_NOOP("Ui", "&Text"), "Text", QT_TRANSLATE_NOOP("Ui", "Text"),
+     QT_TRANSLATE_NOOP("Ui", "The letters; moved where they couldn't be read on the ground")}};
 
 QString sizeText(QSize size) {
   return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
 }
 
-void setTips(QWidget* widget, const char* name, const char* tip) {
+void setTips(QWidget* widget, const char* name, const QString& tip) {
   widget->setObjectName(QString::fromLatin1(name));
-  widget->setToolTip(QString::fromLatin1(tip));
+  widget->setToolTip(tip);
 }
 
 }  // namespace
@@ -54,8 +60,8 @@ NewSkinDialog::NewSkinDialog(const QString& name, FaultOfName faultOfName, QWidg
       notes_(new QLabel),
       buttons_(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel)) {
   setObjectName(QStringLiteral("newSkin"));
-  setWindowTitle(QStringLiteral("New Skin"));
-  buttons_->button(QDialogButtonBox::Ok)->setText(QStringLiteral("&Create"));
+  setWindowTitle(tr("New Skin"));
+  buttons_->button(QDialogButtonBox::Ok)->setText(tr("&Create"));
   auto* row = new QHBoxLayout;
   row->addLayout(makeFields());
   row->addLayout(makePictures(), 1);
@@ -81,10 +87,10 @@ QLayout* NewSkinDialog::makeFields() {
   for (const char* font : kFonts) font_->addItem(QString::fromLatin1(font));
   size_->setEditable(true);
   font_->setEditable(true);
-  setTips(name_, "name", "The name of its folder among the Skins");
-  setTips(look_, "look", "The kind of the Skin; brings its own size, colours and font");
-  setTips(size_, "size", "Width x height of the screen in pixels, also typed");
-  setTips(font_, "font", "The font of all texts");
+  setTips(name_, "name", tr("The name of its folder among the Skins"));
+  setTips(look_, "look", tr("The kind of the Skin; brings its own size, colours and font"));
+  setTips(size_, "size", tr("Width x height of the screen in pixels, also typed"));
+  setTips(font_, "font", tr("The font of all texts"));
   for (QLabel* text : {what_, notes_}) {
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
@@ -96,11 +102,11 @@ QLayout* NewSkinDialog::makeFields() {
   what_->setMinimumHeight(3 * fontMetrics().lineSpacing());
   what_->setAlignment(Qt::AlignTop);
   auto* form = new QFormLayout;
-  form->addRow(QStringLiteral("&Name:"), name_);
-  form->addRow(QStringLiteral("&Look:"), look_);
+  form->addRow(tr("&Name:"), name_);
+  form->addRow(tr("&Look:"), look_);
   form->addRow(what_);
-  form->addRow(QStringLiteral("&Size:"), size_);
-  form->addRow(QStringLiteral("&Font:"), font_);
+  form->addRow(tr("&Size:"), size_);
+  form->addRow(tr("&Font:"), font_);
   form->addRow(makeColours());
   form->addRow(notes_);
   connect(name_, &QLineEdit::textChanged, this, &NewSkinDialog::changed);
@@ -115,8 +121,8 @@ QWidget* NewSkinDialog::makeColours() {
   row->setContentsMargins(0, 0, 0, 0);
   for (int i = 0; i < kColours; ++i) {
     const ColourField& field = kFields[i];
-    auto* button = new QPushButton(QString::fromLatin1(field.caption));
-    setTips(button, field.title, field.tip);
+    auto* button = new QPushButton(UiTexts::tr(field.caption));
+    setTips(button, field.name, UiTexts::tr(field.tip));
     connect(button, &QPushButton::clicked, this, [this, i] { chooseColour(i); });
     row->addWidget(button);
     colourButtons_[static_cast<std::size_t>(i)] = button;
@@ -132,7 +138,7 @@ QLayout* NewSkinDialog::makePictures() {
     auto* picture = new QLabel;
     picture->setMinimumSize(kPicture);
     picture->setAlignment(Qt::AlignCenter);
-    picture->setAccessibleName(QStringLiteral("Preview"));
+    picture->setAccessibleName(tr("Preview"));
     grid->addWidget(picture, i / 2, i % 2);
     pictures_[static_cast<std::size_t>(i)] = picture;
   }
@@ -164,7 +170,7 @@ QString NewSkinDialog::fault() const {
 void NewSkinDialog::chooseLook() {
   const looks::Wish usual =
       looks::defaultsOf(*looks::allLooks()[static_cast<std::size_t>(std::max(0, look_->currentIndex()))]);
-  what_->setText(QString::fromLatin1(usual.look->what) + u'.');
+  what_->setText(looks::LookTexts::tr(usual.look->what) + u'.');
   const QColor colours[] = {usual.colours.accent, usual.colours.ground, usual.colours.text};
   for (int i = 0; i < kColours; ++i) setColour(i, colours[i]);
   size_->setCurrentText(sizeText(usual.size));
@@ -182,7 +188,7 @@ void NewSkinDialog::setColour(int which, const QColor& colour) {
 void NewSkinDialog::chooseColour(int which) {
   const QColor before = colours_[static_cast<std::size_t>(which)];
   QColorDialog dialog(before, this);
-  dialog.setWindowTitle(QString::fromLatin1(kFields[which].title));
+  dialog.setWindowTitle(UiTexts::tr(kFields[which].title));
   dialog.setOption(QColorDialog::DontUseNativeDialog);
   const auto take = [this, which](const QColor& colour) {
     setColour(which, colour);

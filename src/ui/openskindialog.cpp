@@ -13,6 +13,7 @@
 #include "elements/printable.h"
 #include "ui/layouts.h"
 #include "ui/plaintext.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -53,21 +54,23 @@ QIcon iconOf(const QWidget& widget, const SkinGlance* glance) {
 }
 
 // Said ahead, where it can still be saved; there is no question.
-const QString kEnds = QStringLiteral(
-    "\nTo open it ends the program with this text: what isn't saved in the Skin in hand is lost.");
+QString endsText() {
+  return UiTexts::tr(
+      "\nTo open it ends the program with this text: what isn't saved in the Skin in hand is lost.");
+}
 
 QString foundText(int findings) {
-  if (findings == 0) return QStringLiteral("no problems");
-  return findings == 1 ? QStringLiteral("1 problem") : QStringLiteral("%1 problems").arg(findings);
+  if (findings == 0) return UiTexts::tr("no problems");
+  return findings == 1 ? UiTexts::tr("1 problem") : UiTexts::tr("%1 problems").arg(findings);
 }
 
 /// What is known of a Skin, in one sentence.
 QString aboutText(const SkinGlance& glance, int findings) {
-  if (!glance.fault.isEmpty()) return QStringLiteral("Can't be loaded: ") + glance.fault;
+  if (!glance.fault.isEmpty()) return UiTexts::tr("Can't be loaded: %1").arg(glance.fault);
   QStringList facts;
   if (!glance.resolution.isEmpty()) facts << glance.resolution;
   if (glance.lastSaved.isValid())
-    facts << QStringLiteral("saved ") + QLocale().toString(glance.lastSaved, QLocale::ShortFormat);
+    facts << UiTexts::tr("saved %1").arg(QLocale::system().toString(glance.lastSaved, QLocale::ShortFormat));
   if (findings >= 0) facts << foundText(findings);
   return facts.join(QStringLiteral(", "));
 }
@@ -85,7 +88,7 @@ QStringList nearestFirst(const QStringList& skins, const QString& inHand) {
 QString itemText(const QString& name, const SkinGlance* glance) {
   const QString below = !glance                   ? QString()
                         : glance->fault.isEmpty() ? glance->resolution
-                                                  : QStringLiteral("can't be loaded");
+                                                  : UiTexts::tr("can't be loaded");
   return shownText(name) + u'\n' + shownText(below);
 }
 
@@ -101,7 +104,7 @@ OpenSkinDialog::OpenSkinDialog(Glancer& glancer, const QStringList& skins, const
       about_(new QLabel),
       buttons_(new QDialogButtonBox(QDialogButtonBox::Open | QDialogButtonBox::Cancel)) {
   setObjectName(QStringLiteral("openSkin"));
-  setWindowTitle(QStringLiteral("Open Skin"));
+  setWindowTitle(tr("Open Skin"));
   setUpList();
   about_->setTextFormat(Qt::PlainText);
   about_->setWordWrap(true);
@@ -129,7 +132,7 @@ QLayout* OpenSkinDialog::makeSearch() {
   search_->installEventFilter(this);
   connect(search_, &QLineEdit::textChanged, this, &OpenSkinDialog::search);
   auto* row = new QHBoxLayout;
-  QLabel* label = makeLabel(QStringLiteral("&Search:"), search_);
+  QLabel* label = makeLabel(tr("&Search:"), search_);
   row->addWidget(label);
   row->addWidget(search_, 1);
   return row;
@@ -137,7 +140,7 @@ QLayout* OpenSkinDialog::makeSearch() {
 
 void OpenSkinDialog::setUpList() {
   list_->setObjectName(QStringLiteral("skins"));
-  list_->setAccessibleName(QStringLiteral("Skins"));
+  list_->setAccessibleName(tr("Skins"));
   list_->setViewMode(QListView::IconMode);
   list_->setMovement(QListView::Static);
   list_->setResizeMode(QListView::Adjust);
@@ -204,8 +207,8 @@ void OpenSkinDialog::tellProposed() {
   const SkinGlance* glance = glancer_.glance(skin());
   buttons_->button(QDialogButtonBox::Open)->setEnabled(!skin().isEmpty());
   QString about = glance ? aboutText(*glance, glancer_.findings(skin())) : QString();
-  if (skins_.rowCount() == 0) about = QStringLiteral("There are no Skins in %1.").arg(root_);
-  about_->setText(shownText(about) + (isBroken() ? kEnds : QString()));
+  if (skins_.rowCount() == 0) about = tr("There are no Skins in %1.").arg(root_);
+  about_->setText(shownText(about) + (isBroken() ? endsText() : QString()));
 }
 
 bool OpenSkinDialog::isBroken() const {

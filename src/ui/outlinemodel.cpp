@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "painting/hittest.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -91,8 +92,8 @@ int OutlineModel::rowCount(const QModelIndex& parent) const {
 
 QVariant OutlineModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (role != Qt::DisplayRole || orientation != Qt::Horizontal) return {};
-  const char* const titles[] = {"Element", "Name", "Section"};
-  return QString::fromLatin1(titles[section]);
+  const QString titles[] = {UiTexts::tr("Element"), UiTexts::tr("Name"), UiTexts::tr("Section")};
+  return titles[section];
 }
 
 QVariant OutlineModel::data(const QModelIndex& index, int role) const {

@@ -7,6 +7,7 @@
 #include "canvas/sections.h"
 #include "ui/canvaselement.h"
 #include "ui/layouts.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -32,25 +33,25 @@ OutlinePanel::OutlinePanel(const Ui& ui)
         if (&change.element.window() == &hands_.state().form1 && isListed(change.property))
           rereading_.start();
       })) {
-  setWindowTitle(QStringLiteral("Outline"));
-  query_->setPlaceholderText(QStringLiteral("Caption, name, Section or screen"));
+  setWindowTitle(UiTexts::tr("Outline"));
+  query_->setPlaceholderText(UiTexts::tr("Caption, name, Section or screen"));
   query_->setClearButtonEnabled(true);
-  query_->setAccessibleName(QStringLiteral("Search"));
-  query_->setToolTip(QStringLiteral("Show only elements that all these words are found in"));
+  query_->setAccessibleName(UiTexts::tr("Search"));
+  query_->setToolTip(UiTexts::tr("Show only elements that all these words are found in"));
   setFocusProxy(query_);
   makeHintReadable();
   tree_->setModel(&model_);
-  tree_->setAccessibleName(QStringLiteral("Elements"));
-  tree_->setToolTip(QStringLiteral("Click an element to go there and select it; Enter takes it in hand"));
+  tree_->setAccessibleName(UiTexts::tr("Elements"));
+  tree_->setToolTip(UiTexts::tr("Click an element to go there and select it; Enter takes it in hand"));
   tree_->setUniformRowHeights(true);
   tree_->setHeaderHidden(false);
   tree_->header()->setStretchLastSection(false);
   tree_->header()->setSectionResizeMode(OutlineModel::Title, QHeaderView::Stretch);
-  const auto widthOf = [this](const char* text) {
-    return tree_->fontMetrics().horizontalAdvance(QString::fromLatin1(text)) + 16;
+  const auto widthOf = [this](const QString& text) {
+    return tree_->fontMetrics().horizontalAdvance(text) + 16;
   };
-  tree_->header()->resizeSection(OutlineModel::Key, widthOf("lvButtons_H23(88)"));
-  tree_->header()->resizeSection(OutlineModel::Section, widthOf("Section"));
+  tree_->header()->resizeSection(OutlineModel::Key, widthOf(QStringLiteral("lvButtons_H23(88)")));
+  tree_->header()->resizeSection(OutlineModel::Section, widthOf(UiTexts::tr("Section")));
   auto* column = compact(new QVBoxLayout(this));
   column->addWidget(query_);
   column->addWidget(tree_);

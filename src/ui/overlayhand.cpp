@@ -10,6 +10,7 @@
 #include "canvas/description.h"
 #include "canvas/sections.h"
 #include "editing/outline.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -23,7 +24,7 @@ QString entryFor(State& state, const Element& element) {
   const QString title = elementTitle(state, element);
   const QString name = shortName(element);
   QString text = title == name ? name : title + QStringLiteral("   ") + name;
-  if (!isShown(element)) text += QStringLiteral("   (hidden)");
+  if (!isShown(element)) text = UiTexts::tr("%1   (hidden)").arg(text);
   return plainMenuText(text);
 }
 
@@ -158,7 +159,7 @@ void OverlayHand::listBeneath(QPoint place) {
     connect(entry, &QAction::triggered, this, [this, element] { hands_.click(*element); });
     connect(entry, &QAction::hovered, this, [this, element] { hands_.overlay().select({element}); });
   }
-  if (menu->isEmpty()) menu->addAction(QStringLiteral("Nothing lies here"))->setEnabled(false);
+  if (menu->isEmpty()) menu->addAction(UiTexts::tr("Nothing lies here"))->setEnabled(false);
   menu->popup(canvas_.mapToGlobal(place));
 }
 

@@ -8,6 +8,7 @@
 
 #include "editing/inspection.h"
 #include "ui/frames.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -20,7 +21,7 @@ class Chip : public QAbstractButton {
 public:
   explicit Chip(const ColourUse& use) : colour_(use.colour.toQColor()) {
     const QString name = valueText(use.colour);
-    setToolTip(QStringLiteral("%1, %2 times").arg(name).arg(use.count));
+    setToolTip(UiTexts::tr("%1, %2 times").arg(name).arg(use.count));
     setAccessibleName(name);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);

@@ -5,6 +5,7 @@
 #include <QtConcurrentRun>
 
 #include "images/picturedecoding.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -13,9 +14,9 @@ namespace {
 constexpr QSize kPicture(220, 180);
 
 QString sizeText(const Sketch& sketch) {
-  if (!sketch.size.isValid()) return QStringLiteral("Not a picture");
-  const QString size = QStringLiteral("%1 × %2 pixels").arg(sketch.size.width()).arg(sketch.size.height());
-  return sketch.image.isNull() ? size + QStringLiteral("\nCan't be shown") : size;
+  if (!sketch.size.isValid()) return UiTexts::tr("Not a picture");
+  const QString size = UiTexts::tr("%1 × %2 pixels").arg(sketch.size.width()).arg(sketch.size.height());
+  return sketch.image.isNull() ? UiTexts::tr("%1\nCan't be shown").arg(size) : size;
 }
 
 }  // namespace

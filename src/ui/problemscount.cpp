@@ -2,13 +2,15 @@
 
 #include <QStyle>
 
+#include "ui/texts.h"
+
 namespace veneerer {
 
 ProblemsCount::ProblemsCount(const ProblemsPanel& panel) {
   setAutoRaise(true);
   setFocusPolicy(Qt::TabFocus);
   setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  setToolTip(QStringLiteral("What is wrong or risky in this Skin, hints apart; a click shows all of it"));
+  setToolTip(UiTexts::tr("What is wrong or risky in this Skin, hints apart; a click shows all of it"));
   connect(&panel, &ProblemsPanel::counted, this, &ProblemsCount::tell);
   connect(this, &QToolButton::clicked, this, [dock = panel.parentWidget()] {
     dock->show();
@@ -23,9 +25,9 @@ ProblemsCount::ProblemsCount(const ProblemsPanel& panel) {
 
 void ProblemsCount::tell(int problems) {
   setIcon(problems > 0 ? style()->standardIcon(QStyle::SP_MessageBoxWarning) : QIcon());
-  setText(problems == 0   ? QStringLiteral("No problems")
-          : problems == 1 ? QStringLiteral("1 problem")
-                          : QStringLiteral("%1 problems").arg(problems));
+  setText(problems == 0   ? UiTexts::tr("No problems")
+          : problems == 1 ? UiTexts::tr("1 problem")
+                          : UiTexts::tr("%1 problems").arg(problems));
   show();
 }
 

@@ -11,6 +11,7 @@
 #include "ui/canvaselement.h"
 #include "ui/diskfollower.h"
 #include "ui/layouts.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -46,7 +47,7 @@ QString placeOf(const Finding& finding) {
 QTreeWidgetItem* rowOf(const QStyle& style, const Finding& finding) {
   auto* row = new QTreeWidgetItem({shownText(finding.text), shownText(placeOf(finding))});
   row->setIcon(Text, iconOf(style, finding.kind));
-  if (!finding.remedies.isEmpty()) row->setText(Remedied, QStringLiteral("Yes"));
+  if (!finding.remedies.isEmpty()) row->setText(Remedied, UiTexts::tr("Yes"));
   for (const int column : {Text, Where}) row->setToolTip(column, plainToolTip(row->text(column)));
   return row;
 }
@@ -58,13 +59,13 @@ ProblemsPanel::ProblemsPanel(const Ui& ui)
       rows_(new QTreeWidget),
       remedies_(new RemedyButtons([this](const Remedy& remedy) { apply(remedy); })),
       watching_(ui.hands.state().board.watch([this](const Change& change) { changed(change); })) {
-  setWindowTitle(QStringLiteral("Problems"));
+  setWindowTitle(tr("Problems"));
   rows_->setColumnCount(kColumns);
-  rows_->setHeaderLabels({QStringLiteral("Problem"), QStringLiteral("Where"), QStringLiteral("Remedy")});
+  rows_->setHeaderLabels({tr("Problem"), tr("Where"), tr("Remedy")});
   rows_->setRootIsDecorated(false);
   rows_->setUniformRowHeights(true);
   rows_->setAccessibleName(windowTitle());
-  rows_->setToolTip(QStringLiteral("Click a problem to go to its screen and select its element"));
+  rows_->setToolTip(tr("Click a problem to go to its screen and select its element"));
   rows_->header()->setStretchLastSection(false);
   rows_->header()->setSectionResizeMode(Text, QHeaderView::Stretch);
   rows_->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -189,8 +190,7 @@ void ProblemsPanel::openMenu(QPoint place) {
   if (!finding) return;
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  QAction* go =
-      menu->addAction(QStringLiteral("Go to the Element"), this, [this] { goTo(rows_->currentItem()); });
+  QAction* go = menu->addAction(tr("Go to the Element"), this, [this] { goTo(rows_->currentItem()); });
   go->setEnabled(elementOf(row));
   for (const Remedy& remedy : finding->remedies)
     menu->addAction(plainMenuText(remedy.text), this, [this, remedy] { apply(remedy); });

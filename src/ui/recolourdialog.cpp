@@ -11,49 +11,52 @@
 #include "ui/colourmenu.h"
 #include "ui/exchangecommands.h"
 #include "ui/layouts.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
 namespace {
 
-constexpr QSize kSize(400, 600);        // device-independent pixels
 constexpr std::size_t kMostRows = 100;  // of captions that can't be read
+constexpr QSize kSize(400, 600);        // device-independent pixels
 
-const QString kTitle = QStringLiteral("Recolour");
+QString titleText() {
+  return UiTexts::tr("Recolour");
+}
 
 QString faintText(const State& state, const FaintCaption& faint) {
-  return QStringLiteral("%1, %2: %3, was %4")
+  return UiTexts::tr("%1, %2: %3, was %4")
       .arg(elementTitle(state, *faint.element), screenName(state, *faint.element), contrastText(faint.after),
            contrastText(faint.before));
 }
 
 QString countText(std::size_t count) {
-  if (count == 0) return QStringLiteral("All captions can be read as well as before.");
-  return count == 1 ? QStringLiteral("1 &caption falls below a contrast of 4.5, or 3 if large:")
-                    : QStringLiteral("%1 &captions fall below a contrast of 4.5, or 3 if large:").arg(count);
+  if (count == 0) return UiTexts::tr("All captions can be read as well as before.");
+  return count == 1 ? UiTexts::tr("1 &caption falls below a contrast of 4.5, or 3 if large:")
+                    : UiTexts::tr("%1 &captions fall below a contrast of 4.5, or 3 if large:").arg(count);
 }
 
 QString placesText(std::size_t count) {
-  return count == 1 ? QStringLiteral("1 place has another colour now.")
-                    : QStringLiteral("%1 places have other colours now.").arg(count);
+  return count == 1 ? UiTexts::tr("1 place has another colour now.")
+                    : UiTexts::tr("%1 places have other colours now.").arg(count);
 }
 
 QString keptText(const NotRecoloured& kept) {
   if (kept.pictures.isEmpty()) return {};
-  return QStringLiteral(" Pictures copied as they are: %1, the first is %2, %3.")
+  return UiTexts::tr(" Pictures copied as they are: %1, the first is %2, %3.")
       .arg(kept.pictures.size())
       .arg(kept.pictures.first().name, kept.pictures.first().reason);
 }
 
 template <class B>
-B* makeChoice(const char* text, const char* tip) {
-  auto* choice = new B(QString::fromLatin1(text));
-  choice->setToolTip(QString::fromLatin1(tip));
+B* makeChoice(const QString& text, const QString& tip) {
+  auto* choice = new B(text);
+  choice->setToolTip(tip);
   return choice;
 }
 
 /// Enter on a row is the row's own: no button takes it.
-QPushButton* makeButton(const char* text, const char* tip) {
+QPushButton* makeButton(const QString& text, const QString& tip) {
   auto* button = makeChoice<QPushButton>(text, tip);
   button->setAutoDefault(false);
   return button;
@@ -80,7 +83,7 @@ RecolourDialog::RecolourDialog(const Ui& ui, CanvasWidget& canvas, QWidget& owne
       colours_(new ColourList(ui.hands.state())),
       sliders_(new TurnSliders) {
   setObjectName(QStringLiteral("recolour"));
-  setWindowTitle(kTitle);
+  setWindowTitle(titleText());
   setAttribute(Qt::WA_DeleteOnClose);
   auto* column = compact(new QVBoxLayout(this));
   column->addLayout(makeColours(), 3);
@@ -102,10 +105,11 @@ RecolourDialog::RecolourDialog(const Ui& ui, CanvasWidget& canvas, QWidget& owne
 }
 
 QLayout* RecolourDialog::makeColours() {
-  colours_->setAccessibleName(QStringLiteral("Colours"));
-  colours_->setToolTip(QStringLiteral("The colours that the Skin stores; Enter gives another one"));
-  replace_ = makeButton("&Replace...", "Give another colour to all places of this one");
-  keep_ = makeButton("&Keep", "Leave this colour to the sliders again");
+  colours_->setAccessibleName(UiTexts::tr("Colours"));
+  colours_->setToolTip(UiTexts::tr("The colours that the Skin stores; Enter gives another one"));
+  replace_ =
+      makeButton(UiTexts::tr("&Replace..."), UiTexts::tr("Give another colour to all places of this one"));
+  keep_ = makeButton(UiTexts::tr("&Keep"), UiTexts::tr("Leave this colour to the sliders again"));
   connect(replace_, &QPushButton::clicked, this, &RecolourDialog::replaceChosen);
   connect(keep_, &QPushButton::clicked, this, &RecolourDialog::keepChosen);
   connect(colours_, &QTreeWidget::itemActivated, this, &RecolourDialog::replaceChosen);
@@ -115,17 +119,19 @@ QLayout* RecolourDialog::makeColours() {
   row->addWidget(replace_);
   row->addWidget(keep_);
   auto* column = new QVBoxLayout;
-  column->addWidget(makeLabel(QStringLiteral("Colou&rs of the Skin:"), colours_));
+  column->addWidget(makeLabel(UiTexts::tr("Colou&rs of the Skin:"), colours_));
   column->addWidget(colours_, 1);
   column->addLayout(row);
   return column;
 }
 
 QLayout* RecolourDialog::makeScope() {
-  wholeSkin_ = makeChoice<QRadioButton>("&Whole Skin", "Recolour every screen");
-  thisScreen_ = makeChoice<QRadioButton>("&This Screen", "Recolour the screen that is shown alone");
-  pictures_ = makeChoice<QCheckBox>("&Pictures too (as a new Skin)",
-                                    "Turn the pictures as well, in a copy of the Skin; this one stays");
+  wholeSkin_ = makeChoice<QRadioButton>(UiTexts::tr("&Whole Skin"), UiTexts::tr("Recolour every screen"));
+  thisScreen_ = makeChoice<QRadioButton>(UiTexts::tr("&This Screen"),
+                                         UiTexts::tr("Recolour the screen that is shown alone"));
+  pictures_ =
+      makeChoice<QCheckBox>(UiTexts::tr("&Pictures too (as a new Skin)"),
+                            UiTexts::tr("Turn the pictures as well, in a copy of the Skin; this one stays"));
   wholeSkin_->setChecked(true);
   connect(wholeSkin_, &QRadioButton::toggled, this, &RecolourDialog::mapChanged);
   connect(pictures_, &QCheckBox::toggled, this, &RecolourDialog::picturesTicked);
@@ -141,8 +147,8 @@ QLayout* RecolourDialog::makeScope() {
 
 QLayout* RecolourDialog::makeFaint() {
   faint_ = new QListWidget;
-  faint_->setAccessibleName(QStringLiteral("Captions that can't be read any more"));
-  faint_->setToolTip(QStringLiteral("Click a caption to go to its screen and select it"));
+  faint_->setAccessibleName(UiTexts::tr("Captions that can't be read any more"));
+  faint_->setToolTip(UiTexts::tr("Click a caption to go to its screen and select it"));
   faint_->setUniformItemSizes(true);
   connect(faint_, &QListWidget::itemClicked, this, &RecolourDialog::goTo);
   connect(faint_, &QListWidget::itemActivated, this, &RecolourDialog::goTo);
@@ -154,9 +160,9 @@ QLayout* RecolourDialog::makeFaint() {
 }
 
 QLayout* RecolourDialog::makeButtons() {
-  QPushButton* reset = makeButton("R&eset", "Leave all colours as they are");
-  ok_ = makeButton("&OK", "Recolour the Skin, as one step");
-  QPushButton* cancel = makeButton("Cancel", "Leave the Skin as it is");
+  QPushButton* reset = makeButton(UiTexts::tr("R&eset"), UiTexts::tr("Leave all colours as they are"));
+  ok_ = makeButton(UiTexts::tr("&OK"), UiTexts::tr("Recolour the Skin, as one step"));
+  QPushButton* cancel = makeButton(UiTexts::tr("Cancel"), UiTexts::tr("Leave the Skin as it is"));
   connect(reset, &QPushButton::clicked, this, &RecolourDialog::reset);
   connect(ok_, &QPushButton::clicked, this, &QDialog::accept);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -214,9 +220,9 @@ void RecolourDialog::picturesTicked() {
   const bool isTicked = pictures_->isChecked();
   if (isTicked) wholeSkin_->setChecked(true);
   thisScreen_->setEnabled(!isTicked);
-  ok_->setText(isTicked ? QStringLiteral("Make &New Skin...") : QStringLiteral("&OK"));
-  ok_->setToolTip(isTicked ? QStringLiteral("Make a new Skin in these colours, and go on with that")
-                           : QStringLiteral("Recolour the Skin, as one step"));
+  ok_->setText(isTicked ? UiTexts::tr("Make &New Skin...") : UiTexts::tr("&OK"));
+  ok_->setToolTip(isTicked ? UiTexts::tr("Make a new Skin in these colours, and go on with that")
+                           : UiTexts::tr("Recolour the Skin, as one step"));
 }
 
 // While more is to come, as the sliders move, those of the screen that is shown are told first.
@@ -257,7 +263,7 @@ void RecolourDialog::recolourInHand() {
 
 bool RecolourDialog::copyAsNewSkin() {
   const Recolouring recolouring{map_, true};
-  return veneerer::copyAsNewSkin(hands_, owner_, kTitle, [&](const QString& folder, const GoOn& goOn) {
+  return veneerer::copyAsNewSkin(hands_, owner_, titleText(), [&](const QString& folder, const GoOn& goOn) {
     const NotRecoloured kept =
         copyRecoloured(hands_.state(), hands_.platform(), skin_, folder, recolouring, goOn);
     return leftOutNote(kept.leftOut) + keptText(kept);
@@ -265,8 +271,8 @@ bool RecolourDialog::copyAsNewSkin() {
 }
 
 void addRecolourCommand(QMenu& menu, const Ui& ui, CanvasWidget& canvas, QWidget& owner) {
-  QAction* action = menu.addAction(QStringLiteral("Rec&olour..."));
-  action->setStatusTip(QStringLiteral("Give the Skin other colours: replace some, or turn all of them"));
+  QAction* action = menu.addAction(UiTexts::tr("Rec&olour..."));
+  action->setStatusTip(UiTexts::tr("Give the Skin other colours: replace some, or turn all of them"));
   QObject::connect(action, &QAction::triggered, &owner,
                    [ui, &canvas, &owner, open = QPointer<RecolourDialog>()]() mutable {
                      // One that was closed is yet to be deleted.

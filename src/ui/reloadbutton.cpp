@@ -1,14 +1,15 @@
 #include "ui/reloadbutton.h"
 
 #include "ui/binding.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
 namespace {
 
 QString said(const QStringList& names) {
-  if (names.size() == 1) return QStringLiteral("Another program changed %1.").arg(names.first());
-  return QStringLiteral("Another program changed %1 record files: %2.")
+  if (names.size() == 1) return UiTexts::tr("Another program changed %1.").arg(names.first());
+  return UiTexts::tr("Another program changed %1 record files: %2.")
       .arg(names.size())
       .arg(names.join(QStringLiteral(", ")));
 }
@@ -16,7 +17,7 @@ QString said(const QStringList& names) {
 }  // namespace
 
 ReloadButton::ReloadButton(Operator& hands, DiskFollower& disk) : hands_(hands) {
-  setText(QStringLiteral("Reload"));
+  setText(UiTexts::tr("Reload"));
   setAutoRaise(true);
   setFocusPolicy(Qt::TabFocus);
   hide();
@@ -32,7 +33,7 @@ ReloadButton::ReloadButton(Operator& hands, DiskFollower& disk) : hands_(hands) 
 }
 
 void ReloadButton::offer(const QStringList& names) {
-  setToolTip(said(names) + QStringLiteral(" Reload reads the Skin again, one step of undo."));
+  setToolTip(said(names) + UiTexts::tr(" Reload reads the Skin again, one step of undo."));
   setAccessibleName(toolTip());
   show();
   hands_.state().notes.say(said(names));

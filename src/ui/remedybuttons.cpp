@@ -6,6 +6,7 @@
 
 #include "elements/printable.h"
 #include "ui/layouts.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -35,7 +36,7 @@ QWidget* RemedyButtons::makeRow(const Remedy& remedy) {
   text->setWordWrap(true);
   // A path has no blanks to be broken at.
   text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  auto* button = new QPushButton(QStringLiteral("Do It"));
+  auto* button = new QPushButton(UiTexts::tr("Do It"));
   button->setAccessibleName(text->text());
   button->setAutoDefault(false);
   connect(button, &QPushButton::clicked, this, [this, remedy] { apply_(remedy); });

@@ -4,6 +4,7 @@
 
 #include "elements/numbers.h"
 #include "tools/rescalefactors.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -37,9 +38,9 @@ RescaleOutlook::RescaleOutlook(const Ui& ui)
   // The commands below stay in their place while numbers are typed: no outlook takes more.
   factors_->setMinimumHeight(2 * factors_->fontMetrics().lineSpacing());
   factors_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  auto* even = new QPushButton(QStringLiteral("Even Scale"));
+  auto* even = new QPushButton(UiTexts::tr("Even Scale"));
   even->setObjectName(QStringLiteral("evenScale"));
-  even->setToolTip(QStringLiteral("Fill in the numbers that scale both directions alike"));
+  even->setToolTip(UiTexts::tr("Fill in the numbers that scale both directions alike"));
   even->setMenu(sizes_);
   auto* commands = new QHBoxLayout;
   commands->addWidget(even);
@@ -60,21 +61,22 @@ RescaleOutlook::RescaleOutlook(const Ui& ui)
 
 void RescaleOutlook::tell() {
   const auto factors = rescaleFactors(hands_.state(), hands_.screen());
-  if (!factors) return factors_->setText(QStringLiteral("Factors: none for this size"));
-  QString text = QStringLiteral("Width %1, height %2, fonts %3")
+  if (!factors) return factors_->setText(UiTexts::tr("Factors: none for this size"));
+  QString text = UiTexts::tr("Width %1, height %2, fonts %3")
                      .arg(factorText(factors->across), factorText(factors->down), factorText(factors->fonts));
   const QSize resolution = skinResolution(hands_.state());
   const QSize scaled(qRound(resolution.width() * factors->across),
                      qRound(resolution.height() * factors->down));
-  if (!resolution.isEmpty()) text += QStringLiteral("; %1 to %2").arg(sizeText(resolution), sizeText(scaled));
+  if (!resolution.isEmpty())
+    text = UiTexts::tr("%1; %2 to %3").arg(text, sizeText(resolution), sizeText(scaled));
   factors_->setText(text);
 }
 
 void RescaleOutlook::listSizes() {
   sizes_->clear();
   Form6& form = hands_.state().form6;
-  addMatch(QStringLiteral("Height as the &Width"), *form.Text7, Axis::X);
-  addMatch(QStringLiteral("Width as the &Height"), *form.Text8, Axis::Y);
+  addMatch(UiTexts::tr("Height as the &Width"), *form.Text7, Axis::X);
+  addMatch(UiTexts::tr("Width as the &Height"), *form.Text8, Axis::Y);
   sizes_->addSeparator();
   const QSize now = skinResolution(hands_.state());
   for (const QSize screen : kScreens)
@@ -99,7 +101,7 @@ void RescaleOutlook::addMatch(const QString& text, TextBox& from, Axis axis) {
 void RescaleOutlook::addSize(QSize resolution) {
   const double factor = double(resolution.width()) / skinResolution(hands_.state()).width();
   const QAction* size =
-      sizes_->addAction(QStringLiteral("To %1 (%2)").arg(sizeText(resolution), factorText(factor)));
+      sizes_->addAction(UiTexts::tr("To %1 (%2)").arg(sizeText(resolution), factorText(factor)));
   connect(size, &QAction::triggered, this,
           [this, factor] { fill(sizeForFactor(hands_.state(), hands_.screen(), factor)); });
 }

@@ -26,9 +26,8 @@ Ruler::Ruler(Axis axis, CanvasView& view) : QWidget(&view), axis_(axis), view_(v
   small.setPixelSize(10);
   setFont(small);
   setCursor(axis == Axis::X ? Qt::SplitVCursor : Qt::SplitHCursor);
-  setToolTip(
-      QStringLiteral("Canvas pixels. Drag a guide from here; drag its mark off the view to remove it"));
-  setAccessibleName(axis == Axis::X ? QStringLiteral("Ruler across") : QStringLiteral("Ruler down"));
+  setToolTip(tr("Canvas pixels. Drag a guide from here; drag its mark off the view to remove it"));
+  setAccessibleName(axis == Axis::X ? tr("Ruler across") : tr("Ruler down"));
 }
 
 int Ruler::stepAt(const Zoom& zoom) {

@@ -9,6 +9,7 @@
 #include "canvas/screens.h"
 #include "preview/screenpicture.h"
 #include "ui/layouts.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -41,10 +42,10 @@ ScreensPanel::ScreensPanel(const Ui& ui)
     : hands_(ui.hands),
       screens_(new QListWidget),
       watching_(ui.hands.state().board.watch([this](const Change& change) { changed(change); })) {
-  setWindowTitle(QStringLiteral("Screens"));
+  setWindowTitle(UiTexts::tr("Screens"));
   screens_->setObjectName(QStringLiteral("screens"));
   screens_->setAccessibleName(windowTitle());
-  screens_->setToolTip(QStringLiteral("The screens as the jukebox shows them; a click goes to one"));
+  screens_->setToolTip(UiTexts::tr("The screens as the jukebox shows them; a click goes to one"));
   screens_->setViewMode(QListView::IconMode);
   screens_->setMovement(QListView::Static);
   screens_->setResizeMode(QListView::Adjust);

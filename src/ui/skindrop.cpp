@@ -9,6 +9,7 @@
 
 #include "platform/skinfolder.h"
 #include "ui/exchangecommands.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -61,7 +62,7 @@ void SkinDrop::open(const QString& folder) {
   if (QFileInfo(skin.absolutePath()).canonicalFilePath() == root.canonicalFilePath())
     return hands_.openSkin(skin.fileName());
   hands_.state().notes.say(
-      QStringLiteral("Only Skins of %1 can be opened here: copy %2 there, or start the designer with it.")
+      UiTexts::tr("Only Skins of %1 can be opened here: copy %2 there, or start the designer with it.")
           .arg(root.filePath(), skin.fileName()));
 }
 

@@ -1,5 +1,7 @@
 #include "ui/smallpicture.h"
 
+#include "ui/texts.h"
+
 namespace veneerer {
 
 namespace {
@@ -27,13 +29,13 @@ bool SmallPicture::show(const QString& path) {
 
 void SmallPicture::clear() {
   watcher_.setFuture(QFuture<QImage>());
-  setText(QStringLiteral("No picture"));
+  setText(UiTexts::tr("No picture"));
 }
 
 void SmallPicture::fetched() {
   if (watcher_.future().resultCount() == 0) return;
   QImage image = watcher_.result();
-  if (image.isNull()) return setText(QStringLiteral("Can't be shown"));
+  if (image.isNull()) return setText(UiTexts::tr("Can't be shown"));
   image.setDevicePixelRatio(devicePixelRatioF());
   setPixmap(QPixmap::fromImage(image));
 }

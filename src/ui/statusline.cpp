@@ -5,6 +5,7 @@
 #include <QEvent>
 
 #include "ui/bindings.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -42,7 +43,7 @@ void StatusLine::show(const QString& text, bool isNote) {
   setFont(weighted);
   setText(text);
   setToolTip(isNote ? plainToolTip(text) : QString());
-  setAccessibleName(isNote ? QStringLiteral("Note: ") + text : QString());
+  setAccessibleName(isNote ? UiTexts::tr("Note: %1").arg(text) : QString());
 }
 
 void StatusLine::describe(const QString& text) {

@@ -8,6 +8,7 @@
 #include "elements/colour.h"
 #include "ui/colourmenu.h"
 #include "ui/frames.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -57,8 +58,8 @@ QToolButton* makeColourArrow(Swatch& swatch) {
   auto* arrow = new QToolButton;
   arrow->setArrowType(Qt::DownArrow);
   arrow->setAutoRaise(true);
-  arrow->setToolTip(QStringLiteral("Choose among the colours of this Skin, or pick one from the canvas"));
-  arrow->setAccessibleName(QStringLiteral("Colours of this Skin"));
+  arrow->setToolTip(UiTexts::tr("Choose among the colours of this Skin, or pick one from the canvas"));
+  arrow->setAccessibleName(UiTexts::tr("Colours of this Skin"));
   QObject::connect(arrow, &QToolButton::clicked, &swatch,
                    [&swatch, arrow] { swatch.showColours(arrow->mapToGlobal(arrow->rect().bottomLeft())); });
   return arrow;

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "elements/printable.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -20,22 +21,24 @@ class TakeDialog : public QDialog {
 public:
   TakeDialog(Operator& hands, QWidget& owner) : QDialog(&owner), hands_(hands) {
     setObjectName(QStringLiteral("takeLook"));
-    setWindowTitle(QStringLiteral("Take from Another Skin"));
+    setWindowTitle(UiTexts::tr("Take from Another Skin"));
     resize(kSize);
     auto* column = new QVBoxLayout(this);
     addSkins(column);
-    whole_ = addPart(column, "This &screen's look", "Places, sizes, colours, fonts, styles and pictures");
-    addPart(column, "&Colours and fonts alone", "Nothing moves, and no picture is copied");
+    whole_ = addPart(column, UiTexts::tr("This &screen's look"),
+                     UiTexts::tr("Places, sizes, colours, fonts, styles and pictures"));
+    addPart(column, UiTexts::tr("&Colours and fonts alone"),
+            UiTexts::tr("Nothing moves, and no picture is copied"));
     whole_->setChecked(true);
     addButtons(column);
   }
 
 private:
   void addSkins(QVBoxLayout* column) {
-    auto* label = new QLabel(QStringLiteral("&For the screen that is shown, take from:"));
+    auto* label = new QLabel(UiTexts::tr("&For the screen that is shown, take from:"));
     skins_ = new QListWidget;
-    skins_->setAccessibleName(QStringLiteral("Skins"));
-    skins_->setToolTip(QStringLiteral("The other Skins; none of them is changed"));
+    skins_->setAccessibleName(UiTexts::tr("Skins"));
+    skins_->setToolTip(UiTexts::tr("The other Skins; none of them is changed"));
     label->setBuddy(skins_);
     const QString inHand = hands_.skinFolder().path().section(u'/', -1);
     for (const QString& skin : SkinsRoot(hands_.platform().folder).skins()) {
@@ -49,9 +52,9 @@ private:
     column->addWidget(skins_);
   }
 
-  static QRadioButton* addPart(QVBoxLayout* column, const char* text, const char* tip) {
-    auto* part = new QRadioButton(QString::fromLatin1(text));
-    part->setToolTip(QString::fromLatin1(tip));
+  static QRadioButton* addPart(QVBoxLayout* column, const QString& text, const QString& tip) {
+    auto* part = new QRadioButton(text);
+    part->setToolTip(tip);
     column->addWidget(part);
     return part;
   }
@@ -59,7 +62,7 @@ private:
   void addButtons(QVBoxLayout* column) {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     column->addWidget(buttons);
-    QPushButton* take = buttons->addButton(QStringLiteral("&Take"), QDialogButtonBox::AcceptRole);
+    QPushButton* take = buttons->addButton(UiTexts::tr("&Take"), QDialogButtonBox::AcceptRole);
     take->setEnabled(skins_->currentItem() != nullptr);
     take->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &TakeDialog::take);
@@ -82,8 +85,8 @@ private:
 }  // namespace
 
 void addTakeCommand(QMenu& menu, Operator& hands, QWidget& owner) {
-  QAction* action = menu.addAction(QStringLiteral("&Take from Another Skin..."));
-  action->setStatusTip(QStringLiteral("Give this screen the look that it has in another Skin"));
+  QAction* action = menu.addAction(UiTexts::tr("&Take from Another Skin..."));
+  action->setStatusTip(UiTexts::tr("Give this screen the look that it has in another Skin"));
   QObject::connect(action, &QAction::triggered, &owner,
                    [&hands, &owner] { TakeDialog(hands, owner).exec(); });
 }

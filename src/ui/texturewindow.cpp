@@ -8,6 +8,7 @@
 #include "painting/canvaspainter.h"
 #include "ui/frames.h"
 #include "ui/layouts.h"
+#include "ui/texts.h"
 #include "ui/thumbnail.h"
 
 namespace veneerer {
@@ -25,7 +26,7 @@ public:
     setFixedSize(kPreview);
     painter_.setFrameSource([this](const Element& frame) { return player_.frame(frame); });
     bindPainted(ui, frame_, *this);
-    setAccessibleName(QStringLiteral("Album frame"));
+    setAccessibleName(UiTexts::tr("Album frame"));
   }
 
 protected:
@@ -103,7 +104,7 @@ QLayout* frameLayout(const Ui& ui, Form5& form) {
   auto* preview = new FramePreview(ui, form);
   TextCombo* frame = makeCombo(ui, *form.Combo1);
   row->addWidget(preview);
-  row->addWidget(makeLabel(QStringLiteral("Frame:"), frame));
+  row->addWidget(makeLabel(UiTexts::tr("Frame:"), frame));
   row->addWidget(frame);
   row->addWidget(makeCommand(ui, *form.Command2));
   row->addStretch();

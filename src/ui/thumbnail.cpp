@@ -50,7 +50,7 @@ void Thumbnail::paintEvent(QPaintEvent*) {
     painter.drawImage(fitted(shown_.size(), centred(room, rect())), shown_);
   } else if (picture().isNull()) {
     painter.setPen(palette().color(QPalette::Text));
-    painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("No picture"));
+    painter.drawText(rect(), Qt::AlignCenter, tr("No picture"));
   }
   if (disk_.misses(element_)) paintBadge(painter, badgeRect(rect()));
   paintFrame(painter, *this);

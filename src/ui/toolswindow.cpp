@@ -9,6 +9,7 @@
 #include "ui/layouts.h"
 #include "ui/rescaleoutlook.h"
 #include "ui/swatch.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -77,7 +78,7 @@ QGroupBox* elementFrame(const Ui& ui, Form6& form) {
   for (int axis = 0; axis < 2; ++axis)
     addCommands(grid, 8 + axis, ui, {&form.Command6[axis], &form.Command9[axis], &form.Command8[axis]});
   addCommands(grid, 10, ui, {&*form.Command13});
-  return makeFrame(QStringLiteral("Place and Size"), grid);
+  return makeFrame(UiTexts::tr("Place and Size"), grid, QStringLiteral("Place and Size"));
 }
 
 QGroupBox* buttonFrame(const Ui& ui, Form6& form) {
@@ -87,7 +88,7 @@ QGroupBox* buttonFrame(const Ui& ui, Form6& form) {
   addCommands(grid, 2, ui, {&*form.Command3});
   addCommands(grid, 3, ui, {&*form.Command7});
   grid->setColumnStretch(1, 1);
-  return makeFrame(QStringLiteral("Button Style"), grid);
+  return makeFrame(UiTexts::tr("Button Style"), grid, QStringLiteral("Button Style"));
 }
 
 QGroupBox* samplesFrame(const Ui& ui, Form6& form) {
@@ -113,7 +114,7 @@ QLayout* colourInHandLayout(const Ui& ui, Form6& form) {
   grid->addWidget(swatch, 1, 0);
   grid->addWidget(makeColourArrow(*swatch), 1, 1);
   QLineEdit* text = makeField(ui, *form.Text2);
-  text->setAccessibleName(QStringLiteral("Colour"));
+  text->setAccessibleName(UiTexts::tr("Colour"));
   text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   grid->addWidget(text, 2, 0, 1, 2);
   return grid;

@@ -10,6 +10,7 @@
 
 #include "canvas/screens.h"
 #include "ui/keys.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -20,7 +21,7 @@ constexpr std::chrono::seconds kReading(5);
 constexpr int kHintGap = 24;  // below the upper edge, pixels
 
 QLabel* makeHint(QWidget* parent) {
-  auto* hint = new QLabel(QStringLiteral("Escape returns, the arrow keys leaf"), parent);
+  auto* hint = new QLabel(UiTexts::tr("Escape returns, the arrow keys leaf"), parent);
   hint->setObjectName(QStringLiteral("hint"));
   hint->setAttribute(Qt::WA_TransparentForMouseEvents);
   hint->setStyleSheet(
@@ -35,7 +36,7 @@ QLabel* makeHint(QWidget* parent) {
 TryIt::TryIt(const Ui& ui, int entry, QWidget* owner)
     : QWidget(owner, Qt::Window), screen_(new JukeboxScreen(ui, entry)), hint_(makeHint(this)) {
   setObjectName(QStringLiteral("tryit"));
-  setWindowTitle(QStringLiteral("Try It"));
+  setWindowTitle(tr("Try It"));
   setAttribute(Qt::WA_DeleteOnClose);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setWindowModality(Qt::ApplicationModal);

@@ -3,6 +3,7 @@
 #include <QSpinBox>
 
 #include "ui/layouts.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -17,16 +18,19 @@ struct Part {
 };
 
 constexpr Part kParts[] = {
-    {"hue", "&Hue:", "Turns the hue of all other colours; greys have none", 180, "°"},
-    {"saturation", "&Saturation:", "Makes all other colours duller or richer; greys stay", 100, " %"},
-    {"lightness", "&Lightness:", "Makes all other colours darker or lighter", 100, " %"}};
+    {"hue", QT_TRANSLATE_NOOP("Ui", "&Hue:"),
+     QT_TRANSLATE_NOOP("Ui", "Turns the hue of all other colours; greys have none"), 180, "°"},
+    {"saturation", QT_TRANSLATE_NOOP("Ui", "&Saturation:"),
+     QT_TRANSLATE_NOOP("Ui", "Makes all other colours duller or richer; greys stay"), 100, " %"},
+    {"lightness", QT_TRANSLATE_NOOP("Ui", "&Lightness:"),
+     QT_TRANSLATE_NOOP("Ui", "Makes all other colours darker or lighter"), 100, " %"}};
 
 QSlider* makeSlider(const Part& part) {
   auto* slider = new QSlider(Qt::Horizontal);
   slider->setObjectName(QString::fromLatin1(part.name));
   slider->setRange(-part.most, part.most);
   slider->setPageStep(10);
-  slider->setToolTip(QString::fromLatin1(part.tip));
+  slider->setToolTip(UiTexts::tr(part.tip));
   return slider;
 }
 
@@ -36,7 +40,7 @@ QSpinBox* makeNumber(const Part& part, QSlider& slider) {
   number->setRange(-part.most, part.most);
   number->setSuffix(QString::fromUtf8(part.unit));
   number->setToolTip(slider.toolTip());
-  number->setAccessibleName(QString::fromLatin1(part.label).remove(u'&').remove(u':'));
+  number->setAccessibleName(UiTexts::tr(part.label).remove(u'&').remove(u':'));
   QObject::connect(&slider, &QSlider::valueChanged, number, &QSpinBox::setValue);
   QObject::connect(number, &QSpinBox::valueChanged, &slider, &QSlider::setValue);
   return number;
@@ -51,7 +55,7 @@ TurnSliders::TurnSliders() {
   for (int i = 0; i < 3; ++i) {
     QSlider* slider = makeSlider(kParts[i]);
     sliders_[static_cast<std::size_t>(i)] = slider;
-    addField(grid, i, 0, QString::fromLatin1(kParts[i].label), slider);
+    addField(grid, i, 0, UiTexts::tr(kParts[i].label), slider);
     grid->addWidget(makeNumber(kParts[i], *slider), i, 2);
     connect(slider, &QSlider::valueChanged, this, &TurnSliders::turned);
   }

@@ -2,6 +2,8 @@
 
 #include <QActionGroup>
 
+#include "ui/texts.h"
+
 namespace veneerer {
 
 namespace {
@@ -25,14 +27,14 @@ QAction* add(QMenu& menu, const QString& text, const QList<QKeySequence>& keys, 
 }
 
 void addZooms(QMenu& menu, CanvasView& view) {
-  add(menu, QStringLiteral("Zoom &In"), {QKeySequence(u"Ctrl++"_qs), QKeySequence(u"Ctrl+="_qs)},
-      QStringLiteral("Show the canvas larger"), [&view] { view.zoomIn(); });
-  add(menu, QStringLiteral("Zoom &Out"), {QKeySequence(u"Ctrl+-"_qs)},
-      QStringLiteral("Show the canvas smaller"), [&view] { view.zoomOut(); });
+  add(menu, UiTexts::tr("Zoom &In"), {QKeySequence(u"Ctrl++"_qs), QKeySequence(u"Ctrl+="_qs)},
+      UiTexts::tr("Show the canvas larger"), [&view] { view.zoomIn(); });
+  add(menu, UiTexts::tr("Zoom &Out"), {QKeySequence(u"Ctrl+-"_qs)}, UiTexts::tr("Show the canvas smaller"),
+      [&view] { view.zoomOut(); });
   add(menu, QStringLiteral("&1:1"), {QKeySequence(u"Ctrl+0"_qs)},
-      QStringLiteral("Show the canvas in its own size"), [&view] { view.zoomTo(Zoom(100)); });
-  add(menu, QStringLiteral("&Fit"), {QKeySequence(u"Ctrl+9"_qs)},
-      QStringLiteral("Show the whole canvas, at 100 % at most"), [&view] { view.fit(); });
+      UiTexts::tr("Show the canvas in its own size"), [&view] { view.zoomTo(Zoom(100)); });
+  add(menu, UiTexts::tr("&Fit"), {QKeySequence(u"Ctrl+9"_qs)},
+      UiTexts::tr("Show the whole canvas, at 100 % at most"), [&view] { view.fit(); });
 }
 
 /// The grid's step, and whether it is shown.
@@ -47,16 +49,16 @@ struct GridCommands {
 };
 
 void addGrid(QMenu& menu, CanvasView& view) {
-  const GridCommands grid{menu.addAction(QStringLiteral("&Grid")), new QActionGroup(&menu)};
+  const GridCommands grid{menu.addAction(UiTexts::tr("&Grid")), new QActionGroup(&menu)};
   grid.isShown->setCheckable(true);
   grid.isShown->setShortcut(QKeySequence(u"Ctrl+'"_qs));
   grid.isShown->setShortcutContext(Qt::ApplicationShortcut);
-  grid.isShown->setStatusTip(QStringLiteral("Show a grid over the canvas"));
+  grid.isShown->setStatusTip(UiTexts::tr("Show a grid over the canvas"));
   const auto apply = [grid, &view] { grid.apply(view); };
   QObject::connect(grid.isShown, &QAction::toggled, &view, apply);
-  QMenu* steps = menu.addMenu(QStringLiteral("Grid S&tep"));
+  QMenu* steps = menu.addMenu(UiTexts::tr("Grid S&tep"));
   for (const int step : kGridSteps) {
-    QAction* action = grid.steps->addAction(steps->addAction(QStringLiteral("%1 pixels").arg(step)));
+    QAction* action = grid.steps->addAction(steps->addAction(UiTexts::tr("%1 pixels").arg(step)));
     action->setCheckable(true);
     action->setData(step);
     action->setChecked(step == kFirstGridStep);
@@ -69,13 +71,13 @@ void addGrid(QMenu& menu, CanvasView& view) {
 void addViewCommands(QMenu& menu, CanvasView& view) {
   addZooms(menu, view);
   menu.addSeparator();
-  QAction* rulers = menu.addAction(QStringLiteral("&Rulers"));
+  QAction* rulers = menu.addAction(UiTexts::tr("&Rulers"));
   rulers->setCheckable(true);
   rulers->setChecked(view.areRulersShown());
-  rulers->setStatusTip(QStringLiteral("Show rulers in canvas pixels; guides are dragged from them"));
+  rulers->setStatusTip(UiTexts::tr("Show rulers in canvas pixels; guides are dragged from them"));
   QObject::connect(rulers, &QAction::toggled, &view, &CanvasView::showRulers);
   addGrid(menu, view);
-  add(menu, QStringLiteral("Clear G&uides"), {}, QStringLiteral("Take all guides away"),
+  add(menu, UiTexts::tr("Clear G&uides"), {}, UiTexts::tr("Take all guides away"),
       [&view] { view.setGuides({}); });
 }
 
@@ -84,16 +86,16 @@ QToolButton* makeZoomButton(CanvasView& view) {
   button->setObjectName(QStringLiteral("zoom"));
   button->setAutoRaise(true);
   button->setPopupMode(QToolButton::InstantPopup);
-  button->setToolTip(QStringLiteral("Zoom of the canvas; Ctrl and the wheel change it at the pointer"));
+  button->setToolTip(UiTexts::tr("Zoom of the canvas; Ctrl and the wheel change it at the pointer"));
   auto* menu = new QMenu(button);
   for (const int percent : kOffered)
     add(*menu, percentText(Zoom(percent)), {}, {}, [&view, percent] { view.zoomTo(Zoom(percent)); });
   menu->addSeparator();
-  add(*menu, QStringLiteral("Fit"), {}, {}, [&view] { view.fit(); });
+  add(*menu, UiTexts::tr("Fit"), {}, {}, [&view] { view.fit(); });
   button->setMenu(menu);
   const auto show = [button, &view] {
     button->setText(percentText(view.zoom()));
-    button->setAccessibleName(QStringLiteral("Zoom: ") + percentText(view.zoom()));
+    button->setAccessibleName(UiTexts::tr("Zoom: %1").arg(percentText(view.zoom())));
   };
   QObject::connect(&view, &CanvasView::zoomed, button, show);
   show();

@@ -4,6 +4,7 @@
 #include <QLabel>
 
 #include "elements/printable.h"
+#include "ui/texts.h"
 
 namespace veneerer {
 
@@ -25,7 +26,7 @@ WorkWindow::WorkWindow(const QString& title, QWidget* owner) : QProgressDialog(o
   file->setTextFormat(Qt::PlainText);
   file->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   setLabel(file);
-  setCancelButtonText(QStringLiteral("&Cancel"));
+  setCancelButtonText(UiTexts::tr("&Cancel"));
   age_.start();
   sinceEvents_.start();
 }
