@@ -1,6 +1,7 @@
 // Veneerer, the designer: the core, the windows and the real world put together.
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -13,6 +14,7 @@
 #include "platform/programplace.h"
 #include "ui/application.h"
 #include "ui/designerwindows.h"
+#include "ui/language.h"
 #include "ui/qtbackground.h"
 #include "ui/qtplatform.h"
 
@@ -22,14 +24,31 @@ namespace {
 
 constexpr int kUsageStatus = 2;
 
+struct MainTexts {
+  Q_DECLARE_TR_FUNCTIONS(Main)
+};
+
+const QString kLanguage = QStringLiteral("language");
+
+// Known ahead of all texts, those about the options included.
+QString languageAsked(const QCoreApplication& application) {
+  QCommandLineParser parser;
+  parser.addOption({kLanguage, QString(), kLanguage});
+  parser.parse(application.arguments());
+  return parser.value(kLanguage);
+}
+
 void parse(QCommandLineParser& parser, const QCoreApplication& application) {
-  parser.addOption(
-      {QStringLiteral("program-folder"),
-       QStringLiteral("The folder that holds \"Skins\" and \"images\". Without it the one of the "
-                      "program itself, where there are Skins in it, else that of the user."),
-       QStringLiteral("path")});
+  parser.addOption({QStringLiteral("program-folder"),
+                    MainTexts::tr("The folder that holds \"Skins\" and \"images\". Without it the one of the "
+                                  "program itself, where there are Skins in it, else that of the user."),
+                    MainTexts::tr("path")});
+  parser.addOption({kLanguage,
+                    MainTexts::tr("The language of the texts, \"en\" or \"de\". Without it the one that is "
+                                  "chosen in the menu Help, else the desktop's."),
+                    MainTexts::tr("code")});
   parser.addPositionalArgument(QStringLiteral("SKIN"),
-                               QStringLiteral("The folder of a Skin, which is opened without a question."),
+                               MainTexts::tr("The folder of a Skin, which is opened without a question."),
                                QStringLiteral("[SKIN]"));
   parser.addHelpOption();
   parser.addVersionOption();
@@ -51,15 +70,20 @@ ProgramPlaces placesOf(const QCommandLineParser& parser) {
 /// Empty for a command line that can be followed.
 QString usageFault(const QCommandLineParser& parser) {
   const QStringList skins = parser.positionalArguments();
-  if (skins.size() > 1) return QStringLiteral("one Skin at most can be opened");
+  if (skins.size() > 1) return MainTexts::tr("one Skin at most can be opened");
+  const QString language = parser.value(kLanguage);
+  if (parser.isSet(kLanguage) && !isSpoken(language))
+    return MainTexts::tr("there are no texts in the language %1").arg(excerpt(language));
   const bool isThere = skins.isEmpty() || QFileInfo(skins[0]).isDir();
-  return isThere ? QString() : QStringLiteral("there is no folder %1").arg(excerpt(skins[0], 1000));
+  return isThere ? QString() : MainTexts::tr("there is no folder %1").arg(excerpt(skins[0], 1000));
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   Application application(argc, argv);
+  const QString asked = languageAsked(application);
+  speak(languageFor(asked.isEmpty() ? keptLanguage() : asked, QLocale::system().uiLanguages()));
   QCommandLineParser parser;
   parse(parser, application);
   if (const QString fault = usageFault(parser); !fault.isEmpty()) {

@@ -18,6 +18,7 @@
 #include "ui/inhandline.h"
 #include "ui/keys.h"
 #include "ui/keysheet.h"
+#include "ui/language.h"
 #include "ui/mockupcommands.h"
 #include "ui/opencommand.h"
 #include "ui/plaintext.h"
@@ -231,6 +232,7 @@ void CanvasWindow::addHelpMenu() {
   QAction* keys = addCommand(menu, tr("&Keyboard and Mouse"), {QKeySequence(Qt::SHIFT | Qt::Key_F1)},
                              tr("List all keys and gestures"));
   connect(keys, &QAction::triggered, this, [this] { showKeySheet(*this); });
+  addLanguageMenu(*menu->addMenu(tr("&Language")), state_.notes);
   connect(menu->addAction(tr("&About")), &QAction::triggered, this, &CanvasWindow::about);
 }
 

@@ -1,10 +1,13 @@
 // Keys: the sheet that lists them, and the letters of menus and panels.
 #include <QActionGroup>
 #include <QDialog>
+#include <QLocale>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QTranslator>
 #include <QTreeWidget>
 
+#include "ui/language.h"
 #include "ui/uifixture.h"
 
 namespace veneerer {
@@ -33,7 +36,43 @@ protected:
       if (entry->menu()) expectLetters(entry->text(), entry->menu()->actions());
     }
   }
+  void expectLettersOfMenus() {
+    expectLetters(QStringLiteral("The menu bar"), window().menuBar()->actions());
+  }
+  void expectLettersOfPanels();
 };
+
+class GermanKeys : public Keys {
+protected:
+  void SetUp() override {
+    speak(QStringLiteral("de"));
+    Keys::SetUp();
+  }
+  void TearDown() override {
+    Keys::TearDown();
+    qDeleteAll(qApp->findChildren<QTranslator*>());
+    QLocale::setDefault(QLocale::system());
+  }
+};
+
+void Keys::expectLettersOfPanels() {
+  QSet<QChar> menus;
+  for (const QAction* menu : window().menuBar()->actions()) menus.insert(letterOf(menu->text()));
+  for (const QDockWidget* panel : window().findChildren<QDockWidget*>()) {
+    QSet<QChar> taken = menus;
+    QStringList texts;
+    for (const QLabel* label : panel->widget()->findChildren<QLabel*>())
+      if (label->buddy()) texts.append(label->text());
+    for (const QAbstractButton* button : panel->widget()->findChildren<QAbstractButton*>())
+      texts.append(button->text());
+    for (const QString& text : texts) {
+      const QChar letter = letterOf(text);
+      EXPECT_FALSE(!letter.isNull() && taken.contains(letter))
+          << panel->windowTitle().toStdString() << ": " << text.toStdString();
+      if (!letter.isNull()) taken.insert(letter);
+    }
+  }
+}
 
 TEST_F(Keys, EveryShortcutStandsInTheSheet) {
   QTest::keyClick(&window(), Qt::Key_F1, Qt::ShiftModifier);
@@ -68,26 +107,20 @@ TEST_F(Keys, NoKeysStandForTwoCommands) {
 }
 
 TEST_F(Keys, MenusHaveALetterForEachCommand) {
-  expectLetters(QStringLiteral("The menu bar"), window().menuBar()->actions());
+  expectLettersOfMenus();
+}
+
+TEST_F(GermanKeys, MenusHaveALetterForEachCommand) {
+  EXPECT_EQ(letterOf(window().menuBar()->actions().first()->text()), u'D');
+  expectLettersOfMenus();
 }
 
 TEST_F(Keys, PanelsHaveNoLetterTwiceNorOneOfTheMenus) {
-  QSet<QChar> menus;
-  for (const QAction* menu : window().menuBar()->actions()) menus.insert(letterOf(menu->text()));
-  for (const QDockWidget* panel : window().findChildren<QDockWidget*>()) {
-    QSet<QChar> taken = menus;
-    QStringList texts;
-    for (const QLabel* label : panel->widget()->findChildren<QLabel*>())
-      if (label->buddy()) texts.append(label->text());
-    for (const QAbstractButton* button : panel->widget()->findChildren<QAbstractButton*>())
-      texts.append(button->text());
-    for (const QString& text : texts) {
-      const QChar letter = letterOf(text);
-      EXPECT_FALSE(!letter.isNull() && taken.contains(letter))
-          << panel->windowTitle().toStdString() << ": " << text.toStdString();
-      if (!letter.isNull()) taken.insert(letter);
-    }
-  }
+  expectLettersOfPanels();
+}
+
+TEST_F(GermanKeys, PanelsHaveNoLetterTwiceNorOneOfTheMenus) {
+  expectLettersOfPanels();
 }
 
 TEST_F(Keys, AKeyLeadsBackToTheCanvas) {
