@@ -40,6 +40,7 @@ HelpWindow::HelpWindow(QWidget* owner)
   row->addLayout(makePage(), 1);
   connect(browser_, &QTextBrowser::historyChanged, this, &HelpWindow::pageChanged);
   listContents();
+  makeHintReadable();
   resize(kSize.boundedTo(screen()->availableSize() * 9 / 10));
 }
 
@@ -116,7 +117,7 @@ void HelpWindow::listHits(const QString& words) {
     QTreeWidgetItem* row = addPage(hit.title, hit.page);
     list_->addTopLevelItem(row);
     auto* excerpt = addPage(hit.excerpt, hit.page);
-    excerpt->setForeground(0, palette().brush(QPalette::PlaceholderText));
+    excerpt->setForeground(0, hintInk(palette()));
     row->addChild(excerpt);
   }
   if (hits.isEmpty()) list_->addTopLevelItem(new QTreeWidgetItem({tr("Nothing is found")}));
@@ -164,6 +165,17 @@ void HelpWindow::come() {
   show();
   raise();
   activateWindow();
+}
+
+void HelpWindow::makeHintReadable() {
+  QPalette own;
+  own.setColor(QPalette::PlaceholderText, hintInk(palette()));
+  words_->setPalette(own);
+}
+
+void HelpWindow::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) makeHintReadable();
 }
 
 void HelpWindow::belongTo(QWidget& owner) {

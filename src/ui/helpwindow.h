@@ -24,6 +24,9 @@ public:
   /// From now on it stands in front of that window, and can be used while that one takes all input.
   void belongTo(QWidget& owner);
 
+protected:
+  void changeEvent(QEvent* event) override;
+
 private:
   QLayout* makeSide();
   QLayout* makePage();
@@ -34,6 +37,7 @@ private:
   void choose(const QTreeWidgetItem* row);
   void pageChanged();
   void come();
+  void makeHintReadable();
 
   Manual manual_;
   QLineEdit* words_;

@@ -90,6 +90,13 @@ void addField(QGridLayout* grid, int row, int column, const QString& label, QWid
   grid->addWidget(control, row, column + 1);
 }
 
+QColor hintInk(const QPalette& colours) {
+  constexpr int kStrength = 170;  // of 255
+  QColor ink = colours.color(QPalette::Text);
+  ink.setAlpha(kStrength);
+  return ink;
+}
+
 QRect roomForDialog(const QWidget& owner) {
   return owner.screen()->availableGeometry().marginsRemoved(kDialogFrame);
 }

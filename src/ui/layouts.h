@@ -1,9 +1,11 @@
 // Small steps that every window's layout is made of.
 #pragma once
 
+#include <QColor>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPalette>
 
 namespace veneerer {
 
@@ -23,6 +25,9 @@ L* compact(L* layout) {
   layout->setSpacing(4);
   return layout;
 }
+
+/// The ink of hints in fields and of what matters less: a dark theme may leave that of the toolkit black.
+QColor hintInk(const QPalette& colours);
 
 /// Where the inside of a dialog of that window can lie with its frame on the window's screen.
 QRect roomForDialog(const QWidget& owner);

@@ -16,8 +16,6 @@ namespace {
 // A burst of changes is read anew when it is over, milliseconds.
 constexpr int kRest = 300;
 
-constexpr int kHintStrength = 170;  // of 255
-
 bool isListed(Property property) {
   return property == Property::Caption || property == Property::Visible;
 }
@@ -83,12 +81,9 @@ void OutlinePanel::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange) makeHintReadable();
 }
 
-// A dark theme may leave the colour of such a text black.
 void OutlinePanel::makeHintReadable() {
-  QColor ink = palette().color(QPalette::Text);
-  ink.setAlpha(kHintStrength);
   QPalette own;
-  own.setColor(QPalette::PlaceholderText, ink);
+  own.setColor(QPalette::PlaceholderText, hintInk(palette()));
   query_->setPalette(own);
 }
 

@@ -119,6 +119,18 @@ TEST_F(Help, ASearchListsPagesAndMarksTheWords) {
   for (const auto& mark : browser.extraSelections()) EXPECT_EQ(mark.cursor.selectedText().toLower(), "comma");
 }
 
+// Some themes leave the colour of such texts black.
+TEST_F(Help, HintsAndExcerptsAreReadInADarkTheme) {
+  HelpWindow& help = window();
+  QPalette dark(QColor(42, 46, 50));
+  dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+  help.setPalette(dark);
+  EXPECT_GT(words(help).palette().color(QPalette::PlaceholderText).lightness(), 200);
+  words(help).setText("cover");
+  const QTreeWidgetItem* excerpt = list(help).topLevelItem(0)->child(0);
+  EXPECT_GT(excerpt->foreground(0).color().lightness(), 200);
+}
+
 TEST_F(Help, PicturesAreNoWiderThanTheView) {
   HelpWindow& help = window();
   auto& browser = *help.findChild<HelpBrowser*>();
