@@ -13,17 +13,20 @@ namespace {
 class Mouse : public testing::Test {
 protected:
   Mouse() {
+    for (ComboBox* list : {&*state.form6.Combo1, &*state.form6.Combo2, &*state.form6.Combo4})
+      list->setRows({"0", "1", "2"});
     for (Window* window : {static_cast<Window*>(&form1), static_cast<Window*>(&state.form6)})
       for (Family* family : window->families())
         for (Element* element : family->members()) setApart(*element);
   }
 
-  /// No two neighbours share a place or a size, and nothing is shown yet of what a doing may show.
+  /// No two neighbours share a place or a size, and nothing stands yet where a doing may put something.
   static void setApart(Element& element) {
     const float i = static_cast<float>(element.index() + 2);
     element.place(i * 100.5f, i * 60.5f, i * 10, i * 20);
     if (element.has(Property::FontSize)) element.set(Property::FontSize, i);
     if (element.kind() == Kind::Label) cast<Label>(element).setOpaque(false);
+    if (element.kind() == Kind::Button) cast<Button>(element).setCaption("own");
   }
 
   using Tell = std::function<QString(Element&)>;

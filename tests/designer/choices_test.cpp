@@ -113,7 +113,7 @@ private:
 TEST_F(Choices, ShowAndHideWhatTheyStandFor) {
   set(4, 0, 3, true, false, 6);
   QString told = all("beside few");
-  set(27, 2, 8, false, true, kHighestCover);
+  set(27, 2, 8, false, true, kCovers - 1);
   told += all("beside many, as texts only");
   test::expectParagraphs(told, VENEERER_SOURCE_DIR "/tests/designer/choices.txt");
 }

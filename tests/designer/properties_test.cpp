@@ -56,12 +56,14 @@ TEST(Textures, OfEachThumbnailReachTheirOwnPlaces) {
   world.platform.folder.path = root.path();
   State state;
   state.form4.Combo3->setText("S");
+  state.form5.Combo1->setRows({"0", "1", "2", "3"});
+  state.form5.Combo1->select(2);
   const TextureViewer viewer(state, world.platform);
   test::Effects effects(state);
   QString told;
   for (const Family* family : state.form5.families())
     for (Element* thumbnail : family->members()) {
-      if (thumbnail->kind() != Kind::ImageBox) continue;
+      if (thumbnail->kind() != Kind::ImageBox && thumbnail->kind() != Kind::AnimatedFrame) continue;
       world.dialogs.files.clear();
       world.dialogs.files.enqueue(picture);
       const auto changed = effects.of([&] { state.board.click(*thumbnail); },

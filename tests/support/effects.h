@@ -74,8 +74,10 @@ private:
     return told.join("; ");
   }
 
+  /// Those of the canvas stand without their window.
   static QString nameOf(const Element& element) {
-    return element.family() ? element.family()->name() : element.key();
+    const QString name = element.key().section('(', 0, 0);
+    return name.startsWith("Form1.") ? name.mid(6) : name;
   }
 
   /// As "(3)", "(0-5)" or "(0-5, 7)"; nothing for what stands alone.

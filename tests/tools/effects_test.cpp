@@ -20,6 +20,16 @@ protected:
   using Act = test::Effects::Act;
   using Acts = QList<std::pair<QString, Act>>;
 
+  // What would hide an effect: covers out of use, buttons of the plainest shape, a row that stands where
+  // the title does.
+  EffectsTest() {
+    state.globals.LastCoverIndex->setValue(6);
+    for (const Family* family : form1.families())
+      for (Element* element : family->members())
+        if (element->has(Property::ButtonShape)) element->set(Property::ButtonShape, 4);
+    for (Element* row : form1.Label30.members()) row->setTop(row->top() + 7);
+  }
+
   Acts fields() {
     Acts acts;
     for (TextBox* field :
@@ -75,7 +85,7 @@ protected:
       sectionsOf[effect] << section;
     };
     for (const Section& section : sections()) {
-      const int last = static_cast<int>(section.family(state).members().size()) - 1;
+      const int last = std::max(0, section.family(state).members().back()->index());
       const QString ofFirst = effectInHand(section, 0, act);
       const QString ofLast = effectInHand(section, last, act);
       const QString number = QString::number(section.number);
