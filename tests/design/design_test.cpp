@@ -4,8 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QCryptographicHash>
+
 #include "support/designchecks.h"
 #include "support/files.h"
+#include "support/valuetexts.h"
 
 namespace veneerer {
 namespace {
@@ -26,6 +29,15 @@ QString containersOf(const Family& family) {
   return lines;
 }
 
+// A family with a sum of all that its members hold.
+QString sumOf(const Family& family) {
+  QCryptographicHash sum(QCryptographicHash::Sha1);
+  for (const Element* element : family.members())
+    for (const PropertyDefault& each : propertiesOf(element->kind()))
+      sum.addData((test::textOf(element->get(each.property)) + '\n').toUtf8());
+  return family.members().front()->key() + ' ' + sum.result().toHex().left(8) + '\n';
+}
+
 class BuiltInDesign : public testing::Test {
 protected:
   BuiltInDesign() { applyBuiltInDesign(state); }
@@ -39,6 +51,15 @@ TEST_F(BuiltInDesign, PutsEveryElementIntoItsContainer) {
   for (const Family* family : form.families()) lines += containersOf(*family);
   EXPECT_EQ(lines.toStdString(),
             test::bytesOf(VENEERER_SOURCE_DIR "/tests/design/containers.txt").toStdString());
+}
+
+// A Skin without a file shows what stands here: a family in another dress is a change for everybody. Such a
+// one that is wanted gets its new sum, which the failure tells.
+TEST_F(BuiltInDesign, DressesEachFamilyAsEver) {
+  QString told;
+  for (const Window* window : state.windows())
+    for (const Family* family : window->families()) told += sumOf(*family);
+  EXPECT_EQ(told.toStdString(), test::bytesOf(VENEERER_SOURCE_DIR "/tests/design/sums.txt").toStdString());
 }
 
 TEST_F(BuiltInDesign, KeepsTheGivenPanelsAndEverythingElseInside) {
