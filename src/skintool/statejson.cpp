@@ -2,16 +2,16 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <charconv>
+#include <algorithm>
 #include <map>
+#include <optional>
 #include <span>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "elements/family.h"
-#include "skintool/output.h"
+#include "skintool/jsonwriter.h"
 
 namespace veneerer {
 
@@ -62,15 +62,6 @@ std::span<const P> ownProperties(Kind kind) {
   return {};
 }
 
-// The double whose shortest form is the Single's shortest form, so that the text brings the same Single back.
-double asShortestDouble(float number) {
-  char text[64];
-  const auto end = std::to_chars(text, text + sizeof text, number).ptr;
-  double shortest = 0;
-  std::from_chars(text, end, shortest);
-  return shortest;
-}
-
 QString pictureName(const Picture& picture, const QString& skinPath) {
   if (picture.isNull()) return {};
   if (picture.isDrawn()) return QStringLiteral("(drawn)");
@@ -78,105 +69,152 @@ QString pictureName(const Picture& picture, const QString& skinPath) {
   return path.startsWith(skinPath + u'/') ? path.mid(skinPath.size()) : path;
 }
 
-QJsonValue asJson(const Value& value, const QString& skinPath) {
-  if (const auto* truth = std::get_if<bool>(&value)) return *truth;
-  if (const auto* whole = std::get_if<std::int32_t>(&value)) return *whole;
-  if (const auto* colour = std::get_if<Colour>(&value)) return colour->number();
-  if (const auto* single = std::get_if<float>(&value)) return asShortestDouble(*single);
-  if (const auto* text = std::get_if<QString>(&value)) return *text;
-  if (const auto* list = std::get_if<QStringList>(&value)) return QJsonArray::fromStringList(*list);
-  return pictureName(std::get<Picture>(value), skinPath);
-}
+using KeyedElement = std::pair<QString, const Element*>;
 
-QJsonObject elementAsJson(const Element& element, const QString& skinPath) {
-  QJsonObject object;
-  object.insert(u"Container", element.container() ? element.container()->key() : QString());
-  for (std::span<const P> properties : {std::span<const P>(kPlace), ownProperties(element.kind())})
-    for (P property : properties)
-      object.insert(propertyName(property), asJson(element.get(property), skinPath));
-  return object;
-}
-
-std::map<QString, const Element*> elementsByKey(State& state) {
-  std::map<QString, const Element*> elements;
-  for (Window* window : state.windows()) {
-    elements.emplace(window->key(), window);
+std::vector<KeyedElement> elementsByKey(State& state) {
+  std::vector<KeyedElement> elements;
+  for (const Window* window : state.windows()) {
+    elements.emplace_back(window->key(), window);
     for (const Family* family : window->families())
-      for (const Element* element : family->members()) elements.emplace(element->key(), element);
+      for (const Element* element : family->members()) elements.emplace_back(element->key(), element);
   }
+  std::ranges::sort(elements, {}, &KeyedElement::first);
   return elements;
 }
 
-/// The lines of an object without the braces around them.
-QByteArray linesOf(const QJsonObject& object) {
-  QByteArray lines = QJsonDocument(object).toJson();
-  lines.chop(3);
-  return lines.remove(0, 2);
+/// The members of an element's object by their names: its properties, and, without one, what holds it.
+using Members = std::map<std::string_view, std::optional<P>>;
+
+Members membersOf(Kind kind) {
+  Members members{{"Container", {}}};
+  for (const std::span<const P> properties : {std::span<const P>(kPlace), ownProperties(kind)})
+    for (const P property : properties) members.emplace(propertyName(property).data(), property);
+  return members;
 }
 
-void putIndented(std::FILE* out, QByteArrayView lines) {
-  while (!lines.isEmpty()) {
-    const qsizetype end = lines.indexOf('\n');
-    const qsizetype size = end < 0 ? lines.size() : end + 1;
-    put(out, "    ");
-    putJson(out, lines.first(size));
-    lines = lines.sliced(size);
+class StatePrinter {
+public:
+  StatePrinter(std::FILE* out, Designer& designer)
+      : json_(out),
+        state_(designer.state()),
+        history_(designer.history()),
+        skinPath_(QDir::cleanPath(QFileInfo(designer.skinFolder().path()).absoluteFilePath())) {}
+
+  void print(const QList<ScriptedDialogs::Message>& messages) {
+    json_.open('{');
+    putElements();
+    putGlobals();
+    putMessages(messages);
+    json_.name("notes");
+    json_.texts(state_.notes.texts());
+    putTables();
+    json_.close('}');
+    json_.finish();
   }
-}
 
-void putElements(std::FILE* out, State& state, const QString& skinPath) {
-  const char* ahead = "    \"elements\": {\n";
-  for (const auto& [key, element] : elementsByKey(state)) {
-    put(out, std::exchange(ahead, ",\n"));
-    putIndented(out, linesOf({{key, elementAsJson(*element, skinPath)}}));
+private:
+  void putElements() {
+    json_.name("elements");
+    json_.open('{');
+    for (const auto& [key, element] : elementsByKey(state_)) {
+      json_.anyName(key);
+      putElement(*element);
+    }
+    json_.close('}');
   }
-  put(out, "\n    },\n");
-}
 
-QJsonObject globalsAsJson(const Globals& globals, const History& history) {
-  return {{QStringLiteral("Modified"), history.isModified()},
-          {QStringLiteral("SectionNumber"), globals.SectionNumber},
-          {QStringLiteral("ElementIndex"), globals.ElementIndex},
-          {QStringLiteral("DragAnchorX"), asShortestDouble(globals.DragAnchorX)},
-          {QStringLiteral("DragAnchorY"), asShortestDouble(globals.DragAnchorY)},
-          {QStringLiteral("CurrentColour"), globals.CurrentColour.number()},
-          {QStringLiteral("LastCoverIndex"), globals.LastCoverIndex->value()},
-          {QStringLiteral("CoverScale"), asShortestDouble(globals.CoverScale)}};
-}
-
-QJsonObject tablesAsJson(const ImageNames& names) {
-  QJsonObject tables;
-  for (const Family* table : names.families()) {
-    QJsonArray entries;
-    for (const Element* name : table->members()) entries.append(name->as<StoredValue>(Property::Name).text());
-    tables.insert(table->name(), table->isArray() ? QJsonValue(entries) : entries.first());
+  void putElement(const Element& element) {
+    Members& members = members_[element.kind()];
+    if (members.empty()) members = membersOf(element.kind());
+    json_.open('{');
+    for (const auto& [name, property] : members) {
+      json_.name(name);
+      if (property)
+        putValue(element.get(*property));
+      else
+        json_.text(element.container() ? element.container()->key() : QString());
+    }
+    json_.close('}');
   }
-  return tables;
-}
 
-QJsonArray messagesAsJson(const QList<ScriptedDialogs::Message>& messages) {
-  QJsonArray array;
-  for (const ScriptedDialogs::Message& message : messages)
-    array.append(QJsonObject{{QStringLiteral("title"), message.title},
-                             {QStringLiteral("text"), message.text},
-                             {QStringLiteral("answer"), message.answer}});
-  return array;
-}
+  void putValue(const Value& value) {
+    if (const auto* truth = std::get_if<bool>(&value)) return json_.truth(*truth);
+    if (const auto* whole = std::get_if<std::int32_t>(&value)) return json_.whole(*whole);
+    if (const auto* colour = std::get_if<Colour>(&value)) return json_.whole(colour->number());
+    if (const auto* single = std::get_if<float>(&value)) return json_.single(*single);
+    if (const auto* text = std::get_if<QString>(&value)) return json_.text(*text);
+    if (const auto* list = std::get_if<QStringList>(&value)) return json_.texts(*list);
+    json_.text(pictureName(std::get<Picture>(value), skinPath_));
+  }
+
+  void putGlobals() {
+    const Globals& globals = state_.globals;
+    json_.name("globals");
+    json_.open('{');
+    json_.name("CoverScale");
+    json_.single(globals.CoverScale);
+    json_.name("CurrentColour");
+    json_.whole(globals.CurrentColour.number());
+    json_.name("DragAnchorX");
+    json_.single(globals.DragAnchorX);
+    json_.name("DragAnchorY");
+    json_.single(globals.DragAnchorY);
+    json_.name("ElementIndex");
+    json_.whole(globals.ElementIndex);
+    json_.name("LastCoverIndex");
+    json_.whole(globals.LastCoverIndex->value());
+    json_.name("Modified");
+    json_.truth(history_.isModified());
+    json_.name("SectionNumber");
+    json_.whole(globals.SectionNumber);
+    json_.close('}');
+  }
+
+  void putMessages(const QList<ScriptedDialogs::Message>& messages) {
+    json_.name("messages");
+    json_.open('[');
+    for (const ScriptedDialogs::Message& message : messages) {
+      json_.open('{');
+      json_.name("answer");
+      json_.text(message.answer);
+      json_.name("text");
+      json_.text(message.text);
+      json_.name("title");
+      json_.text(message.title);
+      json_.close('}');
+    }
+    json_.close(']');
+  }
+
+  void putTables() {
+    std::vector<const Family*> tables(state_.names.families().begin(), state_.names.families().end());
+    std::ranges::sort(tables, {}, &Family::name);
+    json_.name("tables");
+    json_.open('{');
+    for (const Family* table : tables) {
+      QStringList names;
+      for (const Element* name : table->members()) names << name->as<StoredValue>(P::Name).text();
+      json_.anyName(table->name());
+      if (table->isArray())
+        json_.texts(names);
+      else
+        json_.text(names.first());
+    }
+    json_.close('}');
+  }
+
+  JsonWriter json_;
+  State& state_;
+  const History& history_;
+  QString skinPath_;
+  std::map<Kind, Members> members_;
+};
 
 }  // namespace
 
 void printState(std::FILE* out, Designer& designer, const QList<ScriptedDialogs::Message>& messages) {
-  State& state = designer.state();
   designer.fillFonts();
-  const SkinFolder skin = designer.skinFolder();
-  const QString skinPath = QDir::cleanPath(QFileInfo(skin.path()).absoluteFilePath());
-  put(out, "{\n");
-  putElements(out, state, skinPath);
-  putJson(out, linesOf({{QStringLiteral("globals"), globalsAsJson(state.globals, designer.history())},
-                        {QStringLiteral("messages"), messagesAsJson(messages)},
-                        {QStringLiteral("notes"), QJsonArray::fromStringList(state.notes.texts())},
-                        {QStringLiteral("tables"), tablesAsJson(state.names)}}));
-  print(out, "\n}\n");
+  StatePrinter(out, designer).print(messages);
 }
 
 }  // namespace veneerer
