@@ -16,4 +16,7 @@ struct FileStamp {
 /// Of what the path leads to, links followed.
 FileStamp stampOf(const QString& path);
 
+/// The same of a plain file; of anything else as if it weren't there.
+FileStamp stampOfPlain(const QString& path);
+
 }  // namespace veneerer

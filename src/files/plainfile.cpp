@@ -35,6 +35,11 @@ bool isLink(const QByteArray& path) {
   return ::lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
+/// Whether the path is the folder's, as it is written, and one name behind it.
+bool isNameIn(const QString& folder, const QString& path) {
+  return path.startsWith(folder + u'/') && path.lastIndexOf(u'/') == folder.size();
+}
+
 /// Where an opened file lies. One that bears the name no longer, because a saver has put another one in its
 /// place meanwhile, can't be told.
 enum class Whereabouts { Inside, Outside, Replaced };
@@ -43,8 +48,9 @@ enum class Whereabouts { Inside, Outside, Replaced };
 class OpenFile {
 public:
   explicit OpenFile(const QString& path) : path_(QFile::encodeName(path)) {
-    // A pipe that nobody writes to would hold the program for ever, and a terminal would become its own.
-    descriptor_ = ::open(path_.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    open(O_NOFOLLOW);
+    isLink_ = descriptor_ < 0 && errno == ELOOP;
+    if (isLink_) open(0);
     error_ = descriptor_ < 0 ? errno : 0;
     if (isOpen() && ::fstat(descriptor_, &status_) != 0) error_ = errno;
   }
@@ -68,8 +74,10 @@ public:
   }
 
   Whereabouts whereabouts(const QString& folder) const {
+    const QString path = QFile::decodeName(path_);
+    if (!isLink_ && isNameIn(folder, path)) return Whereabouts::Inside;
     const QString root = QFileInfo(folder).canonicalFilePath();
-    const QString real = QFileInfo(QFile::decodeName(path_)).canonicalFilePath();
+    const QString real = QFileInfo(path).canonicalFilePath();
     struct stat named {};
     if (root.isEmpty() || real.isEmpty() || ::stat(QFile::encodeName(real).constData(), &named) != 0)
       return Whereabouts::Replaced;
@@ -80,10 +88,11 @@ public:
 
   /// As many bytes as there are, up to that number. False when reading fails; errno tells why.
   bool read(qint64 most, QByteArray& bytes) const {
-    bytes.reserve(std::min(size(), most));
     for (qint64 got = 1; got > 0 && bytes.size() < most;) {
       const qsizetype had = bytes.size();
-      bytes.resize(had + std::min(kChunk, most - had));
+      // The byte more shows the end.
+      const qint64 rest = had <= size() && size() > 0 ? size() - had + 1 : kChunk;
+      bytes.resize(had + std::min({rest, kChunk, most - had}));
       got = readSome(bytes.data() + had, bytes.size() - had);
       bytes.truncate(had + std::max<qint64>(got, 0));
       if (got < 0) return false;
@@ -92,6 +101,11 @@ public:
   }
 
 private:
+  void open(int further) {
+    // A pipe that nobody writes to would hold the program for ever, and a terminal would become its own.
+    descriptor_ = ::open(path_.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | further);
+  }
+
   qint64 readSome(char* to, qint64 bytes) const {
     for (;;) {
       const ssize_t got = ::read(descriptor_, to, static_cast<std::size_t>(bytes));
@@ -101,6 +115,7 @@ private:
 
   QByteArray path_;
   int descriptor_ = -1;
+  bool isLink_ = false;
   int error_ = 0;
   struct stat status_ {};
 };

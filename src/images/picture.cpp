@@ -1,12 +1,11 @@
 #include "images/picture.h"
 
-#include <QDateTime>
-#include <QFileInfo>
 #include <QHash>
 #include <atomic>
 #include <climits>
 #include <mutex>
 
+#include "files/filestamp.h"
 #include "files/plainfile.h"
 #include "images/picturecache.h"
 #include "images/picturecopies.h"
@@ -147,8 +146,7 @@ struct PictureStore::Entries {
   explicit Entries(qint64 decodedBytes) : cache(std::make_shared<PictureCache>(decodedBytes)) {}
 
   struct Entry {
-    qint64 modified = 0;  // milliseconds since the epoch
-    qint64 size = 0;      // bytes
+    FileStamp stamp;
     std::weak_ptr<PictureFile> file;
   };
   std::shared_ptr<PictureCache> cache;
@@ -163,16 +161,15 @@ PictureStore::~PictureStore() {
 }
 
 Picture PictureStore::load(const QString& path) {
-  const QFileInfo info(path);
-  if (!info.isFile()) return {};
-  const qint64 modified = info.lastModified().toMSecsSinceEpoch();
+  const FileStamp stamp = stampOfPlain(path);
+  if (!stamp.isThere()) return {};
   Entries::Entry& entry = entries_->byPath[path];
   std::shared_ptr<PictureFile> file = entry.file.lock();
-  if (!file || entry.modified != modified || entry.size != info.size()) {
+  if (!file || entry.stamp != stamp) {
     const PictureFormat format = formatOf(headOfFile(path, kPictureHead));
     if (format == PictureFormat::None) return {};
     file = std::make_shared<PictureFile>(path, format == PictureFormat::Icon, entries_->cache);
-    entry = {modified, info.size(), file};
+    entry = {stamp, file};
   }
   return Picture(file);
 }
