@@ -18,8 +18,10 @@ Element::Element(Kind kind, Window& window, Family* family, int index)
 
 QString Element::key() const {
   if (!family_) return window_.name();
-  QString key = window_.name() + u'.' + family_->name();
-  if (index_ >= 0) key += u'(' + QString::number(index_) + u')';
+  QString key;
+  key.reserve(window_.name().size() + family_->name().size() + 8);
+  key.append(window_.name()).append(u'.').append(family_->name());
+  if (index_ >= 0) key.append(u'(').append(QString::number(index_)).append(u')');
   return key;
 }
 

@@ -120,22 +120,28 @@ struct KindTable {
   std::array<std::int8_t, kPropertyCount> offsets;
 };
 
-const KindTable& tableOf(Kind kind) {
-  static const std::array<KindTable, kKindCount> tables = [] {
-    std::array<KindTable, kKindCount> made;
-    for (int k = 0; k < kKindCount; ++k) {
-      KindTable& table = made[k];
-      table.defaults = defaultsOf(static_cast<Kind>(k));
-      table.offsets.fill(-1);
-      for (std::size_t i = 0; i < table.defaults.size(); ++i) {
-        const auto& [property, value] = table.defaults[i];
-        require(typeOf(value) == propertyType(property), "a default is of its property's type");
-        table.offsets[static_cast<std::size_t>(property)] = static_cast<std::int8_t>(i);
-      }
+using KindTables = std::array<KindTable, kKindCount>;
+
+KindTables makeTables() {
+  KindTables made;
+  for (int k = 0; k < kKindCount; ++k) {
+    KindTable& table = made[k];
+    table.defaults = defaultsOf(static_cast<Kind>(k));
+    table.offsets.fill(-1);
+    for (std::size_t i = 0; i < table.defaults.size(); ++i) {
+      const auto& [property, value] = table.defaults[i];
+      require(typeOf(value) == propertyType(property), "a default is of its property's type");
+      table.offsets[static_cast<std::size_t>(property)] = static_cast<std::int8_t>(i);
     }
-    return made;
-  }();
-  return tables[static_cast<std::size_t>(kind)];
+  }
+  return made;
+}
+
+// Made ahead: every reading and setting of a value asks them.
+const KindTables kTables = makeTables();
+
+const KindTable& tableOf(Kind kind) {
+  return kTables[static_cast<std::size_t>(kind)];
 }
 
 }  // namespace

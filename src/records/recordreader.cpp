@@ -46,7 +46,7 @@ RecordValue RecordReader::readValue() {
   if (peek() == '"') return readQuoted();
   const qsizetype from = at_;
   while (!atLineEnd() && peek() != ',') ++at_;
-  const RecordValue value = recognise(fromCodePage(part(bytes_, from, at_)));
+  const RecordValue value = recognise(part(bytes_, from, at_));
   if (!atEnd() && peek() == ',')
     ++at_;
   else

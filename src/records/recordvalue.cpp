@@ -5,52 +5,52 @@
 #include <limits>
 #include <string>
 
+#include "records/codepage.h"
+
 namespace veneerer {
 
 namespace {
 
-bool isDigit(QChar c) {
-  return c >= u'0' && c <= u'9';
+constexpr auto kNone = std::string_view::npos;
+
+bool isSign(char c) {
+  return c == '+' || c == '-';
 }
 
-/// Walks over digits and returns how many there were.
-int skipDigits(const QString& text, qsizetype& at, std::string& plain) {
-  int count = 0;
-  for (; at < text.size() && isDigit(text[at]); ++at, ++count) plain += static_cast<char>(text[at].unicode());
-  return count;
+std::size_t behindDigits(std::string_view text, std::size_t at) {
+  while (at < text.size() && text[at] >= '0' && text[at] <= '9') ++at;
+  return at;
 }
 
-bool skipSign(const QString& text, qsizetype& at, std::string& plain) {
-  if (at >= text.size() || (text[at] != u'+' && text[at] != u'-')) return false;
-  plain += static_cast<char>(text[at++].unicode());
-  return true;
+/// Where the exponent would begin, behind a sign, digits and a point; nowhere without a digit.
+std::size_t exponentOf(std::string_view text) {
+  const std::size_t first = !text.empty() && isSign(text.front()) ? 1 : 0;
+  const std::size_t whole = behindDigits(text, first);
+  if (whole == text.size() || text[whole] != '.') return whole > first ? whole : kNone;
+  const std::size_t end = behindDigits(text, whole + 1);
+  return end - first > 1 ? end : kNone;
 }
 
-bool skipExponent(const QString& text, qsizetype& at, std::string& plain) {
-  if (at == text.size()) return true;
-  if (!QStringView(u"EeDd").contains(text[at])) return false;
-  ++at;
-  plain += 'e';
-  skipSign(text, at, plain);
-  return skipDigits(text, at, plain) > 0;
+bool isExponent(std::string_view text) {
+  if (text.empty()) return true;
+  if (std::string_view("EeDd").find(text.front()) == kNone) return false;
+  const std::size_t first = text.size() > 1 && isSign(text[1]) ? 2 : 1;
+  return first < text.size() && behindDigits(text, first) == text.size();
 }
 
 // The text is known to be well formed. Beyond a double's range it is infinite, or zero when it is too small.
-double toDouble(const std::string& plain) {
-  const char* first = plain.data() + (plain.front() == '+' ? 1 : 0);
+double toDouble(std::string_view text, std::size_t exponent) {
+  if (text.front() == '+') return toDouble(text.substr(1), exponent - 1);
   double number = 0;
-  const auto result = std::from_chars(first, plain.data() + plain.size(), number);
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
   if (result.ec != std::errc::result_out_of_range) return number;
-  return plain.find("e-") == std::string::npos ? std::numeric_limits<double>::infinity() : 0;
+  const bool isTiny = exponent < text.size() && text[exponent + 1] == '-';
+  return isTiny ? 0 : std::numeric_limits<double>::infinity();
 }
 
-QString withoutBlanks(const QString& text) {
-  qsizetype first = 0;
-  qsizetype last = text.size();
-  const auto isBlank = [&](qsizetype at) { return text[at] == u' ' || text[at] == u'\t'; };
-  while (first < last && isBlank(first)) ++first;
-  while (last > first && isBlank(last - 1)) --last;
-  return text.mid(first, last - first);
+std::string_view withoutBlanks(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(" \t");
+  return first == kNone ? std::string_view() : text.substr(first, text.find_last_not_of(" \t") + 1 - first);
 }
 
 bool isOddForm(const QString& text) {
@@ -61,32 +61,34 @@ bool isOddForm(const QString& text) {
 
 }  // namespace
 
-bool parseNumber(const QString& text, double& number) {
+bool parseNumber(std::string_view text, double& number) {
+  const std::size_t exponent = exponentOf(text);
+  if (exponent == kNone || !isExponent(text.substr(exponent))) return false;
   std::string plain;
-  qsizetype at = 0;
-  skipSign(text, at, plain);
-  int digits = skipDigits(text, at, plain);
-  if (at < text.size() && text[at] == u'.') {
-    plain += '.';
-    ++at;
-    digits += skipDigits(text, at, plain);
+  if (exponent < text.size() && (text[exponent] | 0x20) == 'd') {
+    plain = text;
+    plain[exponent] = 'e';
+    text = plain;
   }
-  if (digits == 0 || !skipExponent(text, at, plain) || at != text.size()) return false;
-  number = toDouble(plain);
+  number = toDouble(text, exponent);
   return true;
 }
 
-RecordValue recognise(const QString& unquoted) {
-  const QString bare = withoutBlanks(unquoted);
-  if (bare.isEmpty()) return std::monostate();
+bool parseNumber(const QString& text, double& number) {
+  const QByteArray bytes = text.toLatin1();
+  return parseNumber(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())), number);
+}
+
+RecordValue recognise(std::string_view unquoted) {
+  const std::string_view bare = withoutBlanks(unquoted);
+  if (bare.empty()) return std::monostate();
   double number = 0;
   if (parseNumber(bare, number)) return number;
-  if (bare.startsWith(u'#')) {
-    if (bare == u"#TRUE#") return true;
-    if (bare == u"#FALSE#") return false;
-    if (isOddForm(bare)) return OddValue{bare};
-  }
-  return unquoted;
+  if (bare == "#TRUE#") return true;
+  if (bare == "#FALSE#") return false;
+  if (bare.front() == '#')
+    if (const QString form = fromCodePage(bare); isOddForm(form)) return OddValue{form};
+  return fromCodePage(unquoted);
 }
 
 }  // namespace veneerer

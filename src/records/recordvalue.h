@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <string_view>
 #include <variant>
 
 namespace veneerer {
@@ -16,10 +17,12 @@ using RecordValue = std::variant<std::monostate, QString, double, bool, OddValue
 
 /// What an unquoted value is: a number when the whole of it, less surrounding blanks, has the form of one;
 /// one of the #...# forms; else the text as it stands.
-RecordValue recognise(const QString& unquoted);
+/// The bytes are those of the file, see fromCodePage().
+RecordValue recognise(std::string_view unquoted);
 
 /// The number that the text spells as a whole: an optional sign, digits with at most one point, an optional
 /// exponent E or D. False when it is not of that form.
+bool parseNumber(std::string_view text, double& number);
 bool parseNumber(const QString& text, double& number);
 
 }  // namespace veneerer
