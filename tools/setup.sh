@@ -4,7 +4,7 @@
 readonly BUILD_PACKAGES=(
   g++ cmake ninja-build ccache
   qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
-  libjpeg62-turbo-dev libgif-dev libquazip1-qt6-dev
+  libjpeg62-turbo-dev libgif-dev zlib1g-dev libquazip1-qt6-dev
   libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev
   fontconfig fonts-liberation fonts-dejavu-core
 )

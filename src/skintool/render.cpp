@@ -2,6 +2,7 @@
 
 #include <future>
 
+#include "images/fastpng.h"
 #include "images/pictureencoding.h"
 #include "painting/canvaspainter.h"
 #include "preview/screenpicture.h"
@@ -12,11 +13,13 @@ namespace veneerer {
 
 namespace {
 
-// Of 0 to 100 in Qt's terms: the fastest compression that still shrinks.
-constexpr int kFastPng = 80;
-
 QString fileName(int entry, const QString& name) {
   return QStringLiteral("%1 %2.png").arg(entry, 2, 10, QLatin1Char('0')).arg(name);
+}
+
+void writeBytes(Disk& disk, const QString& folder, const QString& name, const QByteArray& png) {
+  if (png.isEmpty()) throw RecordError(name, 0, {}, {}, QStringLiteral("the picture can't be written"));
+  writeFiles(disk, folder, {{name, png}});
 }
 
 /// Encodes and writes pictures while the next one is painted.
@@ -27,7 +30,7 @@ public:
   void start(const QString& name, const QImage& image) {
     finish();
     writing_ = std::async(std::launch::async,
-                          [this, name, image] { writePng(disk_, folder_, name, image, kFastPng); });
+                          [this, name, image] { writeBytes(disk_, folder_, name, fastPng(image)); });
   }
   /// Throws what the last picture failed with.
   void finish() {
@@ -72,10 +75,8 @@ void requireWritable(Disk& disk, const QString& folder, std::vector<NewFile> fil
   if (replacement.refusal()) throw WriteRefused(*replacement.refusal());
 }
 
-void writePng(Disk& disk, const QString& folder, const QString& name, const QImage& image, int quality) {
-  const QByteArray bytes = encodePicture(image, "PNG", quality);
-  if (bytes.isEmpty()) throw RecordError(name, 0, {}, {}, QStringLiteral("the picture can't be written"));
-  writeFiles(disk, folder, {{name, bytes}});
+void writePng(Disk& disk, const QString& folder, const QString& name, const QImage& image) {
+  writeBytes(disk, folder, name, encodePicture(image, "PNG"));
 }
 
 void makeTarget(const QString& folder, Disk& disk) {

@@ -22,9 +22,8 @@ void renderScreens(Designer& designer, const QString& folder, const QStringList&
 /// Throws WriteRefused when one of these files of the folder can't be written. Nothing is changed.
 void requireWritable(Disk& disk, const QString& folder, std::vector<NewFile> files);
 
-/// Replaces that file of the folder by a PNG file; quality as for encodePicture. Throws WriteRefused and
-/// RecordError.
-void writePng(Disk& disk, const QString& folder, const QString& name, const QImage& image, int quality = -1);
+/// Replaces that file of the folder by a PNG file. Throws WriteRefused and RecordError.
+void writePng(Disk& disk, const QString& folder, const QString& name, const QImage& image);
 
 /// Makes the folder that files are to be written into. Throws RecordError when it can't be made.
 void makeTarget(const QString& folder, Disk& disk);
