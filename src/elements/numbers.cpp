@@ -12,6 +12,8 @@ namespace veneerer {
 
 namespace {
 
+constexpr int kMostPlain = 10'000'000;  // a Single's text has up to seven digits, a double's more
+
 /// A positive decimal number: first digit, point, further digits, times ten to the exponent.
 struct Decimal {
   std::string digits;
@@ -92,6 +94,9 @@ std::string layOut(const Decimal& decimal, int places) {
 template <class T>
 QString shortestText(T number, int digits) {
   if (number == 0 || !std::isfinite(number)) return QStringLiteral("0");
+  // All digits of a whole number are within reach.
+  if (std::abs(number) < kMostPlain && number == std::trunc(number))
+    return QString::number(static_cast<std::int32_t>(number));
   const std::string text =
       layOut(shortestDecimal(std::abs(number), static_cast<std::size_t>(digits)), digits);
   return (number < 0 ? QStringLiteral("-") : QString()) +

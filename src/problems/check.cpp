@@ -25,8 +25,8 @@ constexpr std::size_t kMostCoverLines = 1'000'000;
 
 class SkinCheck {
 public:
-  SkinCheck(const SkinFolder& folder, const Screen& screen, qint64 decoding)
-      : skin_{folder, screen, {}, PictureTrials(decoding)} {
+  SkinCheck(const SkinFolder& folder, const Screen& screen, qint64 decoding, KeepPlaces keep)
+      : skin_{folder, screen, {}, PictureTrials(decoding), keep == KeepPlaces::Yes} {
     applyBuiltInDesign(skin_.state);
     fillFirstLists(skin_.state);
     fillOtherLists(skin_.state);
@@ -113,6 +113,7 @@ private:
 
   // In the order of a full load, so that of several places the one that decides comes last.
   RecordPlaces loadedPlaces() {
+    if (!skin_.keepsPlaces) return {};
     RecordPlaces places = skin_.places.value(skin_.folder.coverFiles().value(0));
     for (const LoadEntry& entry : loadOrder())
       places.add(skin_.places.value(entry.layout(skin_.state).fileName()));
@@ -133,8 +134,8 @@ private:
 
 }  // namespace
 
-CheckedFiles checkSkin(const SkinFolder& folder, const Screen& screen, qint64 decoding) {
-  return SkinCheck(folder, screen, decoding).run();
+CheckedFiles checkSkin(const SkinFolder& folder, const Screen& screen, qint64 decoding, KeepPlaces keep) {
+  return SkinCheck(folder, screen, decoding, keep).run();
 }
 
 }  // namespace veneerer

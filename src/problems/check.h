@@ -13,8 +13,12 @@ struct CheckedFiles {
   RecordPlaces places;  ///< of what a full load takes from these files
 };
 
+enum class KeepPlaces : bool { No, Yes };
+
 /// Everything found in that folder, file by file. Nothing is written. So much work goes into trying to decode
-/// its pictures, see PictureTrials; a finding tells how many are beyond it.
-CheckedFiles checkSkin(const SkinFolder& folder, const Screen& screen, qint64 decoding = kTrialAllowance);
+/// its pictures, see PictureTrials; a finding tells how many are beyond it. Places that nobody asks for
+/// aren't kept.
+CheckedFiles checkSkin(const SkinFolder& folder, const Screen& screen, qint64 decoding = kTrialAllowance,
+                       KeepPlaces keep = KeepPlaces::No);
 
 }  // namespace veneerer

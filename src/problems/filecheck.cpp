@@ -40,10 +40,17 @@ QString counted(const QString& text, int count, const Layout& layout) {
   return text.arg(count).arg(layout.lineCount());
 }
 
+/// The same few pictures are named again and again.
+QString faultOf(const QString& reference, CheckedSkin& skin) {
+  const auto known = skin.referenceFaults.constFind(reference);
+  if (known != skin.referenceFaults.constEnd()) return *known;
+  return *skin.referenceFaults.insert(reference, referenceDamage(skin.folder, skin.pictures, reference));
+}
+
 QString damageOf(const RawValue& value, CheckedSkin& skin) {
   const QString damage = rowDamage(value);
   if (!damage.isEmpty() || !value.row->reference()) return damage;
-  return referenceDamage(skin.folder, skin.pictures, valueText(value.value));
+  return faultOf(valueText(value.value), skin);
 }
 
 Findings valueFindings(CheckedSkin& skin, const QString& name, const std::vector<RawValue>& values) {
@@ -79,7 +86,7 @@ Findings checkFile(CheckedSkin& skin, const QString& name, const Layout& layout,
   } catch (const RecordError& error) {
     findings.append(failed(skin.state, name, error, failure));
   }
-  skin.places[name].add(layout, name, loading.lines, RecordPlaces::Side::Read);
+  if (skin.keepsPlaces) skin.places[name].add(layout, name, loading.lines, RecordPlaces::Side::Read);
   if (bytes.startsWith(kByteOrderMark)) warn(1, ProblemTexts::tr("a byte order mark counts as text"));
   return findings << valueFindings(skin, name, rawValues(layout, loading.lines, bytes));
 }

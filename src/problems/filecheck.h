@@ -14,7 +14,9 @@ struct CheckedSkin {
   Screen screen;
   State state;  ///< what was read so far
   PictureTrials pictures;
-  QHash<QString, RecordPlaces> places = {};  ///< by the file that holds them
+  bool keepsPlaces = false;
+  QHash<QString, RecordPlaces> places = {};      ///< by the file that holds them
+  QHash<QString, QString> referenceFaults = {};  ///< by the reference; empty for a sound one
 };
 
 /// Everything found in the file of that name; nothing when it isn't there. Where a load of it fails, the

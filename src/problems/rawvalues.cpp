@@ -47,7 +47,7 @@ std::vector<RawValue> rawValues(const Layout& layout, const std::vector<int>& ro
 int lineCount(const QByteArray& bytes) {
   RecordReader reader(bytes);
   int count = 0;
-  for (; !reader.atEnd(); ++count) reader.readLine();
+  for (; !reader.atEnd(); ++count) reader.skipLine();
   return count;
 }
 

@@ -69,11 +69,19 @@ RecordValue RecordReader::readQuoted() {
 }
 
 QString RecordReader::readLine() {
-  const qsizetype from = lastFrom_ = at_;
+  return fromCodePage(passLine());
+}
+
+void RecordReader::skipLine() {
+  passLine();
+}
+
+std::string_view RecordReader::passLine() {
+  lastFrom_ = at_;
   while (!atLineEnd()) ++at_;
-  const QString text = fromCodePage(part(bytes_, from, at_));
+  const std::string_view line = part(bytes_, lastFrom_, at_);
   skipLineEnd();
-  return text;
+  return line;
 }
 
 QString RecordReader::lastText() const {

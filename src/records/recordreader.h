@@ -21,6 +21,8 @@ public:
   RecordValue readValue();
   /// The rest of the current line as raw text, its end consumed.
   QString readLine();
+  /// The same for whom the text is nothing to.
+  void skipLine();
   /// The value or line that was read last, up to its first comma, as it stands: a message quotes a number in
   /// the form that the file has it in.
   QString lastText() const;
@@ -31,6 +33,7 @@ private:
   void skipLineEnd();
   void skipBlanks();
   RecordValue readQuoted();
+  std::string_view passLine();
 
   QByteArray bytes_;
   qsizetype at_ = 0;

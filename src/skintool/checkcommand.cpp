@@ -54,7 +54,8 @@ Findings hintsOf(const QString& skin, const RecordPlaces& places, const Argument
 }
 
 Findings findingsOf(const QString& skin, const Arguments& arguments) {
-  const CheckedFiles files = checkSkin(SkinFolder(skin), arguments.screen);
+  const KeepPlaces keep = arguments.design ? KeepPlaces::Yes : KeepPlaces::No;
+  const CheckedFiles files = checkSkin(SkinFolder(skin), arguments.screen, kTrialAllowance, keep);
   if (!arguments.design) return files.findings;
   return files.findings + hintsOf(skin, files.places, arguments);
 }
