@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <algorithm>
 #include <cstdlib>
 
@@ -10,6 +11,7 @@
 #include "looks/looks.h"
 #include "looks/plans.h"
 #include "platform/program.h"
+#include "platform/programplace.h"
 #include "problems/hints.h"
 #include "records/coverfile.h"
 
@@ -209,8 +211,32 @@ QString answerTo(const QCommandLineParser& parser) {
   return operands.isEmpty() ? usageText() : helpText(commandNamed(operands.first()));
 }
 
+QStringList givenOptions(const QCommandLineParser& parser) {
+  QStringList options;
+  for (const OptionEntry& option : commandOptions()) {
+    const QString name = nameOf(option);
+    if (name == u"to" || !parser.isSet(name)) continue;
+    if (!option.value) options << QStringLiteral("--") + name;
+    for (const QString& value : parser.values(name)) options << QStringLiteral("--") + name + u'=' + value;
+  }
+  return options;
+}
+
+// Each Skin's screens go into a folder of its name.
+void refuseSameNames(const Arguments& arguments) {
+  if (arguments.command != Command::Render) return;
+  QSet<QString> names;
+  for (const QString& skin : arguments.skins) {
+    const QString name = skinName(skin);
+    if (names.contains(name)) throw UsageError(QStringLiteral("two Skins bear the name \"%1\"").arg(name));
+    names.insert(name);
+  }
+}
+
 Arguments readOptions(const QCommandLineParser& parser) {
   Arguments arguments;
+  arguments.options = givenOptions(parser);
+  arguments.isPiece = parser.isSet(QStringLiteral("piece"));
   arguments.to = parser.value(QStringLiteral("to"));
   arguments.cover = parser.value(QStringLiteral("cover"));
   arguments.only = parser.values(QStringLiteral("only"));
@@ -252,6 +278,7 @@ Arguments parseArguments(const QStringList& words) {
     arguments.skins = operands;
   checkTarget(command, arguments.to);
   refuseLoadOfTwo(arguments);
+  refuseSameNames(arguments);
   return arguments;
 }
 

@@ -18,6 +18,7 @@
 #include "skintool/newcommand.h"
 #include "skintool/output.h"
 #include "skintool/pages.h"
+#include "skintool/pieces.h"
 #include "skintool/render.h"
 #include "skintool/script.h"
 #include "skintool/statejson.h"
@@ -121,11 +122,40 @@ bool isOfTwo(const Arguments& arguments) {
   return arguments.command == Command::Diff && arguments.skins.size() > 1;
 }
 
-int run(const Arguments& arguments, std::FILE* out, std::FILE* err) {
+QByteArray drained(std::FILE* file) {
+  QFile content;
+  std::rewind(file);
+  const QByteArray bytes = content.open(file, QIODevice::ReadOnly) ? content.readAll() : QByteArray();
+  std::fclose(file);
+  return bytes;
+}
+
+void runHere(const QList<QStringList>& commands,
+             const std::function<void(const CommandResult&)>& tellResult) {
+  for (const QStringList& command : commands) {
+    std::FILE* out = std::tmpfile();
+    std::FILE* err = std::tmpfile();
+    const int status = runBatch(QStringList{QStringLiteral("skintool")} + command, out, err);
+    tellResult({status, drained(out), drained(err)});
+  }
+}
+
+int runEach(const Arguments& arguments, const QString& program, std::FILE* out, std::FILE* err) {
+  const auto runCommands = [&](const QList<QStringList>& commands, const QByteArray& input,
+                               const auto& tellResult) {
+    if (program.isEmpty()) return runHere(commands, tellResult);
+    runSideBySide(program, commands, input, tellResult);
+  };
+  return runPieces(arguments, runCommands, out, err);
+}
+
+int run(const Arguments& arguments, std::FILE* out, std::FILE* err, const QString& program) {
   if (!arguments.answer.isEmpty()) {
     print(out, arguments.answer.toUtf8());
     return 0;
   }
+  if (arguments.skins.size() > 1 && arguments.command != Command::Diff)
+    return runEach(arguments, program, out, err);
   if (arguments.command == Command::Check) return runCheck(arguments, out);
   if (arguments.command == Command::Buttons) return writeButtons(arguments.to);
   if (isOfTwo(arguments)) return runDiff(arguments, out);
@@ -137,9 +167,9 @@ int run(const Arguments& arguments, std::FILE* out, std::FILE* err) {
 
 // RecordError, ScriptError, ScaleFault, ExchangeError: what ends the designer ends the run. To diff 1 says
 // something else.
-int runOrTell(const Arguments& arguments, std::FILE* out, std::FILE* err) {
+int runOrTell(const Arguments& arguments, std::FILE* out, std::FILE* err, const QString& program) {
   try {
-    return run(arguments, out, err);
+    return run(arguments, out, err, program);
   } catch (const UsageError&) {
     throw;
   } catch (const std::exception& error) {
@@ -150,9 +180,9 @@ int runOrTell(const Arguments& arguments, std::FILE* out, std::FILE* err) {
 
 }  // namespace
 
-int runBatch(const QStringList& words, std::FILE* out, std::FILE* err) {
+int runBatch(const QStringList& words, std::FILE* out, std::FILE* err, const QString& program) {
   try {
-    return runOrTell(parseArguments(words), out, err);
+    return runOrTell(parseArguments(words), out, err, program);
   } catch (const UsageError& error) {
     tell(err, QStringLiteral("skintool: ") + QString::fromUtf8(error.what()));
     std::fprintf(err, "%s", usageText().toUtf8().constData());

@@ -68,13 +68,16 @@ int runCheck(const Arguments& arguments, std::FILE* out) {
     QString text;
   };
   QList<Line> lines;
-  for (const QString& skin : arguments.skins) {
-    const QString name = arguments.skins.size() > 1 ? skinName(skin) + u'/' : QString();
-    for (const Finding& finding : findingsOf(skin, arguments))
-      lines.append({finding.kind, printable(name + lineOf(finding))});
-  }
+  const QString& skin = arguments.skins.first();
+  const QString name = arguments.isPiece ? skinName(skin) + u'/' : QString();
+  for (const Finding& finding : findingsOf(skin, arguments))
+    lines.append({finding.kind, printable(name + lineOf(finding))});
   std::ranges::stable_sort(lines, {}, &Line::kind);
-  for (const Line& line : lines) print(out, line.text.toUtf8() + '\n');
+  for (const Line& line : lines) {
+    if (arguments.isPiece) put(out, QByteArray::number(static_cast<int>(line.kind)));
+    put(out, line.text.toUtf8() + '\n');
+  }
+  print(out, {});
   const bool hasError = !lines.isEmpty() && lines.first().kind == FindingKind::Error;
   return hasError ? 1 : 0;
 }

@@ -7,8 +7,8 @@
 
 namespace veneerer {
 
-/// Prints one line a finding, the worst of all Skins first. The exit status: 1 when there is an error, else
-/// 0.
+/// Prints one line a finding of the one Skin, the worst first; as a piece of a check of several, each with
+/// its kind's number and the Skin's name ahead. The exit status: 1 when there is an error, else 0.
 int runCheck(const Arguments& arguments, std::FILE* out);
 
 }  // namespace veneerer

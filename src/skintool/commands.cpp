@@ -18,13 +18,16 @@ const CommandEntry kCommands[] = {
      "Loads the Skin and writes all of its record files into FOLDER, which may be the Skin itself.\n"
      "Nothing is written when the Skin or the script fails.",
      1, 1, true},
-    {Command::Render, "render", "SKIN --to FOLDER [--only ENTRY]... [options]",
+    {Command::Render, "render", "SKIN... --to FOLDER [--only ENTRY]... [options]",
      "Loads the Skin and draws every screen of the list of screens into a PNG file of its own, from\n"
-     "\"00 Main Screen.png\" to \"31 Pop Up Menu.png\".",
-     1, 1, true},
+     "\"00 Main Screen.png\" to \"31 Pop Up Menu.png\". With several Skins, those of each go into a folder "
+     "of\n"
+     "its name in FOLDER, and as many Skins as the machine has cores are worked on at once.",
+     1, kAnyNumber, true},
     {Command::Check, "check", "SKIN... [options]",
      "Tells what is wrong or risky in each Skin, one finding a line, errors first:\n"
-     "FILE:LINE: error: ... or FILE: warning: ... The status is 1 when there is an error.",
+     "FILE:LINE: error: ... or FILE: warning: ... The status is 1 when there is an error. As many Skins as\n"
+     "the machine has cores are worked on at once.",
      1, kAnyNumber, false},
     {Command::Sheet, "sheet", "SKIN --to FILE.png [options]",
      "Loads the Skin and draws all of its screens on one page, each above its name.", 1, 1, true},
@@ -95,6 +98,7 @@ const OptionEntry kOptions[] = {
     {"dpi", "N", "the screen's dots per logical inch; 96 without it", kLoading},
     {"design", nullptr, "also tells, as hints, what a touch screen suffers from", {Command::Check}},
     {"touch", "N", "with --design: the least side of a button in pixels; 32 without it", {Command::Check}},
+    {"piece", nullptr, nullptr, {Command::Check}},
     {"look", "NAME", "the look, or \"list\" for the names of all of them", {Command::New}},
     {"size", "WIDTHxHEIGHT", "the Skin's size in pixels; that of the look without it", {Command::New}},
     {"accent", "#RRGGBB", "the colour of lines, light and what is to be touched next", {Command::New}},
@@ -143,7 +147,7 @@ QString helpText(const CommandEntry& command) {
   QString text = QStringLiteral("usage: ") + usageLine(command) + u'\n';
   text += QString::fromLatin1(command.what) + QStringLiteral("\n\noptions:\n");
   for (const OptionEntry& option : kOptions)
-    if (takesOption(command.command, option)) text += optionLine(option);
+    if (option.what && takesOption(command.command, option)) text += optionLine(option);
   return text;
 }
 

@@ -38,8 +38,8 @@ struct CommandEntry {
 
 struct OptionEntry {
   const char* name;
-  const char* value;  ///< null for a switch
-  const char* what;
+  const char* value;                        ///< null for a switch
+  const char* what;                         ///< null for one that the tool gives to itself alone
   std::initializer_list<Command> commands;  ///< empty for all
 };
 

@@ -21,7 +21,8 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication application(argc, argv);
   QGuiApplication::setApplicationName(QStringLiteral("skintool"));
-  const int status = veneerer::runBatch(QGuiApplication::arguments(), stdout, stderr);
+  const int status = veneerer::runBatch(QGuiApplication::arguments(), stdout, stderr,
+                                        QGuiApplication::applicationFilePath());
   // The system takes back all that is left: the toolkit's way out may read the settings of all fonts, only to
   // forget them.
   std::fflush(nullptr);
