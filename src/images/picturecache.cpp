@@ -26,7 +26,7 @@ void PictureCache::keep(const void* key, PictureCopy copy, const QImage& image) 
   const qint64 bytes = std::max<qint64>(1, image.sizeInBytes());
   const bool isWhole = copy == PictureCopy::Whole;
   const qint64 wholes = wholes_.totalCost() + (isWhole ? bytes : 0);
-  copies_.setMaxCost(mostBytes_ - std::min(wholes, mostBytes_ / 8 * 3));
+  copies_.setMaxCost(mostBytes_ - std::min(wholes, mostBytes_ / 4 * 3));
   if (!isWhole) copies_.insert(keyOf(key, copy), new QImage(image), bytes);
   wholes_.setMaxCost(mostBytes_ - copies_.totalCost());
   if (isWhole) wholes_.insert(key, new QImage(image), bytes);

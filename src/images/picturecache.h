@@ -15,11 +15,11 @@ namespace veneerer {
 class Picture;
 
 /// What all decoded pictures together may take, bytes.
-inline constexpr qint64 kDecodedBytes = 512LL * 1024 * 1024;
+inline constexpr qint64 kDecodedBytes = 256LL * 1024 * 1024;
 
 /// Keeps copies of decoded pictures as long as they fit into the budget; those that were asked for least
 /// recently go first. Whole pictures have a share of their own, so that one of them doesn't push many small
-/// copies out: 3 of 8 parts, as much as the largest picture takes, and what the copies leave. Safe to use
+/// copies out: 3 of 4 parts, as much as the largest picture takes, and what the copies leave. Safe to use
 /// from several threads, but for its function.
 class PictureCache {
 public:
