@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """What programs take as processes: the user's and the system's processor time, and the peak of memory.
 
-  processes.py RUNS LABEL COMMAND [LABEL COMMAND]...
+  processes.py RUNS[xSERIES] LABEL COMMAND [LABEL COMMAND]...
 
 The commands, shell words each, run by turns, so that whatever else the machine does falls on all of them. Of
-three series of so many runs the least processor time counts, and the middle series is told. The first command
+three series (or so many) of so many runs the least processor time counts, and the middle series is told. The first command
 is what the others are told beside. A command whose output has lines "WHAT PROCESSOR CLOCK MEMORY" is told by those.
 """
 import os
@@ -44,10 +44,10 @@ def series(runs, commands):
 
 
 def main():
-    runs = int(sys.argv[1])
+    runs, _, count = sys.argv[1].partition('x')
     words = sys.argv[2:]
     commands = [(words[i], shlex.split(words[i + 1])) for i in range(0, len(words), 2)]
-    all_series = [series(runs, commands) for _ in range(SERIES)]
+    all_series = [series(int(runs), commands) for _ in range(int(count or SERIES))]
     first = commands[0][0]
     print('%-44s %10s %8s %10s %8s' % ('', 'processor', 'times', 'clock', 'memory'))
     for label in all_series[0]:
