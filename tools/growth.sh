@@ -52,15 +52,15 @@ for count in 1 2 4 8 16; do
 done >skins
 
 gnuplot <<'END'
-set terminal svg size 900,300 font "sans-serif,11" background "white"
+set terminal svg size 1100,380 font "sans-serif,11" background "white"
 set output "growth.svg"
 set multiplot layout 1,3
-set key top left
+set key below
 set grid
 set yrange [0:*]
-set xlabel "lines of record files"
+set xlabel "thousand lines of record files"
 set ylabel "processor time, ms"
-plot "elements" using 1:2 with linespoints title "dump", "elements" using 1:3 with linespoints title "check"
+plot "elements" using ($1/1e3):2 with linespoints title "dump", "elements" using ($1/1e3):3 with linespoints title "check"
 set xlabel "megapixels of a screen"
 set ylabel "processor time, s"
 set y2label "memory, MB"
