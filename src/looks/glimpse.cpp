@@ -7,9 +7,13 @@
 #include "design/design.h"
 #include "design/screens.h"
 #include "looks/artist.h"
+#include "looks/backdrops.h"
 #include "looks/icons.h"
 #include "looks/plans.h"
+#include "looks/styles.h"
 #include "painting/canvaspainter.h"
+#include "panels/skinproperties.h"
+#include "skin/lists.h"
 
 namespace veneerer::looks {
 
@@ -32,7 +36,8 @@ QSize sizeOf(const Element& element) {
 class Glimpser {
 public:
   Glimpser(const Wish& wish, QSize within)
-      : plan_(planOf(*wish.look, reduced(wish.size), wish.font)),
+      : look_(*wish.look),
+        plan_(planOf(*wish.look, reduced(wish.size), wish.font)),
         scheme_(schemeOf(*wish.look, wish.colours)),
         artist_(*wish.look, plan_, scheme_),
         layout_(wish.look->covers.begin()->layout),
@@ -49,6 +54,10 @@ public:
 private:
   void compose() {
     applyBuiltInDesign(state_);
+    fillFirstLists(state_);
+    fillOtherLists(state_);
+    const SkinProperties choices(state_, Screen());
+    chooseStyles(state_.form4, look_, plan_);
     design::Composer composer(state_, plan_, scheme_.theme);
     design::composeCanvas(composer);
     design::composeCovers(composer, design::coverArea(composer), layout_);
@@ -67,10 +76,18 @@ private:
     show(f.Picture2[2], artist_.logo(sizeOf(f.Picture2[2])));
     for (int i : {0, 1}) show(f.Picture2[i], artist_.bar(sizeOf(f.Picture2[i])));
     show(*f.Picture6, artist_.track(sizeOf(*f.Picture6)));
+    show(*f.Picture18, artist_.track(sizeOf(*f.Picture18)));
+    show(*f.Picture28, artist_.card(sizeOf(*f.Picture28), Icon::Note));
     for (int i = 0; i < 14; ++i) drawMenu(f.lvButtons_H1[i], i);
     for (int i = 0; i < 3; ++i) drawTransport(f.lvButtons_H2[i], i);
     const Picture cover = Picture::drawn(artist_.cover(sizeOf(f.Image2[0]).width()));
-    for (int i = 0; i < layout_.count; ++i) f.Image2[i].setPicture(cover);
+    QImage still = artist_.coverFrame(sizeOf(f.ucAniGIF1[0]).width(), 1).front();
+    still.setColor(0, 0);  // what lets the cover show
+    const Picture frame = Picture::drawn(still);
+    for (int i = 0; i < layout_.count; ++i) {
+      f.Image2[i].setPicture(cover);
+      f.ucAniGIF1[i].setPicture(frame);
+    }
   }
 
   void drawMenu(Button& button, int i) {
@@ -94,7 +111,7 @@ private:
   QImage picture(int entry) {
     if (entry > 0 && entry < 30) {
       PictureBox& screen = state_.form1.Picture1[entry];
-      show(screen, artist_.screen(sizeOf(screen), header_, Icon::None));
+      show(screen, drawBackdrop(artist_, state_, entry, header_));
     }
     const QSize size = QSize(plan_.width, plan_.height).scaled(within_, Qt::KeepAspectRatio);
     QImage image(size, QImage::Format_RGB32);
@@ -110,6 +127,7 @@ private:
     return image;
   }
 
+  const Look& look_;
   design::Plan plan_;
   Scheme scheme_;
   Artist artist_;

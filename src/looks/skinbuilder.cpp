@@ -11,10 +11,12 @@
 #include "forms/counts.h"
 #include "images/pictureencoding.h"
 #include "looks/artist.h"
+#include "looks/backdrops.h"
 #include "looks/looks.h"
 #include "looks/palette.h"
 #include "looks/pictures.h"
 #include "looks/plans.h"
+#include "looks/styles.h"
 #include "looks/texts.h"
 #include "painting/buttonlayout.h"
 #include "painting/pixels.h"
@@ -33,13 +35,10 @@ namespace {
 struct Backdrop {
   int screen;
   const char* file;
-  Icon icon;
 };
 constexpr Backdrop kBackdrops[] = {
-    {1, "history.jpg", Icon::Clock}, {2, "top20.jpg", Icon::Podium},    {3, "search.jpg", Icon::Magnifier},
-    {4, "queue.jpg", Icon::Queue},   {5, "options.jpg", Icon::Sliders}, {6, "decades.jpg", Icon::Calendar},
-    {7, "playlist.jpg", Icon::Note}, {8, "playing.jpg", Icon::Play},    {9, "albums.jpg", Icon::None},
-    {10, "tracks.jpg", Icon::Disc},
+    {1, "history.jpg"}, {2, "top20.jpg"},    {3, "search.jpg"},  {4, "queue.jpg"},  {5, "options.jpg"},
+    {6, "decades.jpg"}, {7, "playlist.jpg"}, {8, "playing.jpg"}, {9, "albums.jpg"}, {10, "tracks.jpg"},
 };
 
 // The other screens' pictures, each with a name of its own.
@@ -47,28 +46,26 @@ struct NamedBackdrop {
   int screen;
   ImageNameSlot ImageNames::*name;
   const char* file;
-  Icon icon;
-  bool header;
 };
 constexpr NamedBackdrop kNamedBackdrops[] = {
-    {11, &ImageNames::SearchResultsName, "results.jpg", Icon::Magnifier, true},
-    {12, &ImageNames::JumpToLetterName, "letters.jpg", Icon::None, false},
-    {13, &ImageNames::GenreName, "genres.jpg", Icon::None, true},
-    {14, &ImageNames::SearchChoiceName, "choice.jpg", Icon::None, false},
-    {15, &ImageNames::PlayOptionsName, "playoptions.jpg", Icon::None, false},
-    {16, &ImageNames::PinScreenName, "pin.jpg", Icon::Lock, false},
-    {17, &ImageNames::DecadesYearName, "years.jpg", Icon::None, false},
-    {18, &ImageNames::DecadesSelectorName, "charts.jpg", Icon::None, false},
-    {19, &ImageNames::DecadesMonthName, "months.jpg", Icon::None, false},
-    {20, &ImageNames::PlaylistLoadName, "load.jpg", Icon::Note, false},
-    {21, &ImageNames::PlaylistSaveName, "save.jpg", Icon::None, false},
-    {22, &ImageNames::NoSearchName, "nosearch.jpg", Icon::None, false},
-    {23, &ImageNames::RequestName, "request.jpg", Icon::None, false},
-    {24, &ImageNames::LoginName, "login.jpg", Icon::None, false},
-    {25, &ImageNames::MemberHomeName, "member.jpg", Icon::None, true},
-    {27, &ImageNames::CollectionsName, "collections.jpg", Icon::None, false},
-    {28, &ImageNames::ConfirmationName, "confirm.jpg", Icon::Check, false},
-    {29, &ImageNames::FreeCreditName, "credit.jpg", Icon::None, false},
+    {11, &ImageNames::SearchResultsName, "results.jpg"},
+    {12, &ImageNames::JumpToLetterName, "letters.jpg"},
+    {13, &ImageNames::GenreName, "genres.jpg"},
+    {14, &ImageNames::SearchChoiceName, "choice.jpg"},
+    {15, &ImageNames::PlayOptionsName, "playoptions.jpg"},
+    {16, &ImageNames::PinScreenName, "pin.jpg"},
+    {17, &ImageNames::DecadesYearName, "years.jpg"},
+    {18, &ImageNames::DecadesSelectorName, "charts.jpg"},
+    {19, &ImageNames::DecadesMonthName, "months.jpg"},
+    {20, &ImageNames::PlaylistLoadName, "load.jpg"},
+    {21, &ImageNames::PlaylistSaveName, "save.jpg"},
+    {22, &ImageNames::NoSearchName, "nosearch.jpg"},
+    {23, &ImageNames::RequestName, "request.jpg"},
+    {24, &ImageNames::LoginName, "login.jpg"},
+    {25, &ImageNames::MemberHomeName, "member.jpg"},
+    {27, &ImageNames::CollectionsName, "collections.jpg"},
+    {28, &ImageNames::ConfirmationName, "confirm.jpg"},
+    {29, &ImageNames::FreeCreditName, "credit.jpg"},
 };
 
 constexpr const char* kMenuPictures[] = {
@@ -150,20 +147,7 @@ private:
   }
 
   void choose() {
-    Form4& f = state_.form4;
-    f.Text1[0].setText(QString::number(plan_.width));
-    f.Text1[1].setText(QString::number(plan_.height));
-    f.Combo1->setText(QStringLiteral("20"));
-    f.Combo7->setText(QString::number(kGenres));
-    const Choices choices = choicesFor(look_, plan_);
-    f.Combo2->select(choices.jumpToLetter);
-    f.Combo5->select(choices.genre);
-    f.Combo6->select(choices.navigation);
-    f.Combo9->select(kAlbumView);
-    f.Combo10->select(choices.player);
-    f.Combo11->select(choices.genre == 0 ? 0 : 1);
-    f.Combo12->select(kTenAlbums);
-    f.Check10->setValue(1);
+    chooseStyles(state_.form4, look_, plan_);
     for (const Family* family : state_.form2.families())
       for (Element* element : family->members())
         if (element->kind() == Kind::CheckBox) cast<CheckBox>(*element).setValue(1);
@@ -188,13 +172,13 @@ private:
     const int header = headerHeight();
     for (const Backdrop& b : kBackdrops) {
       step(imageFile(b.file));
-      state_.names.ImageName[b.screen].setValue(pictures_.add(
-          imageFile(b.file), artist_.screen(sizeOf(state_.form1.Picture1[b.screen]), header, b.icon)));
+      state_.names.ImageName[b.screen].setValue(
+          pictures_.add(imageFile(b.file), drawBackdrop(artist_, state_, b.screen, header)));
     }
     state_.names.ImageName[11].setValue(state_.names.ImageName[9].value());
     for (const NamedBackdrop& b : kNamedBackdrops) {
       step(imageFile(b.file));
-      QImage screen = artist_.screen(sizeOf(state_.form1.Picture1[b.screen]), b.header ? header : 0, b.icon);
+      QImage screen = drawBackdrop(artist_, state_, b.screen, header);
       if (b.screen == kMemberHome) artist_.backWhiteText(screen, design::boxOf(*state_.form1.Label57));
       (state_.names.*b.name)->setValue(pictures_.add(imageFile(b.file), screen));
     }
@@ -373,9 +357,6 @@ private:
   }
 
   void step(const QString& file) { tellStep(goOn_, std::min(done_++, kStepsInAll), kStepsInAll, file); }
-
-  static constexpr int kAlbumView = 8;  // row of the default home screens
-  static constexpr int kTenAlbums = 9;  // row of the other albums; any above it would hide them
 
   static constexpr int kMemberHome = 25;
   static constexpr int kAnyWidth = 4096;

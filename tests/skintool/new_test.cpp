@@ -1,6 +1,8 @@
 // The command new, and what comes of it.
+#include "looks/glimpse.h"
 #include "looks/looks.h"
 #include "skintool/batchrun.h"
+#include "support/pictures.h"
 
 namespace veneerer {
 namespace {
@@ -47,6 +49,33 @@ TEST_F(NewCommand, RefusesWhatCannotBe) {
     EXPECT_TRUE(err.startsWith("skintool: ")) << err.toStdString();
   }
   EXPECT_FALSE(QFileInfo::exists(mine()));
+}
+
+// A glimpse draws in small what the Skin draws in full. Letters fall otherwise on the pixels; grounds,
+// buttons and pictures don't.
+TEST_F(NewCommand, AGlimpseShowsWhatComesOfIt) {
+  constexpr QSize kCoarse(40, 30);
+  const QMap<int, QString> screens{
+      {1, "01 History Screen"}, {9, "09 Album View"}, {15, "15 Play Options Screen"}};
+  const auto coarse = [&](const QImage& image) {
+    return image.scaled(kCoarse, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_RGB32);
+  };
+  for (const looks::Look* look : looks::allLooks()) {
+    ASSERT_EQ(run({"new", mine(), "--look", look->name, "--size", "800x600"}), 0) << err.toStdString();
+    ASSERT_EQ(run({"render", mine(), "--to", path("screens")}), 0);
+    looks::Wish wish = looks::defaultsOf(*look);
+    wish.size = {800, 600};
+    for (auto screen = screens.begin(); screen != screens.end(); ++screen) {
+      const int entry = screen.key();
+      const looks::Glimpse glimpse = looks::glimpseOf(wish, {&entry, 1}, QSize(400, 300));
+      // The window stands out over the screen a little.
+      const QImage drawn = QImage(path("screens/" + *screen + ".png")).copy(0, 0, 800, 600);
+      EXPECT_LT(test::largestDifference(coarse(drawn), coarse(glimpse.screens.front())), 95)
+          << look->name << ' ' << entry;
+    }
+    QDir(mine()).removeRecursively();
+  }
 }
 
 struct Case {

@@ -14,7 +14,8 @@ protected:
   static std::string servedBy(const QString& key) {
     const QString all = u'\n' + test::bytesOf(VENEERER_SOURCE_DIR "/tests/tools/effects.txt");
     QMap<int, bool> sections;
-    for (const QString& line : all.section('\n' + key, 1).section("\n\n", 0, 0).trimmed().split('\n').mid(1))
+    for (const QString& line :
+         all.section('\n' + key + '\n', 1).section("\n\n", 0, 0).trimmed().split('\n', Qt::SkipEmptyParts))
       for (const QString& section : line.trimmed().section("  ", 0, 0).split(' '))
         sections.insert(section.section(':', 0, 0).toInt(), true);
     QStringList numbers;
