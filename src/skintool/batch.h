@@ -9,7 +9,8 @@ namespace veneerer {
 /// Runs one command line (the program's name first). Returns the exit status: 0 done; 1 the Skin or the
 /// script failed, a check found an error or a comparison a difference; 2 wrong use. Output goes to the two
 /// files. The program is the batch tool's own file, by which several Skins are worked on side by side;
-/// without one it is done here, one after the other, and the same comes of it.
+/// without one it is done here, one after the other, and the same comes of it but for a script by standard
+/// input.
 int runBatch(const QStringList& arguments, std::FILE* out, std::FILE* err, const QString& program = {});
 
 }  // namespace veneerer

@@ -85,7 +85,9 @@ void JsonWriter::single(float value) {
   startValue();
   // Nearly all are of a size whose shortest form has no exponent.
   const float size = std::abs(value);
-  if (size > kLeastPlain && size < kMostPlain)
+  if (size == 0 && !std::signbit(value))
+    buffer_ += '0';
+  else if (size > kLeastPlain && size < kMostPlain)
     append(buffer_, value, std::chars_format::fixed);
   else
     buffer_ += byQt(asShortestDouble(value)).constData();

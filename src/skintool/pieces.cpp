@@ -52,7 +52,10 @@ int runPieces(const Arguments& arguments, const RunCommands& runCommands, std::F
     pieces << result.out;
     print(err, result.err);
   });
-  printByBadness(pieces, out);
+  if (arguments.command == Command::Check)
+    printByBadness(pieces, out);
+  else
+    print(out, pieces.join());
   return worst;
 }
 

@@ -8,13 +8,14 @@
 #include <thread>
 #include <vector>
 
+#include "elements/printable.h"
+
 namespace veneerer {
 
 namespace {
 
 CommandResult failed(const QStringList& command, const QString& why) {
-  const QString text = QStringLiteral("%1: %2\n").arg(command.last(), why);
-  return {1, {}, text.toUtf8()};
+  return {1, {}, (printable(command.last()) + QStringLiteral(": ") + why + u'\n').toUtf8()};
 }
 
 CommandResult run(const QString& program, const QStringList& command, const QByteArray& input) {
@@ -34,16 +35,25 @@ CommandResult run(const QString& program, const QStringList& command, const QByt
 
 void runSideBySide(const QString& program, const QList<QStringList>& commands, const QByteArray& input,
                    const std::function<void(const CommandResult&)>& tell) {
-  std::vector<std::promise<CommandResult>> results(static_cast<std::size_t>(commands.size()));
+  std::vector<std::packaged_task<CommandResult()>> runs;
+  std::vector<std::future<CommandResult>> results;
+  for (const QStringList& command : commands) {
+    runs.emplace_back([&program, &command, &input] { return run(program, command, input); });
+    results.push_back(runs.back().get_future());
+  }
   std::atomic<std::size_t> next = 0;
   const auto work = [&] {
-    for (std::size_t at = next++; at < results.size(); at = next++)
-      results[at].set_value(run(program, commands[static_cast<qsizetype>(at)], input));
+    for (std::size_t at = next++; at < runs.size(); at = next++) runs[at]();
   };
   const auto cores = static_cast<std::size_t>(std::max(1, QThread::idealThreadCount()));
   std::vector<std::jthread> threads;
-  while (threads.size() < std::min(cores, results.size())) threads.emplace_back(work);
-  for (std::promise<CommandResult>& result : results) tell(result.get_future().get());
+  while (threads.size() < std::min(cores, runs.size())) threads.emplace_back(work);
+  try {
+    for (std::future<CommandResult>& result : results) tell(result.get());
+  } catch (...) {
+    next = runs.size();  // nobody is told of the others any more
+    throw;
+  }
 }
 
 }  // namespace veneerer
