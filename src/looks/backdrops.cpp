@@ -25,11 +25,20 @@ constexpr Ground kGrounds[] = {
     {25, Icon::None, true},   {27, Icon::None, false},   {28, Icon::Check, false},    {29, Icon::None, false},
 };
 
+const Ground* groundOf(int screen) {
+  const auto* found = std::ranges::find(kGrounds, screen, &Ground::screen);
+  return found == std::end(kGrounds) ? nullptr : found;
+}
+
 }  // namespace
 
+bool hasBackdrop(int screen) {
+  return groundOf(screen) != nullptr;
+}
+
 QImage drawBackdrop(const Artist& artist, const State& state, int screen, int headerHeight) {
-  const auto* ground = std::ranges::find(kGrounds, screen, &Ground::screen);
-  require(ground != std::end(kGrounds), "a screen has a ground");
+  const Ground* ground = groundOf(screen);
+  require(ground != nullptr, "the screen has a ground");
   const design::Box box = design::boxOf(state.form1.Picture1[screen]);
   return artist.screen({box.w, box.h}, ground->hasHeader ? headerHeight : 0, ground->icon);
 }

@@ -1,4 +1,4 @@
-// The grounds of the screens, of which each has an icon of its own or a header.
+// The grounds of the screens, some of them with a header or an icon.
 #pragma once
 
 #include "forms/state.h"
@@ -6,8 +6,11 @@
 
 namespace veneerer::looks {
 
-/// The ground of that member of Picture1, 1 to 29 without the licence, in its size. The height of a header is
-/// in pixels.
+/// Whether the screen of that entry has a ground of its own: all do but the main one, the licence and the two
+/// that lie over others.
+bool hasBackdrop(int screen);
+
+/// The ground of such a screen, in its size. The height of a header is in pixels.
 QImage drawBackdrop(const Artist& artist, const State& state, int screen, int headerHeight);
 
 }  // namespace veneerer::looks

@@ -109,7 +109,7 @@ private:
   }
 
   QImage picture(int entry) {
-    if (entry > 0 && entry < 30) {
+    if (hasBackdrop(entry)) {
       PictureBox& screen = state_.form1.Picture1[entry];
       show(screen, drawBackdrop(artist_, state_, entry, header_));
     }

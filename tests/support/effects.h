@@ -8,6 +8,8 @@
 #include <functional>
 #include <map>
 #include <set>
+#include <utility>
+#include <vector>
 
 #include "forms/state.h"
 #include "support/files.h"
