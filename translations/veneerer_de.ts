@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Mend Caption</source>
-        <translation>Beschriftung richten</translation>
+        <translation>Beschriftung berichtigen</translation>
     </message>
     <message>
         <source>Set Shape to 0</source>
@@ -91,7 +91,7 @@
     </message>
     <message>
         <source>Copy Twin (its file stays)</source>
-        <translation>Zwilling kopieren (die Datei bleibt)</translation>
+        <translation>Gegenstück kopieren (die Datei bleibt)</translation>
     </message>
     <message>
         <source>%1 (its files stay)</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>a check box takes 0, 1 or 2, not %1</source>
-        <translation>ein Kontrollfeld nimmt 0, 1 oder 2, nicht %1</translation>
+        <translation>ein Kontrollkästchen nimmt 0, 1 oder 2, nicht %1</translation>
     </message>
     <message>
         <source>an alignment is 0, 1 or 2, not %1</source>
@@ -790,7 +790,7 @@
     </message>
     <message>
         <source>Take their pictures from all %2 of the family of what is in hand</source>
-        <translation>Die Bilder entfernen, für alle %2 der Familie des aktuellen Elements</translation>
+        <translation>Die Bilder aller %2 der Familie des aktuellen Elements entfernen</translation>
     </message>
     <message>
         <source>Give its left edge to all %2 of the family of what is in hand</source>
@@ -818,7 +818,7 @@
     </message>
     <message>
         <source>Give this top and left to the first twelve screens</source>
-        <translation>Diese Ober- und linke Kante für die ersten zwölf Bildschirme</translation>
+        <translation>Diese obere und linke Kante für die ersten zwölf Bildschirme</translation>
     </message>
     <message>
         <source>Set all %2 of the family of what is in hand onto the grid of X Grid and Y Grid</source>
@@ -885,7 +885,7 @@
     </message>
     <message>
         <source>Stacking</source>
-        <translation>Stapelfolge</translation>
+        <translation>Stapelreihenfolge</translation>
     </message>
     <message>
         <source>%1 elements</source>
@@ -904,7 +904,7 @@
     </message>
     <message>
         <source>The highest contrast, thick edges and nothing behind the texts, for the hard of seeing</source>
-        <translation>Höchster Kontrast, dicke Ränder und nichts hinter den Texten, bei schwachen Augen</translation>
+        <translation>Höchster Kontrast, dicke Ränder und nichts hinter den Texten, für Menschen mit Sehschwäche</translation>
     </message>
     <message>
         <source>Warm copper with sloping buttons, the menu at the foot</source>
@@ -916,7 +916,7 @@
     </message>
     <message>
         <source>Glowing lines on the night, outlined buttons, the menu at the foot</source>
-        <translation>Leuchtende Linien vor der Nacht, umrandete Schaltflächen, das Menü unten</translation>
+        <translation>Leuchtende Linien in der Nacht, umrandete Schaltflächen, das Menü unten</translation>
     </message>
     <message>
         <source>Planks of wood with brass keys and paper fields, the menu at the left</source>
@@ -928,15 +928,15 @@
     </message>
     <message>
         <source>For upright screens: flowing curves, rounded buttons, the menu under the thumbs</source>
-        <translation>Für hohe Bildschirme: fließende Kurven, runde Schaltflächen, das Menü unter den Daumen</translation>
+        <translation>Für Hochkant-Bildschirme: fließende Kurven, abgerundete Schaltflächen, das Menü unter den Daumen</translation>
     </message>
     <message>
         <source>The ground colour %1 becomes %2: no text could be read on it.</source>
-        <translation>Die Hintergrundfarbe %1 wird %2: kein Text wäre darauf lesbar.</translation>
+        <translation>Die Hintergrundfarbe %1 wird zu %2: kein Text wäre darauf lesbar.</translation>
     </message>
     <message>
         <source>The text colour %1 becomes %2: it could not be read on the ground.</source>
-        <translation>Die Textfarbe %1 wird %2: sie wäre auf dem Hintergrund nicht lesbar.</translation>
+        <translation>Die Textfarbe %1 wird zu %2: sie wäre auf dem Hintergrund nicht lesbar.</translation>
     </message>
     <message>
         <source>a Skin has from 640 x 480 to 3840 x 3840 pixels</source>
@@ -1064,7 +1064,7 @@
     </message>
     <message>
         <source>Replace the caption by &quot;%1&quot;: a low quotation mark looks like the comma</source>
-        <translation>Die Beschriftung durch „%1“ ersetzen: ein tiefes Anführungszeichen sieht wie das Komma aus</translation>
+        <translation>Die Beschriftung durch „%1“ ersetzen: ein unteres Anführungszeichen sieht wie das Komma aus</translation>
     </message>
     <message>
         <source>Replace the caption by &quot;%1&quot;</source>
@@ -1104,7 +1104,7 @@
     </message>
     <message>
         <source>stops before an optional block, at %1 of %2 lines</source>
-        <translation>endet vor einem freigestellten Block, bei %1 von %2 Zeilen</translation>
+        <translation>endet vor einem optionalen Block, bei %1 von %2 Zeilen</translation>
     </message>
     <message>
         <source>a byte order mark counts as text</source>
@@ -1196,11 +1196,11 @@
     </message>
     <message>
         <source>the image &quot;%1&quot; can&apos;t be decoded</source>
-        <translation>das Bild „%1“ lässt sich nicht entschlüsseln</translation>
+        <translation>das Bild „%1“ lässt sich nicht dekodieren</translation>
     </message>
     <message>
         <source>the image &quot;%1&quot; is named by its full path, which doesn&apos;t travel with the Skin</source>
-        <translation>das Bild „%1“ ist mit vollem Pfad genannt, der nicht mit dem Skin wandert</translation>
+        <translation>das Bild „%1“ ist mit vollem Pfad genannt, der auf anderen Rechnern nicht gilt</translation>
     </message>
     <message>
         <source>label line</source>
@@ -1300,7 +1300,7 @@
     </message>
     <message>
         <source>After a save no load would take this text.</source>
-        <translation>Nach dem Speichern nähme kein Laden diesen Text an.</translation>
+        <translation>Nach dem Speichern ließe sich dieser Text nicht mehr laden.</translation>
     </message>
     <message>
         <source>After a save &quot;%1&quot; would come back: %2.</source>
@@ -1343,7 +1343,7 @@
     </message>
     <message>
         <source>it can&apos;t be decoded</source>
-        <translation>nicht zu entschlüsseln</translation>
+        <translation>nicht zu dekodieren</translation>
     </message>
     <message>
         <source>its format can&apos;t hold the picture any more</source>
@@ -1537,7 +1537,7 @@
     <name>Skin</name>
     <message>
         <source>No save can write %1: %2.</source>
-        <translation>Kein Speichern kann %1 schreiben: %2.</translation>
+        <translation>%1 kann beim Speichern nicht geschrieben werden: %2.</translation>
     </message>
 </context>
 <context>
@@ -1548,7 +1548,7 @@
     </message>
     <message>
         <source>can&apos;t be decoded</source>
-        <translation>nicht zu entschlüsseln</translation>
+        <translation>nicht zu dekodieren</translation>
     </message>
     <message>
         <source>can&apos;t have %1 by %2 pixels</source>
@@ -1592,7 +1592,7 @@
     </message>
     <message>
         <source>the scale is beyond a Single</source>
-        <translation>der Maßstab übersteigt ein Single</translation>
+        <translation>der Maßstab liegt außerhalb des Bereichs eines Single</translation>
     </message>
     <message>
         <source>the window&apos;s size is beyond 32 bits</source>
@@ -1772,11 +1772,11 @@ Gilt für %2, aber nicht für %3</translation>
     </message>
     <message>
         <source>The disk: what a save would change</source>
-        <translation>Die Platte: was Speichern ändern würde</translation>
+        <translation>Der Datenträger: was Speichern ändern würde</translation>
     </message>
     <message>
         <source>On the Disk</source>
-        <translation>Auf der Platte</translation>
+        <translation>Auf dem Datenträger</translation>
     </message>
     <message>
         <source>After a Save</source>
@@ -2068,7 +2068,7 @@ Gilt für %2, aber nicht für %3</translation>
     </message>
     <message>
         <source>This machine has no &quot;%1&quot;. The label keeps it unless you choose another font.</source>
-        <translation>Dieser Rechner hat keine „%1“. Das Textfeld behält sie, wenn keine andere Schrift gewählt wird.</translation>
+        <translation>Auf diesem Rechner fehlt die Schrift „%1“. Das Textfeld behält sie, wenn keine andere Schrift gewählt wird.</translation>
     </message>
     <message>
         <source>&amp;Contents</source>
@@ -2264,7 +2264,7 @@ Gilt für %2, aber nicht für %3</translation>
     </message>
     <message>
         <source>Move an element, snapping to what lines up</source>
-        <translation>Element verschieben, an Fluchten einrasten</translation>
+        <translation>Element verschieben, an Fluchtlinien einrasten</translation>
     </message>
     <message>
         <source>Drag a handle</source>
@@ -2276,7 +2276,7 @@ Gilt für %2, aber nicht für %3</translation>
     </message>
     <message>
         <source>Right press</source>
-        <translation>Rechts drücken</translation>
+        <translation>Rechte Maustaste drücken</translation>
     </message>
     <message>
         <source>Choose a button&apos;s picture</source>
@@ -2320,11 +2320,11 @@ Gilt für %2, aber nicht für %3</translation>
     </message>
     <message>
         <source>Scroll down, across</source>
-        <translation>Senkrecht, waagerecht rollen</translation>
+        <translation>Senkrecht, waagerecht scrollen</translation>
     </message>
     <message>
         <source>Space or middle button, and drag</source>
-        <translation>Leer- oder mittlere Taste und Ziehen</translation>
+        <translation>Leertaste oder mittlere Maustaste und Ziehen</translation>
     </message>
     <message>
         <source>Pan</source>
@@ -2389,7 +2389,7 @@ Gilt für %2, aber nicht für %3</translation>
     </message>
     <message>
         <source>The language can&apos;t be kept: %1 can&apos;t be written.</source>
-        <translation>Die Sprache lässt sich nicht merken: %1 ist nicht zu schreiben.</translation>
+        <translation>Die Sprachwahl kann nicht gespeichert werden: %1 ist nicht beschreibbar.</translation>
     </message>
     <message>
         <source>Speak this language from the next start on</source>
@@ -2609,7 +2609,7 @@ Nicht zu zeigen</translation>
     </message>
     <message>
         <source>What is wrong or risky in this Skin, hints apart; a click shows all of it</source>
-        <translation>Was in diesem Skin falsch oder gewagt ist, ohne Hinweise; ein Klick zeigt alles</translation>
+        <translation>Was in diesem Skin falsch oder riskant ist, ohne Hinweise; ein Klick zeigt alles</translation>
     </message>
     <message>
         <source>No problems</source>
@@ -2629,11 +2629,11 @@ Nicht zu zeigen</translation>
     </message>
     <message>
         <source>1 &amp;caption falls below a contrast of 4.5, or 3 if large:</source>
-        <translation>1 Beschrift&amp;ung unter dem Kontrast 4.5, groß unter 3:</translation>
+        <translation>1 Beschrift&amp;ung mit Kontrast unter 4.5 (große unter 3):</translation>
     </message>
     <message>
         <source>%1 &amp;captions fall below a contrast of 4.5, or 3 if large:</source>
-        <translation>%1 Beschrift&amp;ungen unter dem Kontrast 4.5, groß unter 3:</translation>
+        <translation>%1 Beschrift&amp;ungen mit Kontrast unter 4.5 (große unter 3):</translation>
     </message>
     <message>
         <source>1 place has another colour now.</source>
@@ -2745,7 +2745,7 @@ Nicht zu zeigen</translation>
     </message>
     <message>
         <source>Give the Skin other colours: replace some, or turn all of them</source>
-        <translation>Dem Skin andere Farben geben: einzelne ersetzen oder alle drehen</translation>
+        <translation>Dem Skin andere Farben geben: einzelne ersetzen oder alle verschieben</translation>
     </message>
     <message>
         <source>Another program changed %1.</source>
