@@ -64,7 +64,8 @@ def mark_of(options, text):
                          capture_output=True)
     if run.returncode:
         return None
-    return CLEAN / hashlib.sha256(settings() + run.stdout).hexdigest()
+    switches = ' '.join(o for o in options if not o.startswith(('-I', '-isystem', '/')))
+    return CLEAN / hashlib.sha256(settings() + switches.encode() + run.stdout).hexdigest()
 
 
 def findings_in(folder, options, sources):

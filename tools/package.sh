@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes the packages in build/packages: a Debian one, looked over by lintian, and a portable archive, which is
-# unpacked and run where it lies and works on the Skins in it.
+# Makes the packages in build/packages: a Debian one, looked over by lintian, and a portable archive, to be
+# unpacked anywhere and run there, on the Skins in it and with the libraries of the system.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh

@@ -25,6 +25,9 @@ def run(command):
     output = process.stdout.read()
     _, status, used = os.wait4(process.pid, 0)
     process.returncode = os.waitstatus_to_exitcode(status)
+    # A check that finds errors ends with 1.
+    if process.returncode not in (0, 1):
+        sys.exit(f'{shlex.join(command)} ended with {process.returncode}')
     clock = (time.monotonic_ns() - started) / 1e6
     if output.startswith(b'question '):
         lines = [line.rsplit(None, 3) for line in output.decode().splitlines()]

@@ -10,16 +10,23 @@ need_packages "${BUILD_PACKAGES[@]}" clang libclang-rt-dev
 # Of each program the tests that let a second thread work: decoding, the rescale, glances at Skins, and all
 # that the windows give away.
 readonly THREADED=(
-  "images PictureTest.*:Decoding.*:*Cache*"
-  "tools *Rescale*:*ImageStep*"
+  "images PictureTest.*:Decoding.*"
+  "tools RescaleTest.*"
   "gallery *"
-  "ui *Fetch*:*Background*:*Glance*:*OpenSkin*:*Compare*:*Export*:*Recolour*:*Outlook*:*Exchange*:*Follow*"
+  "skintool Several.*:SideBySide.*:Rendering.*"
+  "ui Fetching.*:BackgroundWork.*:Opening.*:PictureDialog.*:Compare.*:Exporting.*:Recolour.*:Outlook.*:ExchangeMenu.*:Following.*"
 )
 
-# run_threaded FOLDER FILTER ARGUMENT...
+# run_threaded FOLDER FILTER ARGUMENT...: each pattern must choose some test.
 run_threaded() {
-  local folder=$1 filter=$2
+  local folder=$1 filter=$2 pattern
   shift 2
+  for pattern in ${filter//:/ }; do
+    if [[ -z $("build/tsan/tests/test_$folder" --gtest_filter="$pattern" --gtest_list_tests) ]]; then
+      echo "No test of $folder is called $pattern" >&2
+      return 1
+    fi
+  done
   "build/tsan/tests/test_$folder" --gtest_filter="$filter" --gtest_brief=1 "$@"
 }
 
