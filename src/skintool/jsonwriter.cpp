@@ -118,7 +118,7 @@ void JsonWriter::startLine() {
   if (buffer_.size() >= kFull) flush();
   if (!std::exchange(isFirst_, false)) buffer_ += ',';
   buffer_ += '\n';
-  buffer_.append(static_cast<std::size_t>(4 * depth_), ' ');
+  buffer_.append(4 * static_cast<std::size_t>(depth_), ' ');
 }
 
 void JsonWriter::putText(const QString& text) {
