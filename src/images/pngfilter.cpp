@@ -18,8 +18,10 @@ constexpr std::size_t kBlock = 960;  // bytes, after which a filter that is beat
 // The loops are left to the compiler to do many bytes at a time.
 template <class Predict>
 void subtract(const Byte* line, const Byte* above, Byte* out, std::size_t bytes, Predict predict) {
+  const Byte* left = line - kPixel;
+  const Byte* corner = above - kPixel;
   for (std::size_t i = 0; i < bytes; ++i)
-    out[i] = static_cast<Byte>(line[i] - predict(line[i - kPixel], above[i], above[i - kPixel]));
+    out[i] = static_cast<Byte>(line[i] - predict(left[i], above[i], corner[i]));
 }
 
 // A difference is as large as its way to 0, either way round.
