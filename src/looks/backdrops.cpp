@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "design/composer.h"
 #include "elements/require.h"
+#include "looks/faces.h"
 
 namespace veneerer::looks {
 
@@ -39,8 +39,8 @@ bool hasBackdrop(int screen) {
 QImage drawBackdrop(const Artist& artist, const State& state, int screen, int headerHeight) {
   const Ground* ground = groundOf(screen);
   require(ground != nullptr, "the screen has a ground");
-  const design::Box box = design::boxOf(state.form1.Picture1[screen]);
-  return artist.screen({box.w, box.h}, ground->hasHeader ? headerHeight : 0, ground->icon);
+  return artist.screen(sizeOf(state.form1.Picture1[screen]), ground->hasHeader ? headerHeight : 0,
+                       ground->icon);
 }
 
 }  // namespace veneerer::looks

@@ -6,9 +6,10 @@
 #include "canvas/screens.h"
 #include "design/design.h"
 #include "design/screens.h"
+#include "forms/counts.h"
 #include "looks/artist.h"
 #include "looks/backdrops.h"
-#include "looks/icons.h"
+#include "looks/faces.h"
 #include "looks/plans.h"
 #include "looks/styles.h"
 #include "painting/canvaspainter.h"
@@ -26,11 +27,6 @@ constexpr double kHeight = 540;
 QSize reduced(QSize size) {
   const double factor = std::min(1.0, std::max(kWidth / size.width(), kHeight / size.height()));
   return (QSizeF(size) * factor).toSize();
-}
-
-QSize sizeOf(const Element& element) {
-  const design::Box box = design::boxOf(element);
-  return {box.w, box.h};
 }
 
 class Glimpser {
@@ -63,7 +59,7 @@ private:
     design::composeCovers(composer, design::coverArea(composer), layout_);
     Form1& f = state_.form1;
     header_ = design::partsOf(composer, f.Picture1[1]).header.bottom() + 1;
-    for (int i = 0; i < 28; ++i)
+    for (int i = 0; i < kCovers; ++i)
       for (Element* part : {static_cast<Element*>(&f.Image2[i]), static_cast<Element*>(&f.ucAniGIF1[i]),
                             static_cast<Element*>(&f.Label9[i]), static_cast<Element*>(&f.Label10[i])})
         part->setVisible(i < layout_.count);
@@ -78,8 +74,8 @@ private:
     show(*f.Picture6, artist_.track(sizeOf(*f.Picture6)));
     show(*f.Picture18, artist_.track(sizeOf(*f.Picture18)));
     show(*f.Picture28, artist_.card(sizeOf(*f.Picture28), Icon::Note));
-    for (int i = 0; i < 14; ++i) drawMenu(f.lvButtons_H1[i], i);
-    for (int i = 0; i < 3; ++i) drawTransport(f.lvButtons_H2[i], i);
+    for (int i = 0; i < 14; ++i) showFace(f.lvButtons_H1[i], drawMenuFace(artist_, f.lvButtons_H1[i], i));
+    for (int i = 0; i < 3; ++i) showFace(f.lvButtons_H2[i], drawTransportFace(artist_, f.lvButtons_H2[i], i));
     const Picture cover = Picture::drawn(artist_.cover(sizeOf(f.Image2[0]).width()));
     QImage still = artist_.coverFrame(sizeOf(f.ucAniGIF1[0]).width(), 1).front();
     still.setColor(0, 0);  // what lets the cover show
@@ -90,16 +86,8 @@ private:
     }
   }
 
-  void drawMenu(Button& button, int i) {
-    const QStringList lines = button.caption().split(QStringLiteral("||"));
-    button.setPicture(Picture::drawn(
-        artist_.menuFace(sizeOf(button), kMenuIcons[i], lines, button.foreColor().toQColor())));
-    button.setCaption(QString());
-  }
-
-  void drawTransport(Button& button, int i) {
-    const QColor ink = button.foreColor().toQColor();
-    button.setPicture(Picture::drawn(artist_.iconFace(sizeOf(button), kTransportIcons[i], ink)));
+  static void showFace(Button& button, const QImage& face) {
+    show(button, face);
     button.setCaption(QString());
   }
 

@@ -12,6 +12,7 @@
 #include "images/pictureencoding.h"
 #include "looks/artist.h"
 #include "looks/backdrops.h"
+#include "looks/faces.h"
 #include "looks/looks.h"
 #include "looks/palette.h"
 #include "looks/pictures.h"
@@ -78,11 +79,6 @@ constexpr int kStarWidth = 160;
 constexpr int kStarHeight = 32;
 constexpr int kLargestFrame = 420;
 constexpr int kFrameCount = 8;
-
-QSize sizeOf(const Element& element) {
-  const design::Box box = design::boxOf(element);
-  return {box.w, box.h};
-}
 
 QString imageFile(const char* name) {
   return QString::fromLatin1(name);
@@ -226,21 +222,15 @@ private:
     step(QStringLiteral("menu_history.png"));
     for (int i = 0; i < 14; ++i) {
       Button& button = f.lvButtons_H1[i];
-      name(button, pictures_.add(imageFile(kMenuPictures[i]),
-                                 artist_.menuFace(sizeOf(button), kMenuIcons[i], linesOf(button),
-                                                  button.foreColor().toQColor())));
+      name(button, pictures_.add(imageFile(kMenuPictures[i]), drawMenuFace(artist_, button, i)));
     }
     for (int i = 0; i < 3; ++i) {
       Button& button = f.lvButtons_H2[i];
-      name(button, pictures_.add(
-                       imageFile(kTransportPictures[i]),
-                       artist_.iconFace(sizeOf(button), kTransportIcons[i], button.foreColor().toQColor())));
+      name(button, pictures_.add(imageFile(kTransportPictures[i]), drawTransportFace(artist_, button, i)));
     }
     drawPrize();
     letterCaptions();
   }
-
-  static QStringList linesOf(const Button& button) { return button.caption().split(QStringLiteral("||")); }
 
   // What the picture says takes the place of the caption.
   void name(Button& button, const QString& picture) {
