@@ -10,7 +10,7 @@ need_packages "${BUILD_PACKAGES[@]}" clang libclang-rt-dev
 # Of each program the tests that let a second thread work: decoding, the rescale, glances at Skins, and all
 # that the windows give away.
 readonly THREADED=(
-  "images PictureTest.*:Decoding.*"
+  "images PictureTest.*:Decoding.*:PictureTrials.*"
   "tools RescaleTest.*"
   "gallery *"
   "skintool Several.*:SideBySide.*:Rendering.*"

@@ -13,10 +13,12 @@ namespace {
 
 // What a decoder may allocate at once, for what its format's head doesn't tell.
 constexpr int kDecodeLimitMiB = 192;
+// Of a picture whose pixels nobody sees: all of its file is read for any size, and this takes the least
+// memory.
+constexpr QSize kTrialSize(16, 16);
 // The head of a bitmap in an icon tells no size to go by; so many bytes of it can't hold too many pixels.
 constexpr qint64 kMostIconBytes = 4 * 1024 * 1024;
 
-/// Whether it is a PNG file with 16 bits in a colour's part, or one that comes in passes.
 /// What walking one pixel costs, a byte of grey being 1. A PNG file's bytes are each predicted from their
 /// neighbours, and one that comes in passes is walked anew by each.
 double pixelWork(const QByteArray& bytes) {
@@ -29,6 +31,14 @@ double pixelWork(const QByteArray& bytes) {
   const int channels = colours < std::size(kChannels) ? kChannels[colours] : 4;
   const int bytesOfPixel = channels * (bytes[kDepth] == 16 ? 2 : 1);
   return std::max(1.0, bytesOfPixel / 2.0) * (bytes[kPasses] != 0 ? 2 : 1);
+}
+
+bool fits(QSize size, QSize within) {
+  return size.width() <= within.width() && size.height() <= within.height();
+}
+
+QSize sizeWithin(QSize size, QSize within) {
+  return size.scaled(within, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
 }
 
 /// A picture file's bytes in the hands of the one decoder that its head tells.
@@ -49,7 +59,6 @@ public:
   }
 
   PictureCost cost() const { return {isWithinBounds_, size_, work_}; }
-  QSize size() const { return size_; }
 
   /// An empty size asks for the picture's own.
   QImage read(QSize scaled) {
@@ -59,6 +68,10 @@ public:
     return std::move(image).convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
                                                                     : QImage::Format_RGB32);
   }
+
+  /// Of its own size where it fits. The head of a damaged file may tell another size than its picture has, or
+  /// none; so what comes may be larger.
+  QImage readWithin(QSize within) { return read(fits(size_, within) ? QSize() : sizeWithin(size_, within)); }
 
   QImage readExactly() {
     QImage image = isWithinBounds_ ? reader_.read() : QImage();
@@ -96,14 +109,6 @@ private:
   bool isWithinBounds_ = false;
 };
 
-bool fits(QSize size, QSize within) {
-  return size.width() <= within.width() && size.height() <= within.height();
-}
-
-QSize sizeWithin(QSize size, QSize within) {
-  return size.scaled(within, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
-}
-
 }  // namespace
 
 qint64 pixelsOf(QSize size) {
@@ -119,10 +124,7 @@ QImage decodeExactly(const QByteArray& bytes) {
 }
 
 QImage decodeThumbnail(const QString& path, QSize within) {
-  Decoder decoder(path);
-  const QSize size = decoder.size();
-  const QImage image = decoder.read(fits(size, within) ? QSize() : sizeWithin(size, within));
-  // The head of a damaged file may tell another size than its picture has, or none.
+  const QImage image = Decoder(path).readWithin(within);
   return fits(image.size(), within) ? image
                                     : image.scaled(sizeWithin(image.size(), within), Qt::IgnoreAspectRatio,
                                                    Qt::SmoothTransformation);
@@ -130,6 +132,14 @@ QImage decodeThumbnail(const QString& path, QSize within) {
 
 PictureCost costOfPicture(const QString& path) {
   return Decoder(path).cost();
+}
+
+PictureTrial tryPicture(const QString& path, const std::function<bool(const PictureCost&)>& affords) {
+  Decoder decoder(path);
+  const bool isAfforded = affords(decoder.cost());
+  if (!decoder.cost().canBeDecoded) return PictureTrial::Broken;
+  if (!isAfforded) return PictureTrial::Untried;
+  return decoder.readWithin(kTrialSize).isNull() ? PictureTrial::Broken : PictureTrial::Fine;
 }
 
 }  // namespace veneerer

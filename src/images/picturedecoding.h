@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QSize>
 #include <QString>
+#include <functional>
 
 namespace veneerer {
 
@@ -36,5 +37,12 @@ struct PictureCost {
   qint64 work = 0;  ///< pixels to walk and bytes to read; of the slowest some 50 million take a second
 };
 PictureCost costOfPicture(const QString& path);
+
+/// What trying to decode a file gave; one beyond the allowance isn't tried.
+enum class PictureTrial { Fine, Broken, Untried };
+
+/// Decodes a picture for nothing but to know that it can be, unless it costs more than is afforded: that is
+/// asked once, before its pixels are walked.
+PictureTrial tryPicture(const QString& path, const std::function<bool(const PictureCost&)>& affords);
 
 }  // namespace veneerer

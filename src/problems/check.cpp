@@ -37,16 +37,17 @@ public:
     if (!hasRecords_) warn(QString(), ProblemTexts::tr("no record file is here"));
     checkCovers();
     checkCanvasSize();
-    tellUntriedPictures();
+    Findings findings = settled(skin_, findings_);
+    findings << untriedPictures();
     // A routine without effect names it.
     names_ << QStringLiteral("back.ini");
-    findings_ << strayFiles(skin_.folder, names_);
-    return {findings_, loadedPlaces()};
+    findings << strayFiles(skin_.folder, names_);
+    return {findings, loadedPlaces()};
   }
 
 private:
   void warn(const QString& file, const QString& text) {
-    findings_.append({FindingKind::Warning, file, 0, text});
+    findings_.append(PendingFinding{{FindingKind::Warning, file, 0, text}});
   }
 
   bool isFile(const QString& name) const { return QFileInfo(skin_.folder.file(name)).isFile(); }
@@ -96,7 +97,8 @@ private:
   // Where case counts, search_Choice.ini is written and never read: its faults end no load.
   void checkWritten(const QString& read, const QString& written, const Layout& layout) {
     check(written, layout, false);
-    if (const auto differing = twinFinding(skin_.folder, read, written)) findings_ << *differing;
+    if (const auto differing = twinFinding(skin_.folder, read, written))
+      findings_.append(PendingFinding{*differing});
   }
 
   void check(const QString& name, const Layout& layout, bool isLoaded) {
@@ -120,16 +122,17 @@ private:
     return places;
   }
 
-  void tellUntriedPictures() {
-    if (const int untried = skin_.pictures.untried())
-      warn(QString(),
-           ProblemTexts::tr("all images together take too long to decode: %1 not tried").arg(untried));
+  Findings untriedPictures() const {
+    const int untried = skin_.pictures.untried();
+    if (untried == 0) return {};
+    const QString text = ProblemTexts::tr("all images together take too long to decode: %1 not tried");
+    return {{FindingKind::Warning, {}, 0, text.arg(untried)}};
   }
 
   CheckedSkin skin_;
   QSet<QString> names_;  ///< under which record files are read or written
   bool hasRecords_ = false;
-  Findings findings_;
+  PendingFindings findings_;
 };
 
 }  // namespace

@@ -40,24 +40,30 @@ QString counted(const QString& text, int count, const Layout& layout) {
   return text.arg(count).arg(layout.lineCount());
 }
 
-/// The same few pictures are named again and again.
-QString faultOf(const QString& reference, CheckedSkin& skin) {
-  const auto known = skin.referenceFaults.constFind(reference);
-  if (known != skin.referenceFaults.constEnd()) return *known;
-  return *skin.referenceFaults.insert(reference, referenceDamage(skin.folder, skin.pictures, reference));
+const NamedPicture& expectedPicture(CheckedSkin& skin, const QString& reference) {
+  const auto known = skin.namedPictures.constFind(reference);
+  if (known != skin.namedPictures.constEnd()) return *known;
+  const NamedPicture& named = *skin.namedPictures.insert(reference, namedPicture(skin.folder, reference));
+  if (!named.path.isEmpty()) skin.pictures.expect(named.path);
+  return named;
 }
 
-QString damageOf(const RawValue& value, CheckedSkin& skin) {
+void findDamage(PendingFindings& findings, CheckedSkin& skin, const QString& name, const RawValue& value) {
   const QString damage = rowDamage(value);
-  if (!damage.isEmpty() || !value.row->reference()) return damage;
-  return faultOf(valueText(value.value), skin);
+  if (!damage.isEmpty()) return findings.append(PendingFinding{risky(name, value, damage)});
+  if (!value.row->reference()) return;
+  const QString reference = valueText(value.value);
+  const NamedPicture& named = expectedPicture(skin, reference);
+  if (!named.path.isEmpty())
+    findings.append(PendingFinding{risky(name, value, {}), reference});
+  else if (!named.damage.isEmpty())
+    findings.append(PendingFinding{risky(name, value, named.damage)});
 }
 
-Findings valueFindings(CheckedSkin& skin, const QString& name, const std::vector<RawValue>& values) {
-  Findings findings;
+PendingFindings valueFindings(CheckedSkin& skin, const QString& name, const std::vector<RawValue>& values) {
+  PendingFindings findings;
   for (const RawValue& value : values) {
-    const QString damage = damageOf(value, skin);
-    if (!damage.isEmpty()) findings.append(risky(name, value, damage));
+    findDamage(findings, skin, name, value);
     // What follows a comma stands in the place of others.
     if (!value.endsLine) break;
   }
@@ -66,10 +72,10 @@ Findings valueFindings(CheckedSkin& skin, const QString& name, const std::vector
 
 }  // namespace
 
-Findings checkFile(CheckedSkin& skin, const QString& name, const Layout& layout, FindingKind failure) {
-  Findings findings;
+PendingFindings checkFile(CheckedSkin& skin, const QString& name, const Layout& layout, FindingKind failure) {
+  PendingFindings findings;
   const auto warn = [&](int line, const QString& text) {
-    findings.append({FindingKind::Warning, name, line, text});
+    findings.append(PendingFinding{{FindingKind::Warning, name, line, text}});
   };
   Loading loading{skin.state, skin.folder, skin.screen};
   QByteArray bytes;
@@ -84,11 +90,22 @@ Findings checkFile(CheckedSkin& skin, const QString& name, const Layout& layout,
     if (loading.lines.size() < layout.size())
       warn(0, counted(ProblemTexts::tr("stops before an optional block, at %1 of %2 lines"), lines, layout));
   } catch (const RecordError& error) {
-    findings.append(failed(skin.state, name, error, failure));
+    findings.append(PendingFinding{failed(skin.state, name, error, failure)});
   }
   if (skin.keepsPlaces) skin.places[name].add(layout, name, loading.lines, RecordPlaces::Side::Read);
   if (bytes.startsWith(kByteOrderMark)) warn(1, ProblemTexts::tr("a byte order mark counts as text"));
   return findings << valueFindings(skin, name, rawValues(layout, loading.lines, bytes));
+}
+
+Findings settled(CheckedSkin& skin, const PendingFindings& pending) {
+  Findings findings;
+  for (const auto& [finding, reference] : pending) {
+    findings.append(finding);
+    if (!reference.isEmpty())
+      findings.last().text = referenceDamage(skin.namedPictures.value(reference), skin.pictures, reference);
+    if (findings.last().text.isEmpty()) findings.removeLast();
+  }
+  return findings;
 }
 
 }  // namespace veneerer

@@ -125,7 +125,7 @@ void ProblemsWatch::awaitSlots(const Element& element) {
 Findings ProblemsWatch::referenceFindings(const Element& element) {
   if (element.kind() != Kind::ImageSlot) return {};
   const auto& slot = cast<ImageSlot>(element);
-  const QString damage = referenceDamage(folder_, trials_, slot.text());
+  const QString damage = referenceDamage(namedPicture(folder_, slot.text()), trials_, slot.text());
   if (damage.isEmpty()) return {};
   Finding finding = judge_->found(FindingKind::Warning, element, Property::Name, damage);
   if (const Element* shows = references_.onCanvas(slot)) finding.element = shows->key();

@@ -37,22 +37,25 @@ QString missing(const SkinFolder& folder, const QString& reference) {
 
 }  // namespace
 
-QString referenceDamage(const SkinFolder& folder, PictureTrials& pictures, const QString& reference) {
+NamedPicture namedPicture(const SkinFolder& folder, const QString& reference) {
   if (reference.isEmpty()) return {};
   const QString found = folder.resolve(reference);
   // The grab of the player's picture leaves such a name.
   const bool isFullPath = found.isEmpty() && reference.startsWith(u'/') && QFileInfo(reference).isFile();
   const QString path = isFullPath ? reference : found;
   const QString shown = excerpt(reference, kLongestPath);
-  if (path.isEmpty()) return missing(folder, reference);
+  if (path.isEmpty()) return {{}, missing(folder, reference)};
   if (!folder.contains(path))
-    return ProblemTexts::tr("the image \"%1\" lies outside the Skin's folder").arg(shown);
-  if (pictures.of(path) == PictureTrial::Broken)
-    return ProblemTexts::tr("the image \"%1\" can't be decoded").arg(shown);
-  if (isFullPath)
-    return ProblemTexts::tr("the image \"%1\" is named by its full path, which doesn't travel with the Skin")
-        .arg(shown);
-  return {};
+    return {{}, ProblemTexts::tr("the image \"%1\" lies outside the Skin's folder").arg(shown)};
+  if (!isFullPath) return {path, {}};
+  return {path,
+          ProblemTexts::tr("the image \"%1\" is named by its full path, which doesn't travel with the Skin")
+              .arg(shown)};
+}
+
+QString referenceDamage(const NamedPicture& named, PictureTrials& pictures, const QString& reference) {
+  if (named.path.isEmpty() || pictures.of(named.path) != PictureTrial::Broken) return named.damage;
+  return ProblemTexts::tr("the image \"%1\" can't be decoded").arg(excerpt(reference, kLongestPath));
 }
 
 }  // namespace veneerer

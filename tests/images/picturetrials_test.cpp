@@ -10,27 +10,52 @@
 namespace veneerer {
 namespace {
 
-TEST(PictureTrials, DecodeEachFileOnceAndStopAtTheirAllowance) {
-  const QTemporaryDir folder;
-  const auto file = [&](const char* name, const QByteArray& bytes) {
-    test::writeBytes(folder.filePath(QString::fromLatin1(name)), bytes);
-    return folder.filePath(QString::fromLatin1(name));
-  };
+struct TriedFile {
+  QString path;
+  PictureTrial result;  ///< with an allowance of 30,000, asked in this order
+};
+
+QList<TriedFile> writeFiles(const QTemporaryDir& folder) {
   const QByteArray png = test::flatPng({100, 100});
   QByteArray damaged = png;
   damaged[damaged.indexOf("IDAT") + 8] = '!';
-  const QString first = file("1", png);
+  const std::pair<QByteArray, PictureTrial> each[] = {
+      {png, PictureTrial::Fine},
+      {damaged, PictureTrial::Broken},
+      {test::scannedJpeg(200), PictureTrial::Broken},
+      {"no picture", PictureTrial::Broken},
+      {png, PictureTrial::Untried},
+      {test::flatPng({2, 2}), PictureTrial::Untried},  // nothing is read any more
+  };
+  QList<TriedFile> files;
+  for (const auto& [bytes, result] : each) {
+    files.append({folder.filePath(QString::number(files.size())), result});
+    test::writeBytes(files.last().path, bytes);
+  }
+  return files;
+}
+
+TEST(PictureTrials, DecodeEachFileOnceAndStopAtTheirAllowance) {
+  const QTemporaryDir folder;
+  const QList<TriedFile> files = writeFiles(folder);
   PictureTrials trials(30'000);
-  EXPECT_EQ(trials.of(first), PictureTrial::Fine);
-  EXPECT_EQ(trials.of(file("2", damaged)), PictureTrial::Broken);
-  EXPECT_EQ(trials.of(file("3", test::scannedJpeg(200))), PictureTrial::Broken);
-  EXPECT_EQ(trials.of(file("4", "no picture")), PictureTrial::Broken);
-  EXPECT_EQ(trials.untried(), 0);
-  EXPECT_EQ(trials.of(file("5", png)), PictureTrial::Untried);
-  EXPECT_EQ(trials.of(file("6", test::flatPng({2, 2}))), PictureTrial::Untried) << "nothing is read any more";
-  test::writeBytes(first, damaged);
-  EXPECT_EQ(trials.of(first), PictureTrial::Fine) << "it was tried";
+  for (const TriedFile& file : files) EXPECT_EQ(trials.of(file.path), file.result) << qPrintable(file.path);
+  test::writeBytes(files.first().path, "no picture");
+  EXPECT_EQ(trials.of(files.first().path), PictureTrial::Fine) << "it was tried";
   EXPECT_EQ(trials.untried(), 2);
+  trials.forget(files.first().path);
+  EXPECT_EQ(trials.of(files.first().path), PictureTrial::Untried);
+}
+
+TEST(PictureTrials, SpendTheAllowanceInTheOrderOfExpectationsOnWhateverThread) {
+  const QTemporaryDir folder;
+  const QList<TriedFile> files = writeFiles(folder);
+  for (int round = 0; round < 50; ++round) {
+    PictureTrials trials(30'000);
+    for (const TriedFile& file : files) trials.expect(file.path);
+    for (qsizetype i = files.size() - 1; i >= 0; --i)
+      EXPECT_EQ(trials.of(files[i].path), files[i].result) << i;
+  }
 }
 
 }  // namespace
