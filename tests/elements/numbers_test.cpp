@@ -48,6 +48,7 @@ TEST(Numbers, PlainFormAndSignBlank) {
   EXPECT_EQ(plainNumber(1.5), u"1.5");
   EXPECT_EQ(plainNumber(0.1), u".1");
   EXPECT_EQ(plainNumber(123456789012345.0), u"123456789012345");
+  EXPECT_EQ(plainNumber(0.9999999999999999), u"1");
   EXPECT_EQ(plainNumber(1e15), u"1E+15");
   EXPECT_EQ(plainNumber(-0.0), u"0");
   EXPECT_EQ(signedNumber(5), u" 5");

@@ -9,10 +9,12 @@
 
 #include "looks/colourtable.h"
 #include "looks/gifwriter.h"
+#include "looks/motifs.h"
 #include "looks/palette.h"
 #include "looks/plans.h"
 #include "looks/skinbuilder.h"
 #include "support/designchecks.h"
+#include "support/files.h"
 #include "support/pictures.h"
 
 namespace veneerer::looks {
@@ -78,7 +80,13 @@ TEST(Looks, AreTheShippedSkins) {
     if (!look->shipped) continue;
     ++shipped;
     const QString folder = QStringLiteral(VENEERER_SOURCE_DIR "/Skins/") + look->shipped + '/';
-    for (const NewFile& file : drawSkin(defaultsOf(*look)).files) expectShipped(file, folder);
+    QStringList drawn;
+    for (const NewFile& file : drawSkin(defaultsOf(*look)).files) {
+      expectShipped(file, folder);
+      drawn.append(file.name);
+    }
+    drawn.sort();
+    EXPECT_EQ(drawn, test::filesBelow(folder).keys());
   }
   EXPECT_EQ(shipped, 3);
 }
@@ -97,6 +105,36 @@ TEST(Looks, AreMadeWholeOrNotAtAll) {
   EXPECT_EQ(makeSkin(disk, root.filePath("mine"), wish), QStringList());
   EXPECT_GT(test::filesBelow(root.path()).size(), 100);
   EXPECT_THROW(makeSkin(disk, root.filePath("mine"), wish), ExchangeError);
+}
+
+// How much of each of 6 by 4 fields a motif covers, from a for nothing to z for all.
+std::string coverageOf(Motif motif) {
+  QImage image(240, 160, QImage::Format_RGB32);
+  image.fill(Qt::black);
+  QPainter painter(&image);
+  paintMotif(painter, image.rect(), motif, Qt::white);
+  painter.end();
+  std::string rows;
+  for (int y = 0; y < 160; y += 40) {
+    for (int x = 0; x < 240; x += 40) {
+      double light = 0;
+      for (int i = 0; i < 1600; ++i) light += qGray(image.pixel(x + i % 40, y + i / 40)) / 255.0;
+      rows += static_cast<char>('a' + static_cast<int>(light * 25 / 1600));
+    }
+    rows += ' ';
+  }
+  return rows;
+}
+
+TEST(Motifs, CoverTheirPartsOfAPicture) {
+  EXPECT_EQ(coverageOf(Motif::Rings), "ddeeee eddeee eeedee eeeeee ");
+  EXPECT_EQ(coverageOf(Motif::Slats), "jjjmjl jlmjij jjmjlg lmjijg ");
+  EXPECT_EQ(coverageOf(Motif::Bubbles), "aaaaaf aaaaau haaaqy zognzz ");
+  EXPECT_EQ(coverageOf(Motif::Bands), "aaaaaa aaaaah aaaadr aaabsc ");
+  EXPECT_EQ(coverageOf(Motif::Grid), "aaaaaa aaaaaa ghgghg dddddd ");
+  EXPECT_EQ(coverageOf(Motif::Grain), "eeeeee eeedee eeeeee eeeeee ");
+  EXPECT_EQ(coverageOf(Motif::Plain), "aaaaaa aaaaaa aaaaaa aaaaaa ");
+  EXPECT_EQ(coverageOf(Motif::Waves), "aaaaaa aaaaaa njlqtq zzzzzz ");
 }
 
 TEST(Sizes, AreThoseOfScreens) {

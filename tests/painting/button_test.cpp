@@ -122,6 +122,18 @@ TEST_F(ButtonPainting, ACustomShapeFollowsItsPicture) {
   EXPECT_EQ(paint().pixelColor(24, 15), Qt::red);
 }
 
+TEST_F(ButtonPainting, ACustomShapeMayMoveAsAWholeWhenItIsPressed) {
+  button.setPicture(Picture::drawn(disc(QSize(20, 20))));
+  button.setButtonShape(8);
+  button.setCaption("OK");
+  const QImage still = paint();
+  ASSERT_TRUE(button.set(Property::CustomClick, true));
+  QImage moved(kSize, QImage::Format_RGB32);
+  moved.fill(Qt::magenta);
+  QPainter(&moved).drawImage(1, 1, still);
+  EXPECT_EQ(paint({.pressed = true}), moved) << "the caption goes no further than the face";
+}
+
 TEST_F(ButtonPainting, PicturesFollowTheirSize) {
   button.setPicture(filled(Qt::blue));
   button.setButtonStyle(2);  // no edges

@@ -68,7 +68,7 @@ protected:
           &*form6.Command13})
       acts << std::pair(command->key(), [this, command] { click(*command); });
     acts << std::pair(form6.Command14->key(), [this] {
-      world.dialogs.fonts.enqueue(FontChoice{"Times", 41});
+      world.dialogs.fonts.enqueue(FontChoice{"Times", 41, true, true, true, true});
       click(*form6.Command14);
       world.dialogs.fonts.clear();
     });

@@ -48,6 +48,17 @@ TEST_F(ServiceTest, WhatIsToldToServeASectionDoes) {
     }
 }
 
+TEST_F(ServiceTest, FieldsAreGreyWithoutAUseForThemAndCommandsNever) {
+  current(0);
+  EXPECT_FALSE(servesWhatIsInHand(state, *form6.Text4));
+  EXPECT_TRUE(servesWhatIsInHand(state, *form6.Command11));
+  EXPECT_TRUE(servesWhatIsInHand(state, *form6.Picture2));
+  EXPECT_TRUE(servesWhatIsInHand(state, *form6.Check1)) << "it asks for no Section";
+  current(22, 4);
+  EXPECT_TRUE(servesWhatIsInHand(state, *form6.Text4));
+  EXPECT_FALSE(servesWhatIsInHand(state, *form6.Text6.find(1)));
+}
+
 TEST_F(ServiceTest, AToolTipTellsOfWhatIsInHand) {
   const auto tip = [&](const Element& control) { return toolTipOf(state, control).toStdString(); };
   EXPECT_EQ(tip(*form6.Text9.find(0)),
