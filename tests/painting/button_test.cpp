@@ -290,6 +290,20 @@ TEST_F(ButtonPainting, HoverColoursActUnlessTheyAreLocked) {
   EXPECT_EQ(paint().pixelColor(5, 15), Qt::green);
 }
 
+TEST(CustomOutline, LosesItsPaleFringeAndNoMore) {
+  QImage picture(16, 16, QImage::Format_RGB32);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  painter.fillRect(3, 3, 10, 10, QColor(200, 200, 200));  // two pixels wide; one of them is fringe
+  painter.fillRect(5, 5, 6, 6, Qt::red);
+  painter.end();
+  const QImage cut = cutOut(picture);
+  EXPECT_EQ(qAlpha(cut.pixel(2, 8)), 0);
+  EXPECT_EQ(qAlpha(cut.pixel(3, 8)), 0);
+  EXPECT_EQ(cut.pixelColor(4, 8), QColor(200, 200, 200));
+  EXPECT_EQ(cut.pixelColor(8, 8), Qt::red);
+}
+
 TEST(CustomOutline, CopesWithAnyPicture) {
   QImage plain(3000, 5, QImage::Format_RGB32);
   plain.fill(Qt::red);
