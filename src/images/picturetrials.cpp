@@ -1,6 +1,7 @@
 #include "images/picturetrials.h"
 
 #include <algorithm>
+#include <new>
 
 namespace veneerer {
 
@@ -60,12 +61,16 @@ bool PictureTrials::tryNext() {
 
 PictureTrial PictureTrials::tried(const QString& path, std::unique_lock<std::mutex>& turn) {
   if (left_ <= 0) return PictureTrial::Untried;
-  return tryPicture(path, [&](const PictureCost& cost) {
-    left_ -= cost.work;
-    const bool isAfforded = left_ >= 0;
-    if (pixelsOf(cost.size) <= kMostBeside) turn.unlock();
-    return isAfforded;
-  });
+  try {
+    return tryPicture(path, [&](const PictureCost& cost) {
+      left_ -= cost.work;
+      const bool isAfforded = left_ >= 0;
+      if (pixelsOf(cost.size) <= kMostBeside) turn.unlock();
+      return isAfforded;
+    });
+  } catch (const std::bad_alloc&) {
+    return PictureTrial::Untried;
+  }
 }
 
 void PictureTrials::tryExpected(const std::stop_token& end) {
