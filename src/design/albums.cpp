@@ -93,7 +93,7 @@ void composeAlbumView(Composer& c) {
   c.button(f.lvButtons_H3[0], screen, body.cutLeft(c.px(52), c.px(8)), QStringLiteral("Back"), c.theme.plain);
   c.button(f.lvButtons_H3[2], screen, body.cutRight(c.px(52), c.px(8)), QStringLiteral("Next"),
            c.theme.plain);
-  composeCovers(c, coverArea(c), CoverLayout());
+  composeCovers(c, coverArea(c), {.columns = 5});
   composeSlider(c, 0, body.cutRight(sliderWidth(c)));
   composeJump(c, foot);
 }

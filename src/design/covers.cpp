@@ -92,9 +92,8 @@ int columnsFor(const Composer& c, const Box& area, const CoverLayout& layout) {
 }  // namespace
 
 void composeCovers(Composer& c, Box area, const CoverLayout& layout) {
-  const Box featured =
-      layout.featured ? area.cutLeft(area.w / 3, c.px(16)) : area.centred(area.w / 3, area.h * 2 / 3);
-  composeFeatured(c, featured);
+  // No layout shows the featured album; it waits in the middle for an operator who does.
+  composeFeatured(c, area.centred(area.w / 3, area.h * 2 / 3));
   const int columns = columnsFor(c, area, layout);
   const int rows = (layout.count + columns - 1) / columns;
   const Grid grid(area, columns, rows, c.px(10), c.px(8));

@@ -7,9 +7,8 @@ namespace veneerer::design {
 
 struct CoverLayout {
   int count = 10;            ///< covers in use, 1 to 28
-  int columns = 5;           ///< 0 for what makes the covers large; ignored when they overlap
+  int columns = 0;           ///< 0 for what makes the covers large; ignored when they overlap
   bool dates = false;        ///< room for the year and the genre of each
-  bool featured = false;     ///< room for the featured album at the left
   bool overlapping = false;  ///< side by side, smaller and lower behind the middle one
 };
 

@@ -69,8 +69,8 @@ struct Choices {
 
 struct NamedCovers {
   design::CoverLayout layout;
-  bool frames;      ///< a frame round each cover
-  bool seeThrough;  ///< captions without a ground
+  bool frames = false;      ///< a frame round each cover
+  bool seeThrough = false;  ///< captions without a ground
 };
 
 /// What everything else is mixed from.

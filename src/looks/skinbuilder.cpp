@@ -313,7 +313,6 @@ private:
     f.Check3->setValue(covers.seeThrough ? 1 : 0);
     f.Check5->setValue(covers.frames ? 1 : 0);
     f.Check6->setValue(covers.layout.dates ? 1 : 0);
-    f.Check7->setValue(covers.layout.featured ? 1 : 0);
     f.Check11->setValue(covers.layout.overlapping ? 1 : 0);
     const QString file =
         QStringLiteral("%1 %2.cov")

@@ -22,7 +22,7 @@ const Look kClearView = {
     .fields = Tone::Paper,
     .lines = 100,
     .choices = {.jumpToLetter = 0, .navigation = 0, .genre = 0, .player = 1},
-    .covers = {{{6, 0, false, false, false}, true, false}, {{8, 0, false, false, false}, true, false}},
+    .covers = {{.layout = {.count = 6}, .frames = true}, {.layout = {.count = 8}, .frames = true}},
     .font = "Arial",
     .colours = {{255, 214, 0}, {0, 0, 0}, {255, 255, 255}},
     .size = {1280, 1024},

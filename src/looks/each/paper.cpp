@@ -21,7 +21,7 @@ const Look kPaper = {
     .fields = Tone::Ground,
     .lines = 25,
     .choices = {.jumpToLetter = 0, .navigation = 0, .genre = 0, .player = 1},
-    .covers = {{{10, 0, false, false, false}, false, true}, {{18, 0, false, false, false}, false, true}},
+    .covers = {{.layout = {.count = 10}, .seeThrough = true}, {.layout = {.count = 18}, .seeThrough = true}},
     .font = "Arial",
     .colours = {{214, 62, 52}, {246, 244, 239}, {34, 36, 42}},
     .size = {1280, 800},
