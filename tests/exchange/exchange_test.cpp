@@ -267,7 +267,8 @@ TEST_F(Exchange, ASkinThatIsThereAlreadyStays) {
 
 TEST_F(Exchange, BytesAndFilesAreCountedAsTheyCome) {
   const ExchangeLimits limits{3, 4'000'000};
-  EXPECT_EQ(unpackFailure(zipOf({{"T/a"}, {"T/b"}, {"T/c"}}), limits), QString());
+  const auto exactly = zipOf({{"T/a", QByteArray(4'000'000, '\0')}, {"T/b", {}}, {"T/c", {}}});
+  EXPECT_EQ(unpackFailure(exactly, limits), QString());
   const QList<test::ZipEntry> bombs[] = {
       {{"U/a"}, {"U/b"}, {"U/c"}, {"U/d"}},
       {{"U/a"}, {"U/1/2/3/4/b"}},
