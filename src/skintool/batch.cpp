@@ -2,6 +2,8 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QFontDatabase>
+#include <thread>
 
 #include "designer/designer.h"
 #include "elements/printable.h"
@@ -35,11 +37,18 @@ QString readScript(const QString& name) {
   return QString::fromUtf8(file.readAll());
 }
 
+bool needsFonts(Command command) {
+  return command == Command::Dump || command == Command::Render || command == Command::Sheet ||
+         command == Command::Preview;
+}
+
 /// One run on one Skin that is loaded.
 class BatchRun {
 public:
   explicit BatchRun(const Arguments& arguments)
       : arguments_(arguments),
+        fonts_(needsFonts(arguments.command) ? std::jthread([] { QFontDatabase::families(); })
+                                             : std::jthread()),
         settings_(arguments.skins.first()),
         platform_{dialogs_, settings_, disk_, arguments.screen, programFolder(arguments.skins.first())},
         designer_(platform_) {}
@@ -100,6 +109,8 @@ private:
   }
 
   const Arguments& arguments_;
+  /// The toolkit learns of the fonts in about the time in which a Skin is loaded, so it does that meanwhile.
+  std::jthread fonts_;
   ScriptedDialogs dialogs_{ScriptedDialogs::Unexpected::Fail};
   BatchSettings settings_;
   Disk disk_;
