@@ -52,7 +52,7 @@ bool RecordWorld::reads(const Layout& layout, const QByteArray& bytes) {
 
 Findings RecordWorld::check(const Layout& layout, const QByteArray& bytes) {
   test::writeBytes(skin_.folder.file(layout.fileName()), bytes);
-  return checkFile(skin_, layout.fileName(), layout, FindingKind::Error);
+  return settled(skin_, checkFile(skin_, layout.fileName(), layout, FindingKind::Error));
 }
 
 }  // namespace veneerer::fuzz

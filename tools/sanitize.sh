@@ -14,7 +14,7 @@ readonly THREADED=(
   "images PictureTest.*:Decoding.*:PictureTrials.*"
   "tools RescaleTest.*"
   "gallery *"
-  "skintool Several.*:Rendering.*:Check.*:Skintool.*"
+  "skintool Rendering.*:Check.*:Skintool.*"
   "ui Fetching.*:BackgroundWork.*:Opening.*:PictureDialog.*:Compare.*:Exporting.*:Recolour.*:Outlook.*:ExchangeMenu.*:Following.*"
 )
 
