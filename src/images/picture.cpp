@@ -178,6 +178,13 @@ void PictureStore::fetchWith(std::function<void(const Picture&, const PictureNee
   entries_->cache->fetch = std::move(fetch);
 }
 
+void PictureStore::look(const QList<Picture>& pictures, qint64 enoughBytes) {
+  QList<const void*> keys;
+  for (const Picture& picture : pictures)
+    if (!picture.isNull()) keys.append(reinterpret_cast<const void*>(picture.id()));
+  entries_->cache->look(keys, enoughBytes);
+}
+
 qint64 PictureStore::decodedBytes() const {
   return entries_->cache->bytes();
 }

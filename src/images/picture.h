@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QImage>
+#include <QList>
 #include <QString>
 #include <functional>
 #include <memory>
@@ -82,6 +83,11 @@ public:
   /// that somebody calls image() for that need on another thread and may wait a moment for it. A null
   /// function has them decoded on the spot again.
   void fetchWith(std::function<void(const Picture&, const PictureNeed&)> fetch);
+
+  /// A new sight, in which those pictures are seen at once. From the second one on what isn't asked for in
+  /// the last two goes where all decoded pixels take more than that; without a word only the budget bounds
+  /// them.
+  void look(const QList<Picture>& pictures, qint64 enoughBytes);
 
   /// What the decoded pictures take now, bytes.
   qint64 decodedBytes() const;

@@ -107,6 +107,32 @@ TEST_F(PictureTest, TheLeastRecentlySeenGoesFirst) {
   EXPECT_EQ(fetched, QList<QString>{path("b.png")});
 }
 
+TEST_F(PictureTest, BeyondWhatIsEnoughOnlyWhatTheLastTwoSightsShowedIsKept) {
+  constexpr qint64 kBytes = 4 * 30 * 20;
+  constexpr qint64 kEnough = 2 * kBytes;
+  PictureStore roomy(6 * kBytes);
+  QList<Picture> pictures;
+  for (int i = 0; i < 8; ++i) {
+    test::writePicture(path("%1.png").arg(i), 30, 20, Qt::red);
+    pictures.append(roomy.load(path("%1.png").arg(i)));
+  }
+  roomy.look({pictures[0]}, kEnough);
+  for (int i = 0; i < 4; ++i) pictures[i].image();
+  EXPECT_EQ(roomy.decodedBytes(), 4 * kBytes) << "a sight may take more than enough";
+  roomy.look({pictures[0]}, kEnough);
+  pictures[4].image();
+  EXPECT_EQ(roomy.decodedBytes(), 5 * kBytes) << "and so may the way back";
+  roomy.look({pictures[0], Picture()}, kEnough);
+  EXPECT_EQ(roomy.decodedBytes(), kEnough);
+  QList<Picture> fetched;
+  roomy.fetchWith([&](const Picture& picture, const PictureNeed&) { fetched.append(picture); });
+  for (const Picture& picture : pictures) picture.shown(kSize);
+  EXPECT_EQ(fetched, pictures.sliced(1, 3) + pictures.sliced(5)) << "what was seen all the time stays";
+  roomy.fetchWith({});
+  for (const Picture& picture : pictures) picture.image();
+  EXPECT_EQ(roomy.decodedBytes(), 6 * kBytes) << "the budget bounds a sight, too";
+}
+
 TEST_F(PictureTest, OfAVeryLargeOneOnlyWhatIsShownIsKept) {
   const QSize large(4000, 3000);
   test::writeBytes(path("a.png"), test::flatPng(large));
