@@ -10,6 +10,10 @@
 #include "records/recorderror.h"
 #include "ui/texts.h"
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace veneerer {
 
 namespace {
@@ -23,9 +27,20 @@ void addCopyButton(QMessageBox& box, const QString& text) {
                    [text] { QGuiApplication::clipboard()->setText(text); });
 }
 
+// Left to itself, glibc learns from the first large picture that is let go to take the next ones from its
+// heap, where the small things between them keep the memory from going back to the system.
+void giveLargePicturesBack() {
+#ifdef __GLIBC__
+  constexpr int kLarge = 1024 * 1024;  // bytes
+  mallopt(M_MMAP_THRESHOLD, kLarge);
+  mallopt(M_TRIM_THRESHOLD, 2 * kLarge);
+#endif
+}
+
 }  // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+  giveLargePicturesBack();
   setApplicationName(QStringLiteral("veneerer"));
   // There is no display name: the toolkit would hang it behind the title of every window.
   setApplicationVersion(programVersion());
