@@ -22,6 +22,7 @@ int percentWithin(int room, int side) {
 
 JukeboxScreen::JukeboxScreen(const Ui& ui, int entry)
     : state_(ui.hands.state()),
+      pictures_(ui.pictures),
       canvas_(canvasSize(state_.form1, ui.hands.screen()).pixels),
       entry_(entry),
       scale_(1 / ui.hands.screen().twipsPerPixelX(), 1 / ui.hands.screen().twipsPerPixelY()),
@@ -45,6 +46,7 @@ JukeboxScreen::JukeboxScreen(const Ui& ui, int entry)
 void JukeboxScreen::goTo(int entry) {
   entry_ = entry;
   restage();
+  pictures_.lookAt(stage_);
   Q_EMIT went(entry);
 }
 

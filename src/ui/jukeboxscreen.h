@@ -47,6 +47,7 @@ private:
   void repaintElement(const Element* element);
 
   State& state_;
+  PictureFetcher& pictures_;
   QSize canvas_;  ///< pixels at 100 %
   int entry_;
   Stage stage_;

@@ -24,6 +24,7 @@ public:
 
 protected:
   void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
 private:
   void addItems();
@@ -38,6 +39,7 @@ private:
   void showChosen();
 
   Operator& hands_;
+  PictureFetcher& pictures_;
   QListWidget* screens_;
   QTimer idle_;
   QSet<int> changed_;  ///< the entries of screens that something changed on

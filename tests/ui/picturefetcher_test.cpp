@@ -73,6 +73,35 @@ TEST_F(Fetching, PicturesOutliveWhoFetchesThem) {
   EXPECT_EQ(other.shown(kLarge).size(), kLarge) << "decoded on the spot";
 }
 
+TEST_F(Fetching, LeafingLetsPicturesGoButNotThoseOfTheLastScreens) {
+  constexpr int kScreens = 12;
+  const QByteArray png = test::flatPng(QSize(1600, 1200));
+  PictureStore& pictures = state().pictures;
+  pictures.fetchWith({});
+  for (int entry = 0; entry < kScreens; ++entry) {
+    test::writeBytes(path(QString::number(entry)), png);
+    form1().Picture1[entry].setPicture(pictures.load(path(QString::number(entry))));
+  }
+  const auto lookAt = [&](int entry) {
+    form6().Combo6->select(entry);
+    QTest::qWait(1);
+    canvas().grab();
+  };
+  qint64 most = 0;
+  for (int entry = 0; entry < kScreens; ++entry) {
+    lookAt(entry);
+    most = std::max(most, pictures.decodedBytes());
+  }
+  const qint64 canvasBytes = 4LL * canvas().sizeHint().width() * canvas().sizeHint().height();
+  EXPECT_LE(most, 16 * 1024 * 1024 + 3 * canvasBytes);
+  QList<QString> fetched;
+  pictures.fetchWith([&](const Picture& picture, const PictureNeed&) { fetched.append(picture.path()); });
+  for (const int entry : {kScreens - 2, kScreens - 1, kScreens - 2}) lookAt(entry);
+  EXPECT_EQ(fetched, QList<QString>());
+  lookAt(1);
+  EXPECT_TRUE(fetched.contains(path(QString::number(1)))) << "it was let go, and is asked for again";
+}
+
 TEST_F(Fetching, AThumbnailIsDecodedInItsSizeAlone) {
   Operator hands(*designer);
   PictureFetcher fetcher(hands);
