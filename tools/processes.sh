@@ -27,3 +27,17 @@ tools/processes.py "${1:-15}" \
 tools/processes.py 3 \
   "least program" build/release/bench/least \
   "skintool render, 32 screens of 1920x1080" "$tool render $wide --to $folder/screens"
+
+# Beside each other 200 Skins should take by the clock what they take one after the other, by the cores, and a tenth.
+mkdir "$folder/many"
+for ((i = 1; i <= ${SKINS:-200}; i++)); do cp -r "${default//\'/}" "$folder/many/$i"; done
+cd "$folder/many"
+tool=$OLDPWD/$tool
+screens='--only \"Main Screen\" --only \"Track Listing Screen\"'
+echo "cores: $(nproc)"
+"$OLDPWD/tools/processes.py" 1x3 \
+  "least program" "$OLDPWD/build/release/bench/least" \
+  "skintool check, 200 Skins one by one" "sh -c \"for skin in *; do $tool check \$skin; done\"" \
+  "skintool check, 200 Skins at once" "sh -c \"$tool check *\"" \
+  "skintool render, 2 screens each, one by one" "sh -c \"for skin in *; do $tool render \$skin --to ../out $screens; done\"" \
+  "skintool render, 2 screens each, at once" "sh -c \"$tool render * --to ../out $screens\""
