@@ -68,6 +68,8 @@ QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, i
 }
 
 QVariant ComparisonModel::data(const QModelIndex& index, int role) const {
+  // The key for a copy asks even when no row is in hand.
+  if (!index.isValid()) return {};
   const Difference& difference = at(index.row());
   const bool isSide = index.column() == Before || index.column() == After;
   if (role == Qt::DecorationRole && isSide) return swatch(difference, index.column());

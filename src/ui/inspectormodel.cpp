@@ -76,6 +76,8 @@ QString InspectorModel::withinSkin(Property property, const QString& text) const
 }
 
 QVariant InspectorModel::data(const QModelIndex& index, int role) const {
+  // The key for a copy asks even when no row is in hand.
+  if (!index.isValid()) return {};
   const Property property = propertyAt(index.row());
   if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) return shownText(textAt(index));
   if (role == Qt::EditRole) return isMixed(property) ? QString() : textAt(index);
@@ -87,6 +89,7 @@ QVariant InspectorModel::data(const QModelIndex& index, int role) const {
 }
 
 Qt::ItemFlags InspectorModel::flags(const QModelIndex& index) const {
+  if (!index.isValid()) return {};
   Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
   const Property property = propertyAt(index.row());
   const ValueType type = propertyType(property);

@@ -97,6 +97,7 @@ QVariant OutlineModel::headerData(int section, Qt::Orientation orientation, int 
 }
 
 QVariant OutlineModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
   if (index.internalId() == 0) {
     const bool isText = role == Qt::DisplayRole && index.column() == Title;
     return isText ? QVariant(screens_[static_cast<std::size_t>(index.row())].name) : QVariant();

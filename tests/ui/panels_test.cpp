@@ -66,6 +66,23 @@ TEST_F(Panels, TheInspectorReadsAndSetsWhatIsInHand) {
   EXPECT_NE(row("Fore Colour").data().toString(), QStringLiteral("#FF0000"));
 }
 
+// The toolkit's key asks the model for the row in hand, whether there is one or not.
+TEST_F(Panels, CopyNothingWhereNoRowIsInHand) {
+  QTest::mouseClick(&canvas(), Qt::LeftButton, {}, middle(form1().lvButtons_H1[2]));
+  bringUp(Qt::Key_F7);
+  int models = 0;
+  for (QWidget* each : QApplication::allWidgets()) {
+    auto* view = qobject_cast<QAbstractItemView*>(each);
+    if (!view || !view->model()) continue;
+    view->setCurrentIndex({});
+    QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_FALSE(view->model()->data({}, Qt::DisplayRole).isValid()) << view->metaObject()->className();
+    EXPECT_FALSE(view->model()->flags({}) & Qt::ItemIsEditable) << view->metaObject()->className();
+    ++models;
+  }
+  EXPECT_GT(models, 3);
+}
+
 TEST_F(Panels, TheInspectorSetsWhatIsSelectedTogether) {
   designer->choose(*form6().Combo6, 11);
   Label& first = form1().Label16[3];
