@@ -1,6 +1,7 @@
 #include "ui/helpbrowser.h"
 
 #include <QKeyEvent>
+#include <QTextCursor>
 #include <QTextTable>
 
 #include "help/manual.h"
@@ -71,9 +72,13 @@ void HelpBrowser::mark(const QStringList& words) {
 }
 
 void HelpBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
+  // The whole page is laid out once: after each cell of a long table it would take half a minute.
+  QTextCursor page(document());
+  page.beginEditBlock();
   QTextBrowser::doSetSource(name, type);
   document()->setDocumentMargin(kPageMargin);
   layOutTables(*document());
+  page.endEditBlock();
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {

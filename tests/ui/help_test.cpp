@@ -1,5 +1,7 @@
 // The manual's window: where F1 leads, and how one gets about in it.
+#include <QAbstractTextDocumentLayout>
 #include <QDockWidget>
+#include <QSignalSpy>
 #include <QToolButton>
 
 #include "ui/helptopics.h"
@@ -47,6 +49,15 @@ TEST_F(Help, EveryTopicIsThere) {
                       "newSkin", "recolour", "takeLook", "nameOfSkin"};
   for (const QWidget* widget : QApplication::allWidgets()) names.insert(widget->objectName());
   for (const HelpTopic& topic : helpTopics()) EXPECT_TRUE(names.contains(topic.name)) << topic.name;
+}
+
+TEST_F(Help, ALongTableIsLaidOutOnce) {
+  auto& browser = *window().findChild<HelpBrowser*>();
+  const QSignalSpy laidOut(browser.document()->documentLayout(), &QAbstractTextDocumentLayout::update);
+  browser.showPage(QStringLiteral("reach"));
+  browser.grab();
+  EXPECT_GT(browser.document()->blockCount(), 500);
+  EXPECT_LT(laidOut.size(), 50) << "not after each of its cells";
 }
 
 TEST_F(Help, TheKeyLeadsToThePageOfWhatHasTheFocus) {
