@@ -72,10 +72,13 @@ void HelpBrowser::mark(const QStringList& words) {
 }
 
 void HelpBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
-  // The whole page is laid out once: after each cell of a long table it would take half a minute.
+  // The whole page is laid out at once: after each cell of a long table it would take half a minute. The
+  // tables are there when the change is complete.
   QTextCursor page(document());
   page.beginEditBlock();
   QTextBrowser::doSetSource(name, type);
+  page.endEditBlock();
+  page.beginEditBlock();
   document()->setDocumentMargin(kPageMargin);
   layOutTables(*document());
   page.endEditBlock();

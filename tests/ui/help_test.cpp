@@ -2,6 +2,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QDockWidget>
 #include <QSignalSpy>
+#include <QTextTable>
 #include <QToolButton>
 
 #include "ui/helptopics.h"
@@ -58,6 +59,10 @@ TEST_F(Help, ALongTableIsLaidOutOnce) {
   browser.grab();
   EXPECT_GT(browser.document()->blockCount(), 500);
   EXPECT_LT(laidOut.size(), 50) << "not after each of its cells";
+  const auto tables = browser.document()->rootFrame()->childFrames();
+  ASSERT_FALSE(tables.isEmpty());
+  for (QTextFrame* table : tables)
+    EXPECT_TRUE(static_cast<QTextTable*>(table)->format().borderCollapse()) << "room and thin lines";
 }
 
 TEST_F(Help, TheKeyLeadsToThePageOfWhatHasTheFocus) {
