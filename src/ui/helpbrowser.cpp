@@ -1,6 +1,7 @@
 #include "ui/helpbrowser.h"
 
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QTextCursor>
 #include <QTextTable>
 
@@ -72,11 +73,26 @@ void HelpBrowser::mark(const QStringList& words) {
 }
 
 void HelpBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
+  turnTo([&] { QTextBrowser::doSetSource(name, type); });
+}
+
+void HelpBrowser::backward() {
+  turnTo([this] { QTextBrowser::backward(); });
+  verticalScrollBar()->setValue(leftAt_.value(source()));
+}
+
+void HelpBrowser::forward() {
+  turnTo([this] { QTextBrowser::forward(); });
+  verticalScrollBar()->setValue(leftAt_.value(source()));
+}
+
+void HelpBrowser::turnTo(const std::function<void()>& load) {
+  leftAt_.insert(source(), verticalScrollBar()->value());
   // The whole page is laid out at once: after each cell of a long table it would take half a minute. The
   // tables are there when the change is complete.
   QTextCursor page(document());
   page.beginEditBlock();
-  QTextBrowser::doSetSource(name, type);
+  load();
   page.endEditBlock();
   page.beginEditBlock();
   document()->setDocumentMargin(kPageMargin);

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QMap>
 #include <QTextBrowser>
+#include <functional>
 
 namespace veneerer {
 
@@ -21,6 +22,10 @@ public:
   /// Marks these words wherever they stand on the page, and shows the first one.
   void mark(const QStringList& words);
 
+  /// To a page where it was left.
+  void backward() override;
+  void forward() override;
+
 protected:
   void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
   QVariant loadResource(int type, const QUrl& name) override;
@@ -28,8 +33,10 @@ protected:
   void resizeEvent(QResizeEvent* event) override;
 
 private:
+  void turnTo(const std::function<void()>& load);
   QImage fitted(const QImage& picture) const;
 
+  QMap<QUrl, int> leftAt_;       ///< how far each page was scrolled, pixels
   QMap<QUrl, QImage> pictures_;  ///< of the page, in their own size
 };
 
