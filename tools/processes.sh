@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # What the programs take as processes, each beside the least program that has an application and measures a font.
 #   tools/processes.sh [RUNS]    so many runs of each in each of three series; 15 without it
+# Behind that 200 Skins, or SKINS of them, one after the other and at once.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh

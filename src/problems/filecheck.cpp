@@ -40,24 +40,19 @@ QString counted(const QString& text, int count, const Layout& layout) {
   return text.arg(count).arg(layout.lineCount());
 }
 
-const NamedPicture& expectedPicture(CheckedSkin& skin, const QString& reference) {
-  const auto known = skin.namedPictures.constFind(reference);
-  if (known != skin.namedPictures.constEnd()) return *known;
+void expectPicture(CheckedSkin& skin, const QString& reference) {
+  if (skin.namedPictures.contains(reference)) return;
   const NamedPicture& named = *skin.namedPictures.insert(reference, namedPicture(skin.folder, reference));
   if (!named.path.isEmpty()) skin.pictures.expect(named.path);
-  return named;
 }
 
 void findDamage(PendingFindings& findings, CheckedSkin& skin, const QString& name, const RawValue& value) {
   const QString damage = rowDamage(value);
   if (!damage.isEmpty()) return findings.append(PendingFinding{risky(name, value, damage)});
-  if (!value.row->reference()) return;
-  const QString reference = valueText(value.value);
-  const NamedPicture& named = expectedPicture(skin, reference);
-  if (!named.path.isEmpty())
-    findings.append(PendingFinding{risky(name, value, {}), reference});
-  else if (!named.damage.isEmpty())
-    findings.append(PendingFinding{risky(name, value, named.damage)});
+  const QString reference = value.row->reference() ? valueText(value.value) : QString();
+  if (reference.isEmpty()) return;
+  expectPicture(skin, reference);
+  findings.append(PendingFinding{risky(name, value, {}), reference});
 }
 
 PendingFindings valueFindings(CheckedSkin& skin, const QString& name, const std::vector<RawValue>& values) {

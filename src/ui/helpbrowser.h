@@ -36,7 +36,8 @@ private:
   void turnTo(const std::function<void()>& load);
   QImage fitted(const QImage& picture) const;
 
-  QMap<QUrl, int> leftAt_;       ///< how far each page was scrolled, pixels
+  /// How far each page was scrolled, pixels: the toolkit scrolls to its own mark ahead of the layout.
+  QMap<QUrl, int> leftAt_;
   QMap<QUrl, QImage> pictures_;  ///< of the page, in their own size
 };
 

@@ -4,10 +4,12 @@
 
 #include <QSemaphore>
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <utility>
 
 #include "images/picturecache.h"
+#include "images/picturedecoding.h"
 #include "painting/canvassize.h"
 
 namespace veneerer {
@@ -25,8 +27,7 @@ constexpr qint64 kKeptCanvases = 3;
 constexpr qint64 kPixelBytes = 4;
 
 qint64 keptBytes(QSize canvas) {
-  const qint64 pixels = static_cast<qint64>(canvas.width()) * canvas.height();
-  return std::min(kDecodedBytes, kKeptBytes + kKeptCanvases * kPixelBytes * pixels);
+  return std::min(kDecodedBytes, kKeptBytes + kKeptCanvases * kPixelBytes * pixelsOf(canvas));
 }
 
 void gather(const Element& element, QList<Picture>& pictures) {
@@ -54,7 +55,9 @@ void PictureFetcher::changed(const Change& change) {
 
 void PictureFetcher::lookAtCanvas() {
   isTurning_ = false;
-  lookAt({&state_.form1});
+  Stage shown;
+  std::ranges::copy_if(state_.form1.children(), std::back_inserter(shown), &Element::isVisible);
+  lookAt(shown);
 }
 
 void PictureFetcher::lookAt(const Stage& stage) {
