@@ -28,12 +28,40 @@ QString folderPath() {
   return made.top.path();
 }
 
+/// As it is before a load, but for what the world in hand did to it.
+struct Kept {
+  Kept() {
+    applyBuiltInDesign(skin.state);
+    fillFirstLists(skin.state);
+    fillOtherLists(skin.state);
+  }
+  CheckedSkin skin{SkinFolder(folderPath()), {}, {}, PictureTrials(kTrialAllowance)};
+};
+
+CheckedSkin& keptSkin() {
+  static Kept kept;
+  return kept.skin;
+}
+
 }  // namespace
 
-RecordWorld::RecordWorld() : skin_{SkinFolder(folderPath()), {}, {}, PictureTrials(1024 * 1024)} {
-  applyBuiltInDesign(skin_.state);
-  fillFirstLists(skin_.state);
-  fillOtherLists(skin_.state);
+RecordWorld::RecordWorld() : skin_(keptSkin()) {
+  skin_.state.board.recordWith([this](const Change& change) {
+    replaced_.push_back({&change.element, change.property, change.oldValue});
+  });
+}
+
+RecordWorld::~RecordWorld() {
+  skin_.state.board.recordWith({});
+  const ViewsOnly views(skin_.state.board);
+  for (auto each = replaced_.rbegin(); each != replaced_.rend(); ++each) {
+    if (each->property == Property::StackOrder)
+      each->element->setStackOrder(std::get<std::int32_t>(each->before));
+    else
+      each->element->restore(each->property, std::move(each->before));
+  }
+  skin_.places.clear();
+  skin_.namedPictures.clear();
 }
 
 bool RecordWorld::reads(const Layout& layout, const QByteArray& bytes) {

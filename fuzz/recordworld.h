@@ -1,15 +1,22 @@
 // Elements that files are read into, outside of any designer.
 #pragma once
 
+#include <vector>
+
 #include "problems/filecheck.h"
 #include "records/layoutreader.h"
 
 namespace veneerer::fuzz {
 
-/// A Skin's folder with two pictures, and elements as the program has them before it loads.
+/// A Skin's folder with two pictures, and elements as the program has them before it loads. The elements are
+/// those of all worlds, since making them takes three times as long as a run: there is one world at a time.
 class RecordWorld {
 public:
   RecordWorld();
+  /// Puts back every value that was replaced.
+  ~RecordWorld();
+  RecordWorld(const RecordWorld&) = delete;
+  RecordWorld& operator=(const RecordWorld&) = delete;
 
   const SkinFolder& folder() const { return skin_.folder; }
   State& state() { return skin_.state; }
@@ -22,7 +29,14 @@ public:
   Findings check(const Layout& layout, const QByteArray& bytes);
 
 private:
-  CheckedSkin skin_;
+  struct Replaced {
+    Element* element;
+    Property property;
+    Value before;
+  };
+
+  CheckedSkin& skin_;
+  std::vector<Replaced> replaced_;
 };
 
 }  // namespace veneerer::fuzz

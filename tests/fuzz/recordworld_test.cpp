@@ -1,0 +1,36 @@
+// A finding is played again alone, so no run may leave anything behind for the next one.
+#include "fuzz/recordworld.h"
+
+#include <gtest/gtest.h>
+
+#include "fuzz/target.h"
+#include "records/layoutwriter.h"
+#include "skin/catalogue.h"
+
+namespace veneerer::fuzz {
+namespace {
+
+QList<QByteArray> composedFiles() {
+  RecordWorld world;
+  QList<QByteArray> files;
+  for (const SaveEntry& entry : saveOrder()) files << composeRecords(entry.layout(world.state()));
+  return files;
+}
+
+class RecordWorldAfter : public testing::TestWithParam<const char*> {};
+
+TEST_P(RecordWorldAfter, EachRunIsAsItWas) {
+  const QList<QByteArray> before = composedFiles();
+  const Target& target = *findTarget(GetParam());
+  const QList<QByteArray> seeds = target.seeds();
+  for (qsizetype i = 0; i < seeds.size(); i += 1 + seeds.size() / 30) {
+    target.run(seeds[i].left(target.mostBytes));
+    ASSERT_EQ(composedFiles(), before) << "after seed " << i;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Fuzz, RecordWorldAfter, testing::Values("records", "covers"),
+                         [](const auto& of) { return std::string(of.param); });
+
+}  // namespace
+}  // namespace veneerer::fuzz
