@@ -8,7 +8,8 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh
 
-if (($# < 1)) || ! [[ $1 =~ ^[0-9]+$ ]]; then
+# Without a minute it would never end.
+if (($# < 1)) || ! [[ $1 =~ ^[1-9][0-9]*$ ]]; then
   sed -n '2,6s/^# \{0,1\}//p' "$0" >&2
   exit 2
 fi
@@ -46,7 +47,13 @@ outcome() {
   fi
 }
 
-# fuzz TARGET: tells how many inputs were run, and the finding if there is one.
+# take_processor_seconds: what all that has ended took of the processors, in processor_seconds.
+take_processor_seconds() {
+  times >"$TMPDIR/times"
+  processor_seconds=$(awk -F '[ms ]+' 'NR == 2 { print int(60 * $1 + $2 + 60 * $3 + $4) }' "$TMPDIR/times")
+}
+
+# fuzz TARGET: tells how many inputs were run, in how much of the processor's time, and the finding if there is one.
 fuzz() {
   local target=$1 corpus=build/fuzz/corpus/$1 seeds=$TMPDIR/seeds-$1 log=build/fuzz/$1.log
   local most_bytes
@@ -56,12 +63,16 @@ fuzz() {
     -print_final_stats=1
     -artifact_prefix="$findings/$target-" -max_len="$most_bytes")
   [[ -s $seeds.dict ]] && options+=(-dict="$seeds.dict")
-  local ended=0
+  local ended=0 before
+  take_processor_seconds
+  before=$processor_seconds
   "$programs/fuzz_$target" "${options[@]}" "$corpus" "$seeds" >"$log" 2>&1 &
   running=$!
   wait "$running" || ended=$?
   running=
-  echo "$target: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") inputs," \
+  take_processor_seconds
+  echo "$target: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") inputs" \
+    "in $((processor_seconds - before)) s of a processor," \
     "$(find "$corpus" -type f | wc -l) kept, $(outcome "$ended" "$log")"
   ((ended)) || return 0
   status=1
