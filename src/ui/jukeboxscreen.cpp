@@ -46,7 +46,7 @@ JukeboxScreen::JukeboxScreen(const Ui& ui, int entry)
 void JukeboxScreen::goTo(int entry) {
   entry_ = entry;
   restage();
-  pictures_.lookAt(stage_);
+  pictures_.inSight().lookAt(stage_);
   Q_EMIT went(entry);
 }
 

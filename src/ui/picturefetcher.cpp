@@ -3,14 +3,9 @@
 #include <qtconcurrenttask.h>
 
 #include <QSemaphore>
-#include <algorithm>
-#include <iterator>
 #include <memory>
 #include <utility>
 
-#include "images/picturecache.h"
-#include "images/picturedecoding.h"
-#include "painting/canvassize.h"
 
 namespace veneerer {
 
@@ -20,53 +15,14 @@ constexpr int kFrame = 12;  // milliseconds; the rest of a frame is left for pai
 
 enum Priority { Behind = 0, Ahead = 1 };
 
-// What the pictures of screens that aren't seen any more may take with all others: going back to one of them
-// decodes nothing. Those of a screen take as much as the canvas at the most, and the frame's once more.
-constexpr qint64 kKeptBytes = 16LL * 1024 * 1024;
-constexpr qint64 kKeptCanvases = 3;
-constexpr qint64 kPixelBytes = 4;
-
-qint64 keptBytes(QSize canvas) {
-  return std::min(kDecodedBytes, kKeptBytes + kKeptCanvases * kPixelBytes * pixelsOf(canvas));
-}
-
-void gather(const Element& element, QList<Picture>& pictures) {
-  if (element.has(Property::Picture)) pictures.append(element.as<Picture>(Property::Picture));
-  for (const Element* child : element.children())
-    if (child->isVisible()) gather(*child, pictures);
-}
-
 }  // namespace
 
-PictureFetcher::PictureFetcher(Operator& hands) : state_(hands.state()), screen_(hands.screen()) {
+PictureFetcher::PictureFetcher(Operator& hands)
+    : state_(hands.state()), inSight_(hands, [this] { seen_.clear(); }) {
   pool_.setMaxThreadCount(1);
   begin();
-  watching_ = state_.board.watch([this](const Change& change) { changed(change); });
+  watching_ = state_.board.watch([this](const Change&) { seen_.clear(); });
   connect(&hands, &Operator::acted, this, [this] { seen_.clear(); });
-}
-
-void PictureFetcher::changed(const Change& change) {
-  seen_.clear();
-  const bool isChoice = &change.element == &*state_.form6.Combo6 && change.property == Property::ListIndex;
-  if (!isChoice || std::exchange(isTurning_, true)) return;
-  // The screen becomes visible behind this.
-  QMetaObject::invokeMethod(this, &PictureFetcher::lookAtCanvas, Qt::QueuedConnection);
-}
-
-void PictureFetcher::lookAtCanvas() {
-  isTurning_ = false;
-  Stage shown;
-  std::ranges::copy_if(state_.form1.children(), std::back_inserter(shown), &Element::isVisible);
-  lookAt(shown);
-}
-
-void PictureFetcher::lookAt(const Stage& stage) {
-  QList<Picture> pictures = {state_.form1.picture()};
-  for (const Element* element : stage) gather(*element, pictures);
-  const QSize canvas = canvasSize(state_.form1, screen_).pixels;
-  state_.pictures.look(pictures, isAllSeen_ ? kDecodedBytes : keptBytes(canvas));
-  // What is let go may be asked for again.
-  seen_.clear();
 }
 
 void PictureFetcher::begin() {

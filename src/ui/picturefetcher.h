@@ -6,18 +6,14 @@
 #include <QObject>
 #include <QThreadPool>
 
-#include "elements/stage.h"
 #include "images/picturecopies.h"
-#include "ui/operator.h"
+#include "ui/picturesinsight.h"
 
 namespace veneerer {
 
 /// What a window is to show and isn't decoded yet is decoded on another thread. The interface waits for it as
 /// long as a frame lasts, for all pictures of one pass through its loop together; what takes longer is told
 /// when it is there. One thread does it all, so that only one picture at a time takes a decoder's memory.
-///
-/// With each screen that is chosen, those of the screens before the last are let go as far as they take more
-/// than a few screens do.
 class PictureFetcher : public QObject {
   Q_OBJECT
 
@@ -38,10 +34,8 @@ public:
     PictureFetcher& fetcher_;
   };
 
-  /// Another screen is looked at than the canvas shows: what stands on that stage.
-  void lookAt(const Stage& stage);
-  /// While every screen is to be seen at once, nothing is let go ahead of the budget.
-  void setAllSeen(bool allSeen) { isAllSeen_ = allSeen; }
+  /// Which of the pictures are kept.
+  PicturesInSight& inSight() { return inSight_; }
 
   /// Picture::thumbnail on the other thread, behind all that is to be shown at full size.
   QFuture<QImage> thumbnail(const Picture& picture, QSize within);
@@ -57,19 +51,15 @@ private:
     bool operator==(const Task&) const = default;
   };
   void begin();
-  void changed(const Change& change);
-  void lookAtCanvas();
   void fetch(const Task& task);
   int patience();
   void arrived(const Task& task);
 
   State& state_;
-  const Screen& screen_;
+  PicturesInSight inSight_;
   Attachment watching_;
   QDeadlineTimer deadline_;
   bool isWaiting_ = false;  ///< the deadline counts for this pass through the loop
-  bool isTurning_ = false;  ///< another screen has been chosen in this pass
-  bool isAllSeen_ = false;  ///< see setAllSeen()
   QList<Task> asked_;       ///< under way
   QList<Task> late_;        ///< of these, what was painted without
   QList<Task> seen_;        ///< has arrived since the last change of any element or of the sight

@@ -72,14 +72,14 @@ void ScreensPanel::addItems() {
 
 void ScreensPanel::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  pictures_.setAllSeen(true);
+  pictures_.inSight().setAllSeen(true);
   showChosen();
   rest();
 }
 
 void ScreensPanel::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
-  pictures_.setAllSeen(false);
+  pictures_.inSight().setAllSeen(false);
 }
 
 void ScreensPanel::showChosen() {
