@@ -6,7 +6,6 @@
 #include <memory>
 #include <utility>
 
-
 namespace veneerer {
 
 namespace {

@@ -9,12 +9,12 @@
 
 namespace veneerer {
 
-/// With each screen that is chosen, the pictures of the screens before the last are let go as far as they take
-/// more than a few screens do.
+/// With each screen that is chosen, the pictures of the screens before the last are let go as far as they
+/// take more than a few screens do.
 class PicturesInSight : public QObject {
 public:
-  /// Of the operator's state, which must outlive this. The function is called after each look: what was let go
-  /// may be asked for again.
+  /// Of the operator's state, which must outlive this. The function is called after each look: what was let
+  /// go may be asked for again.
   PicturesInSight(Operator& hands, std::function<void()> looked);
 
   /// Another screen is looked at than the canvas shows: what stands on that stage.
