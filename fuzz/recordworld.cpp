@@ -28,7 +28,8 @@ QString folderPath() {
   return made.top.path();
 }
 
-/// As it is before a load, but for what the world in hand did to it.
+/// As it is before a load, but for what the world in hand did to it, and for what is known of pictures: the
+/// same files can be decoded as before.
 struct Kept {
   Kept() {
     applyBuiltInDesign(skin.state);
@@ -53,13 +54,14 @@ RecordWorld::RecordWorld() : skin_(keptSkin()) {
 
 RecordWorld::~RecordWorld() {
   skin_.state.board.recordWith({});
-  const ViewsOnly views(skin_.state.board);
   for (auto each = replaced_.rbegin(); each != replaced_.rend(); ++each) {
     if (each->property == Property::StackOrder)
       each->element->setStackOrder(std::get<std::int32_t>(each->before));
     else
       each->element->restore(each->property, std::move(each->before));
   }
+  // It remembers what lay in it, and a check writes there.
+  skin_.folder = SkinFolder(folderPath());
   skin_.places.clear();
   skin_.namedPictures.clear();
 }
