@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Compiles every header of src alone, so that none leans on what its users happen to include before it.
 
-The libraries' headers are read once for all, which takes a sixth of the time. That hides where one of them isn't
-included, so each class of theirs that a header names must be declared in what it does include.
+The libraries' headers are read once for all, since that takes most of the time. It hides where one of them isn't
+included, so each class of theirs that a header names must be declared in what it does include. What a library
+itself only declares ahead, its functions and its macros aren't looked for.
 
 Usage: headers.py     prints what is amiss; the status is 1 when anything is. tools/headers.sh installs what it needs.
 """
@@ -91,11 +92,13 @@ def compiled(header):
     """What the compiler says of the header alone."""
     run = subprocess.run(['clang++', *OPTIONS, '-fsyntax-only', '-Wno-pragma-once-outside-header', '-include-pch',
                           WORK / 'libraries.pch', '-x', 'c++', header], capture_output=True, text=True)
-    return run.stderr
+    return run.stderr or (f'{header}: the compiler failed\n' if run.returncode else '')
 
 
 def main():
     headers = sorted(Path('src').rglob('*.h'))
+    if not headers:
+        sys.exit('No header here: to be run where src is.')
     precompile(headers)
     with ThreadPoolExecutor(os.cpu_count()) as pool:
         amiss = ''.join(pool.map(compiled, headers)) + ''.join(undeclared(headers))
