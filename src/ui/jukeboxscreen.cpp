@@ -22,7 +22,7 @@ int percentWithin(int room, int side) {
 
 JukeboxScreen::JukeboxScreen(const Ui& ui, int entry)
     : state_(ui.hands.state()),
-      pictures_(ui.pictures),
+      inSight_(ui.pictures.inSight()),
       canvas_(canvasSize(state_.form1, ui.hands.screen()).pixels),
       entry_(entry),
       scale_(1 / ui.hands.screen().twipsPerPixelX(), 1 / ui.hands.screen().twipsPerPixelY()),
@@ -46,7 +46,7 @@ JukeboxScreen::JukeboxScreen(const Ui& ui, int entry)
 void JukeboxScreen::goTo(int entry) {
   entry_ = entry;
   restage();
-  pictures_.inSight().lookAt(stage_);
+  inSight_.lookAt(stage_);
   Q_EMIT went(entry);
 }
 

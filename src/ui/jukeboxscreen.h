@@ -7,6 +7,7 @@
 #include "painting/hittest.h"
 #include "ui/bindings.h"
 #include "ui/canvassurface.h"
+#include "ui/picturesinsight.h"
 #include "ui/zoom.h"
 
 namespace veneerer {
@@ -47,7 +48,7 @@ private:
   void repaintElement(const Element* element);
 
   State& state_;
-  PictureFetcher& pictures_;
+  PicturesInSight& inSight_;
   QSize canvas_;  ///< pixels at 100 %
   int entry_;
   Stage stage_;

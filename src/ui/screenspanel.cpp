@@ -40,7 +40,7 @@ bool isOfTheShow(const Change& change, int entry) {
 
 ScreensPanel::ScreensPanel(const Ui& ui)
     : hands_(ui.hands),
-      pictures_(ui.pictures),
+      inSight_(ui.pictures.inSight()),
       screens_(new QListWidget),
       watching_(ui.hands.state().board.watch([this](const Change& change) { changed(change); })) {
   setWindowTitle(UiTexts::tr("Screens"));
@@ -72,14 +72,14 @@ void ScreensPanel::addItems() {
 
 void ScreensPanel::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  pictures_.inSight().setAllSeen(true);
+  inSight_.setAllSeen(true);
   showChosen();
   rest();
 }
 
 void ScreensPanel::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
-  pictures_.inSight().setAllSeen(false);
+  inSight_.setAllSeen(false);
 }
 
 void ScreensPanel::showChosen() {

@@ -9,6 +9,7 @@
 
 #include "painting/canvaspainter.h"
 #include "ui/bindings.h"
+#include "ui/picturesinsight.h"
 
 namespace veneerer {
 
@@ -39,7 +40,7 @@ private:
   void showChosen();
 
   Operator& hands_;
-  PictureFetcher& pictures_;
+  PicturesInSight& inSight_;
   QListWidget* screens_;
   QTimer idle_;
   QSet<int> changed_;  ///< the entries of screens that something changed on
