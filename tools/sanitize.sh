@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh
 
-need_packages "${BUILD_PACKAGES[@]}" clang libclang-rt-dev
+need_packages "${BUILD_PACKAGES[@]}" clang lld libclang-rt-dev
 
 # Of each program the tests that let a second thread work: decoding, the rescale, glances at Skins, and all
 # that the windows give away. Not the processes side by side: where a thread starts one, a check of the
