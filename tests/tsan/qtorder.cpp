@@ -7,6 +7,7 @@
 //
 // This source alone is compiled without the sanitizer: what it touches itself is ordered by Qt.
 #include <dlfcn.h>
+#include <sanitizer/tsan_interface.h>
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -16,11 +17,6 @@
 #include <QThreadPool>
 #include <functional>
 #include <utility>
-
-extern "C" {
-void __tsan_acquire(void* address);
-void __tsan_release(void* address);
-}
 
 namespace {
 
@@ -37,20 +33,23 @@ void takeOver() {
 /// Qt's function of that mangled name, which one of here hides.
 template <class Function>
 Function* qts(const char* name) {
-  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+  void* const found = dlsym(RTLD_NEXT, name);
+  if (!found) qFatal("Qt has no %s", name);
+  return reinterpret_cast<Function*>(found);
 }
 
-/// A task that is handed over to a thread of the pool.
+/// A task that is handed over to a thread of the pool. The pool doesn't know the task itself any more, so
+/// whoever waits for it never runs it on the spot.
 class OrderedTask : public QRunnable {
 public:
   explicit OrderedTask(QRunnable* task) : task_(task), isOwner_(task->autoDelete()) {}
   ~OrderedTask() override {
     if (isOwner_) delete task_;
+    handOver();
   }
   void run() override {
     takeOver();
     task_->run();
-    handOver();
   }
 
 private:
@@ -90,7 +89,7 @@ void QThreadPool::start(std::function<void()> task, int priority) {
 bool QThreadPool::waitForDone(int milliseconds) {
   static const auto real = qts<bool(QThreadPool*, int)>("_ZN11QThreadPool11waitForDoneEi");
   const bool isDone = real(this, milliseconds);
-  takeOver();
+  if (isDone) takeOver();
   return isDone;
 }
 
@@ -103,7 +102,7 @@ void QSemaphore::release(int count) {
 bool QSemaphore::tryAcquire(int count, int milliseconds) {
   static const auto real = qts<bool(QSemaphore*, int, int)>("_ZN10QSemaphore10tryAcquireEii");
   const bool isAcquired = real(this, count, milliseconds);
-  takeOver();
+  if (isAcquired) takeOver();
   return isAcquired;
 }
 
