@@ -47,19 +47,12 @@ CheckedSkin& keptSkin() {
 }  // namespace
 
 RecordWorld::RecordWorld() : skin_(keptSkin()) {
-  skin_.state.board.recordWith([this](const Change& change) {
-    replaced_.push_back({&change.element, change.property, change.oldValue});
-  });
+  skin_.state.board.recordWith([this](const Change& change) { recording_.note(change); });
 }
 
 RecordWorld::~RecordWorld() {
   skin_.state.board.recordWith({});
-  for (auto each = replaced_.rbegin(); each != replaced_.rend(); ++each) {
-    if (each->property == Property::StackOrder)
-      each->element->setStackOrder(std::get<std::int32_t>(each->before));
-    else
-      each->element->restore(each->property, std::move(each->before));
-  }
+  apply(skin_.state, recording_.take(), Way::Back);
   // It remembers what lay in it, and a check writes there.
   skin_.folder = SkinFolder(folderPath());
   skin_.places.clear();

@@ -1,8 +1,7 @@
 // Elements that files are read into, outside of any designer.
 #pragma once
 
-#include <vector>
-
+#include "history/recording.h"
 #include "problems/filecheck.h"
 #include "records/layoutreader.h"
 
@@ -13,7 +12,7 @@ namespace veneerer::fuzz {
 class RecordWorld {
 public:
   RecordWorld();
-  /// Puts back every value that was replaced.
+  /// Puts back all that was changed, as an undo does.
   ~RecordWorld();
   RecordWorld(const RecordWorld&) = delete;
   RecordWorld& operator=(const RecordWorld&) = delete;
@@ -29,14 +28,8 @@ public:
   Findings check(const Layout& layout, const QByteArray& bytes);
 
 private:
-  struct Replaced {
-    Element* element;
-    Property property;
-    Value before;
-  };
-
   CheckedSkin& skin_;
-  std::vector<Replaced> replaced_;
+  Recording recording_{skin_.state};
 };
 
 }  // namespace veneerer::fuzz
